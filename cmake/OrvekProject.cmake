@@ -1,0 +1,48 @@
+# SPDX-License-Identifier: Apache-2.0
+# What every folder of the project shares: language level, warnings, sanitizers, where things land.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_AUTOMOC ON)
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "" FORCE)
+endif()
+
+option(ORVEK_TESTS "Build the tests" ON)
+option(ORVEK_BENCH "Build the benchmarks" OFF)
+option(ORVEK_FUZZ "Build the fuzzers (needs clang)" OFF)
+option(ORVEK_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+
+include(GNUInstallDirs)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+set(ORVEK_BUNDLE_DIR "${CMAKE_BINARY_DIR}/OrvekFinishing.bundle")
+set(ORVEK_PLUGIN_INSTALL_DIR "${CMAKE_INSTALL_LIBDIR}/orvek-print/plugins")
+
+find_program(ORVEK_CCACHE ccache)
+if(ORVEK_CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${ORVEK_CCACHE}")
+endif()
+
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual)
+add_compile_definitions(QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII QT_USE_QSTRINGBUILDER)
+add_link_options(-Wl,--as-needed)
+if(ORVEK_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer -O1)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets UiTools)
+find_package(Cups REQUIRED)
+
+enable_testing()
+if(ORVEK_TESTS)
+  find_package(GTest REQUIRED)
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
+  include(GoogleTest)
+  include(OrvekTest)
+endif()

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: Apache-2.0
+// Anything that can describe itself in a log line, or stand behind a menu item.
+#pragma once
+
+#include <QString>
+
+/// The root of the objects that travel through the platform by reference.
+/// `description` is what "%@" in a log format shows; an absent object shows as "(null)".
+class PDEObject {
+ public:
+  virtual ~PDEObject() = default;
+  virtual QString description() const = 0;
+};

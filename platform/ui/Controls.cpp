@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: Apache-2.0
+// The vocabulary of views and controls over Qt Widgets.
+
+#include "platform/ui/Controls.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QFileInfo>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPixmap>
+#include <QSignalBlocker>
+#include <QSlider>
+
+namespace orvek {
+namespace {
+
+constexpr const char *imageNameProperty = "orvekImageName";
+
+// Qt reads a single "&" in every one of these titles as a mnemonic mark.
+QString literally(const QString &title) {
+  return QString(title).replace(QLatin1Char('&'), QStringLiteral("&&"));
+}
+
+// A label draws mnemonics only when it has a buddy; without one it would show the marks themselves.
+bool readsMnemonics(const QLabel *label) {
+  return label->buddy() != nullptr;
+}
+
+// A plain label shows "&" as it stands, one with a buddy must be told that it is meant literally.
+void setQtText(QWidget *control, const QString &qtTitle) {
+  if (auto *label = qobject_cast<QLabel *>(control)) {
+    label->setTextFormat(Qt::PlainText);
+    label->setText(readsMnemonics(label) ? qtTitle : withoutMnemonicMarks(qtTitle));
+  } else if (auto *button = qobject_cast<QAbstractButton *>(control)) {
+    button->setText(qtTitle);
+  } else if (auto *box = qobject_cast<QGroupBox *>(control)) {
+    box->setTitle(qtTitle);
+  }
+}
+
+}  // namespace
+
+void setHidden(QWidget *view, bool hidden) {
+  if (view != nullptr) view->setHidden(hidden);
+}
+
+bool isHidden(const QWidget *view) {
+  // QWidget::isHidden() is also true of a child whose parents were never shown.
+  return view != nullptr && view->testAttribute(Qt::WA_WState_ExplicitShowHide) &&
+         view->testAttribute(Qt::WA_WState_Hidden);
+}
+
+void setEnabled(QWidget *control, bool enabled) {
+  if (control != nullptr) control->setEnabled(enabled);
+}
+
+bool isEnabled(const QWidget *control) {
+  // The flag a parent hands down does not count as the control's own.
+  return control != nullptr && !(control->testAttribute(Qt::WA_ForceDisabled));
+}
+
+void setTitle(QWidget *control, const QString &title) {
+  setQtText(control, literally(title));
+}
+
+void setTitleWithMnemonic(QWidget *control, const QString &title) {
+  setQtText(control, title);
+}
+
+QString displayedTitle(const QWidget *control) {
+  if (const auto *label = qobject_cast<const QLabel *>(control)) {
+    return readsMnemonics(label) ? withoutMnemonicMarks(label->text()) : label->text();
+  }
+  if (const auto *button = qobject_cast<const QAbstractButton *>(control)) {
+    return withoutMnemonicMarks(button->text());
+  }
+  if (const auto *box = qobject_cast<const QGroupBox *>(control)) {
+    return withoutMnemonicMarks(box->title());
+  }
+  return {};
+}
+
+QString withoutMnemonicMarks(const QString &title) {
+  QString shown;
+  shown.reserve(title.size());
+  for (qsizetype i = 0; i < title.size(); ++i) {
+    if (title[i] == QLatin1Char('&') && ++i == title.size()) break;
+    shown += title[i];
+  }
+  return shown;
+}
+
+void setState(QWidget *control, int state) {
+  auto *box = qobject_cast<QCheckBox *>(control);
+  if (box == nullptr) return;
+  const QSignalBlocker quiet(box);
+  box->setTristate(state == stateMixed);
+  box->setCheckState(state == stateMixed ? Qt::PartiallyChecked
+                     : state == stateOff ? Qt::Unchecked
+                                         : Qt::Checked);
+}
+
+int state(const QWidget *control) {
+  const auto *box = qobject_cast<const QCheckBox *>(control);
+  if (box == nullptr) return stateOff;
+  switch (box->checkState()) {
+    case Qt::Checked:
+      return stateOn;
+    case Qt::PartiallyChecked:
+      return stateMixed;
+    default:
+      return stateOff;
+  }
+}
+
+void setIntValue(QSlider *slider, int value) {
+  if (slider == nullptr) return;
+  const QSignalBlocker quiet(slider);
+  slider->setValue(value);
+}
+
+int intValue(const QSlider *slider) {
+  return slider == nullptr ? 0 : slider->value();
+}
+
+QString stringValue(const QSlider *slider) {
+  return slider == nullptr ? QString() : QString::number(slider->value());
+}
+
+void setStringValue(QLineEdit *field, const QString &text) {
+  if (field == nullptr || field->text() == text) return;
+  const QSignalBlocker quiet(field);
+  field->setText(text);
+}
+
+void setIntValue(QLineEdit *field, int value) {
+  setStringValue(field, QString::number(value));
+}
+
+QString stringValue(const QLineEdit *field) {
+  return field == nullptr ? QString() : field->text();
+}
+
+void setImage(QLabel *imageView, const QString &path) {
+  if (imageView == nullptr) return;
+  const QPixmap picture = path.isNull() ? QPixmap() : QPixmap(path);
+  imageView->setPixmap(picture);
+  const QString name = picture.isNull() ? QString() : QFileInfo(path).fileName();
+  imageView->setProperty(imageNameProperty, name);
+}
+
+QString imageName(const QLabel *imageView) {
+  return imageView == nullptr ? QString() : imageView->property(imageNameProperty).toString();
+}
+
+}  // namespace orvek

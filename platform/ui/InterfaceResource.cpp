@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: Apache-2.0
+// Loads Qt Designer files through QUiLoader and hands their widgets to the owner.
+
+#include "platform/ui/InterfaceResource.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QPointer>
+#include <QUiLoader>
+#include <QVariant>
+#include <QWidget>
+#include <memory>
+
+#include "platform/system/Log.h"
+#include "platform/ui/Actions.h"
+#include "platform/ui/Bundle.h"
+
+namespace orvek {
+namespace {
+
+// Ties the life of a loaded tree to its owner without making the owner a widget.
+class LoadedTree : public QObject {
+ public:
+  LoadedTree(QWidget *root, QObject *owner) : QObject(owner), m_root(root) {}
+  ~LoadedTree() override { delete m_root; }
+  LoadedTree(const LoadedTree &) = delete;
+  LoadedTree &operator=(const LoadedTree &) = delete;
+
+ private:
+  QPointer<QWidget> m_root;
+};
+
+// A QUiLoader looks through every library path for Designer plug-ins, and they are costly to find and
+// never needed: our resources hold Qt's own widgets only.
+QUiLoader &loader() {
+  static const std::unique_ptr<QUiLoader> instance = [] {
+    const QStringList paths = QCoreApplication::libraryPaths();
+    QCoreApplication::setLibraryPaths({});
+    auto made = std::make_unique<QUiLoader>();
+    QCoreApplication::setLibraryPaths(paths);
+    return made;
+  }();
+  return *instance;
+}
+
+void connectTree(QWidget *root, QObject *owner) {
+  QList<QWidget *> widgets = root->findChildren<QWidget *>();
+  widgets.prepend(root);
+  for (QWidget *widget : widgets) {
+    const QByteArray name = widget->objectName().toLatin1();
+    if (name.isEmpty()) continue;
+    if (owner->metaObject()->indexOfProperty(name.constData()) >= 0) {
+      owner->setProperty(name.constData(), QVariant::fromValue(widget));
+    }
+    connectToOwner(widget, owner);
+  }
+}
+
+}  // namespace
+
+bool loadInterface(const Bundle *bundle, const QString &name, QObject *owner) {
+  if (bundle == nullptr || owner == nullptr) return false;
+  QFile file(bundle->pathForResource(name, QStringLiteral("ui")));
+  if (!file.open(QIODevice::ReadOnly)) {
+    logLine(QStringLiteral("%1: no interface resource \"%2\"").arg(bundle->path(), name));
+    return false;
+  }
+  QWidget *root = loader().load(&file, nullptr);
+  if (root == nullptr) {
+    logLine(QStringLiteral("%1: %2").arg(file.fileName(), loader().errorString()));
+    return false;
+  }
+  new LoadedTree(root, owner);
+  connectTree(root, owner);
+  return true;
+}
+
+}  // namespace orvek

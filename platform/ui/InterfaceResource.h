@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: Apache-2.0
+// Interface resources: Qt Designer files of a bundle, loaded at run time with an owner.
+#pragma once
+
+#include <QString>
+
+class QObject;
+
+namespace orvek {
+
+class Bundle;
+
+/// Loads NAME.ui from the bundle and connects it to its owner:
+/// - outlets: each named widget is stored in the owner's property of that name, where the owner has
+///   one of a fitting type;
+/// - wiring: actions and text delegates as the controls state them (platform/ui/Actions.h).
+/// The loaded tree dies with the owner, or before it with whoever deletes its root. False where the
+/// bundle is absent, has no such resource, or the resource does not load; the reason goes to the log
+/// unless the bundle is absent. The owner's properties are left alone then.
+bool loadInterface(const Bundle *bundle, const QString &name, QObject *owner);
+
+}  // namespace orvek
