@@ -13,7 +13,8 @@ class PDEInspection {
  public:
   virtual ~PDEInspection();
 
-  /// Every view and control the panel knows, by name; null for one that its interface resource lacks.
+  /// Every view and control the panel knows, by name; null for one that its interface resource
+  /// lacks.
   virtual QList<QPair<QString, QWidget *>> inspectedControls() const = 0;
 
   /// The panel's current selections: a name and the PPD keyword of the choice; null where empty.

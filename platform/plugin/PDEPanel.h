@@ -13,9 +13,10 @@ struct PDEError {
   QString text;
 };
 
-/// A panel. Hosts call, in this order: panelView, panelName, panelKind, supportedPPDOptionKeys; then
-/// restoreValuesAndReturnError and willShow in any order and number, between the user's actions and
-/// summaryInfo; then saveValuesAndReturnError; then they let go of it. One thread, the interface's.
+/// A panel. Hosts call, in this order: panelView, panelName, panelKind, supportedPPDOptionKeys;
+/// then restoreValuesAndReturnError and willShow in any order and number, between the user's
+/// actions and summaryInfo; then saveValuesAndReturnError; then they let go of it. One thread, the
+/// interface's.
 class PDEPanel {
  public:
   virtual ~PDEPanel();
@@ -29,7 +30,8 @@ class PDEPanel {
   /// A reverse-DNS identifier unique to this kind of panel.
   virtual QString panelKind() = 0;
 
-  /// Main keywords of the PPD options that this panel takes charge of; a host shows them nowhere else.
+  /// Main keywords of the PPD options that this panel takes charge of; a host shows them nowhere
+  /// else.
   virtual QStringList supportedPPDOptionKeys() = 0;
 
   virtual void willShow() = 0;
@@ -37,8 +39,8 @@ class PDEPanel {
   virtual bool shouldPrint() = 0;
   virtual bool shouldShowHelp() = 0;
 
-  /// Take the values from the ticket and the PPD's marks; write the values back. False and a text in
-  /// `error` (may be null) on failure.
+  /// Take the values from the ticket and the PPD's marks; write the values back. False and a text
+  /// in `error` (may be null) on failure.
   virtual bool restoreValuesAndReturnError(PDEError *error) = 0;
   virtual bool saveValuesAndReturnError(PDEError *error) = 0;
 

@@ -38,7 +38,7 @@ class PDEPlugin {
 };
 
 /// Exports the function by which hosts make the factory `FactoryClass`.
-#define PDE_EXPORT_PLUGIN(FactoryClass)                                                    \
+#define PDE_EXPORT_PLUGIN(FactoryClass)                                                     \
   extern "C" __attribute__((visibility("default"))) PDEPlugin *PDECreate_##FactoryClass() { \
-    return new FactoryClass;                                                               \
+    return new FactoryClass;                                                                \
   }

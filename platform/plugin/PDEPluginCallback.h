@@ -8,7 +8,8 @@
 #include "platform/printing/PrintSession.h"
 #include "platform/printing/PrintSettings.h"
 
-/// The host's callback object. Panels hold a counted reference to it; all that it hands out is lent.
+/// The host's callback object. Panels hold a counted reference to it; all that it hands out is
+/// lent.
 class PDEPluginCallback {
  public:
   virtual ~PDEPluginCallback();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-// The only door to libcups' PPD interface. libcups has deprecated it, and a library of the same calls
-// carries it on; changing over means changing this header. Every other file includes this one, and
-// before any other header of libcups.
+// The only door to libcups' PPD interface. libcups has deprecated it, and a library of the same
+// calls carries it on; changing over means changing this header. Every other file includes this
+// one, and before any other header of libcups.
 #pragma once
 
 #include <cups/versioning.h>

@@ -24,7 +24,8 @@ class Ticket {
   /// The value, or an invalid QVariant for an absent key.
   QVariant value(const QString &key) const;
 
-  /// Writes without asking for locks: for whoever owns the ticket. An invalid value removes the key.
+  /// Writes without asking for locks: for whoever owns the ticket. An invalid value removes the
+  /// key.
   void setValue(const QString &key, const QVariant &value);
 
   /// Called after each change with its key. One listener; an empty one ends it.
@@ -58,12 +59,13 @@ class PrintSettings {
   std::shared_ptr<Ticket> m_ticket;
 };
 
-/// A value's text: text as it stands, an integer as "%d", anything else (absence too) a null string.
+/// A value's text: text as it stands, an integer as "%d", anything else (absence too) a null
+/// string.
 QString textReading(const QVariant &value);
 
 /// A value's integer: an integer as it is; of a text its leading integer (white space skipped, an
-/// optional sign, decimal digits), 0 where it starts with none; 0 for absence. Numbers beyond 32 bits
-/// give the nearest 32-bit value.
+/// optional sign, decimal digits), 0 where it starts with none; 0 for absence. Numbers beyond 32
+/// bits give the nearest 32-bit value.
 std::int32_t integerReading(const QVariant &value);
 
 /// The leading integer of a text, by the same rule.

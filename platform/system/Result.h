@@ -16,8 +16,8 @@ enum class FailureKind {
   Invalid = 3,  ///< a PPD, ticket, preset or plug-in is not what it should be
 };
 
-/// One failure, said in one line: "WHAT: WHY". `what` names the file (with its line where there is one)
-/// or the option; `why` says what is wrong and, where it helps, what to do.
+/// One failure, said in one line: "WHAT: WHY". `what` names the file (with its line where there is
+/// one) or the option; `why` says what is wrong and, where it helps, what to do.
 struct Failure {
   FailureKind kind = FailureKind::Io;
   QString what;

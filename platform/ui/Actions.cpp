@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// Target and action over Qt's signals. Only the signals that users cause are listened to, or signals
-// that the vocabulary of controls keeps quiet when code sets a value.
+// Target and action over Qt's signals. Only the signals that users cause are listened to, or
+// signals that the vocabulary of controls keeps quiet when code sets a value.
 
 #include "platform/ui/Actions.h"
 
@@ -36,8 +36,8 @@ class Target : public QObject {
 };
 
 QMetaMethod findMethod(const QObject *owner, const QString &operation) {
-  const QByteArray signature =
-      QMetaObject::normalizedSignature((methodName(operation) + "(QWidget*)").toLatin1().constData());
+  const QByteArray signature = QMetaObject::normalizedSignature(
+      (methodName(operation) + "(QWidget*)").toLatin1().constData());
   const QMetaObject *type = owner->metaObject();
   return type->method(type->indexOfMethod(signature.constData()));
 }
@@ -83,7 +83,8 @@ void connectToOwner(QWidget *control, QObject *owner) {
     if (Target *target = makeTarget(control, owner, action)) listenForAction(control, target);
   }
   auto *field = qobject_cast<QLineEdit *>(control);
-  if (field == nullptr || control->property(delegateProperty).toString() != QLatin1String("owner")) {
+  if (field == nullptr ||
+      control->property(delegateProperty).toString() != QLatin1String("owner")) {
     return;
   }
   if (Target *target = makeTarget(control, owner, QLatin1String(textDidChangeOperation))) {

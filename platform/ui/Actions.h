@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// What happens when a user acts on a control: the operation that the interface resource names for it
-// is sent to the owner of the resource.
+// What happens when a user acts on a control: the operation that the interface resource names for
+// it is sent to the owner of the resource.
 #pragma once
 
 #include <QString>
@@ -18,10 +18,11 @@ inline constexpr const char *delegateProperty = "delegate";  ///< "owner": told 
 /// The C++ method for an operation's name: the last colon dropped, the others as "_".
 QString methodName(const QString &operation);
 
-/// Wires one control of a resource to the resource's owner by the control's own properties: a user's
-/// act on the control calls the method on the owner with the control as its QWidget* argument; a
-/// user's typing in a text field whose delegate is the owner calls controlTextDidChange. An operation
-/// that the owner does not have is reported in the log and never sent.
+/// Wires one control of a resource to the resource's owner by the control's own properties: a
+/// user's act on the control calls the method on the owner with the control as its QWidget*
+/// argument; a user's typing in a text field whose delegate is the owner calls
+/// controlTextDidChange. An operation that the owner does not have is reported in the log and never
+/// sent.
 void connectToOwner(QWidget *control, QObject *owner);
 
 /// Sends the control's action as a user's act would. Nothing for an absent or unwired control.

@@ -65,7 +65,9 @@ void Bundle::readInfo() {
   } else {
     m_infoProblem = error.error == QJsonParseError::NoError
                         ? QStringLiteral("is not a JSON object")
-                        : QStringLiteral("is not JSON: %1 at byte %2").arg(error.errorString()).arg(error.offset);
+                        : QStringLiteral("is not JSON: %1 at byte %2")
+                              .arg(error.errorString())
+                              .arg(error.offset);
   }
 }
 
@@ -86,7 +88,7 @@ QString Bundle::localizedString(const QString &key) const {
 
 QString Bundle::pathForResource(const QString &name, const QString &type) const {
   for (const QString &folder : m_folders) {
-    const QString candidate = folder + QLatin1Char('/') + name + QLatin1Char('.') + type;
+    QString candidate = folder + QLatin1Char('/') + name + QLatin1Char('.') + type;
     if (QFileInfo(candidate).isFile()) return candidate;
   }
   return {};

@@ -19,8 +19,9 @@ namespace orvek {
 /// Counted: whoever keeps a bundle keeps a shared_ptr to it.
 class Bundle : public std::enable_shared_from_this<Bundle> {
  public:
-  /// The bundle at `path`; null where there is no such folder. A damaged or missing Info.json gives a
-  /// bundle without an information dictionary. `languages` are tried in order (empty: the user's).
+  /// The bundle at `path`; null where there is no such folder. A damaged or missing Info.json gives
+  /// a bundle without an information dictionary. `languages` are tried in order (empty: the
+  /// user's).
   static std::shared_ptr<Bundle> atPath(const QString &path, const QStringList &languages = {});
 
   const QString &path() const { return m_path; }
@@ -48,7 +49,8 @@ class Bundle : public std::enable_shared_from_this<Bundle> {
   mutable std::optional<QHash<QString, QString>> m_strings;  // read when first asked for
 };
 
-/// The null-safe vocabulary: an absent bundle has no texts (null), no resources (null), no dictionary.
+/// The null-safe vocabulary: an absent bundle has no texts (null), no resources (null), no
+/// dictionary.
 QString localizedString(const Bundle *bundle, const QString &key);
 QString pathForResource(const Bundle *bundle, const QString &name, const QString &type);
 std::optional<QJsonObject> infoDictionary(const Bundle *bundle);

@@ -2,8 +2,8 @@
 // The null-safe vocabulary of views and controls. A request to an absent control does nothing and
 // yields zero, false or a null string. Nothing here sends a control's action: only users do.
 //
-// Titles: where a title is set "with mnemonic", a single "&" marks the shortcut letter and "&&" is an
-// ampersand; elsewhere "&" is just a character.
+// Titles: where a title is set "with mnemonic", a single "&" marks the shortcut letter and "&&" is
+// an ampersand; elsewhere "&" is just a character.
 #pragma once
 
 #include <QString>
@@ -39,7 +39,8 @@ QString displayedTitle(const QWidget *control);
 /// A title given "with mnemonic", as displayed.
 QString withoutMnemonicMarks(const QString &title);
 
-/// A check box's state: 1, 0 or -1. The control may be handed over as any widget (an action's sender).
+/// A check box's state: 1, 0 or -1. The control may be handed over as any widget (an action's
+/// sender).
 void setState(QWidget *checkBox, int state);
 int state(const QWidget *checkBox);
 
@@ -53,8 +54,8 @@ void setStringValue(QLineEdit *field, const QString &text);
 void setIntValue(QLineEdit *field, int value);
 QString stringValue(const QLineEdit *field);
 
-/// Shows the picture in the file (with its "@2x" companion on dense screens). A null path, or one that
-/// holds no picture, leaves the view empty.
+/// Shows the picture in the file (with its "@2x" companion on dense screens). A null path, or one
+/// that holds no picture, leaves the view empty.
 void setImage(QLabel *imageView, const QString &path);
 
 /// The shown picture's file name without folder; null where the view is empty.

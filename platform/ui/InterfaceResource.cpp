@@ -30,8 +30,8 @@ class LoadedTree : public QObject {
   QPointer<QWidget> m_root;
 };
 
-// A QUiLoader looks through every library path for Designer plug-ins, and they are costly to find and
-// never needed: our resources hold Qt's own widgets only.
+// A QUiLoader looks through every library path for Designer plug-ins, and they are costly to find
+// and never needed: our resources hold Qt's own widgets only.
 QUiLoader &loader() {
   static const std::unique_ptr<QUiLoader> instance = [] {
     const QStringList paths = QCoreApplication::libraryPaths();

@@ -15,8 +15,8 @@ class Bundle;
 ///   one of a fitting type;
 /// - wiring: actions and text delegates as the controls state them (platform/ui/Actions.h).
 /// The loaded tree dies with the owner, or before it with whoever deletes its root. False where the
-/// bundle is absent, has no such resource, or the resource does not load; the reason goes to the log
-/// unless the bundle is absent. The owner's properties are left alone then.
+/// bundle is absent, has no such resource, or the resource does not load; the reason goes to the
+/// log unless the bundle is absent. The owner's properties are left alone then.
 bool loadInterface(const Bundle *bundle, const QString &name, QObject *owner);
 
 }  // namespace orvek

@@ -13,8 +13,8 @@ namespace orvek {
 /// What stands for "no item" where an index is asked for.
 inline constexpr int noItem = -1;
 
-/// One item to add. `representedObject` is borrowed and may be null; `identifier` names the item for
-/// scripts (a choice's keyword) and may be null.
+/// One item to add. `representedObject` is borrowed and may be null; `identifier` names the item
+/// for scripts (a choice's keyword) and may be null.
 struct PopUpItem {
   QString title;
   const PDEObject *representedObject = nullptr;
