@@ -1,0 +1,63 @@
+# SPDX-License-Identifier: Apache-2.0
+"""check-sources.py wants an opening, bounds the length, and knows words that have no place."""
+
+import unittest
+
+from madeuptree import OPENING, MadeUpTree
+
+CHECKER = "check-sources.py"
+
+
+class Sources(MadeUpTree):
+    def test_a_source_with_its_opening_passes(self):
+        self.source("host/A.cpp", "int a;")
+        self.assert_clean(CHECKER)
+
+    def test_a_source_without_licence_line_is_refused(self):
+        self.write("host/A.cpp", "// What it is for.\nint a;\n")
+        self.assert_one_violation(CHECKER, "host/A.cpp:1: must begin")
+
+    def test_an_empty_source_is_refused(self):
+        self.write("host/A.h", "")
+        self.assert_one_violation(CHECKER, "host/A.h:1: must begin")
+
+    def test_a_source_that_does_not_say_its_purpose_is_refused(self):
+        self.write("host/A.cpp", OPENING.splitlines()[0] + "\nint a;\n")
+        self.assert_one_violation(CHECKER, "host/A.cpp:2: say in one to four lines")
+
+    def test_a_script_says_its_licence_below_its_interpreter(self):
+        self.write("run", "#!/usr/bin/env bash\n# SPDX-License-Identifier: Apache-2.0\n")
+        self.assert_clean(CHECKER)
+        self.write("run", "#!/usr/bin/env bash\ntrue\n")
+        self.assert_one_violation(CHECKER, "run:2: must begin")
+
+    def test_a_source_may_have_the_longest_length_and_no_line_more(self):
+        self.source("host/A.cpp", *["int a;"] * 8)
+        self.assert_clean(CHECKER, "--longest", "10")
+        self.assert_one_violation(CHECKER, "host/A.cpp:10: 10 lines", "--longest", "9")
+
+    def test_unwanted_words_are_named_with_their_line(self):
+        for text in [
+            "see /ho" + "me/jane/notes",
+            "TO" + "DO: later",
+            "as Part" + " 3 says",
+            "the sp" + "ec says so",
+            "see iss" + "ue #12",
+            "<<<<<" + "<< HEAD",
+        ]:
+            with self.subTest(text=text):
+                self.write("docs/a.md", f"first\n{text}\n")
+                self.assert_one_violation(CHECKER, "docs/a.md:2: ")
+
+    def test_wanted_words_pass(self):
+        self.write("docs/a.md", "the PPD specification, the home folder, /usr/lib/cups, a part of it\n")
+        self.assert_clean(CHECKER)
+
+    def test_pictures_and_documents_are_passed_over(self):
+        self.write("docs/a.png", "\0TO" + "DO")
+        self.write("docs/a.pdf", "%PDF-1.7 TO" + "DO")
+        self.assert_clean(CHECKER)
+
+
+if __name__ == "__main__":
+    unittest.main()

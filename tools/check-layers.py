@@ -1,0 +1,83 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: Apache-2.0
+"""Fails on every #include edge that tools/layers.json does not allow.
+
+usage: check-layers.py [--root FOLDER] [--rules FILE]
+"""
+
+import argparse
+import json
+import os
+import re
+
+from sources import SOURCE_SUFFIXES, finish, project_files, read_text
+
+INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]')
+MOC_OUTPUT = re.compile(r"^(moc_\w+\.cpp|\w+\.moc)$")
+
+
+def includes(text):
+    """(line number, whether in quotes, path) of every include."""
+    for number, line in enumerate(text.splitlines(), start=1):
+        match = INCLUDE.match(line)
+        if match:
+            yield number, match.group(1) == '"', match.group(2)
+
+
+def edge_problem(layer, quoted, target, rules):
+    """Why a file of the layer must not include the target; None where it may."""
+    layers = rules["layers"]
+    first = target.split("/")[0]
+    if not quoted:
+        if first in layers and "/" in target:
+            return f"<{target}>: the project's own headers are included in quotes"
+        if target.startswith(rules["installedPrefix"]) and "*" not in layers[layer]:
+            return f"<{target}>: that is the installed copy, for programs outside the project"
+        return None
+    if MOC_OUTPUT.match(target):
+        return None
+    if "/" not in target or first not in layers:
+        return f'"{target}": write the path from the project\'s root'
+    allowed = layers[layer]
+    if first == layer or "*" in allowed or first in allowed:
+        return None
+    may = ", ".join(allowed) or "nothing of ours"
+    return f'"{target}": {layer}/ may include {may}, not {first}/'
+
+
+def door_problem(path, target, rules):
+    """Why this file must not include a header that has one door only."""
+    rule = rules["onlyIn"].get(target)
+    if rule is None or path in rule["files"]:
+        return None
+    return f'<{target}>: include "{rule["instead"]}" instead'
+
+
+def check_file(path, text, rules):
+    layer = path.split(os.sep)[0]
+    for number, quoted, target in includes(text):
+        problem = edge_problem(layer, quoted, target, rules) or door_problem(path, target, rules)
+        if problem:
+            yield f"{path}:{number}: {problem}"
+
+
+def main():
+    here = os.path.dirname(os.path.abspath(__file__))
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("--root", default=os.path.dirname(here))
+    parser.add_argument("--rules", default=os.path.join(here, "layers.json"))
+    arguments = parser.parse_args()
+    with open(arguments.rules, encoding="utf-8") as file:
+        rules = json.load(file)
+    violations, checked = [], 0
+    for path in project_files(arguments.root, SOURCE_SUFFIXES):
+        if path.split(os.sep)[0] not in rules["layers"]:
+            violations.append(f"{path}: lies in no folder that tools/layers.json names")
+            continue
+        checked += 1
+        violations += check_file(path, read_text(arguments.root, path) or "", rules)
+    finish("layers", violations, checked)
+
+
+if __name__ == "__main__":
+    main()
