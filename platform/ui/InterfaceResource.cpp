@@ -43,7 +43,12 @@ QUiLoader &loader() {
   return *instance;
 }
 
-void connectTree(QWidget *root, QObject *owner) {
+void localize(QWidget *widget, const Bundle &bundle) {
+  widget->setToolTip(bundle.localizedString(widget->toolTip()));
+  widget->setAccessibleName(bundle.localizedString(widget->accessibleName()));
+}
+
+void connectTree(QWidget *root, QObject *owner, const Bundle &bundle) {
   QList<QWidget *> widgets = root->findChildren<QWidget *>();
   widgets.prepend(root);
   for (QWidget *widget : widgets) {
@@ -53,6 +58,7 @@ void connectTree(QWidget *root, QObject *owner) {
       owner->setProperty(name.constData(), QVariant::fromValue(widget));
     }
     connectToOwner(widget, owner);
+    localize(widget, bundle);
   }
 }
 
@@ -71,7 +77,7 @@ bool loadInterface(const Bundle *bundle, const QString &name, QObject *owner) {
     return false;
   }
   new LoadedTree(root, owner);
-  connectTree(root, owner);
+  connectTree(root, owner, *bundle);
   return true;
 }
 

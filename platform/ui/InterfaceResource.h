@@ -13,7 +13,9 @@ class Bundle;
 /// Loads NAME.ui from the bundle and connects it to its owner:
 /// - outlets: each named widget is stored in the owner's property of that name, where the owner has
 ///   one of a fitting type;
-/// - wiring: actions and text delegates as the controls state them (platform/ui/Actions.h).
+/// - wiring: actions and text delegates as the controls state them (platform/ui/Actions.h);
+/// - texts that no owner sets: tool tips and accessible names are keys of the bundle's table, or
+///   stay as they are.
 /// The loaded tree dies with the owner, or before it with whoever deletes its root. False where the
 /// bundle is absent, has no such resource, or the resource does not load; the reason goes to the
 /// log unless the bundle is absent. The owner's properties are left alone then.
