@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: Apache-2.0
+// Starts the filter tool for each document and carries its output to the target. The output passes
+// through here rather than straight into the file: filters don't notice a full disk, the write here
+// does.
+
+#include "host/jobs/FilterChain.h"
+
+#include <sys/prctl.h>
+#include <unistd.h>
+#include <csignal>
+
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
+
+#include "host/jobs/Document.h"
+#include "host/jobs/FilterMessages.h"
+#include "host/jobs/OptionText.h"
+#include "host/jobs/OutputTarget.h"
+
+namespace orvek {
+namespace {
+
+constexpr int kPollMilliseconds = 100;
+constexpr int kGraceMilliseconds = 2000;
+
+Status checkPPDFile(const QString &path) {
+  QFile file(path);
+  if (QFileInfo(path).isDir())
+    return Failure{FailureKind::Io, path, QStringLiteral("is a folder, not a PPD file")};
+  if (!file.open(QIODevice::ReadOnly)) return Failure{FailureKind::Io, path, file.errorString()};
+  return {};
+}
+
+QStringList toolArguments(const JobRequest &request, const QString &document) {
+  // -e: without it the printer's own filters are left out and the output is not device-ready.
+  QStringList arguments{QStringLiteral("-e"),
+                        QStringLiteral("-p"),
+                        QFileInfo(request.ppdFile).absoluteFilePath(),
+                        QStringLiteral("-m"),
+                        QStringLiteral("printer/foo"),
+                        QStringLiteral("-t"),
+                        effectiveTitle(request)};
+  if (!request.user.isEmpty()) arguments << QStringLiteral("-U") << request.user;
+  auto options = effectiveOptions(request);
+  // Filters are told the copies apart from the options, and some multiply them if told both ways.
+  const QString copies = options.take(QStringLiteral("copies"));
+  if (!copies.isEmpty()) arguments << QStringLiteral("-n") << copies;
+  for (auto option = options.cbegin(); option != options.cend(); ++option)
+    arguments << QStringLiteral("-o") << filterToolOptionText(option.key(), option.value());
+  // An absolute path can't be taken for an option, whatever the document is called.
+  return arguments << QFileInfo(document).absoluteFilePath();
+}
+
+/// A process group of its own, so that a cancelled job takes all its filters with it; and never
+/// left behind should this program be killed.
+void leadOwnGroup() {
+  ::setpgid(0, 0);
+  ::prctl(PR_SET_PDEATHSIG, SIGTERM);
+}
+
+void stop(QProcess &process) {
+  const auto group = static_cast<pid_t>(process.processId());
+  if (group <= 0) return;
+  ::kill(-group, SIGTERM);
+  if (process.waitForFinished(kGraceMilliseconds)) return;
+  ::kill(-group, SIGKILL);
+  process.waitForFinished(kGraceMilliseconds);
+}
+
+/// One job under way: where its bytes go and how far it is.
+struct Run {
+  const JobRequest &request;
+  JobControl &control;
+  const QString tool;
+  OutputTarget &target;
+  JobProgress progress;
+  int pagesOfEarlierDocuments = 0;
+};
+
+Status carryOutput(Run &run, QProcess &process, FilterMessages &messages) {
+  messages.add(process.readAllStandardError());
+  const QByteArray bytes = process.readAllStandardOutput();
+  const Status written =
+      bytes.isEmpty() ? Status()
+                      : run.target.write(bytes, [&run] { return !run.control.cancelled.load(); });
+  run.progress.bytes += bytes.size();
+  run.progress.pages = run.pagesOfEarlierDocuments + messages.pages();
+  run.control.report(run.progress);
+  return written;
+}
+
+Status carryUntilFinished(Run &run, QProcess &process, FilterMessages &messages) {
+  while (process.state() != QProcess::NotRunning) {
+    if (run.control.cancelled) return cancelledFailure();
+    process.waitForReadyRead(kPollMilliseconds);
+    if (Status carried = carryOutput(run, process, messages); !carried) return carried;
+  }
+  if (Status carried = carryOutput(run, process, messages); !carried) return carried;
+  return run.control.cancelled ? Status(cancelledFailure()) : Status();
+}
+
+void prepare(QProcess &process, const Run &run, const QString &path) {
+  auto environment = QProcessEnvironment::systemEnvironment();
+  // The tool's messages are read here, so they have to come in one language.
+  environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+  process.setProcessEnvironment(environment);
+  process.setChildProcessModifier(leadOwnGroup);
+  process.setStandardInputFile(QProcess::nullDevice());
+  process.setProgram(run.tool);
+  process.setArguments(toolArguments(run.request, path));
+}
+
+Status filterDocument(Run &run, const QString &path, const QString &name) {
+  QProcess process;
+  FilterMessages messages;
+  prepare(process, run, path);
+  const qint64 bytesBefore = run.progress.bytes;
+  process.start();
+  if (!process.waitForStarted()) return Failure{FailureKind::Io, run.tool, process.errorString()};
+  if (Status carried = carryUntilFinished(run, process, messages); !carried) {
+    stop(process);
+    return carried;
+  }
+  if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
+    return messages.reason(name, run.request.ppdFile, process.exitCode());
+  if (run.progress.bytes == bytesBefore)
+    return Failure{FailureKind::Io, name, QStringLiteral("the filters made no output of it")};
+  run.pagesOfEarlierDocuments = run.progress.pages;
+  return {};
+}
+
+Status filterNamed(Run &run, const QString &file) {
+  if (file != QStringLiteral("-")) return filterDocument(run, file, file);
+  auto spool = spoolStandardInput(run.control);
+  if (!spool) return spool.failure();
+  if (run.control.cancelled) return cancelledFailure();
+  return filterDocument(run, spool.value()->fileName(), documentName(file));
+}
+
+Status checkRequest(const JobRequest &request) {
+  if (Status ppd = checkPPDFile(request.ppdFile); !ppd) return ppd;
+  for (const QString &file : effectiveFiles(request))
+    if (Status document = checkDocument(file); !document) return document;
+  return {};
+}
+
+}  // namespace
+
+Failure cancelledFailure() {
+  return {FailureKind::Io, QStringLiteral("job"), QStringLiteral("cancelled")};
+}
+
+QString findFilterTool(const QString &searchPath) {
+  QStringList folders = searchPath.split(u':', Qt::SkipEmptyParts);
+  folders << QStringLiteral("/usr/local/sbin") << QStringLiteral("/usr/sbin")
+          << QStringLiteral("/sbin");
+  const QString path = QStandardPaths::findExecutable(QStringLiteral("cupsfilter"), folders);
+  return path.isEmpty() ? QString() : path;
+}
+
+Result<JobOutcome> printThroughFilters(const JobRequest &request, JobControl &control) {
+  if (Status checked = checkRequest(request); !checked) return checked.failure();
+  const QString tool = findFilterTool(qEnvironmentVariable("PATH"));
+  if (tool.isNull())
+    return Failure{FailureKind::Io, QStringLiteral("cupsfilter"),
+                   QStringLiteral("not found; install the package \"cups\"")};
+  auto target = OutputTarget::open(request.outputFile);
+  if (!target) return target.failure();
+
+  const QStringList files = effectiveFiles(request);
+  Run run{request, control, tool, *target.value(), {}, 0};
+  run.progress.documents = static_cast<int>(files.size());
+  for (const QString &file : files) {
+    if (Status done = filterNamed(run, file); !done) return done.failure();
+    ++run.progress.document;
+  }
+  if (Status placed = target.value()->commit(); !placed) return placed.failure();
+  return JobOutcome{0, QString(), run.progress.documents, run.progress.bytes};
+}
+
+}  // namespace orvek

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: Apache-2.0
+// Prints into a file through the CUPS filters of this machine; needs no print server.
+#pragma once
+
+#include "host/jobs/JobRequest.h"
+#include "platform/system/Result.h"
+
+namespace orvek {
+
+/// Runs the request's documents through the filter chain of `request.ppdFile`, one after the other,
+/// and writes the device-ready bytes to `request.outputFile`: a file appears whole or not at all.
+/// Blocks; for a window run it through BackgroundJob. Every option goes to the filters as it is,
+/// whether or not the PPD knows it. Memory does not grow with the documents.
+///
+/// Failures: the PPD, a document or the output can't be opened; the filter tool is not installed; a
+/// document's type is unknown; a filter failed (its own last words); the disk is full; "cancelled".
+Result<JobOutcome> printThroughFilters(const JobRequest &request, JobControl &control);
+
+/// The filter tool's path, or a null string where it is not installed. `searchPath` as in PATH; the
+/// administrator's folders are searched as well, as a user's PATH often lacks them.
+QString findFilterTool(const QString &searchPath);
+
+/// The failure of a job that was cancelled.
+Failure cancelledFailure();
+
+}  // namespace orvek

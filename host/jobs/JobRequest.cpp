@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: Apache-2.0
+// What a request means where it leaves something unsaid.
+
+#include "host/jobs/JobRequest.h"
+
+#include <QFileInfo>
+
+namespace orvek {
+
+QStringList effectiveFiles(const JobRequest &request) {
+  return request.files.isEmpty() ? QStringList{QStringLiteral("-")} : request.files;
+}
+
+QString effectiveTitle(const JobRequest &request) {
+  if (!request.title.isNull()) return request.title;
+  const QString first = effectiveFiles(request).constFirst();
+  if (first == QStringLiteral("-")) return QStringLiteral("(stdin)");
+  return QFileInfo(first).fileName();
+}
+
+QMap<QString, QString> effectiveOptions(const JobRequest &request) {
+  QMap<QString, QString> options = request.options;
+  if (request.copies > 0) options.insert(QStringLiteral("copies"), QString::number(request.copies));
+  if (!request.pageRanges.isEmpty())
+    options.insert(QStringLiteral("page-ranges"), request.pageRanges);
+  if (request.priority > 0)
+    options.insert(QStringLiteral("job-priority"), QString::number(request.priority));
+  return options;
+}
+
+}  // namespace orvek

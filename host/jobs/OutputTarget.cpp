@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: Apache-2.0
+// Files are written beside their place and renamed; everything else is a descriptor that is polled.
+
+#include "host/jobs/OutputTarget.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <cerrno>
+#include <climits>
+#include <cstring>
+
+namespace orvek {
+namespace {
+
+constexpr int kPollMilliseconds = 100;
+
+/// Descriptor number behind a name of an open stream, or -1. Opening such a name anew would start a
+/// redirected file from its beginning instead of going on where the caller's shell stands.
+int openStreamNumber(const QString &path) {
+  if (path == QStringLiteral("-") || path == QStringLiteral("/dev/stdout")) return STDOUT_FILENO;
+  if (path == QStringLiteral("/dev/stderr")) return STDERR_FILENO;
+  for (const QString &prefix : {QStringLiteral("/dev/fd/"), QStringLiteral("/proc/self/fd/")}) {
+    bool isNumber = false;
+    const int number = path.startsWith(prefix) ? path.mid(prefix.size()).toInt(&isNumber) : -1;
+    if (isNumber) return number;
+  }
+  return -1;
+}
+
+bool isPlainFileOrAbsent(const QString &path) {
+  struct stat entry {};
+  if (::stat(QFile::encodeName(path).constData(), &entry) != 0) return true;
+  return S_ISREG(entry.st_mode);
+}
+
+int openStream(const QString &path) {
+  const int number = openStreamNumber(path);
+  if (number >= 0) return ::fcntl(number, F_DUPFD_CLOEXEC, 0);
+  return ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CLOEXEC | O_NOCTTY);
+}
+
+QString systemReason(int error) {
+  return QString::fromLocal8Bit(std::strerror(error));
+}
+
+}  // namespace
+
+OutputTarget::OutputTarget(QString path, int stream, std::unique_ptr<QSaveFile> file)
+    : m_path(std::move(path)), m_stream(stream), m_file(std::move(file)) {}
+
+OutputTarget::~OutputTarget() {
+  if (m_stream >= 0) ::close(m_stream);
+}
+
+Failure OutputTarget::failure(const QString &why) const {
+  const QString name = m_path == QStringLiteral("-") ? QStringLiteral("standard output") : m_path;
+  return {FailureKind::Io, name, why};
+}
+
+Result<std::unique_ptr<OutputTarget>> OutputTarget::open(const QString &path) {
+  std::unique_ptr<OutputTarget> target(new OutputTarget(path, -1, nullptr));
+  if (openStreamNumber(path) >= 0 || !isPlainFileOrAbsent(path)) {
+    target->m_stream = openStream(path);
+    if (target->m_stream < 0) return target->failure(systemReason(errno));
+    return target;
+  }
+  target->m_file = std::make_unique<QSaveFile>(path);
+  if (!target->m_file->open(QIODevice::WriteOnly))
+    return target->failure(target->m_file->errorString());
+  return target;
+}
+
+Status OutputTarget::writeToFile(const QByteArray &bytes) {
+  // Past QSaveFile's buffer, which would put off a full disk's answer and lose the system's reason.
+  qsizetype done = 0;
+  while (done < bytes.size()) {
+    const auto left = static_cast<size_t>(bytes.size() - done);
+    const ssize_t taken = ::write(m_file->handle(), bytes.constData() + done, left);
+    if (taken >= 0)
+      done += taken;
+    else if (errno != EINTR)
+      return failure(systemReason(errno));
+  }
+  return {};
+}
+
+Result<qsizetype> OutputTarget::writeSomeToStream(const char *bytes, qsizetype count) {
+  pollfd ready{m_stream, POLLOUT, 0};
+  if (::poll(&ready, 1, kPollMilliseconds) <= 0) return qsizetype{0};
+  // A pipe that polls as writable takes PIPE_BUF bytes without blocking, more might block.
+  const ssize_t taken = ::write(m_stream, bytes, std::min<qsizetype>(count, PIPE_BUF));
+  if (taken >= 0) return qsizetype{taken};
+  if (errno == EINTR || errno == EAGAIN) return qsizetype{0};
+  return failure(systemReason(errno));
+}
+
+Status OutputTarget::commit() {
+  if (m_file && !m_file->commit()) return failure(m_file->errorString());
+  return {};
+}
+
+}  // namespace orvek

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: Apache-2.0
+// Where a job into a file ends up: nothing half-written, and the old file kept until the new one is
+// whole.
+#pragma once
+
+#include <QSaveFile>
+#include <QString>
+#include <memory>
+
+#include "platform/system/Result.h"
+
+namespace orvek {
+
+/// A file that appears whole or not at all, or a device, pipe or standard stream that takes bytes
+/// as they come. Dropped without commit() a file leaves what stood there before.
+class OutputTarget {
+ public:
+  /// Opens `path`. "-" is standard output. Fails with the system's reason.
+  static Result<std::unique_ptr<OutputTarget>> open(const QString &path);
+
+  ~OutputTarget();
+  OutputTarget(const OutputTarget &) = delete;
+  OutputTarget &operator=(const OutputTarget &) = delete;
+
+  /// Writes all bytes. `keepWaiting` is asked every tenth of a second while a pipe takes none;
+  /// where it answers false the write ends as if it had been done.
+  template <typename KeepWaiting>
+  Status write(const QByteArray &bytes, const KeepWaiting &keepWaiting);
+
+  /// Puts the file in place.
+  Status commit();
+
+ private:
+  OutputTarget(QString path, int stream, std::unique_ptr<QSaveFile> file);
+  Failure failure(const QString &why) const;
+  Status writeToFile(const QByteArray &bytes);
+  /// How many bytes a stream took, 0 where it took none in a tenth of a second, or why it never
+  /// will.
+  Result<qsizetype> writeSomeToStream(const char *bytes, qsizetype count);
+
+  QString m_path;
+  int m_stream = -1;
+  std::unique_ptr<QSaveFile> m_file;
+};
+
+template <typename KeepWaiting>
+Status OutputTarget::write(const QByteArray &bytes, const KeepWaiting &keepWaiting) {
+  if (m_file) return writeToFile(bytes);
+  qsizetype done = 0;
+  while (done < bytes.size() && keepWaiting()) {
+    const auto taken = writeSomeToStream(bytes.constData() + done, bytes.size() - done);
+    if (!taken) return taken.failure();
+    done += taken.value();
+  }
+  return {};
+}
+
+}  // namespace orvek

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: Apache-2.0
+// Writes the filter as a shell script: what a filter is told comes as plain arguments.
+
+#include "tests/support/CapturingFilter.h"
+
+#include <cups/cups.h>
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+
+namespace orvek::testing {
+namespace {
+
+constexpr auto kReadable =
+    QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther;
+constexpr auto kRunnable = kReadable | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther;
+constexpr auto kOpenToAll = kRunnable | QFile::WriteGroup | QFile::WriteOther;
+
+QByteArray scriptText(const QString &scratch, const QString &script) {
+  return QStringLiteral(
+             "#!/bin/sh\n"
+             "i=0\n"
+             "for a; do i=$((i+1)); printf '%s' \"$a\" >'%1'/argument$i; done\n"
+             "%2\n")
+      .arg(scratch, script)
+      .toUtf8();
+}
+
+QByteArray ppdText(const QString &filter) {
+  QByteArray ppd = contentsOf(orvekPPD(QStringLiteral("6180")));
+  const QByteArray line =
+      "*cupsFilter: \"application/vnd.cups-postscript 0 " + filter.toUtf8() + "\"\n";
+  return ppd.insert(ppd.indexOf("*Manufacturer"), line);
+}
+
+}  // namespace
+
+CapturingFilter::CapturingFilter(const QString &script) {
+  const QString filter = m_folder.filePath(QStringLiteral("capture"));
+  QFile::setPermissions(m_folder.path(), kRunnable);
+  QDir(m_folder.path()).mkdir(QStringLiteral("scratch"));
+  QFile::setPermissions(scratch(), kOpenToAll);
+  writeContents(filter, scriptText(scratch(), script));
+  QFile::setPermissions(filter, kRunnable);
+  writeContents(ppdFile(), ppdText(filter));
+  QFile::setPermissions(ppdFile(), kReadable);
+}
+
+QString CapturingFilter::argument(int number) const {
+  return QString::fromUtf8(contentsOf(scratch() + QStringLiteral("/argument%1").arg(number)));
+}
+
+QMap<QString, QString> CapturingFilter::options() const {
+  cups_option_t *options = nullptr;
+  const int count = cupsParseOptions(argument(5).toUtf8().constData(), 0, &options);
+  QMap<QString, QString> map;
+  for (int i = 0; i < count; ++i)
+    map.insert(QString::fromUtf8(options[i].name), QString::fromUtf8(options[i].value));
+  cupsFreeOptions(count, options);
+  return map;
+}
+
+QByteArray contentsOf(const QString &file) {
+  QFile opened(file);
+  return opened.open(QIODevice::ReadOnly) ? opened.readAll() : QByteArray();
+}
+
+void writeContents(const QString &file, const QByteArray &contents) {
+  QFile opened(file);
+  ASSERT_TRUE(opened.open(QIODevice::WriteOnly)) << file.toStdString();
+  ASSERT_EQ(opened.write(contents), contents.size());
+}
+
+QString orvekPPD(const QString &model) {
+  return QStringLiteral(ORVEK_SOURCE_DIR "/printers/Orvek-%1.ppd").arg(model);
+}
+
+QByteArray postScriptDocument(int pages) {
+  QByteArray text = "%!PS-Adobe-3.0\n%%Pages: " + QByteArray::number(pages) + "\n%%EndComments\n";
+  for (int page = 1; page <= pages; ++page) {
+    const QByteArray number = QByteArray::number(page);
+    text += "%%Page: " + number + ' ' + number + "\nshowpage\n";
+  }
+  return text + "%%EOF\n";
+}
+
+}  // namespace orvek::testing
