@@ -41,7 +41,7 @@ PrintSessionHandle::~PrintSessionHandle() = default;
 QMap<QString, QVariant> Ticket::values() const {
   QMap<QString, QVariant> all;
   for (auto entry = m_entries.begin(); entry != m_entries.end(); ++entry) {
-    all.insert(entry.key(), entry->value);
+    if (entry->value.isValid()) all.insert(entry.key(), entry->value);
   }
   return all;
 }
@@ -64,7 +64,9 @@ void Ticket::setChangeListener(std::function<void(const QString &key)> listener)
 }
 
 void Ticket::announce(const QString &key) {
-  if (m_listener) m_listener(key);
+  // A copy: the listener may end itself.
+  const auto listener = m_listener;
+  if (listener) listener(key);
 }
 
 PrintSettings::PrintSettings(std::shared_ptr<Ticket> ticket) : m_ticket(std::move(ticket)) {}

@@ -32,7 +32,9 @@ void writeToStandardError(const QByteArray &text) {
 }  // namespace
 
 void logLine(const QString &line) {
-  if (listener()) listener()(line);
+  // A copy: the listener may end itself.
+  const auto listening = listener();
+  if (listening) listening(line);
   const QByteArray text = line.toUtf8();
   syslog(LOG_USER | LOG_NOTICE, "%s", text.constData());
   writeToStandardError(text);

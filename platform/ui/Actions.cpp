@@ -19,11 +19,15 @@ namespace {
 
 constexpr const char *textDidChangeOperation = "controlTextDidChange:";
 
-// Lives as a child of the control and knows what its owner wants to hear.
+enum class Event { Action, TextChange };
+
+// Lives as a child of the control and knows what its owner wants to hear of one kind of event.
 class Target : public QObject {
  public:
-  Target(QWidget *control, QObject *owner, QMetaMethod method)
-      : QObject(control), m_control(control), m_owner(owner), m_method(method) {}
+  Target(QWidget *control, QObject *owner, Event event, QMetaMethod method)
+      : QObject(control), m_control(control), m_owner(owner), m_event(event), m_method(method) {}
+
+  bool hears(Event event) const { return event == m_event; }
 
   void send() const {
     if (m_owner) m_method.invoke(m_owner, Qt::DirectConnection, Q_ARG(QWidget *, m_control));
@@ -32,6 +36,7 @@ class Target : public QObject {
  private:
   QWidget *m_control;
   QPointer<QObject> m_owner;
+  Event m_event;
   QMetaMethod m_method;
 };
 
@@ -42,18 +47,19 @@ QMetaMethod findMethod(const QObject *owner, const QString &operation) {
   return type->method(type->indexOfMethod(signature.constData()));
 }
 
-Target *makeTarget(QWidget *control, QObject *owner, const QString &operation) {
+Target *makeTarget(QWidget *control, QObject *owner, Event event, const QString &operation) {
   const QMetaMethod method = findMethod(owner, operation);
-  if (method.isValid()) return new Target(control, owner, method);
+  if (method.isValid()) return new Target(control, owner, event, method);
   logLine(QStringLiteral("interface resource: %1 names the operation \"%2\", which its owner lacks")
               .arg(control->objectName(), operation));
   return nullptr;
 }
 
-Target *targetOf(const QWidget *control) {
+Target *targetOf(const QWidget *control, Event event) {
   if (control == nullptr) return nullptr;
   for (QObject *child : control->children()) {
-    if (auto *target = dynamic_cast<Target *>(child)) return target;
+    auto *target = dynamic_cast<Target *>(child);
+    if (target != nullptr && target->hears(event)) return target;
   }
   return nullptr;
 }
@@ -66,6 +72,8 @@ void listenForAction(QWidget *control, Target *target) {
     QObject::connect(button, &QAbstractButton::clicked, target, send);
   } else if (auto *slider = qobject_cast<QSlider *>(control)) {
     QObject::connect(slider, &QSlider::valueChanged, target, send);
+  } else if (auto *field = qobject_cast<QLineEdit *>(control)) {
+    QObject::connect(field, &QLineEdit::returnPressed, target, send);
   }
 }
 
@@ -80,24 +88,27 @@ QString methodName(const QString &operation) {
 void connectToOwner(QWidget *control, QObject *owner) {
   const QString action = control->property(actionProperty).toString();
   if (!action.isEmpty()) {
-    if (Target *target = makeTarget(control, owner, action)) listenForAction(control, target);
+    if (Target *target = makeTarget(control, owner, Event::Action, action)) {
+      listenForAction(control, target);
+    }
   }
   auto *field = qobject_cast<QLineEdit *>(control);
   if (field == nullptr ||
       control->property(delegateProperty).toString() != QLatin1String("owner")) {
     return;
   }
-  if (Target *target = makeTarget(control, owner, QLatin1String(textDidChangeOperation))) {
+  if (Target *target =
+          makeTarget(control, owner, Event::TextChange, QLatin1String(textDidChangeOperation))) {
     QObject::connect(field, &QLineEdit::textEdited, target, [target] { target->send(); });
   }
 }
 
 void sendAction(QWidget *control) {
-  if (const Target *target = targetOf(control)) target->send();
+  if (const Target *target = targetOf(control, Event::Action)) target->send();
 }
 
 void notifyTextDidChange(QLineEdit *field) {
-  if (const Target *target = targetOf(field)) target->send();
+  if (const Target *target = targetOf(field, Event::TextChange)) target->send();
 }
 
 }  // namespace orvek

@@ -73,7 +73,9 @@ void Bundle::readInfo() {
 
 void Bundle::readStrings() const {
   m_strings.emplace();
-  QFile file(pathForResource(QStringLiteral("Localizable"), QStringLiteral("json")));
+  const QString path = pathForResource(QStringLiteral("Localizable"), QStringLiteral("json"));
+  if (path.isNull()) return;
+  QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) return;
   const QJsonObject table = QJsonDocument::fromJson(file.readAll()).object();
   for (auto entry = table.begin(); entry != table.end(); ++entry) {
@@ -87,8 +89,9 @@ QString Bundle::localizedString(const QString &key) const {
 }
 
 QString Bundle::pathForResource(const QString &name, const QString &type) const {
+  const QString fileName = type.isEmpty() ? name : QString(name + QLatin1Char('.') + type);
   for (const QString &folder : m_folders) {
-    QString candidate = folder + QLatin1Char('/') + name + QLatin1Char('.') + type;
+    QString candidate = folder + QLatin1Char('/') + fileName;
     if (QFileInfo(candidate).isFile()) return candidate;
   }
   return {};

@@ -34,7 +34,7 @@ class Bundle : public std::enable_shared_from_this<Bundle> {
   QString localizedString(const QString &key) const;
 
   /// The file NAME.TYPE: of the language's folder, of the English one, of the bundle itself; the
-  /// first that exists. Null: none.
+  /// first that exists. Without a type `name` is the whole file name. Null: none.
   QString pathForResource(const QString &name, const QString &type) const;
 
  private:

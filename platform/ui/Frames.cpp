@@ -39,12 +39,12 @@ QRectF frame(const QWidget *view) {
 
 void setFrame(QWidget *view, const QRectF &frame) {
   if (view == nullptr) return;
-  const int height = qRound(frame.height());
-  const int growth = height - view->height();
-  view->resize(qRound(frame.width()), height);
-  keepSubviewsPinned(view, growth);
+  const int oldHeight = view->height();
+  view->resize(qRound(frame.width()), qRound(frame.height()));
+  // A view may refuse a size; what counts is the one it took.
+  keepSubviewsPinned(view, view->height() - oldHeight);
   if (view->parentWidget() == nullptr) return;
-  view->move(qRound(frame.x()), flipped(view, qRound(frame.y()), height));
+  view->move(qRound(frame.x()), flipped(view, qRound(frame.y()), view->height()));
 }
 
 QSizeF frameSize(const QWidget *view) {

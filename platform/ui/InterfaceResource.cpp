@@ -66,9 +66,14 @@ void connectTree(QWidget *root, QObject *owner, const Bundle &bundle) {
 
 bool loadInterface(const Bundle *bundle, const QString &name, QObject *owner) {
   if (bundle == nullptr || owner == nullptr) return false;
-  QFile file(bundle->pathForResource(name, QStringLiteral("ui")));
-  if (!file.open(QIODevice::ReadOnly)) {
+  const QString path = bundle->pathForResource(name, QStringLiteral("ui"));
+  if (path.isNull()) {
     logLine(QStringLiteral("%1: no interface resource \"%2\"").arg(bundle->path(), name));
+    return false;
+  }
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) {
+    logLine(QStringLiteral("%1: %2").arg(path, file.errorString()));
     return false;
   }
   QWidget *root = loader().load(&file, nullptr);

@@ -16,9 +16,9 @@ inline constexpr int noItem = -1;
 /// One item to add. `representedObject` is borrowed and may be null; `identifier` names the item
 /// for scripts (a choice's keyword) and may be null.
 struct PopUpItem {
-  QString title;
+  QString title = {};
   const PDEObject *representedObject = nullptr;
-  QString identifier;
+  QString identifier = {};
 };
 
 void removeAllItems(QComboBox *popUp);
