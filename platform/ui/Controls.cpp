@@ -5,8 +5,10 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QDir>
 #include <QFileInfo>
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPixmap>
@@ -38,6 +40,15 @@ void setQtText(QWidget *control, const QString &qtTitle) {
   } else if (auto *box = qobject_cast<QGroupBox *>(control)) {
     box->setTitle(qtTitle);
   }
+}
+
+// Qt knows from an "@2x" name how dense a picture is, but finds such files for icons only.
+QString densestFile(const QString &path) {
+  if (qGuiApp->devicePixelRatio() <= 1) return path;
+  const QFileInfo file(path);
+  const QString companion =
+      file.dir().filePath(file.completeBaseName() + QStringLiteral("@2x.") + file.suffix());
+  return QFileInfo::exists(companion) ? companion : path;
 }
 
 }  // namespace
@@ -145,7 +156,7 @@ QString stringValue(const QLineEdit *field) {
 
 void setImage(QLabel *imageView, const QString &path) {
   if (imageView == nullptr) return;
-  const QPixmap picture = path.isNull() ? QPixmap() : QPixmap(path);
+  const QPixmap picture = path.isNull() ? QPixmap() : QPixmap(densestFile(path));
   imageView->setPixmap(picture);
   const QString name = picture.isNull() ? QString() : QFileInfo(path).fileName();
   imageView->setProperty(imageNameProperty, name);
