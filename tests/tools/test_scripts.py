@@ -116,6 +116,14 @@ class Lists(unittest.TestCase):
                 self.assertNotIn(name, seen)
                 seen.add(name)
         self.assertGreater(len(seen), 0)
+        self.named_in_the_readme(seen)
+
+    def named_in_the_readme(self, packages):
+        with open(os.path.join(PROJECT, "README.md"), encoding="utf-8") as file:
+            cells = [cell for line in file if line.startswith("|") for cell in line.split("|")[2:3]]
+        named = [name for cell in cells for name in cell.strip().split(", ")]
+        for package in packages:
+            self.assertEqual(named.count(package), 1, f"{package} in README.md")
 
 
 if __name__ == "__main__":
