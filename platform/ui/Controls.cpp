@@ -162,6 +162,11 @@ void setImage(QLabel *imageView, const QString &path) {
   imageView->setProperty(imageNameProperty, name);
 }
 
+bool isImageView(const QLabel *label) {
+  return label != nullptr && (label->property(imageViewProperty).toBool() ||
+                              label->property(imageNameProperty).isValid());
+}
+
 QString imageName(const QLabel *imageView) {
   return imageView == nullptr ? QString() : imageView->property(imageNameProperty).toString();
 }

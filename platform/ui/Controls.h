@@ -16,6 +16,9 @@ class QWidget;
 
 namespace orvek {
 
+/// The dynamic property by which an interface resource tells an image view from a text label.
+inline constexpr const char *imageViewProperty = "imageView";
+
 /// Check-box states.
 inline constexpr int stateOff = 0;
 inline constexpr int stateOn = 1;
@@ -57,6 +60,10 @@ QString stringValue(const QLineEdit *field);
 /// Shows the picture in the file (with its "@2x" companion on dense screens). A null path, or one
 /// that holds no picture, leaves the view empty.
 void setImage(QLabel *imageView, const QString &path);
+
+/// True for a label that shows pictures: one that the interface resource marks with imageViewProperty, or
+/// that was given one.
+bool isImageView(const QLabel *label);
 
 /// The shown picture's file name without folder; null where the view is empty.
 QString imageName(const QLabel *imageView);

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: Apache-2.0
+// Reads the words of an action.
+
+#include "host/cli/Action.h"
+
+#include <QMap>
+
+namespace orvek {
+namespace {
+
+Result<Action> parseWord(const QString &text) {
+  static const QMap<QString, Action::Kind> words{
+      {QStringLiteral("view"), Action::Kind::View},
+      {QStringLiteral("restore"), Action::Kind::Restore},
+      {QStringLiteral("save"), Action::Kind::Save},
+      {QStringLiteral("willShow"), Action::Kind::WillShow},
+      {QStringLiteral("reopen"), Action::Kind::Reopen},
+  };
+  const auto found = words.find(text);
+  Action action{Action::Kind::Control, {}, {}, 0, text};
+  if (found == words.end()) {
+    return actionFailure(action, QStringLiteral("unknown action (%1, nup=INTEGER or CONTROL=VALUE)")
+                                     .arg(QStringList(words.keys()).join(QStringLiteral(", "))));
+  }
+  action.kind = *found;
+  return action;
+}
+
+Result<Action> parsePagesPerSheet(Action action) {
+  bool isNumber = false;
+  action.kind = Action::Kind::PagesPerSheet;
+  action.number = action.value.toInt(&isNumber);
+  if (!isNumber) return actionFailure(action, QStringLiteral("nup takes an integer"));
+  return action;
+}
+
+}  // namespace
+
+Result<Action> parseAction(const QString &text) {
+  const qsizetype equals = text.indexOf(QLatin1Char('='));
+  if (equals < 0) return parseWord(text);
+  Action action{Action::Kind::Control, text.left(equals), text.mid(equals + 1), 0, text};
+  if (action.control == QLatin1String("nup")) return parsePagesPerSheet(action);
+  return action;
+}
+
+Failure actionFailure(const Action &action, const QString &why) {
+  return {FailureKind::Usage, QStringLiteral("--do %1").arg(action.text), why};
+}
+
+}  // namespace orvek

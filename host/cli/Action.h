@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: Apache-2.0
+// What --do may ask for: the words of an action and their reading. Knows no panel.
+#pragma once
+
+#include <QString>
+
+#include "platform/system/Result.h"
+
+namespace orvek {
+
+/// One thing to do as the user or the host would.
+struct Action {
+  enum class Kind { Control, PagesPerSheet, View, Restore, Save, WillShow, Reopen };
+
+  Kind kind = Kind::Control;
+  QString control;  ///< Control: the control's name
+  QString value;    ///< Control: what to put into it
+  int number = 0;   ///< PagesPerSheet
+  QString text;     ///< as it was given, for failures
+};
+
+/// Reads an action. Usage failures name the action.
+Result<Action> parseAction(const QString &text);
+
+/// The failure of an action, as a Usage failure that names it.
+Failure actionFailure(const Action &action, const QString &why);
+
+}  // namespace orvek

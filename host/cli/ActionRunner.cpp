@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: Apache-2.0
+// Finds the control an action means, refuses what a user couldn't do, and acts through the vocabulary of
+// controls.
+
+#include "host/cli/ActionRunner.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QSlider>
+#include <optional>
+
+#include "platform/ui/Actions.h"
+#include "platform/ui/Controls.h"
+#include "platform/ui/PopUps.h"
+
+namespace orvek {
+namespace {
+
+/// A control and the panel that it belongs to.
+struct Target {
+  QWidget *control = nullptr;
+  QWidget *panelView = nullptr;
+};
+
+Target findTarget(const PrintSession &session, const QString &name) {
+  for (const auto &hosted : session.panels()) {
+    if (hosted->inspection() == nullptr) continue;
+    for (const auto &[controlName, control] : hosted->inspection()->inspectedControls()) {
+      if (controlName == name && control != nullptr) return {control, hosted->view()};
+    }
+  }
+  return {};
+}
+
+bool isHiddenWithin(const QWidget *control, const QWidget *panelView) {
+  for (const QWidget *view = control; view != nullptr; view = view->parentWidget()) {
+    if (isHidden(view)) return true;
+    if (view == panelView) break;
+  }
+  return false;
+}
+
+Status checkReachable(const Action &action, const Target &target) {
+  if (target.control == nullptr) {
+    return actionFailure(action, QStringLiteral("the panel has no control of this name"));
+  }
+  if (isHiddenWithin(target.control, target.panelView)) {
+    return actionFailure(action, QStringLiteral("the control is hidden"));
+  }
+  if (!target.control->isEnabled()) {
+    return actionFailure(action, QStringLiteral("the control is disabled"));
+  }
+  return {};
+}
+
+std::optional<int> integerIn(const QString &text) {
+  bool isNumber = false;
+  const int number = text.toInt(&isNumber);
+  return isNumber ? std::optional<int>(number) : std::nullopt;
+}
+
+int findItem(const QComboBox *popUp, const QString &text) {
+  for (int i = 0; i < numberOfItems(popUp); ++i) {
+    if (itemIdentifier(popUp, i) == text) return i;
+  }
+  for (int i = 0; i < numberOfItems(popUp); ++i) {
+    if (itemTitle(popUp, i) == text) return i;
+  }
+  return noItem;
+}
+
+Status pickItem(const Action &action, QComboBox *popUp) {
+  int index = noItem;
+  if (action.value.startsWith(QLatin1Char('#'))) {
+    const std::optional<int> given = integerIn(action.value.mid(1));
+    if (!given) return actionFailure(action, QStringLiteral("\"#\" must be followed by an integer"));
+    index = *given;
+  } else {
+    index = findItem(popUp, action.value);
+  }
+  if (index < 0 || index >= numberOfItems(popUp)) {
+    return actionFailure(action, QStringLiteral("the menu has no such item"));
+  }
+  if (!isItemEnabled(popUp, index)) {
+    return actionFailure(action, QStringLiteral("the item is disabled"));
+  }
+  selectItemAtIndex(popUp, index);
+  sendAction(popUp);
+  return {};
+}
+
+Status clickBox(const Action &action, QCheckBox *box) {
+  int wanted = stateOff;
+  if (action.value == QLatin1String("on")) {
+    wanted = stateOn;
+  } else if (action.value == QLatin1String("mixed")) {
+    wanted = stateMixed;
+  } else if (action.value != QLatin1String("off")) {
+    return actionFailure(action, QStringLiteral("a check box takes on, off or mixed"));
+  }
+  setState(box, wanted);
+  sendAction(box);
+  return {};
+}
+
+Status moveSlider(const Action &action, QSlider *slider) {
+  const std::optional<int> value = integerIn(action.value);
+  if (!value) return actionFailure(action, QStringLiteral("a slider takes an integer"));
+  setIntValue(slider, *value);
+  sendAction(slider);
+  return {};
+}
+
+Status typeText(const Action &action, QLineEdit *field) {
+  if (field->isReadOnly()) {
+    return actionFailure(action, QStringLiteral("the text can't be edited"));
+  }
+  setStringValue(field, action.value);
+  notifyTextDidChange(field);
+  return {};
+}
+
+Status actOn(const Action &action, QWidget *control) {
+  if (auto *popUp = qobject_cast<QComboBox *>(control)) return pickItem(action, popUp);
+  if (auto *box = qobject_cast<QCheckBox *>(control)) return clickBox(action, box);
+  if (auto *slider = qobject_cast<QSlider *>(control)) return moveSlider(action, slider);
+  if (auto *field = qobject_cast<QLineEdit *>(control)) return typeText(action, field);
+  return actionFailure(action, QStringLiteral("not a control that a user can change"));
+}
+
+Status useControl(PrintSession &session, const Action &action) {
+  const Target target = findTarget(session, action.control);
+  if (Status reachable = checkReachable(action, target); !reachable) return reachable;
+  Status done;
+  session.perform([&] { done = actOn(action, target.control); });
+  return done;
+}
+
+void callPanels(PrintSession &session, Action::Kind call) {
+  session.perform([&] {
+    for (const auto &hosted : session.panels()) {
+      if (call == Action::Kind::View) hosted->loadView();
+      if (call == Action::Kind::Restore) hosted->panel().restoreValuesAndReturnError(nullptr);
+      if (call == Action::Kind::Save) hosted->panel().saveValuesAndReturnError(nullptr);
+      if (call == Action::Kind::WillShow) hosted->panel().willShow();
+    }
+  });
+}
+
+}  // namespace
+
+Status runAction(PrintSession &session, const Action &action) {
+  switch (action.kind) {
+    case Action::Kind::Control:
+      return useControl(session, action);
+    case Action::Kind::PagesPerSheet:
+      session.setPagesPerSheet(action.number);
+      return {};
+    case Action::Kind::Reopen:
+      session.reopenPanels();
+      return {};
+    default:
+      callPanels(session, action.kind);
+      return {};
+  }
+}
+
+}  // namespace orvek

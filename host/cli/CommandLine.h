@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: Apache-2.0
+// The command line of orvek-print as data. Reads words only; opens nothing.
+#pragma once
+
+#include <QByteArrayList>
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+#include "host/cli/Action.h"
+#include "host/session/Marks.h"
+#include "platform/system/Result.h"
+
+namespace orvek {
+
+/// Everything a command line may say. A null text was not given.
+struct CommandLine {
+  // As in lp
+  QString destination;            ///< -d DEST[/INSTANCE]
+  int copies = 0;                 ///< -n; 0: not given
+  QList<OptionChoice> options;    ///< -o, in order; an option without value has "true"
+  QString pageRanges;             ///< -P
+  QString title;                  ///< -t
+  QString server;                 ///< -h HOST[:PORT]
+  QString user;                   ///< -U
+  std::optional<int> priority;    ///< -q, 1 to 100
+  bool silent = false;            ///< -s
+  QStringList files;              ///< documents; "-" is the standard input, which is also meant by none
+
+  // What the session begins with
+  QString ppd;
+  QStringList plugins;
+  QString ticket;
+  QString preset;
+  QList<OptionChoice> marks;
+  bool resize = true;             ///< false: --no-resize
+
+  // What is done with it
+  bool headless = false;
+  QList<Action> actions;          ///< --do, in order
+  bool inspect = false;
+  bool summary = false;
+  QString screenshot;
+  QString ticketOut;
+  QString output;
+  bool print = false;
+  QString savePreset;
+  QString deletePreset;
+  bool listPrinters = false;
+  bool listPresets = false;
+  bool help = false;
+  bool version = false;
+};
+
+/// Reads the words after the program's name. Options may be clustered and stand anywhere ("-n2",
+/// "--ppd=FILE"); "--" ends them. Usage failures name the option.
+Result<CommandLine> parseCommandLine(const QByteArrayList &words);
+
+}  // namespace orvek

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: Apache-2.0
+// The order of a headless run.
+
+#include "host/cli/Headless.h"
+
+#include <QJsonDocument>
+
+#include "host/cli/ActionRunner.h"
+#include "host/cli/Console.h"
+#include "host/cli/Inspection.h"
+#include "host/cli/PrintJob.h"
+#include "host/cli/Screenshot.h"
+#include "host/cli/SessionStart.h"
+
+namespace orvek {
+namespace {
+
+Status runActions(const CommandLine &line, PrintSession &session) {
+  for (const Action &action : line.actions) {
+    if (Status done = runAction(session, action); !done) return done;
+  }
+  return {};
+}
+
+void savePanels(PrintSession &session) {
+  session.perform([&] {
+    for (const auto &hosted : session.panels()) {
+      hosted->panel().saveValuesAndReturnError(nullptr);
+    }
+  });
+}
+
+Status writeFiles(const CommandLine &line, const PrintSession &session) {
+  if (!line.ticketOut.isNull()) {
+    if (Status written = writeTicket(line.ticketOut, session.ticket().values()); !written) {
+      return written;
+    }
+  }
+  return line.screenshot.isNull() ? Status() : writeScreenshot(session, line.screenshot);
+}
+
+QByteArray summaryText(const PrintSession &session) {
+  QString text;
+  for (const auto &[title, value] : session.summary()) {
+    text += title + QStringLiteral(": ") + value + QLatin1Char('\n');
+  }
+  return text.toUtf8();
+}
+
+Status printState(const CommandLine &line, const PrintSession &session) {
+  QByteArray text;
+  if (line.inspect) text += QJsonDocument(inspect(session)).toJson(QJsonDocument::Indented);
+  if (line.summary) text += summaryText(session);
+  return text.isEmpty() ? Status() : writeToStandardOutput(text);
+}
+
+}  // namespace
+
+Status runHeadless(const CommandLine &line) {
+  Result<std::unique_ptr<PrintSession>> started = startSession(line);
+  if (!started) return started.failure();
+  PrintSession &session = *started.value();
+  if (Status done = runActions(line, session); !done) return done;
+  savePanels(session);
+  for (const QString &sentence : session.notices()) tell(sentence);
+  if (Status written = writeFiles(line, session); !written) return written;
+  if (Status printed = printAsAsked(line, session); !printed) return printed;
+  return printState(line, session);
+}
+
+}  // namespace orvek

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: Apache-2.0
+// Gathers what a session begins with.
+
+#include "host/cli/SessionStart.h"
+
+#include "host/cli/Console.h"
+#include "host/session/PluginFinder.h"
+
+namespace orvek {
+namespace {
+
+const QString pagesPerSheetOption = QStringLiteral("number-up");
+
+Status gatherPrinter(const CommandLine &line, SessionSetup *setup) {
+  if (line.ppd.isNull()) {
+    return Failure{FailureKind::Io, QStringLiteral("print queues"),
+                   QStringLiteral("not available in this build, name a PPD file with --ppd")};
+  }
+  Result<std::shared_ptr<PrinterDescription>> printer = PrinterDescription::open(line.ppd);
+  if (!printer) return printer.failure();
+  setup->printer = printer.take();
+  return {};
+}
+
+Status gatherTicket(const CommandLine &line, SessionSetup *setup) {
+  if (line.ticket.isNull()) return {};
+  Result<TicketValues> ticket = readTicket(line.ticket);
+  if (!ticket) return ticket.failure();
+  setup->ticket = ticket.take();
+  return {};
+}
+
+Status applyPagesPerSheet(const OptionChoice &option, PrintSession &session) {
+  bool isNumber = false;
+  const int pages = option.choice.toInt(&isNumber);
+  if (!isNumber || pages < 1) {
+    return Failure{FailureKind::Usage, QStringLiteral("-o %1=%2").arg(option.option, option.choice),
+                   QStringLiteral("the number of pages per sheet must be a positive integer")};
+  }
+  session.setPagesPerSheet(pages == 1 ? 0 : pages);
+  return {};
+}
+
+// An option of the printer is a pick like any other; what else a job may say goes into the ticket, where
+// panels and job find it.
+Status applyOption(const OptionChoice &option, PrintSession &session) {
+  if (option.option == pagesPerSheetOption) return applyPagesPerSheet(option, session);
+  const QByteArray keyword = option.option.toUtf8();
+  if (ppdFindOption(session.marks().ppd(), keyword.constData()) == nullptr) {
+    session.ticket().setValue(option.option, option.choice);
+    return {};
+  }
+  if (!session.marks().spelled(option.option, option.choice)) {
+    return Failure{FailureKind::Usage, QStringLiteral("-o %1=%2").arg(option.option, option.choice),
+                   QStringLiteral("the PPD's option %1 has no such choice").arg(option.option)};
+  }
+  session.pick(option.option, option.choice);
+  return {};
+}
+
+Status applyOptions(const CommandLine &line, PrintSession &session) {
+  for (const OptionChoice &option : line.options) {
+    if (Status applied = applyOption(option, session); !applied) return applied;
+  }
+  return {};
+}
+
+void addInstalledPlugins(PrintSession &session) {
+  const PluginHarvest harvest = loadPlugins(findPluginBundles(PluginPlaces::ofThisProgram()));
+  for (const Failure &failure : harvest.failures) report(failure);
+  for (const auto &plugin : harvest.plugins) session.addPlugin(plugin);
+}
+
+Status addPlugins(const CommandLine &line, PrintSession &session) {
+  if (line.plugins.isEmpty()) addInstalledPlugins(session);
+  for (const QString &path : line.plugins) {
+    Result<LoadedPlugin> plugin = loadPlugin(path);
+    if (!plugin) return plugin.failure();
+    session.addPlugin(std::make_shared<LoadedPlugin>(plugin.take()));
+  }
+  return {};
+}
+
+}  // namespace
+
+Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line) {
+  SessionSetup setup;
+  if (const Status gathered = gatherPrinter(line, &setup); !gathered) return gathered.failure();
+  if (const Status gathered = gatherTicket(line, &setup); !gathered) return gathered.failure();
+  setup.marks = line.marks;
+  setup.panelsMayResize = line.resize;
+  Result<std::unique_ptr<PrintSession>> begun = PrintSession::begin(std::move(setup));
+  if (!begun) return begun;
+  std::unique_ptr<PrintSession> session = begun.take();
+  if (const Status applied = applyOptions(line, *session); !applied) return applied.failure();
+  if (const Status added = addPlugins(line, *session); !added) return added.failure();
+  session->openPanels();
+  return session;
+}
+
+}  // namespace orvek

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: Apache-2.0
+// orvek-print: reads the command line, decides whether a window is wanted, and runs.
+
+#include <QApplication>
+
+#include "host/cli/CommandLine.h"
+#include "host/cli/Console.h"
+#include "host/cli/Headless.h"
+#include "host/cli/Help.h"
+#include "platform/system/MainBundle.h"
+
+namespace {
+
+using namespace orvek;
+
+constexpr const char *programName = "orvek-print";
+
+// Neither may need a display.
+bool needsNoWindow(const CommandLine &line) {
+  return line.headless || line.listPrinters || line.listPresets || !line.deletePreset.isNull();
+}
+
+Status run(const CommandLine &line) {
+  if (line.listPrinters || line.listPresets || !line.deletePreset.isNull() ||
+      !line.savePreset.isNull() || !line.preset.isNull()) {
+    return Failure{FailureKind::Io, QStringLiteral("presets and printer lists"),
+                   QStringLiteral("not available in this build")};
+  }
+  if (line.headless) return runHeadless(line);
+  return Failure{FailureKind::Io, QStringLiteral("window"),
+                 QStringLiteral("not available in this build, use --headless")};
+}
+
+int start(const CommandLine &line, char **argv) {
+  if (needsNoWindow(line)) qputenv("QT_QPA_PLATFORM", "offscreen");
+  // The options are the program's own; the toolkit must not look for its among them.
+  int toolkitArgc = 1;
+  char *toolkitArgv[] = {argv[0], nullptr};
+  QApplication application(toolkitArgc, toolkitArgv);
+  QApplication::setApplicationName(QLatin1String(programName));
+  setMainBundleInfo(
+      QJsonObject{{QLatin1String(kCFBundleExecutableKey), QLatin1String(programName)}});
+  const Status done = run(line);
+  return done ? 0 : report(done.failure());
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+  QByteArrayList words;
+  for (int i = 1; i < argc; ++i) words << argv[i];
+  const Result<CommandLine> line = parseCommandLine(words);
+  if (!line) return report(line.failure());
+  if (line.value().help || line.value().version) {
+    const Status shown = writeToStandardOutput(line.value().help ? helpText() : versionText());
+    return shown ? 0 : report(shown.failure());
+  }
+  return start(line.value(), argv);
+}

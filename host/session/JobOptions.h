@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: Apache-2.0
+// What a job must say of itself so that it prints as the dialog showed it. A pure function of its
+// arguments.
+#pragma once
+
+#include <QList>
+#include <QMap>
+#include <QString>
+
+#include "host/session/Marks.h"
+#include "host/session/TicketFile.h"
+
+namespace orvek {
+
+/// Option or key to text: every marked choice that differs from the PPD's default or from what the queue
+/// would take by itself, every ticket key (an option's key with its marked choice), and "number-up"
+/// where several pages go on a sheet.
+QMap<QString, QString> jobOptionsFor(const Marks &marks, const QList<OptionChoice> &queueOptions,
+                                     const TicketValues &ticket, int pagesPerSheet);
+
+}  // namespace orvek

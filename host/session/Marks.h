@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: Apache-2.0
+// Which choice of each PPD option is marked: marking, asking, remembering and going back.
+// Touches the marks of a borrowed PPD and nothing else.
+#pragma once
+
+#include <QList>
+#include <QMap>
+#include <QString>
+#include <optional>
+
+#include "platform/printing/PPD.h"
+
+namespace orvek {
+
+/// A PPD option's main keyword and the keyword of one of its choices (null: none).
+struct OptionChoice {
+  QString option;
+  QString choice;
+
+  bool operator==(const OptionChoice &) const = default;
+};
+
+/// All marks of a PPD at one moment, in the PPD's order; an option without mark has a null choice.
+using MarksSnapshot = QList<OptionChoice>;
+
+/// The marks of one PPD. Keywords are compared without regard to case and handed out as the PPD spells
+/// them; a custom value ("Custom.200x300") as it was given.
+class Marks {
+ public:
+  /// Borrows the PPD, which must outlive this object.
+  explicit Marks(ppd_file_t *ppd) : m_ppd(ppd) {}
+
+  ppd_file_t *ppd() const { return m_ppd; }
+
+  void markDefaults();
+
+  /// The option and choice as the PPD spells them; nothing where the PPD lacks either, or for an
+  /// empty choice.
+  std::optional<OptionChoice> spelled(const QString &option, const QString &choice) const;
+
+  /// Marks without a look at constraints. False, and nothing marked, where spelled() gives nothing.
+  bool mark(const QString &option, const QString &choice);
+
+  /// The marked choice; null where the option is missing or has none.
+  QString marked(const QString &option) const;
+
+  /// Every option that has a marked choice, in the PPD's order.
+  QList<OptionChoice> all() const;
+
+  /// Every option that takes part in a constraint now violated, installed equipment included, with its
+  /// marked choice.
+  QList<OptionChoice> conflicts() const;
+
+  /// Every marked choice that is not the option's default in the PPD.
+  QList<OptionChoice> differingFromDefaults() const;
+
+  MarksSnapshot snapshot() const;
+  void restore(const MarksSnapshot &snapshot);
+
+ private:
+  QString choiceName(const ppd_choice_t *choice) const;
+  void unmark(const QString &option);
+
+  ppd_file_t *m_ppd;
+  QMap<QString, QString> m_customValues;  // option to what its "Custom" choice stands for
+};
+
+}  // namespace orvek

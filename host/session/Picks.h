@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: Apache-2.0
+// Picks with all that they bring: marks, constraints, the ticket's record, and the step back.
+// The one place where a choice gets marked and recorded.
+#pragma once
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <memory>
+#include <optional>
+
+#include "host/session/Constraints.h"
+#include "host/session/Marks.h"
+#include "platform/printing/PrintSettings.h"
+
+namespace orvek {
+
+/// Works on the marks of a borrowed PPD (may be null: no choice is known then) and on a ticket.
+class Picks {
+ public:
+  Picks(ppd_file_t *ppd, std::shared_ptr<Ticket> ticket);
+
+  Marks &marks() { return m_marks; }
+  const Marks &marks() const { return m_marks; }
+  Ticket &ticket() const { return *m_ticket; }
+
+  /// Marks the choice, resolves its conflicts, and records it and whatever gave way in the ticket, each
+  /// under its option's keyword. An undone pick leaves marks and ticket as they were. Nothing where the
+  /// choice is empty or the PPD lacks it: nothing is marked or recorded then.
+  std::optional<Resolution> pick(const QString &option, const QString &choice);
+
+  /// What is picked from here on belongs to another step.
+  void beginStep();
+
+  /// Whether the last step that changed something can be taken back.
+  bool canUndo() const { return m_step.has_value(); }
+
+  /// Takes the last step back, marks and ticket: the options concerned. Empty: nothing to take back.
+  QStringList undo();
+
+ private:
+  struct Step {
+    MarksSnapshot marks;
+    QMap<QString, QVariant> ticket;  // values before; invalid: the key was absent
+  };
+
+  void record(const OptionChoice &choice, Step *step);
+  void keep(Step step);
+
+  Marks m_marks;
+  std::shared_ptr<Ticket> m_ticket;
+  std::optional<Step> m_step;
+  bool m_stepIsOpen = false;
+};
+
+}  // namespace orvek

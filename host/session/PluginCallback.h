@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: Apache-2.0
+// The callback objects that panels are given: what a panel may ask of the session, and what it tells.
+#pragma once
+
+#include <memory>
+
+#include "platform/plugin/PDEPluginCallback.h"
+
+namespace orvek {
+
+/// What callback objects pass on to. Implemented by the session.
+class PanelListener {
+ public:
+  virtual ~PanelListener();
+
+  /// A panel announced a choice (empty or null: none). True where it was marked.
+  virtual bool choiceAnnounced(const QString &option, const QString &choice) = 0;
+
+  /// A panel's root view has changed its size.
+  virtual void panelResized() = 0;
+};
+
+/// What the session lends to panels through a callback object; each may be null.
+struct PanelLoan {
+  ppd_file_t *ppd = nullptr;
+  PMPrintSession session = nullptr;
+  std::shared_ptr<Ticket> ticket;
+};
+
+/// The callback object of a host that does not let panels change their size.
+class PluginCallback : public PDEPluginCallback {
+ public:
+  /// Makes one; `resizing` decides whether it answers panelViewDidResize.
+  static std::shared_ptr<PluginCallback> make(PanelListener *listener, PanelLoan loan, bool resizing);
+
+  PluginCallback(PanelListener *listener, PanelLoan loan);
+
+  /// The session ends before the last panel has let go: from now on there is nothing to ask or tell.
+  void detach();
+
+  ppd_file_t *ppdFile() override { return m_loan.ppd; }
+  PMPrintSession printSession() override { return m_loan.session; }
+  PMPrintSettings printSettings() override { return m_settings.get(); }
+  bool willChangePPDOptionKeyValue_ppdChoice(const QString &key, const QString &choice) override;
+
+ protected:
+  PanelListener *m_listener;
+
+ private:
+  PanelLoan m_loan;
+  std::unique_ptr<PrintSettings> m_settings;  // this plug-in's own writer
+};
+
+/// The callback object of a host that makes room for panels as they grow and shrink.
+class ResizingPluginCallback final : public PluginCallback, public PDEPanelResizeObserver {
+ public:
+  using PluginCallback::PluginCallback;
+  void panelViewDidResize() override;
+};
+
+}  // namespace orvek

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: Apache-2.0
+// Where plug-in bundles are looked for. Never in the current folder: whoever can write there could
+// otherwise run code in a print dialog.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace orvek {
+
+/// The folders and environment that decide where bundles are found.
+struct PluginPlaces {
+  QString programFolder;    ///< absolute: the folder of the running program
+  QString environmentPath;  ///< the value of ORVEK_PRINT_PLUGIN_PATH: folders separated by ":"
+
+  /// Those of the running program.
+  static PluginPlaces ofThisProgram();
+};
+
+/// Absolute paths of the bundles in the folders of the environment's path, then in the installed folder,
+/// each folder's in alphabetical order; without any, the one in the build tree that the program lies in.
+/// A folder of the path may be a bundle itself; a relative one is passed over.
+QStringList findPluginBundles(const PluginPlaces &places);
+
+}  // namespace orvek

@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: Apache-2.0
+// The session's setting up, its actions and what they lead to.
+
+#include "host/session/PrintSession.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "host/session/JobOptions.h"
+#include "host/session/Wording.h"
+#include "platform/system/Log.h"
+
+namespace orvek {
+namespace {
+
+// The host's own layout control and the panels meet at this key.
+const QString layoutKey = QStringLiteral("com.apple.print.PrintSettings.PMLayoutNUp");
+
+Failure unknownMark(const Marks &marks, const OptionChoice &mark) {
+  const QString what = QStringLiteral("--mark %1=%2").arg(mark.option, mark.choice);
+  const bool optionIsKnown =
+      ppdFindOption(marks.ppd(), mark.option.toUtf8().constData()) != nullptr;
+  return {FailureKind::Usage, what,
+          optionIsKnown ? QStringLiteral("the PPD's option %1 has no such choice").arg(mark.option)
+                        : QStringLiteral("the PPD has no such option")};
+}
+
+}  // namespace
+
+Result<std::unique_ptr<PrintSession>> PrintSession::begin(SessionSetup setup) {
+  std::unique_ptr<PrintSession> session(new PrintSession(setup));
+  if (const Status marked = session->markAll(setup); !marked) return marked.failure();
+  return session;
+}
+
+PrintSession::PrintSession(const SessionSetup &setup)
+    : m_printer(setup.printer),
+      m_ticket(std::make_shared<Ticket>()),
+      m_picks(m_printer ? m_printer->ppd() : nullptr, m_ticket),
+      m_queueOptions(setup.queueOptions),
+      m_panelsMayResize(setup.panelsMayResize) {
+  setLogListener([this](const QString &line) { m_log << line; });
+  for (auto entry = setup.ticket.begin(); entry != setup.ticket.end(); ++entry) {
+    m_ticket->setValue(entry.key(), entry.value());
+  }
+  m_ticket->setChangeListener([this](const QString &) { endSoon(); });
+}
+
+PrintSession::~PrintSession() {
+  m_ticket->setChangeListener({});
+  closePanels();
+  m_plugins.clear();
+  setLogListener({});
+}
+
+Status PrintSession::markAll(const SessionSetup &setup) {
+  Marks &marks = m_picks.marks();
+  marks.markDefaults();
+  for (const OptionChoice &option : setup.queueOptions) marks.mark(option.option, option.choice);
+  const TicketValues values = m_ticket->values();
+  for (auto entry = values.begin(); entry != values.end(); ++entry) {
+    marks.mark(entry.key(), textReading(entry.value()));
+  }
+  for (const OptionChoice &mark : setup.marks) {
+    if (!marks.mark(mark.option, mark.choice)) return unknownMark(marks, mark);
+  }
+  return {};
+}
+
+void PrintSession::addPlugin(std::shared_ptr<LoadedPlugin> plugin) {
+  m_plugins.push_back(std::move(plugin));
+}
+
+void PrintSession::openPanels() {
+  perform([this] { makePanels(); });
+}
+
+void PrintSession::reopenPanels() {
+  perform([this] {
+    closePanels();
+    makePanels();
+  });
+}
+
+void PrintSession::makePanels() {
+  const QVariant type(QString::fromLatin1(printDialogPanelType));
+  for (const auto &plugin : m_plugins) {
+    const PanelLoan loan{m_picks.marks().ppd(), &m_handle, m_ticket};
+    m_callbacks.push_back(PluginCallback::make(this, loan, m_panelsMayResize));
+    for (const auto &panel :
+         plugin->factory->PDEPanelsForType_withHostInfo(type, m_callbacks.back())) {
+      if (!panel) continue;
+      HostedPanel &hosted = *m_panels.emplace_back(std::make_unique<HostedPanel>(panel));
+      hosted.open();
+      hosted.panel().restoreValuesAndReturnError(nullptr);
+      hosted.panel().willShow();
+    }
+  }
+}
+
+void PrintSession::closePanels() {
+  m_panels.clear();
+  for (const auto &callback : m_callbacks) callback->detach();
+  m_callbacks.clear();
+}
+
+void PrintSession::perform(const std::function<void()> &action) {
+  if (m_actionDepth == 0) {
+    // An act of the window that still waits for its end is over by now.
+    if (m_endIsPending) endAction();
+    m_picks.beginStep();
+  }
+  ++m_actionDepth;
+  action();
+  if (--m_actionDepth == 0) endAction();
+}
+
+bool PrintSession::pick(const QString &option, const QString &choice) {
+  bool marked = false;
+  perform([&] {
+    marked = apply(option, choice);
+    if (marked) m_changedOptions << option;
+  });
+  return marked;
+}
+
+void PrintSession::setPagesPerSheet(int pages) {
+  perform([&] { m_ticket->setValue(layoutKey, pages); });
+}
+
+int PrintSession::pagesPerSheet() const {
+  return integerReading(m_ticket->value(layoutKey));
+}
+
+void PrintSession::undo() {
+  perform([this] { m_changedOptions << m_picks.undo(); });
+}
+
+QList<QPair<QString, QString>> PrintSession::summary() const {
+  QList<QPair<QString, QString>> lines;
+  for (const auto &hosted : m_panels) {
+    const QMap<QString, QString> info = hosted->panel().summaryInfo();
+    for (auto line = info.begin(); line != info.end(); ++line) {
+      lines.append({line.key(), line.value()});
+    }
+  }
+  return lines;
+}
+
+QMap<QString, QString> PrintSession::jobOptions() const {
+  return jobOptionsFor(marks(), m_queueOptions, m_ticket->values(), pagesPerSheet());
+}
+
+bool PrintSession::choiceAnnounced(const QString &option, const QString &choice) {
+  m_announced.append({option, choice.isEmpty() ? QString() : choice});
+  return apply(option, choice);
+}
+
+void PrintSession::panelResized() {
+  ++m_resizeCount;
+  for (const auto &hosted : m_panels) {
+    if (hosted->container() != nullptr) hosted->container()->makeRoom();
+  }
+  Q_EMIT panelViewResized();
+}
+
+bool PrintSession::apply(const QString &option, const QString &choice) {
+  endSoon();
+  const std::optional<Resolution> resolution = m_picks.pick(option, choice);
+  if (!resolution) return false;
+  if (!resolution->marked) m_changedOptions << resolution->pick.option;
+  for (const ChoiceChange &change : resolution->changes) m_changedOptions << change.option;
+  notice(*resolution);
+  return resolution->marked;
+}
+
+void PrintSession::notice(const Resolution &resolution) {
+  QStringList words = wordsFor(m_picks.marks().ppd(), resolution);
+  // A restore may run into the same refusal again; it was said.
+  words.removeIf([this](const QString &sentence) { return m_actionNotices.contains(sentence); });
+  if (words.isEmpty()) return;
+  m_actionNotices << words;
+  m_notices << words;
+  Q_EMIT noticed(words);
+}
+
+// A user's act on a control of the window begins without anyone telling the session, and has ended when
+// control is back at the event loop.
+void PrintSession::endSoon() {
+  if (m_actionDepth > 0 || m_endIsPending) return;
+  m_endIsPending = true;
+  m_picks.beginStep();
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        if (m_endIsPending) endAction();
+      },
+      Qt::QueuedConnection);
+}
+
+void PrintSession::endAction() {
+  settle();
+  m_endIsPending = false;
+  m_actionNotices.clear();
+  Q_EMIT changed();
+}
+
+void PrintSession::settle() {
+  const QStringList changedOptions = std::exchange(m_changedOptions, {});
+  if (changedOptions.isEmpty()) return;
+  // Counts as part of the action: what panels announce now belongs to its step.
+  ++m_actionDepth;
+  for (const auto &hosted : m_panels) {
+    if (hosted->claimsAny(changedOptions)) hosted->panel().restoreValuesAndReturnError(nullptr);
+  }
+  --m_actionDepth;
+  // Once is enough: a panel that was told twice would be told for ever.
+  m_changedOptions.clear();
+}
+
+}  // namespace orvek

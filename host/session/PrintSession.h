@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: Apache-2.0
+// One printing session: a printer's marks, the job's ticket, the plug-ins' panels, and the rules between
+// them. Window, headless run and command line are views over it and have no rules of their own.
+//
+//   1. Setting up            begin, addPlugin, openPanels, reopenPanels
+//   2. What the user does    perform, pick, setPagesPerSheet, undo
+//   3. What can be seen      marks, ticket, panels, conflicts, summary, jobOptions
+//   4. What has been heard   announced, resizeCount, log, notices
+#pragma once
+
+#include <QList>
+#include <QMap>
+#include <QObject>
+#include <QPair>
+#include <QStringList>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "host/session/HostedPanel.h"
+#include "host/session/Picks.h"
+#include "host/session/PluginCallback.h"
+#include "host/session/PluginLoader.h"
+#include "host/session/PrinterDescription.h"
+#include "host/session/TicketFile.h"
+#include "platform/printing/PrintSession.h"
+
+namespace orvek {
+
+/// What a session begins with.
+struct SessionSetup {
+  std::shared_ptr<PrinterDescription> printer;  ///< null: a printer without PPD
+  TicketValues ticket;
+  QList<OptionChoice> queueOptions;  ///< the queue's and the user's; what the PPD lacks is passed over
+  QList<OptionChoice> marks;         ///< equipment, an earlier job: marked last, the ticket left alone
+  bool panelsMayResize = true;
+};
+
+class PrintSession final : public QObject, private PanelListener {
+  Q_OBJECT
+
+ public:
+  /// Marks the PPD: its defaults, the queue's options, the ticket's choices, then the given marks. A
+  /// given mark that the PPD lacks is a Usage failure.
+  static Result<std::unique_ptr<PrintSession>> begin(SessionSetup setup);
+  ~PrintSession() override;
+
+  /// Plug-ins give panels in the order in which they were added.
+  void addPlugin(std::shared_ptr<LoadedPlugin> plugin);
+
+  /// Makes the panels, loads their views, has them restore and tells them that they are about to show.
+  void openPanels();
+
+  /// Lets all panels go and makes them again on the same PPD and ticket.
+  void reopenPanels();
+
+  /// Runs something that the user or the host does. Afterwards, panels whose options were changed by
+  /// constraints on the way restore once. Picks made on the way are taken back as one step.
+  void perform(const std::function<void()> &action);
+
+  /// Picks a choice as a panel's announcement does. False where the PPD lacks it or it was undone.
+  bool pick(const QString &option, const QString &choice);
+
+  /// Writes the layout: pages on a sheet, 0 for one.
+  void setPagesPerSheet(int pages);
+  int pagesPerSheet() const;
+
+  /// Takes back the last step that changed something, and has the panels show it.
+  void undo();
+  bool canUndo() const { return m_picks.canUndo(); }
+
+  const std::shared_ptr<PrinterDescription> &printer() const { return m_printer; }
+  const Marks &marks() const { return m_picks.marks(); }
+  Ticket &ticket() const { return *m_ticket; }
+  const std::vector<std::unique_ptr<HostedPanel>> &panels() const { return m_panels; }
+
+  /// Title and value of each line of each panel's summary.
+  QList<QPair<QString, QString>> summary() const;
+
+  /// What a job must say: every marked choice that is not the PPD's default or not the queue's, every
+  /// ticket key, and the pages per sheet in the words of the print server.
+  QMap<QString, QString> jobOptions() const;
+
+  /// Every announced choice in order; null where it was empty.
+  const QList<QPair<QString, QString>> &announced() const { return m_announced; }
+  int resizeCount() const { return m_resizeCount; }
+
+  /// Every line of the general log since the session began, as it was given.
+  const QStringList &log() const { return m_log; }
+
+  /// What constraints did so far, in words.
+  const QStringList &notices() const { return m_notices; }
+
+ Q_SIGNALS:
+  /// Constraints changed or undid something; one sentence each.
+  void noticed(const QStringList &words);
+
+  /// Marks, ticket or summary may be others now. Comes once the running action has ended.
+  void changed();
+
+  /// A panel's view, and the container with it, has another size.
+  void panelViewResized();
+
+ private:
+  explicit PrintSession(const SessionSetup &setup);
+
+  bool choiceAnnounced(const QString &option, const QString &choice) override;
+  void panelResized() override;
+
+  Status markAll(const SessionSetup &setup);
+  void makePanels();
+  void closePanels();
+  bool apply(const QString &option, const QString &choice);
+  void notice(const Resolution &resolution);
+  void endSoon();
+  void endAction();
+  void settle();
+
+  // Panels borrow from all that stands before them here, and the PPD goes last.
+  std::shared_ptr<PrinterDescription> m_printer;
+  std::shared_ptr<Ticket> m_ticket;
+  PrintSessionHandle m_handle;
+  Picks m_picks;
+  QList<OptionChoice> m_queueOptions;
+  bool m_panelsMayResize;
+  std::vector<std::shared_ptr<LoadedPlugin>> m_plugins;
+  std::vector<std::shared_ptr<PluginCallback>> m_callbacks;
+  std::vector<std::unique_ptr<HostedPanel>> m_panels;
+
+  QList<QPair<QString, QString>> m_announced;
+  int m_resizeCount = 0;
+  QStringList m_log;
+  QStringList m_notices;
+
+  int m_actionDepth = 0;
+  bool m_endIsPending = false;
+  QStringList m_changedOptions;  // by constraints, since the running action began
+  QStringList m_actionNotices;
+};
+
+}  // namespace orvek

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: Apache-2.0
+// Tickets as files: one flat JSON object, key to text or integer. May touch the file system.
+#pragma once
+
+#include <QByteArray>
+#include <QJsonObject>
+#include <QMap>
+#include <QString>
+#include <QVariant>
+
+#include "platform/system/Result.h"
+
+namespace orvek {
+
+/// A ticket's content: text (QString) or integer (qint64) by key.
+using TicketValues = QMap<QString, QVariant>;
+
+/// Reads a ticket. Failures: Io where the file can't be read; Invalid, with the line or the key, where it
+/// is no flat JSON object of text and integers. Integers beyond 64 bits become the nearest that fits.
+Result<TicketValues> readTicket(const QString &path);
+
+/// The same from bytes; `name` stands for the file in failures.
+Result<TicketValues> parseTicket(const QByteArray &json, const QString &name);
+
+/// Writes the ticket; the file is replaced as a whole or left as it was.
+Status writeTicket(const QString &path, const TicketValues &values);
+
+/// Integers stay integers, text stays text.
+QJsonObject ticketToJson(const TicketValues &values);
+
+}  // namespace orvek
