@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// Finds the control an action means, refuses what a user couldn't do, and acts through the vocabulary of
-// controls.
+// Finds the control an action means, refuses what a user couldn't do, and acts through the
+// vocabulary of controls.
 
 #include "host/cli/ActionRunner.h"
 
@@ -74,7 +74,8 @@ Status pickItem(const Action &action, QComboBox *popUp) {
   int index = noItem;
   if (action.value.startsWith(QLatin1Char('#'))) {
     const std::optional<int> given = integerIn(action.value.mid(1));
-    if (!given) return actionFailure(action, QStringLiteral("\"#\" must be followed by an integer"));
+    if (!given)
+      return actionFailure(action, QStringLiteral("\"#\" must be followed by an integer"));
     index = *given;
   } else {
     index = findItem(popUp, action.value);

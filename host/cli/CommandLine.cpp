@@ -27,10 +27,11 @@ GetoptTables getoptTables() {
   for (int i = 0; i < rows.size(); ++i) {
     const OptionRow &row = rows[i];
     const bool takesValue = row.valueName != nullptr;
-    if (row.shortName != 0) tables.letters += QByteArray(1, row.shortName) + (takesValue ? ":" : "");
+    if (row.shortName != 0)
+      tables.letters += QByteArray(1, row.shortName) + (takesValue ? ":" : "");
     if (row.longName == nullptr) continue;
-    tables.names.push_back({row.longName, takesValue ? required_argument : no_argument, nullptr,
-                            firstLongValue + i});
+    tables.names.push_back(
+        {row.longName, takesValue ? required_argument : no_argument, nullptr, firstLongValue + i});
   }
   tables.names.push_back({nullptr, 0, nullptr, 0});
   return tables;
@@ -61,9 +62,10 @@ Failure unusable(int result, const QString &word) {
     const QString name = optopt == 0 ? word : QLatin1Char('-') + QString(QLatin1Char(char(optopt)));
     return usage(name, QStringLiteral("unknown option (see --help)"));
   }
-  return usage(nameOf(*row), result == ':'
-                                 ? QStringLiteral("needs a value: %1").arg(QLatin1String(row->valueName))
-                                 : QStringLiteral("takes no value"));
+  return usage(nameOf(*row),
+               result == ':'
+                   ? QStringLiteral("needs a value: %1").arg(QLatin1String(row->valueName))
+                   : QStringLiteral("takes no value"));
 }
 
 Status applyRow(const OptionRow &row, CommandLine *line) {

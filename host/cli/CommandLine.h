@@ -17,16 +17,16 @@ namespace orvek {
 /// Everything a command line may say. A null text was not given.
 struct CommandLine {
   // As in lp
-  QString destination;            ///< -d DEST[/INSTANCE]
-  int copies = 0;                 ///< -n; 0: not given
-  QList<OptionChoice> options;    ///< -o, in order; an option without value has "true"
-  QString pageRanges;             ///< -P
-  QString title;                  ///< -t
-  QString server;                 ///< -h HOST[:PORT]
-  QString user;                   ///< -U
-  std::optional<int> priority;    ///< -q, 1 to 100
-  bool silent = false;            ///< -s
-  QStringList files;              ///< documents; "-" is the standard input, which is also meant by none
+  QString destination;          ///< -d DEST[/INSTANCE]
+  int copies = 0;               ///< -n; 0: not given
+  QList<OptionChoice> options;  ///< -o, in order; an option without value has "true"
+  QString pageRanges;           ///< -P
+  QString title;                ///< -t
+  QString server;               ///< -h HOST[:PORT]
+  QString user;                 ///< -U
+  std::optional<int> priority;  ///< -q, 1 to 100
+  bool silent = false;          ///< -s
+  QStringList files;  ///< documents; "-" is the standard input, which is also meant by none
 
   // What the session begins with
   QString ppd;
@@ -34,11 +34,11 @@ struct CommandLine {
   QString ticket;
   QString preset;
   QList<OptionChoice> marks;
-  bool resize = true;             ///< false: --no-resize
+  bool resize = true;  ///< false: --no-resize
 
   // What is done with it
   bool headless = false;
-  QList<Action> actions;          ///< --do, in order
+  QList<Action> actions;  ///< --do, in order
   bool inspect = false;
   bool summary = false;
   QString screenshot;

@@ -12,7 +12,8 @@ namespace orvek {
 /// Writes to the standard output, all of it or a failure.
 Status writeToStandardOutput(const QByteArray &bytes);
 
-/// Reports a failure as exactly one line on the standard error and gives the exit status it stands for.
+/// Reports a failure as exactly one line on the standard error and gives the exit status it stands
+/// for.
 int report(const Failure &failure);
 
 /// Tells something that is no error, a line of its own.

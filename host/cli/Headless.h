@@ -7,7 +7,8 @@
 
 namespace orvek {
 
-/// Runs the whole command line without a window. Nothing is printed or written where an action is refused.
+/// Runs the whole command line without a window. Nothing is printed or written where an action is
+/// refused.
 Status runHeadless(const CommandLine &line);
 
 }  // namespace orvek

@@ -31,7 +31,8 @@ QByteArray helpText() {
     text += "  " + names(row).leftJustified(helpColumn) + ' ' + row.help + '\n';
   }
   return text +
-         "\nACTION is POPUP=#INDEX, POPUP=TEXT, CHECKBOX=on|off|mixed, SLIDER=INTEGER, FIELD=TEXT,\n"
+         "\nACTION is POPUP=#INDEX, POPUP=TEXT, CHECKBOX=on|off|mixed, SLIDER=INTEGER, "
+         "FIELD=TEXT,\n"
          "view, restore, save, willShow, nup=INTEGER or reopen.\n"
          "\nExit status: 0 done; 1 not printed, or a file could not be read or written; 2 wrong\n"
          "command line; 3 invalid PPD, ticket or plug-in.\n";

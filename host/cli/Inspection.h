@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// The state of a session as one JSON object, for those who script the dialog. Reads, changes nothing.
+// The state of a session as one JSON object, for those who script the dialog. Reads, changes
+// nothing.
 #pragma once
 
 #include <QJsonObject>
@@ -8,7 +9,8 @@
 
 namespace orvek {
 
-/// The session's first panel and the session itself; without a panel, null and empty what is the panel's.
+/// The session's first panel and the session itself; without a panel, null and empty what is the
+/// panel's.
 QJsonObject inspect(const PrintSession &session);
 
 }  // namespace orvek

@@ -33,7 +33,8 @@ Status setCopies(CommandLine &line, const QString &value) {
   bool isNumber = false;
   line.copies = value.toInt(&isNumber);
   if (isNumber && line.copies > 0) return {};
-  return wrong(QStringLiteral("the number of copies must be a positive integer, not \"%1\"").arg(value));
+  return wrong(
+      QStringLiteral("the number of copies must be a positive integer, not \"%1\"").arg(value));
 }
 
 Status setPriority(CommandLine &line, const QString &value) {
@@ -41,7 +42,8 @@ Status setPriority(CommandLine &line, const QString &value) {
   const int priority = value.toInt(&isNumber);
   line.priority = priority;
   if (isNumber && priority > 0 && priority <= highestPriority) return {};
-  return wrong(QStringLiteral("the priority must be an integer from 1 to 100, not \"%1\"").arg(value));
+  return wrong(
+      QStringLiteral("the priority must be an integer from 1 to 100, not \"%1\"").arg(value));
 }
 
 Status setPageRanges(CommandLine &line, const QString &value) {
@@ -92,7 +94,8 @@ QList<OptionRow> queueOptions() {
   return {
       {'d', nullptr, "DEST[/INSTANCE]", "print on this queue", keepText<&CommandLine::destination>},
       {'n', nullptr, "COPIES", "print so many copies", setCopies},
-      {'o', nullptr, "NAME[=VALUE]", "set an option of the printer or the job (repeats)", addOptions},
+      {'o', nullptr, "NAME[=VALUE]", "set an option of the printer or the job (repeats)",
+       addOptions},
       {'P', nullptr, "PAGE-RANGES", "print these pages only", setPageRanges},
       {'t', nullptr, "TITLE", "name the job", keepText<&CommandLine::title>},
       {'h', nullptr, "HOST[:PORT]", "use this print server", keepText<&CommandLine::server>},
@@ -122,11 +125,13 @@ QList<OptionRow> runOptions() {
       {0, "summary", nullptr, "print the summary", setFlag<&CommandLine::summary>},
       {0, "screenshot", "FILE", "write the dialog as a PNG", keepText<&CommandLine::screenshot>},
       {0, "ticket-out", "FILE", "write the ticket as JSON", keepText<&CommandLine::ticketOut>},
-      {0, "output", "FILE", "print into FILE, without a print server", keepText<&CommandLine::output>},
+      {0, "output", "FILE", "print into FILE, without a print server",
+       keepText<&CommandLine::output>},
       {0, "print", nullptr, "with --headless: submit the job", setFlag<&CommandLine::print>},
       {0, "list-printers", nullptr, "list the printers", setFlag<&CommandLine::listPrinters>},
       {0, "list-presets", nullptr, "list the saved presets", setFlag<&CommandLine::listPresets>},
-      {0, "save-preset", "NAME", "save the settings as a preset", keepText<&CommandLine::savePreset>},
+      {0, "save-preset", "NAME", "save the settings as a preset",
+       keepText<&CommandLine::savePreset>},
       {0, "delete-preset", "NAME", "delete a preset", keepText<&CommandLine::deletePreset>},
       {0, "help", nullptr, "show this help", setFlag<&CommandLine::help>},
       {0, "version", nullptr, "show the version", setFlag<&CommandLine::version>},

@@ -15,7 +15,8 @@ struct OptionRow {
   const char *longName;   ///< null: none
   const char *valueName;  ///< null: takes no value
   const char *help;
-  Status (*apply)(CommandLine &line, const QString &value);  ///< the failure's `what` is filled in later
+  Status (*apply)(CommandLine &line,
+                  const QString &value);  ///< the failure's `what` is filled in later
 };
 
 /// All options, in the order in which the help shows them.

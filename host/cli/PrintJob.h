@@ -8,11 +8,13 @@
 
 namespace orvek {
 
-/// What the job is to be: the documents and wishes of the command line, the session's printer and options.
+/// What the job is to be: the documents and wishes of the command line, the session's printer and
+/// options.
 JobRequest jobRequestFor(const CommandLine &line, const PrintSession &session);
 
-/// Prints where the command line asks for it: into --output's file, or on the queue with --print. Waits
-/// until the job has been taken. Success where it asks for neither; no document is touched then.
+/// Prints where the command line asks for it: into --output's file, or on the queue with --print.
+/// Waits until the job has been taken. Success where it asks for neither; no document is touched
+/// then.
 Status printAsAsked(const CommandLine &line, const PrintSession &session);
 
 }  // namespace orvek

@@ -23,7 +23,8 @@ QImage renderDialog(const PrintSession &session) {
 
 Status writeScreenshot(const PrintSession &session, const QString &path) {
   const QImage picture = renderDialog(session);
-  if (picture.isNull()) return notWritten(path, QStringLiteral("there is no panel to take a picture of"));
+  if (picture.isNull())
+    return notWritten(path, QStringLiteral("there is no panel to take a picture of"));
   QSaveFile file(path);
   if (file.open(QIODevice::WriteOnly) && picture.save(&file, "PNG") && file.commit()) return {};
   return notWritten(path, file.errorString());

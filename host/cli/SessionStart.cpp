@@ -41,8 +41,8 @@ Status applyPagesPerSheet(const OptionChoice &option, PrintSession &session) {
   return {};
 }
 
-// An option of the printer is a pick like any other; what else a job may say goes into the ticket, where
-// panels and job find it.
+// An option of the printer is a pick like any other; what else a job may say goes into the ticket,
+// where panels and job find it.
 Status applyOption(const OptionChoice &option, PrintSession &session) {
   if (option.option == pagesPerSheetOption) return applyPagesPerSheet(option, session);
   const QByteArray keyword = option.option.toUtf8();

@@ -9,8 +9,8 @@
 
 namespace orvek {
 
-/// Begins the session that the command line describes and opens its panels. Installed plug-ins that are
-/// broken are reported and left out; one that the command line names is a failure.
+/// Begins the session that the command line describes and opens its panels. Installed plug-ins that
+/// are broken are reported and left out; one that the command line names is a failure.
 Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line);
 
 }  // namespace orvek

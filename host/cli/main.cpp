@@ -7,6 +7,7 @@
 #include "host/cli/Console.h"
 #include "host/cli/Headless.h"
 #include "host/cli/Help.h"
+#include "host/cli/ToolkitMessages.h"
 #include "platform/system/MainBundle.h"
 
 namespace {
@@ -33,6 +34,7 @@ Status run(const CommandLine &line) {
 
 int start(const CommandLine &line, char **argv) {
   if (needsNoWindow(line)) qputenv("QT_QPA_PLATFORM", "offscreen");
+  shapeToolkitMessages();
   // The options are the program's own; the toolkit must not look for its among them.
   int toolkitArgc = 1;
   char *toolkitArgv[] = {argv[0], nullptr};

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// Who conflicts with whom: libcups tells which options conflict, not in which pairs. Reads the PPD's
-// constraints for their option names only; whether one is violated stays libcups' business.
+// Who conflicts with whom: libcups tells which options conflict, not in which pairs. Reads the
+// PPD's constraints for their option names only; whether one is violated stays libcups' business.
 #pragma once
 
 #include <QList>

@@ -44,9 +44,9 @@ QList<OptionChoice> conflictsOf(const Marks &marks, const OptionChoice &pick) {
 
 std::optional<QList<OptionChoice>> resolutionOf(const Marks &marks, const OptionChoice &pick) {
   CupsOptions changed;
-  const int resolved = cupsResolveConflicts(marks.ppd(), pick.option.toUtf8().constData(),
-                                            pick.choice.toUtf8().constData(), &changed.m_count,
-                                            &changed.m_options);
+  const int resolved =
+      cupsResolveConflicts(marks.ppd(), pick.option.toUtf8().constData(),
+                           pick.choice.toUtf8().constData(), &changed.m_count, &changed.m_options);
   if (resolved == 0) return std::nullopt;
   return changed.list();
 }

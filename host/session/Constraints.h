@@ -28,10 +28,11 @@ struct Resolution {
   QList<OptionChoice> incompatible;  ///< where undone: what the pick can't be combined with
 };
 
-/// Marks the pick (spelled as the PPD spells it) and resolves what it conflicts with, by either form of
-/// constraints. The pick never gives way, and neither does installed equipment: nobody installs a
-/// finisher by picking a staple. A pick whose own conflicts can't be resolved is undone. A conflict
-/// that was there before, has no part in the pick and can't be resolved, stays and hinders nothing.
+/// Marks the pick (spelled as the PPD spells it) and resolves what it conflicts with, by either
+/// form of constraints. The pick never gives way, and neither does installed equipment: nobody
+/// installs a finisher by picking a staple. A pick whose own conflicts can't be resolved is undone.
+/// A conflict that was there before, has no part in the pick and can't be resolved, stays and
+/// hinders nothing.
 Resolution markAndResolve(Marks &marks, const OptionChoice &pick);
 
 /// True for an option of the PPD's group of installed equipment.

@@ -12,9 +12,9 @@
 
 namespace orvek {
 
-/// Option or key to text: every marked choice that differs from the PPD's default or from what the queue
-/// would take by itself, every ticket key (an option's key with its marked choice), and "number-up"
-/// where several pages go on a sheet.
+/// Option or key to text: every marked choice that differs from the PPD's default or from what the
+/// queue would take by itself, every ticket key (an option's key with its marked choice), and
+/// "number-up" where several pages go on a sheet.
 QMap<QString, QString> jobOptionsFor(const Marks &marks, const QList<OptionChoice> &queueOptions,
                                      const TicketValues &ticket, int pagesPerSheet);
 

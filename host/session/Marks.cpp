@@ -43,8 +43,8 @@ std::optional<OptionChoice> Marks::spelled(const QString &option, const QString 
   if (foundChoice == nullptr) return std::nullopt;
   const QString name = QString::fromUtf8(foundChoice->choice);
   // A custom choice answers to every custom value; the value is what counts.
-  const bool customValue = name == QLatin1String(customChoice) &&
-                           choice.compare(name, Qt::CaseInsensitive) != 0;
+  const bool customValue =
+      name == QLatin1String(customChoice) && choice.compare(name, Qt::CaseInsensitive) != 0;
   return OptionChoice{keyword(found), customValue ? choice : name};
 }
 
@@ -85,9 +85,8 @@ QList<OptionChoice> Marks::all() const {
 QList<OptionChoice> Marks::conflicts() const {
   ppdConflicts(m_ppd);
   QList<OptionChoice> conflicting = snapshot();
-  conflicting.removeIf([this](const OptionChoice &mark) {
-    return findOption(m_ppd, mark.option)->conflicted == 0;
-  });
+  conflicting.removeIf(
+      [this](const OptionChoice &mark) { return findOption(m_ppd, mark.option)->conflicted == 0; });
   return conflicting;
 }
 
@@ -110,7 +109,8 @@ void Marks::unmark(const QString &option) {
 
 void Marks::restore(const MarksSnapshot &snapshot) {
   for (const OptionChoice &mark : snapshot) {
-    if (!mark.choice.isNull() && marked(mark.option) != mark.choice) this->mark(mark.option, mark.choice);
+    if (!mark.choice.isNull() && marked(mark.option) != mark.choice)
+      this->mark(mark.option, mark.choice);
   }
   // Last, since marking one option can take the mark of another.
   for (const OptionChoice &mark : snapshot) {

@@ -23,8 +23,8 @@ struct OptionChoice {
 /// All marks of a PPD at one moment, in the PPD's order; an option without mark has a null choice.
 using MarksSnapshot = QList<OptionChoice>;
 
-/// The marks of one PPD. Keywords are compared without regard to case and handed out as the PPD spells
-/// them; a custom value ("Custom.200x300") as it was given.
+/// The marks of one PPD. Keywords are compared without regard to case and handed out as the PPD
+/// spells them; a custom value ("Custom.200x300") as it was given.
 class Marks {
  public:
   /// Borrows the PPD, which must outlive this object.
@@ -47,8 +47,8 @@ class Marks {
   /// Every option that has a marked choice, in the PPD's order.
   QList<OptionChoice> all() const;
 
-  /// Every option that takes part in a constraint now violated, installed equipment included, with its
-  /// marked choice.
+  /// Every option that takes part in a constraint now violated, installed equipment included, with
+  /// its marked choice.
   QList<OptionChoice> conflicts() const;
 
   /// Every marked choice that is not the option's default in the PPD.

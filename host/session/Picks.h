@@ -25,9 +25,9 @@ class Picks {
   const Marks &marks() const { return m_marks; }
   Ticket &ticket() const { return *m_ticket; }
 
-  /// Marks the choice, resolves its conflicts, and records it and whatever gave way in the ticket, each
-  /// under its option's keyword. An undone pick leaves marks and ticket as they were. Nothing where the
-  /// choice is empty or the PPD lacks it: nothing is marked or recorded then.
+  /// Marks the choice, resolves its conflicts, and records it and whatever gave way in the ticket,
+  /// each under its option's keyword. An undone pick leaves marks and ticket as they were. Nothing
+  /// where the choice is empty or the PPD lacks it: nothing is marked or recorded then.
   std::optional<Resolution> pick(const QString &option, const QString &choice);
 
   /// What is picked from here on belongs to another step.
@@ -36,7 +36,8 @@ class Picks {
   /// Whether the last step that changed something can be taken back.
   bool canUndo() const { return m_step.has_value(); }
 
-  /// Takes the last step back, marks and ticket: the options concerned. Empty: nothing to take back.
+  /// Takes the last step back, marks and ticket: the options concerned. Empty: nothing to take
+  /// back.
   QStringList undo();
 
  private:

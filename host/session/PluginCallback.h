@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// The callback objects that panels are given: what a panel may ask of the session, and what it tells.
+// The callback objects that panels are given: what a panel may ask of the session, and what it
+// tells.
 #pragma once
 
 #include <memory>
@@ -31,11 +32,13 @@ struct PanelLoan {
 class PluginCallback : public PDEPluginCallback {
  public:
   /// Makes one; `resizing` decides whether it answers panelViewDidResize.
-  static std::shared_ptr<PluginCallback> make(PanelListener *listener, PanelLoan loan, bool resizing);
+  static std::shared_ptr<PluginCallback> make(PanelListener *listener, PanelLoan loan,
+                                              bool resizing);
 
   PluginCallback(PanelListener *listener, PanelLoan loan);
 
-  /// The session ends before the last panel has let go: from now on there is nothing to ask or tell.
+  /// The session ends before the last panel has let go: from now on there is nothing to ask or
+  /// tell.
   void detach();
 
   ppd_file_t *ppdFile() override { return m_loan.ppd; }

@@ -17,9 +17,9 @@ struct PluginPlaces {
   static PluginPlaces ofThisProgram();
 };
 
-/// Absolute paths of the bundles in the folders of the environment's path, then in the installed folder,
-/// each folder's in alphabetical order; without any, the one in the build tree that the program lies in.
-/// A folder of the path may be a bundle itself; a relative one is passed over.
+/// Absolute paths of the bundles in the folders of the environment's path, then in the installed
+/// folder, each folder's in alphabetical order; without any, the one in the build tree that the
+/// program lies in. A folder of the path may be a bundle itself; a relative one is passed over.
 QStringList findPluginBundles(const PluginPlaces &places);
 
 }  // namespace orvek

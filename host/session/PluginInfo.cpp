@@ -49,8 +49,9 @@ Result<QString> checkedExecutable(const QJsonObject &info, const Bundle &bundle,
     return invalid(infoPath, QStringLiteral("\"Executable\" must name the plug-in's code file"));
   }
   if (!liesInside(bundle.path(), name)) {
-    return invalid(infoPath,
-                   QStringLiteral("\"Executable\" must be a file inside the bundle, not \"%1\"").arg(name));
+    return invalid(
+        infoPath,
+        QStringLiteral("\"Executable\" must be a file inside the bundle, not \"%1\"").arg(name));
   }
   const QString path = QDir(bundle.path()).filePath(name);
   if (!QFileInfo(path).isFile()) {
@@ -68,7 +69,8 @@ Result<PluginInfo> readPluginInfo(const QString &bundlePath) {
   if (!bundle->infoDictionary()) return invalid(infoPath, bundle->infoProblem());
   const QJsonObject &info = *bundle->infoDictionary();
 
-  if (const Status interface = checkInterface(info, infoPath); !interface) return interface.failure();
+  if (const Status interface = checkInterface(info, infoPath); !interface)
+    return interface.failure();
   const QString principalClass = info.value(QLatin1String("PrincipalClass")).toString();
   if (!isIdentifier(principalClass)) {
     return invalid(infoPath, QStringLiteral("\"PrincipalClass\" must name the plug-in's class"));

@@ -18,9 +18,9 @@ struct PluginInfo {
   QString executable;      ///< absolute path of the code, inside the bundle
 };
 
-/// Reads and checks a bundle's Info.json: the factory's class, the code's file (a plain name of a file
-/// that lies inside the bundle, links followed) and the version of the plug-in interface. Invalid
-/// failures name the bundle's file and what to do.
+/// Reads and checks a bundle's Info.json: the factory's class, the code's file (a plain name of a
+/// file that lies inside the bundle, links followed) and the version of the plug-in interface.
+/// Invalid failures name the bundle's file and what to do.
 Result<PluginInfo> readPluginInfo(const QString &bundlePath);
 
 }  // namespace orvek

@@ -18,7 +18,8 @@ Failure broken(const QString &what, const QString &why) {
 
 // The loader's message begins with the path, which the failure names anyway.
 QString loaderMessage(const QLibrary &code) {
-  return QStringLiteral("the plug-in's code can't be loaded (%1)").arg(code.errorString().simplified());
+  return QStringLiteral("the plug-in's code can't be loaded (%1)")
+      .arg(code.errorString().simplified());
 }
 
 Result<std::unique_ptr<PDEPlugin>> makeFactory(const PluginInfo &info) {

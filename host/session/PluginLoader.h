@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// Loads plug-in bundles: checks what they say of themselves, then their code, then makes the factory.
+// Loads plug-in bundles: checks what they say of themselves, then their code, then makes the
+// factory.
 #pragma once
 
 #include <QList>
@@ -11,8 +12,8 @@
 
 namespace orvek {
 
-/// A loaded bundle with its factory, ready to make panels. Its code stays loaded for good: panels may
-/// have left types and strings behind that outlive them.
+/// A loaded bundle with its factory, ready to make panels. Its code stays loaded for good: panels
+/// may have left types and strings behind that outlive them.
 struct LoadedPlugin {
   PluginInfo info;
   std::unique_ptr<PDEPlugin> factory;

@@ -184,8 +184,8 @@ void PrintSession::notice(const Resolution &resolution) {
   Q_EMIT noticed(words);
 }
 
-// A user's act on a control of the window begins without anyone telling the session, and has ended when
-// control is back at the event loop.
+// A user's act on a control of the window begins without anyone telling the session, and has ended
+// when control is back at the event loop.
 void PrintSession::endSoon() {
   if (m_actionDepth > 0 || m_endIsPending) return;
   m_endIsPending = true;

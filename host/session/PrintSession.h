@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-// One printing session: a printer's marks, the job's ticket, the plug-ins' panels, and the rules between
-// them. Window, headless run and command line are views over it and have no rules of their own.
+// One printing session: a printer's marks, the job's ticket, the plug-ins' panels, and the rules
+// between them. Window, headless run and command line are views over it and have no rules of their
+// own.
 //
 //   1. Setting up            begin, addPlugin, openPanels, reopenPanels
 //   2. What the user does    perform, pick, setPagesPerSheet, undo
@@ -31,8 +32,9 @@ namespace orvek {
 struct SessionSetup {
   std::shared_ptr<PrinterDescription> printer;  ///< null: a printer without PPD
   TicketValues ticket;
-  QList<OptionChoice> queueOptions;  ///< the queue's and the user's; what the PPD lacks is passed over
-  QList<OptionChoice> marks;         ///< equipment, an earlier job: marked last, the ticket left alone
+  QList<OptionChoice>
+      queueOptions;           ///< the queue's and the user's; what the PPD lacks is passed over
+  QList<OptionChoice> marks;  ///< equipment, an earlier job: marked last, the ticket left alone
   bool panelsMayResize = true;
 };
 
@@ -40,22 +42,23 @@ class PrintSession final : public QObject, private PanelListener {
   Q_OBJECT
 
  public:
-  /// Marks the PPD: its defaults, the queue's options, the ticket's choices, then the given marks. A
-  /// given mark that the PPD lacks is a Usage failure.
+  /// Marks the PPD: its defaults, the queue's options, the ticket's choices, then the given marks.
+  /// A given mark that the PPD lacks is a Usage failure.
   static Result<std::unique_ptr<PrintSession>> begin(SessionSetup setup);
   ~PrintSession() override;
 
   /// Plug-ins give panels in the order in which they were added.
   void addPlugin(std::shared_ptr<LoadedPlugin> plugin);
 
-  /// Makes the panels, loads their views, has them restore and tells them that they are about to show.
+  /// Makes the panels, loads their views, has them restore and tells them that they are about to
+  /// show.
   void openPanels();
 
   /// Lets all panels go and makes them again on the same PPD and ticket.
   void reopenPanels();
 
-  /// Runs something that the user or the host does. Afterwards, panels whose options were changed by
-  /// constraints on the way restore once. Picks made on the way are taken back as one step.
+  /// Runs something that the user or the host does. Afterwards, panels whose options were changed
+  /// by constraints on the way restore once. Picks made on the way are taken back as one step.
   void perform(const std::function<void()> &action);
 
   /// Picks a choice as a panel's announcement does. False where the PPD lacks it or it was undone.
@@ -77,8 +80,8 @@ class PrintSession final : public QObject, private PanelListener {
   /// Title and value of each line of each panel's summary.
   QList<QPair<QString, QString>> summary() const;
 
-  /// What a job must say: every marked choice that is not the PPD's default or not the queue's, every
-  /// ticket key, and the pages per sheet in the words of the print server.
+  /// What a job must say: every marked choice that is not the PPD's default or not the queue's,
+  /// every ticket key, and the pages per sheet in the words of the print server.
   QMap<QString, QString> jobOptions() const;
 
   /// Every announced choice in order; null where it was empty.

@@ -10,7 +10,8 @@
 namespace orvek {
 namespace {
 
-// libcups has one answer for a file it can't read and for one that is no PPD, so reading is tried first.
+// libcups has one answer for a file it can't read and for one that is no PPD, so reading is tried
+// first.
 Status checkReadable(const QString &path) {
   if (QFileInfo(path).isDir()) {
     return Failure{FailureKind::Io, path, QStringLiteral("is a folder, not a PPD file")};
@@ -26,8 +27,9 @@ Failure invalidDescription(const QString &path) {
   int line = 0;
   const ppd_status_t status = ppdLastError(&line);
   const QString what = line > 0 ? path + QLatin1Char(':') + QString::number(line) : path;
-  return {FailureKind::Invalid, what,
-          QStringLiteral("not a valid PPD file (%1)").arg(QString::fromUtf8(ppdErrorString(status)))};
+  return {
+      FailureKind::Invalid, what,
+      QStringLiteral("not a valid PPD file (%1)").arg(QString::fromUtf8(ppdErrorString(status)))};
 }
 
 }  // namespace

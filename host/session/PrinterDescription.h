@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// A printer as its PPD file describes it: opened once, in the user's language, and kept for a session.
-// May touch the file system and libcups; knows nothing of marks.
+// A printer as its PPD file describes it: opened once, in the user's language, and kept for a
+// session. May touch the file system and libcups; knows nothing of marks.
 #pragma once
 
 #include <QString>
@@ -14,8 +14,8 @@ namespace orvek {
 /// Owns a parsed PPD. What it hands out is lent and lives as long as this object.
 class PrinterDescription {
  public:
-  /// Opens and localizes the PPD (plain or gzip). Failures: Io where the file can't be read, Invalid,
-  /// with the line, where it is no PPD.
+  /// Opens and localizes the PPD (plain or gzip). Failures: Io where the file can't be read,
+  /// Invalid, with the line, where it is no PPD.
   static Result<std::shared_ptr<PrinterDescription>> open(const QString &path);
 
   ~PrinterDescription();

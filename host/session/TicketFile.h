@@ -15,8 +15,9 @@ namespace orvek {
 /// A ticket's content: text (QString) or integer (qint64) by key.
 using TicketValues = QMap<QString, QVariant>;
 
-/// Reads a ticket. Failures: Io where the file can't be read; Invalid, with the line or the key, where it
-/// is no flat JSON object of text and integers. Integers beyond 64 bits become the nearest that fits.
+/// Reads a ticket. Failures: Io where the file can't be read; Invalid, with the line or the key,
+/// where it is no flat JSON object of text and integers. Integers beyond 64 bits become the nearest
+/// that fits.
 Result<TicketValues> readTicket(const QString &path);
 
 /// The same from bytes; `name` stands for the file in failures.

@@ -61,8 +61,8 @@ QString stringValue(const QLineEdit *field);
 /// that holds no picture, leaves the view empty.
 void setImage(QLabel *imageView, const QString &path);
 
-/// True for a label that shows pictures: one that the interface resource marks with imageViewProperty, or
-/// that was given one.
+/// True for a label that shows pictures: one that the interface resource marks with
+/// imageViewProperty, or that was given one.
 bool isImageView(const QLabel *label);
 
 /// The shown picture's file name without folder; null where the view is empty.
