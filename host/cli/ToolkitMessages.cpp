@@ -3,7 +3,7 @@
 
 #include "host/cli/ToolkitMessages.h"
 
-#include <QtGlobal>
+#include <QString>
 
 namespace orvek {
 
