@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: Apache-2.0
+// Connects, limits waits, and puts libcups' last error into words.
+
+#include "host/printers/CupsConnection.h"
+
+#include <cerrno>
+#include <cstring>
+
+namespace orvek {
+namespace {
+
+constexpr int kConnectMilliseconds = 5000;
+constexpr double kAskEverySeconds = 0.25;
+/// Asked more than this after the last time, a new wait has begun: bytes went over in between.
+constexpr qint64 kNewStallMilliseconds = 1000;
+constexpr qint64 kPatienceMilliseconds = 10000;
+
+/// Nobody is there to answer: without this libcups would read a password from the terminal, also
+/// under a window. Whoever needs one is told so.
+const char *noPassword(const char *, http_t *, const char *, const char *, void *) {
+  return nullptr;
+}
+
+QByteArray bytesOrNull(const QString &text) {
+  return text.isEmpty() ? QByteArray() : text.toUtf8();
+}
+
+const char *orNull(const QByteArray &bytes) {
+  return bytes.isEmpty() ? nullptr : bytes.constData();
+}
+
+QString nameOfServer() {
+  const QString server = QString::fromUtf8(cupsServer());
+  if (server.startsWith(u'/')) return server;
+  return QStringLiteral("%1:%2").arg(server).arg(ippPort());
+}
+
+}  // namespace
+
+CupsConnection::CupsConnection(const ServerAccess &access) : m_access(access) {}
+
+CupsConnection::~CupsConnection() {
+  httpClose(m_http);
+}
+
+Result<std::unique_ptr<CupsConnection>> CupsConnection::open(const ServerAccess &access) {
+  cupsSetServer(orNull(bytesOrNull(access.server)));
+  cupsSetUser(orNull(bytesOrNull(access.user)));
+  cupsSetPasswordCB2(noPassword, nullptr);
+  std::unique_ptr<CupsConnection> connection(new CupsConnection(access));
+  connection->m_serverName = nameOfServer();
+  constexpr int kBlocking = 1;
+  connection->m_http = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(),
+                                    kBlocking, kConnectMilliseconds, nullptr);
+  if (!connection->m_http) {
+    const int error = errno;
+    return Failure{FailureKind::Io, connection->m_serverName,
+                   QStringLiteral("no print server answers there (%1)")
+                       .arg(QString::fromLocal8Bit(std::strerror(error)))};
+  }
+  httpSetTimeout(connection->m_http, kAskEverySeconds, keepWaiting, connection.get());
+  return connection;
+}
+
+bool CupsConnection::isCancelled() const {
+  return m_access.cancelled && *m_access.cancelled;
+}
+
+int CupsConnection::keepWaiting(http_t *, void *connection) {
+  return static_cast<CupsConnection *>(connection)->mayWaitLonger() ? 1 : 0;
+}
+
+bool CupsConnection::mayWaitLonger() {
+  if (isCancelled() || m_gaveUp) return false;
+  if (!m_lastAsked.isValid() || m_lastAsked.elapsed() > kNewStallMilliseconds) m_stall.start();
+  m_lastAsked.start();
+  m_gaveUp = m_stall.elapsed() > kPatienceMilliseconds;
+  return !m_gaveUp;
+}
+
+Failure CupsConnection::lastFailure(const QString &what) const {
+  if (isCancelled()) return {FailureKind::Io, what, QStringLiteral("cancelled")};
+  if (m_gaveUp)
+    return {FailureKind::Io, m_serverName,
+            QStringLiteral("the print server stopped answering; try again once it is up")};
+  switch (cupsLastError()) {
+    case IPP_STATUS_ERROR_NOT_FOUND:
+      return {FailureKind::Io, what, QStringLiteral("the print server has no such queue or job")};
+    case IPP_STATUS_ERROR_FORBIDDEN:
+    case IPP_STATUS_ERROR_NOT_AUTHORIZED:
+    case IPP_STATUS_ERROR_NOT_AUTHENTICATED:
+      return {FailureKind::Io, what,
+              QStringLiteral("the print server does not allow it for user \"%1\"")
+                  .arg(QString::fromUtf8(cupsUser()))};
+    case IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS:
+      return {FailureKind::Io, what, QStringLiteral("the queue takes no jobs at present")};
+    default:
+      break;
+  }
+  const QString text = QString::fromUtf8(cupsLastErrorString()).simplified();
+  return {FailureKind::Io, what,
+          text.isEmpty() ? QStringLiteral("the connection to the print server broke") : text};
+}
+
+}  // namespace orvek

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: Apache-2.0
+// The one way to a CUPS server: with a limit on every wait, so that a server that stops answers
+// with a failure instead of a hang.
+#pragma once
+
+// The printing interface comes first: it takes the deprecations of libcups' headers off.
+#include "platform/printing/PPD.h"
+// clang-format off
+#include <cups/cups.h>
+// clang-format on
+
+#include <QElapsedTimer>
+#include <QString>
+#include <atomic>
+#include <memory>
+
+#include "platform/system/Result.h"
+
+namespace orvek {
+
+/// Which server, and as whom. A null string leaves it to libcups: CUPS_SERVER, CUPS_USER,
+/// client.conf.
+struct ServerAccess {
+  QString server;  ///< HOST[:PORT], or a socket's path
+  QString user;
+  const std::atomic<bool> *cancelled = nullptr;  ///< borrowed; set, it ends every wait
+};
+
+/// An open connection. libcups keeps server and user per thread: use a connection, and every
+/// libcups call about its server, on the thread that opened it, and one connection at a time.
+class CupsConnection {
+ public:
+  /// Fails where the server is unknown or does not answer within a few seconds.
+  static Result<std::unique_ptr<CupsConnection>> open(const ServerAccess &access);
+
+  ~CupsConnection();
+  CupsConnection(const CupsConnection &) = delete;
+  CupsConnection &operator=(const CupsConnection &) = delete;
+
+  http_t *http() const { return m_http; }
+
+  /// What to call the server in a message.
+  const QString &serverName() const { return m_serverName; }
+
+  bool isCancelled() const;
+
+  /// The failure of the libcups call just made, in words; `what` is what the call was about.
+  Failure lastFailure(const QString &what) const;
+
+ private:
+  explicit CupsConnection(const ServerAccess &access);
+  static int keepWaiting(http_t *http, void *connection);
+  bool mayWaitLonger();
+
+  ServerAccess m_access;
+  QString m_serverName;
+  http_t *m_http = nullptr;
+  QElapsedTimer m_stall;      ///< since the server stopped taking or giving bytes
+  QElapsedTimer m_lastAsked;  ///< since libcups last asked whether to wait
+  bool m_gaveUp = false;
+};
+
+}  // namespace orvek

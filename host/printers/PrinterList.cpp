@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: Apache-2.0
+// Asks libcups for destinations and reads their attributes.
+
+#include "host/printers/PrinterList.h"
+
+namespace orvek {
+namespace {
+
+/// Destinations of libcups, freed with their holder.
+class Destinations {
+ public:
+  explicit Destinations(http_t *http) : m_count(cupsGetDests2(http, &m_first)) {}
+  ~Destinations() { cupsFreeDests(m_count, m_first); }
+  Destinations(const Destinations &) = delete;
+  Destinations &operator=(const Destinations &) = delete;
+  const cups_dest_t *begin() const { return m_first; }
+  const cups_dest_t *end() const { return m_first + m_count; }
+  int count() const { return m_count; }
+
+ private:
+  cups_dest_t *m_first = nullptr;
+  int m_count = 0;
+};
+
+QString textOption(const QMap<QString, QString> &options, const char *name) {
+  const QString value = options.value(QString::fromLatin1(name));
+  return value.isEmpty() ? QString() : value;
+}
+
+PrinterState stateFrom(const QString &number) {
+  switch (number.toInt()) {
+    case IPP_PSTATE_IDLE:
+      return PrinterState::Idle;
+    case IPP_PSTATE_PROCESSING:
+      return PrinterState::Printing;
+    case IPP_PSTATE_STOPPED:
+      return PrinterState::Stopped;
+    default:
+      return PrinterState::Unknown;
+  }
+}
+
+QStringList reasonsFrom(const QString &keywords) {
+  QStringList words;
+  for (const QString &keyword : keywords.split(u',', Qt::SkipEmptyParts)) {
+    const QString reason = reasonInWords(keyword.trimmed());
+    if (!reason.isEmpty() && !words.contains(reason)) words << reason;
+  }
+  return words;
+}
+
+/// What drivers and devices said last, by queue. libcups leaves it out of the destinations. One
+/// that does not come costs only the message.
+QMap<QString, QString> stateMessages(http_t *http) {
+  static const char *const attributes[] = {"printer-name", "printer-state-message"};
+  constexpr int kAttributes = 2;
+  ipp_t *request = ippNewRequest(IPP_OP_CUPS_GET_PRINTERS);
+  ippAddStrings(request, IPP_TAG_OPERATION, IPP_CONST_TAG(IPP_TAG_KEYWORD), "requested-attributes",
+                kAttributes, nullptr, attributes);
+  ipp_t *response = cupsDoRequest(http, request, "/");
+  QMap<QString, QString> messages;
+  QString name;
+  QString message;
+  // Within a queue's group the two come in any order; a group ends with an unnamed attribute.
+  for (auto *attribute = ippFirstAttribute(response); attribute;
+       attribute = ippNextAttribute(response)) {
+    const QByteArray keyword(ippGetName(attribute));
+    if (keyword.isNull()) {
+      name.clear();
+      message.clear();
+    }
+    if (keyword == "printer-name") name = QString::fromUtf8(ippGetString(attribute, 0, nullptr));
+    if (keyword == "printer-state-message")
+      message = QString::fromUtf8(ippGetString(attribute, 0, nullptr));
+    if (!name.isEmpty() && !message.isEmpty()) messages.insert(name, message);
+  }
+  ippDelete(response);
+  return messages;
+}
+
+/// Whether no queue at all is an answer: libcups gives the same for a server that refuses.
+bool serverAnswered() {
+  const ipp_status_t status = cupsLastError();
+  return status < IPP_STATUS_REDIRECTION_OTHER_SITE || status == IPP_STATUS_ERROR_NOT_FOUND;
+}
+
+Failure noSuchPrinter(const CupsConnection &connection, const QString &destination) {
+  return {FailureKind::Io, destination,
+          QStringLiteral("no such printer on %1; \"orvek-print --list-printers\" lists them")
+              .arg(connection.serverName())};
+}
+
+Failure noDefault(const CupsConnection &connection) {
+  for (const char *variable : {"LPDEST", "PRINTER"}) {
+    const QString named = qEnvironmentVariable(variable);
+    const bool counts = !named.isEmpty() && named != QStringLiteral("lp");
+    if (counts)
+      return {FailureKind::Io, QString::fromLatin1(variable),
+              QStringLiteral("names a printer that does not exist: \"%1\"").arg(named)};
+  }
+  return {FailureKind::Io, connection.serverName(),
+          QStringLiteral("there is no default printer; name one with -d")};
+}
+
+}  // namespace
+
+Printer printerFrom(const cups_dest_t &destination) {
+  Printer printer;
+  printer.name = QString::fromUtf8(destination.name);
+  printer.instance = QString::fromUtf8(destination.instance);
+  printer.isDefault = destination.is_default != 0;
+  for (int i = 0; i < destination.num_options; ++i)
+    printer.options.insert(QString::fromUtf8(destination.options[i].name),
+                           QString::fromUtf8(destination.options[i].value));
+  const auto &options = printer.options;
+  printer.info = textOption(options, "printer-info");
+  printer.location = textOption(options, "printer-location");
+  printer.makeAndModel = textOption(options, "printer-make-and-model");
+  printer.deviceUri = textOption(options, "device-uri");
+  printer.state = stateFrom(textOption(options, "printer-state"));
+  printer.reasons = reasonsFrom(textOption(options, "printer-state-reasons"));
+  printer.acceptsJobs = textOption(options, "printer-is-accepting-jobs") != QStringLiteral("false");
+  return printer;
+}
+
+Result<QList<Printer>> listPrinters(const ServerAccess &access) {
+  auto connection = CupsConnection::open(access);
+  if (!connection) return connection.failure();
+  const Destinations destinations(connection.value()->http());
+  if (destinations.count() == 0 && !serverAnswered())
+    return connection.value()->lastFailure(connection.value()->serverName());
+  const auto messages = stateMessages(connection.value()->http());
+  QList<Printer> printers;
+  printers.reserve(destinations.count());
+  for (const cups_dest_t &destination : destinations) {
+    printers << printerFrom(destination);
+    printers.last().stateMessage = messages.value(printers.last().name);
+  }
+  return printers;
+}
+
+Result<Printer> findPrinter(const ServerAccess &access, const QString &destination) {
+  auto connection = CupsConnection::open(access);
+  if (!connection) return connection.failure();
+  return findPrinter(*connection.value(), destination);
+}
+
+Result<Printer> findPrinter(const CupsConnection &connection, const QString &destination) {
+  const qsizetype slash = destination.lastIndexOf(u'/');
+  const QByteArray name = (slash < 0 ? destination : destination.left(slash)).toUtf8();
+  const QByteArray instance = slash < 0 ? QByteArray() : destination.mid(slash + 1).toUtf8();
+  cups_dest_t *found =
+      cupsGetNamedDest(connection.http(), name.isEmpty() ? nullptr : name.constData(),
+                       instance.isEmpty() ? nullptr : instance.constData());
+  if (!found) {
+    if (!serverAnswered()) return connection.lastFailure(connection.serverName());
+    return destination.isEmpty() ? noDefault(connection) : noSuchPrinter(connection, destination);
+  }
+  Printer printer = printerFrom(*found);
+  cupsFreeDests(1, found);
+  return printer;
+}
+
+}  // namespace orvek

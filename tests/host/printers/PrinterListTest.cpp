@@ -1,0 +1,230 @@
+// SPDX-License-Identifier: Apache-2.0
+// Printers of a real server, as they are listed.
+
+#include "host/printers/PrinterList.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <QElapsedTimer>
+
+#include "tests/support/CapturingFilter.h"
+#include "tests/support/PrivateCups.h"
+
+namespace orvek {
+namespace {
+
+using orvek::testing::orvekPPD;
+using orvek::testing::PrivateCups;
+using orvek::testing::PrivateCupsSetup;
+
+const QString kFirst = QStringLiteral("first");
+const QString kSecond = QStringLiteral("second");
+
+class PrinterList : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    if (!PrivateCups::obstacle().isEmpty()) GTEST_SKIP() << PrivateCups::obstacle().toStdString();
+    cups = std::make_unique<PrivateCups>();
+    const QString ppd = orvekPPD(QStringLiteral("6180"));
+    for (const QString &name : {kFirst, kSecond}) {
+      const auto made = cups->addQueue(name, ppd,
+                                       {QStringLiteral("-D"), QStringLiteral("Büro ") + name,
+                                        QStringLiteral("-L"), QStringLiteral("Room 1")});
+      ASSERT_EQ(made.exitStatus, 0) << made.errors.toStdString();
+    }
+  }
+
+  std::string defaultName() const {
+    const auto printer = findPrinter({}, QString());
+    return printer ? printer.value().destination().toStdString()
+                   : printer.failure().line().toStdString();
+  }
+
+  void lpoptions(const QStringList &arguments) const {
+    const auto ran = cups->run(QStringLiteral("lpoptions"), arguments);
+    ASSERT_EQ(ran.exitStatus, 0) << ran.errors.toStdString();
+  }
+
+  std::unique_ptr<PrivateCups> cups;
+};
+
+TEST_F(PrinterList, ListsQueuesByNameWithWhatPeopleKnowThemBy) {
+  const auto printers = listPrinters({});
+  ASSERT_TRUE(printers) << printers.failure().line().toStdString();
+  ASSERT_EQ(printers.value().size(), 2);
+  const Printer &printer = printers.value()[0];
+  EXPECT_EQ(printer.name, kFirst);
+  EXPECT_EQ(printer.info, QStringLiteral("Büro first"));
+  EXPECT_EQ(printer.location, QStringLiteral("Room 1"));
+  EXPECT_EQ(printer.makeAndModel, QStringLiteral("Orvek 6180 PostScript"));
+  EXPECT_EQ(printer.state, PrinterState::Idle);
+  EXPECT_TRUE(printer.acceptsJobs);
+  EXPECT_EQ(stateInWords(printer), QStringLiteral("Idle"));
+}
+
+TEST_F(PrinterList, SaysWhyAPrinterIsStopped) {
+  cups->run(QStringLiteral("cupsreject"), {kFirst});
+  cups->run(QStringLiteral("cupsdisable"),
+            {QStringLiteral("-r"), QStringLiteral("Being moved"), kFirst});
+  const auto printers = listPrinters({});
+  ASSERT_TRUE(printers);
+  const Printer &printer = printers.value()[0];
+  EXPECT_EQ(stateInWords(printer), QStringLiteral("Stopped, takes no jobs"));
+  EXPECT_EQ(printer.reasons, QStringList{QStringLiteral("Paused")});
+  EXPECT_EQ(printer.stateMessage, QStringLiteral("Being moved"));
+  EXPECT_TRUE(printers.value()[1].stateMessage.isNull());
+}
+
+TEST_F(PrinterList, ListsInstancesWithTheirOptions) {
+  lpoptions({QStringLiteral("-p"), kFirst + QStringLiteral("/draft"), QStringLiteral("-o"),
+             QStringLiteral("OVKTonerSaving=True")});
+  const auto printers = listPrinters({});
+  ASSERT_TRUE(printers);
+  ASSERT_EQ(printers.value().size(), 3);
+  EXPECT_EQ(printers.value()[1].destination(), QStringLiteral("first/draft"));
+  EXPECT_EQ(printers.value()[1].options.value(QStringLiteral("OVKTonerSaving")),
+            QStringLiteral("True"));
+}
+
+TEST_F(PrinterList, TakesTheDefaultInTheOrderThatLpDoes) {
+  EXPECT_EQ(defaultName(),
+            cups->socket().toStdString() + ": there is no default printer; name one with -d");
+  cups->run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), kFirst});
+  EXPECT_EQ(defaultName(), "first");
+  lpoptions({QStringLiteral("-p"), kSecond + QStringLiteral("/draft"), QStringLiteral("-o"),
+             QStringLiteral("OVKTonerSaving=True")});
+  lpoptions({QStringLiteral("-d"), kSecond + QStringLiteral("/draft")});
+  EXPECT_EQ(defaultName(), "second/draft");
+  qputenv("PRINTER", "first");
+  EXPECT_EQ(defaultName(), "first");
+  qputenv("LPDEST", "second");
+  EXPECT_EQ(defaultName(), "second");
+}
+
+TEST_F(PrinterList, MarksTheDefaultInTheList) {
+  cups->run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), kFirst});
+  qputenv("LPDEST", "second");
+  const auto printers = listPrinters({});
+  ASSERT_TRUE(printers);
+  EXPECT_FALSE(printers.value()[0].isDefault);
+  EXPECT_TRUE(printers.value()[1].isDefault);
+}
+
+TEST_F(PrinterList, SaysWhichVariableNamesAPrinterThatDoesNotExist) {
+  qputenv("LPDEST", "gone");
+  EXPECT_EQ(defaultName(), "LPDEST: names a printer that does not exist: \"gone\"");
+}
+
+TEST_F(PrinterList, SaysThatAPrinterDoesNotExist) {
+  const auto printer = findPrinter({}, QStringLiteral("gone"));
+  ASSERT_FALSE(printer);
+  EXPECT_EQ(printer.failure().what, QStringLiteral("gone"));
+  EXPECT_TRUE(printer.failure().why.startsWith(QStringLiteral("no such printer on ")));
+}
+
+TEST_F(PrinterList, ReachesAServerByHostAndPort) {
+  qputenv("CUPS_SERVER", "/nowhere.sock");
+  const auto printers = listPrinters({cups->hostAndPort(), {}, nullptr});
+  ASSERT_TRUE(printers) << printers.failure().line().toStdString();
+  EXPECT_EQ(printers.value().size(), 2);
+}
+
+TEST_F(PrinterList, SaysThatNoServerAnswers) {
+  cups->stop();
+  const auto printers = listPrinters({});
+  ASSERT_FALSE(printers);
+  EXPECT_EQ(printers.failure().what, cups->socket());
+  EXPECT_TRUE(printers.failure().why.startsWith(QStringLiteral("no print server answers there")));
+}
+
+TEST_F(PrinterList, AnswersAgainAfterTheServerWasRestarted) {
+  cups->stop();
+  EXPECT_FALSE(listPrinters({}));
+  cups->start();
+  EXPECT_TRUE(listPrinters({}));
+}
+
+TEST_F(PrinterList, GivesUpOnAServerThatHangs) {
+  constexpr int kLongest = 30000;
+  cups->pause();
+  QElapsedTimer clock;
+  clock.start();
+  const auto printers = listPrinters({});
+  const qint64 elapsed = clock.elapsed();
+  cups->resume();
+  ASSERT_FALSE(printers);
+  EXPECT_LT(elapsed, kLongest);
+  EXPECT_TRUE(printers.failure().why.contains(QStringLiteral("stopped answering")))
+      << printers.failure().line().toStdString();
+}
+
+TEST_F(PrinterList, EndsItsWaitWhenCancelled) {
+  constexpr int kLongest = 3000;
+  const std::atomic<bool> cancelled = true;
+  cups->pause();
+  QElapsedTimer clock;
+  clock.start();
+  const auto printers = listPrinters({QString(), QString(), &cancelled});
+  const qint64 elapsed = clock.elapsed();
+  cups->resume();
+  ASSERT_FALSE(printers);
+  EXPECT_EQ(printers.failure().why, QStringLiteral("cancelled"));
+  EXPECT_LT(elapsed, kLongest);
+}
+
+QByteArray manyQueues(int count) {
+  QByteArray text;
+  for (int i = 1; i <= count; ++i)
+    text += "<Printer q" + QByteArray::number(i) + ">\nInfo Queue\nLocation Hall\n" +
+            "DeviceURI file:///dev/null\nState Idle\nAccepting Yes\n</Printer>\n";
+  return text;
+}
+
+TEST(PrinterListOfManyQueues, ComesQuickly) {
+  if (!PrivateCups::obstacle().isEmpty()) GTEST_SKIP() << PrivateCups::obstacle().toStdString();
+  constexpr int kQueues = 300;
+  constexpr int kLongest = 2000;
+  const PrivateCups cups(PrivateCupsSetup{{}, manyQueues(kQueues)});
+  QElapsedTimer clock;
+  clock.start();
+  const auto printers = listPrinters({});
+  RecordProperty("milliseconds", static_cast<int>(clock.elapsed()));
+  ASSERT_TRUE(printers) << printers.failure().line().toStdString();
+  EXPECT_EQ(printers.value().size(), kQueues);
+  EXPECT_LT(clock.elapsed(), kLongest);
+}
+
+TEST(PrinterListOfAnEmptyServer, IsEmptyAndNoFailure) {
+  if (!PrivateCups::obstacle().isEmpty()) GTEST_SKIP() << PrivateCups::obstacle().toStdString();
+  const PrivateCups cups;
+  const auto printers = listPrinters({});
+  ASSERT_TRUE(printers) << printers.failure().line().toStdString();
+  EXPECT_TRUE(printers.value().isEmpty());
+}
+
+TEST(PrinterListOfAServerThatRefuses, FailsInWords) {
+  if (!PrivateCups::obstacle().isEmpty()) GTEST_SKIP() << PrivateCups::obstacle().toStdString();
+  const PrivateCups cups(PrivateCupsSetup{
+      "<Limit All>\nAuthType Basic\nRequire user nobody\n</Limit>\n", manyQueues(1)});
+  const auto printers = listPrinters({});
+  ASSERT_FALSE(printers);
+  EXPECT_TRUE(
+      printers.failure().why.startsWith(QStringLiteral("the print server does not allow it")))
+      << printers.failure().line().toStdString();
+}
+
+TEST(ReasonInWords, DropsTheSeverity) {
+  EXPECT_EQ(reasonInWords(QStringLiteral("toner-low-warning")), QStringLiteral("Toner is low"));
+}
+
+TEST(ReasonInWords, SpellsOutAKeywordThatIsNotKnown) {
+  EXPECT_EQ(reasonInWords(QStringLiteral("vendor-oddity-error")), QStringLiteral("Vendor oddity"));
+}
+
+TEST(ReasonInWords, HasNothingToSayForNone) {
+  EXPECT_TRUE(reasonInWords(QStringLiteral("none")).isNull());
+}
+
+}  // namespace
+}  // namespace orvek
