@@ -1,0 +1,243 @@
+// SPDX-License-Identifier: Apache-2.0
+// The session between a printer, a ticket and a panel.
+
+#include "host/session/PrintSession.h"
+
+#include <gmock/gmock.h>
+
+#include <QCoreApplication>
+#include <QSignalSpy>
+
+#include "platform/system/Log.h"
+#include "tests/host/session/SessionKit.h"
+
+namespace orvek::test {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+
+qsizetype restores(const RecordedSession &recorded) {
+  return recorded.calls().count(QStringLiteral("restore"));
+}
+
+TEST(PrintSession, CallsAPanelInTheOrderItAssumes) {
+  const RecordedSession recorded;
+  EXPECT_EQ(recorded.calls(), (QStringList{"made", "panelView", "panelName", "panelKind",
+                                           "supportedPPDOptionKeys", "restore", "willShow"}));
+}
+
+TEST(PrintSession, MarksDefaultsThenQueueThenTicketThenGivenMarks) {
+  SessionSetup setup;
+  setup.queueOptions = {{"OVKPunching", "2"}, {"OVKStapling", "Dual"}, {"Unknown", "x"}};
+  setup.ticket = {{"OVKStapling", "front"}, {"OVKPunching", 3}, {"OVKGutter", "24"}};
+  setup.marks = {{"ovkpunching", "4"}};
+  setup.printer = openTestPpd(QStringLiteral("finisher.ppd"));
+  const auto session = PrintSession::begin(setup).take();
+  EXPECT_EQ(session->marks().marked("OVKStapling"), "Front");
+  EXPECT_EQ(session->marks().marked("OVKPunching"), "4");
+  EXPECT_EQ(session->ticket().values(), setup.ticket);
+}
+
+TEST(PrintSession, RefusesAGivenMarkThatThePpdLacks) {
+  SessionSetup setup;
+  setup.printer = openTestPpd(QStringLiteral("finisher.ppd"));
+  setup.marks = {{"OVKStapling", "Triple"}};
+  const auto session = PrintSession::begin(setup);
+  ASSERT_FALSE(session.ok());
+  EXPECT_EQ(session.failure().kind, FailureKind::Usage);
+  EXPECT_EQ(session.failure().what, "--mark OVKStapling=Triple");
+}
+
+TEST(PrintSession, RecordsAnAnnouncedChoiceInMarkAndTicket) {
+  RecordedSession recorded;
+  recorded.session->perform([&] {
+    EXPECT_TRUE(recorded.panel()->host().willChangePPDOptionKeyValue_ppdChoice("OVKPunching", "2"));
+  });
+  EXPECT_EQ(recorded.marked("OVKPunching"), "2");
+  EXPECT_EQ(recorded.inTicket("OVKPunching"), QVariant("2"));
+  EXPECT_EQ(recorded.session->announced().last(), (QPair<QString, QString>{"OVKPunching", "2"}));
+}
+
+TEST(PrintSession, CountsAnEmptyAnnouncementAndMarksNothing) {
+  RecordedSession recorded;
+  const MarksSnapshot before = recorded.session->marks().snapshot();
+  const auto count = recorded.session->announced().size();
+  EXPECT_FALSE(recorded.panel()->host().willChangePPDOptionKeyValue_ppdChoice("OVKPunching", ""));
+  EXPECT_EQ(recorded.session->announced().size(), count + 1);
+  EXPECT_TRUE(recorded.session->announced().last().second.isNull());
+  EXPECT_EQ(recorded.session->marks().snapshot(), before);
+}
+
+TEST(PrintSession, HasAPanelRestoreOnceAfterConstraintsChangedItsOption) {
+  RecordedSession recorded;
+  recorded.session->pick("OVKStapling", "Front");
+  const auto before = restores(recorded);
+  recorded.session->perform([&] {
+    recorded.panel()->host().willChangePPDOptionKeyValue_ppdChoice("OVKFolding", "Saddle");
+    EXPECT_EQ(restores(recorded), before) << "never from inside the panel's own call";
+  });
+  EXPECT_EQ(restores(recorded), before + 1);
+  EXPECT_EQ(recorded.marked("OVKStapling"), "None");
+  EXPECT_EQ(recorded.inTicket("OVKStapling"), QVariant("None"));
+}
+
+TEST(PrintSession, DoesNotDisturbAPanelWhoseOptionsStayed) {
+  RecordedSession recorded;
+  const auto before = restores(recorded);
+  recorded.session->perform([&] {
+    recorded.panel()->host().willChangePPDOptionKeyValue_ppdChoice("OVKFolding", "Saddle");
+    recorded.panel()->host().willChangePPDOptionKeyValue_ppdChoice("OVKPunching", "2");
+  });
+  EXPECT_EQ(restores(recorded), before);
+}
+
+TEST(PrintSession, HasAPanelRestoreAfterItsPickWasUndone) {
+  SessionSetup setup;
+  setup.marks = {{"OVKOptionFinisher", "False"}};
+  RecordedSession recorded(setup);
+  const auto before = restores(recorded);
+  recorded.session->perform([&] {
+    EXPECT_FALSE(
+        recorded.panel()->host().willChangePPDOptionKeyValue_ppdChoice("OVKStapling", "Front"));
+  });
+  EXPECT_EQ(restores(recorded), before + 1);
+  EXPECT_EQ(recorded.marked("OVKStapling"), "None");
+  EXPECT_FALSE(recorded.inTicket("OVKStapling").isValid());
+}
+
+TEST(PrintSession, RestoresOnceAfterTheStartWhenTheTicketContradictsItself) {
+  SessionSetup setup;
+  setup.ticket = {{"OVKStapling", "Front"}, {"OVKFolding", "Saddle"}};
+  const RecordedSession recorded(setup);
+  EXPECT_EQ(restores(recorded), 2);
+  EXPECT_EQ(recorded.calls().mid(5), (QStringList{"restore", "willShow", "restore"}));
+  EXPECT_TRUE(recorded.session->marks().conflicts().isEmpty());
+}
+
+TEST(PrintSession, SaysTheSameRefusalOnlyOnceAnAction) {
+  SessionSetup setup;
+  setup.marks = {{"OVKOptionFinisher", "False"}};
+  setup.ticket = {{"OVKStapling", "Front"}};
+  const RecordedSession recorded(setup);
+  EXPECT_EQ(recorded.session->notices().size(), 1);
+}
+
+TEST(PrintSession, TellsViewsInWordsWhatConstraintsDid) {
+  RecordedSession recorded;
+  recorded.session->pick("OVKStapling", "Front");
+  QSignalSpy noticed(recorded.session.get(), &PrintSession::noticed);
+  recorded.session->pick("OVKFolding", "Saddle");
+  ASSERT_EQ(noticed.count(), 1);
+  EXPECT_EQ(noticed[0][0].toStringList(),
+            QStringList{"Stapling was set to Off: it can't be combined with Saddle fold"});
+}
+
+TEST(PrintSession, TakesAnActionBackInOneStepAndShowsIt) {
+  RecordedSession recorded;
+  recorded.session->pick("OVKStapling", "Front");
+  recorded.session->perform([&] {
+    recorded.panel()->host().willChangePPDOptionKeyValue_ppdChoice("OVKFolding", "Saddle");
+  });
+  const auto before = restores(recorded);
+  ASSERT_TRUE(recorded.session->canUndo());
+  recorded.session->undo();
+  EXPECT_EQ(recorded.marked("OVKStapling"), "Front");
+  EXPECT_EQ(recorded.marked("OVKFolding"), "None");
+  EXPECT_EQ(recorded.inTicket("OVKStapling"), QVariant("Front"));
+  EXPECT_FALSE(recorded.inTicket("OVKFolding").isValid());
+  EXPECT_EQ(restores(recorded), before + 1);
+}
+
+TEST(PrintSession, EndsAnActOfTheWindowWhenControlIsBackAtTheEventLoop) {
+  RecordedSession recorded;
+  recorded.session->pick("OVKStapling", "Front");
+  const auto before = restores(recorded);
+  QSignalSpy changed(recorded.session.get(), &PrintSession::changed);
+  recorded.panel()->host().willChangePPDOptionKeyValue_ppdChoice("OVKFolding", "Saddle");
+  EXPECT_EQ(restores(recorded), before);
+  EXPECT_EQ(changed.count(), 0);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(restores(recorded), before + 1);
+  EXPECT_EQ(changed.count(), 1);
+}
+
+TEST(PrintSession, TellsViewsWhenTheTicketChanged) {
+  RecordedSession recorded;
+  QCoreApplication::processEvents();
+  QSignalSpy changed(recorded.session.get(), &PrintSession::changed);
+  PMPrintSettingsSetValue(recorded.panel()->host().printSettings(), "OVKGutter", "30", false);
+  PMPrintSettingsSetValue(recorded.panel()->host().printSettings(), "OVKCreep", "1", false);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(changed.count(), 1);
+}
+
+TEST(PrintSession, MakesRoomForAPanelThatGrows) {
+  RecordedSession recorded;
+  recorded.panel()->resizeTo(320, 240);
+  EXPECT_EQ(recorded.session->resizeCount(), 1);
+  EXPECT_EQ(recorded.session->panels().front()->container()->size(), QSize(320, 240));
+  EXPECT_EQ(recorded.session->panels().front()->view()->pos(), QPoint(0, 0));
+}
+
+TEST(PrintSession, IsAHostWithoutResizingWhereAskedTo) {
+  SessionSetup setup;
+  setup.panelsMayResize = false;
+  RecordedSession recorded(setup);
+  EXPECT_FALSE(respondsToPanelViewDidResize(&recorded.panel()->host()));
+  EXPECT_TRUE(respondsToPanelViewDidResize(&RecordedSession().panel()->host()));
+}
+
+TEST(PrintSession, MakesPanelsAgainOnTheSamePpdAndTicketAndGoesOnCounting) {
+  RecordedSession recorded;
+  recorded.session->pick("OVKFolding", "Saddle");
+  recorded.plugin->calls->clear();
+  const auto announced = recorded.session->announced().size();
+  recorded.session->reopenPanels();
+  EXPECT_EQ(recorded.calls(),
+            (QStringList{"destroyed", "made", "panelView", "panelName", "panelKind",
+                         "supportedPPDOptionKeys", "restore", "willShow"}));
+  EXPECT_EQ(recorded.marked("OVKFolding"), "Saddle");
+  EXPECT_EQ(recorded.session->announced().size(), announced + 2);
+}
+
+TEST(PrintSession, LeavesAnInertCallbackToAPanelThatOutlivesIt) {
+  std::shared_ptr<RecordingPanel> panel;
+  {
+    const RecordedSession recorded;
+    panel = recorded.panel();
+    ASSERT_NE(panel->host().ppdFile(), nullptr);
+  }
+  EXPECT_EQ(panel->host().ppdFile(), nullptr);
+  EXPECT_EQ(panel->host().printSettings(), nullptr);
+  EXPECT_EQ(panel->host().printSession(), nullptr);
+  EXPECT_FALSE(panel->host().willChangePPDOptionKeyValue_ppdChoice("OVKFolding", "Saddle"));
+  panel->resizeTo(1, 1);
+}
+
+TEST(PrintSession, WritesTheLayoutAsANumber) {
+  RecordedSession recorded;
+  const auto shows = recorded.calls().count("willShow");
+  recorded.session->setPagesPerSheet(4);
+  const QVariant value = recorded.inTicket("com.apple.print.PrintSettings.PMLayoutNUp");
+  EXPECT_EQ(value.metaType().id(), QMetaType::Int);
+  EXPECT_EQ(recorded.session->pagesPerSheet(), 4);
+  EXPECT_EQ(recorded.calls().count("willShow"), shows);
+}
+
+TEST(PrintSession, KeepsEveryLineOfTheLogAsItWasGiven) {
+  const RecordedSession recorded;
+  logLine(QStringLiteral("100% sure\n"));
+  EXPECT_EQ(recorded.session->log(), QStringList{"100% sure\n"});
+}
+
+TEST(PrintSession, LivesWithoutAPpd) {
+  const auto session = PrintSession::begin(SessionSetup{}).take();
+  session->openPanels();
+  EXPECT_FALSE(session->pick("OVKFolding", "Saddle"));
+  EXPECT_TRUE(session->jobOptions().isEmpty());
+  EXPECT_TRUE(session->summary().isEmpty());
+}
+
+}  // namespace
+}  // namespace orvek::test
