@@ -66,6 +66,10 @@ bool CupsConnection::isCancelled() const {
   return m_access.cancelled && *m_access.cancelled;
 }
 
+bool CupsConnection::isBroken() const {
+  return isCancelled() || m_gaveUp || httpError(m_http) != 0;
+}
+
 int CupsConnection::keepWaiting(http_t *, void *connection) {
   return static_cast<CupsConnection *>(connection)->mayWaitLonger() ? 1 : 0;
 }
@@ -83,6 +87,10 @@ Failure CupsConnection::lastFailure(const QString &what) const {
   if (m_gaveUp)
     return {FailureKind::Io, m_serverName,
             QStringLiteral("the print server stopped answering; try again once it is up")};
+  if (const int error = httpError(m_http))
+    return {FailureKind::Io, what,
+            QStringLiteral("the connection to the print server broke (%1)")
+                .arg(QString::fromLocal8Bit(std::strerror(error)))};
   switch (cupsLastError()) {
     case IPP_STATUS_ERROR_NOT_FOUND:
       return {FailureKind::Io, what, QStringLiteral("the print server has no such queue or job")};
@@ -99,7 +107,7 @@ Failure CupsConnection::lastFailure(const QString &what) const {
   }
   const QString text = QString::fromUtf8(cupsLastErrorString()).simplified();
   return {FailureKind::Io, what,
-          text.isEmpty() ? QStringLiteral("the connection to the print server broke") : text};
+          text.isEmpty() ? QStringLiteral("the print server gave no answer") : text};
 }
 
 }  // namespace orvek

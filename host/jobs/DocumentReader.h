@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: Apache-2.0
+// Reads a document block by block, standard input included.
+#pragma once
+
+#include <QByteArray>
+#include <QFile>
+#include <QString>
+#include <memory>
+
+#include "platform/system/Result.h"
+
+namespace orvek {
+
+/// One document being read. Holds one block of it at a time.
+class DocumentReader {
+ public:
+  /// Opens `file`; "-" is standard input.
+  static Result<std::unique_ptr<DocumentReader>> open(const QString &file);
+
+  /// The next block; empty at the end, and where standard input gave nothing for a tenth of a
+  /// second.
+  Result<QByteArray> read();
+  bool atEnd() const { return m_atEnd; }
+
+ private:
+  explicit DocumentReader(const QString &file) : m_name(file), m_file(file) {}
+  Result<QByteArray> readFile();
+  Result<QByteArray> readStandardInputBlock();
+
+  QString m_name;
+  QFile m_file;
+  bool m_atEnd = false;
+};
+
+}  // namespace orvek

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: Apache-2.0
+// Prints to a queue of a CUPS server.
+#pragma once
+
+#include "host/jobs/JobRequest.h"
+#include "platform/system/Result.h"
+
+namespace orvek {
+
+/// Sends the request's documents as one job to `request.queue` (empty: the default printer) on
+/// `request.server`. The options saved for the queue or instance go with it where the request does
+/// not set them. Blocks; for a window run it through BackgroundJob. Documents are sent block by
+/// block, so memory does not grow with them. What is cancelled, or fails half-way, is cancelled on
+/// the server.
+///
+/// Failures: a document can't be read, standard input is empty, no server or one that hangs, no
+/// such queue, what the server refuses (in its words), "cancelled".
+Result<JobOutcome> submitToQueue(const JobRequest &request, JobControl &control);
+
+/// "request id is QUEUE-ID (N file(s))", as lp says it; standard input alone counts as no file.
+QString requestIdLine(const JobRequest &request, const JobOutcome &outcome);
+
+/// Cancels a job on the server in force, whatever has become of the program that sent it.
+Status cancelJob(const QString &server, const QString &user, const QString &queue, int jobId);
+
+}  // namespace orvek

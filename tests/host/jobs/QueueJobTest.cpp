@@ -1,0 +1,262 @@
+// SPDX-License-Identifier: Apache-2.0
+// Jobs to the queues of a real server.
+
+#include "host/jobs/QueueJob.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+#include <thread>
+
+#include "tests/support/CapturingFilter.h"
+#include "tests/support/PrivateCups.h"
+#include "tests/support/StandardInput.h"
+
+namespace orvek {
+namespace {
+
+using namespace std::chrono_literals;
+using orvek::testing::CapturingFilter;
+using orvek::testing::contentsOf;
+using orvek::testing::orvekPPD;
+using orvek::testing::postScriptDocument;
+using orvek::testing::PrivateCups;
+using orvek::testing::PrivateCupsSetup;
+using orvek::testing::StandardInput;
+using orvek::testing::writeContents;
+
+const QString kQueue = QStringLiteral("office");
+const QString kCompleted = QStringLiteral("completed");
+
+class QueueJob : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    if (!PrivateCups::obstacle().isEmpty()) GTEST_SKIP() << PrivateCups::obstacle().toStdString();
+    startServer({});
+    writeContents(document, postScriptDocument(2));
+    request.queue = kQueue;
+    request.files = {document};
+  }
+
+  void startServer(const PrivateCupsSetup &setup) {
+    cups.reset();
+    cups = std::make_unique<PrivateCups>(setup);
+    addQueue(kQueue, orvekPPD(QStringLiteral("6180")));
+  }
+
+  void addQueue(const QString &name, const QString &ppd) {
+    const auto made = cups->addQueue(name, ppd);
+    ASSERT_EQ(made.exitStatus, 0) << made.errors.toStdString();
+  }
+
+  JobOutcome submit() {
+    const auto result = submitToQueue(request, control);
+    EXPECT_TRUE(result) << (result ? "" : result.failure().line().toStdString());
+    return result ? result.value() : JobOutcome{};
+  }
+
+  QByteArray printedAfter(const JobOutcome &outcome) {
+    EXPECT_EQ(cups->waitForJob(outcome.jobId), kCompleted) << cups->log().toStdString();
+    return contentsOf(cups->printedBy(outcome.queue));
+  }
+
+  std::string failureLine() {
+    const auto result = submitToQueue(request, control);
+    return result ? "no failure" : result.failure().line().toStdString();
+  }
+
+  QTemporaryDir folder;
+  QString document = folder.filePath(QStringLiteral("document.ps"));
+  std::unique_ptr<PrivateCups> cups;
+  JobRequest request;
+  JobControl control;
+};
+
+TEST_F(QueueJob, PutsAChosenFeaturesCodeIntoWhatThePrinterGets) {
+  request.options.insert(QStringLiteral("OVKFolding"), QStringLiteral("Saddle"));
+  EXPECT_TRUE(printedAfter(submit()).contains("%%BeginFeature: *OVKFolding Saddle"));
+}
+
+TEST_F(QueueJob, LetsTheDriverReadTheBookletKeys) {
+  const CapturingFilter filter;
+  addQueue(QStringLiteral("capturing"), filter.ppdFile());
+  request.queue = QStringLiteral("capturing");
+  request.options = {{QStringLiteral("OVKEnableBooklet"), QStringLiteral("True")},
+                     {QStringLiteral("OVKRightToLeft"), QStringLiteral("False")},
+                     {QStringLiteral("OVKGutter"), QStringLiteral("24")},
+                     {QStringLiteral("OVKCreep"), QStringLiteral("-3")},
+                     {QStringLiteral("OVKTargetPaperSize"), QStringLiteral("2")}};
+  ASSERT_EQ(cups->waitForJob(submit().jobId), kCompleted) << cups->log().toStdString();
+  const auto told = filter.options();
+  // The scheduler hands flags on in libcups' short form, which is written in lower case.
+  EXPECT_EQ(told.value(QStringLiteral("OVKEnableBooklet")), QStringLiteral("true"));
+  EXPECT_EQ(told.value(QStringLiteral("OVKRightToLeft")), QStringLiteral("false"));
+  EXPECT_EQ(told.value(QStringLiteral("OVKGutter")), QStringLiteral("24"));
+  EXPECT_EQ(told.value(QStringLiteral("OVKCreep")), QStringLiteral("-3"));
+  EXPECT_EQ(told.value(QStringLiteral("OVKTargetPaperSize")), QStringLiteral("2"));
+}
+
+TEST_F(QueueJob, SaysItsRequestIdAsLpDoes) {
+  request.files = {document, document};
+  const auto outcome = submit();
+  EXPECT_EQ(requestIdLine(request, outcome),
+            QStringLiteral("request id is office-%1 (2 file(s))").arg(outcome.jobId));
+}
+
+TEST_F(QueueJob, SendsSeveralDocumentsAsOneJob) {
+  cups->run(QStringLiteral("cupsdisable"), {kQueue});
+  request.files = {document, document, document};
+  const auto outcome = submit();
+  EXPECT_EQ(cups->jobAttributes(outcome.jobId).value(QStringLiteral("number-of-documents")),
+            QStringLiteral("3"));
+  EXPECT_EQ(outcome.bytes, 3 * contentsOf(document).size());
+}
+
+TEST_F(QueueJob, PrintsStandardInput) {
+  request.files.clear();
+  const StandardInput input(postScriptDocument(3));
+  const auto outcome = submit();
+  EXPECT_EQ(printedAfter(outcome).count("%%Page: "), 3);
+  EXPECT_EQ(requestIdLine(request, outcome),
+            QStringLiteral("request id is office-%1 (0 file(s))").arg(outcome.jobId));
+  EXPECT_EQ(cups->jobAttributes(outcome.jobId).value(QStringLiteral("job-name")),
+            QStringLiteral("(stdin)"));
+}
+
+TEST_F(QueueJob, MakesNoJobOfEmptyStandardInput) {
+  request.files.clear();
+  const StandardInput input(QByteArray{});
+  EXPECT_EQ(failureLine(), "standard input: is empty, so no job has been sent");
+  EXPECT_TRUE(cups->jobAttributes(1).isEmpty());
+}
+
+TEST_F(QueueJob, GoesToTheDefaultPrinterWhereNoneIsNamed) {
+  request.queue.clear();
+  EXPECT_NE(failureLine().find("there is no default printer"), std::string::npos);
+  qputenv("LPDEST", "office");
+  EXPECT_EQ(submit().queue, kQueue);
+}
+
+TEST_F(QueueJob, BeginsWithTheOptionsOfAnInstance) {
+  cups->run(QStringLiteral("lpoptions"), {QStringLiteral("-p"), QStringLiteral("office/fold"),
+                                          QStringLiteral("-o"), QStringLiteral("OVKFolding=Saddle"),
+                                          QStringLiteral("-o"), QStringLiteral("job-priority=20")});
+  request.instance = QStringLiteral("fold");
+  request.priority = 60;
+  const auto outcome = submit();
+  EXPECT_TRUE(printedAfter(outcome).contains("*OVKFolding Saddle"));
+  EXPECT_EQ(cups->jobAttributes(outcome.jobId).value(QStringLiteral("job-priority")),
+            QStringLiteral("60"));
+}
+
+TEST_F(QueueJob, ReachesAServerByHostAndPort) {
+  qputenv("CUPS_SERVER", "/nowhere.sock");
+  request.server = cups->hostAndPort();
+  EXPECT_GT(submit().jobId, 0);
+}
+
+TEST_F(QueueJob, NamesADocumentThatIsMissingBeforeThereIsAJob) {
+  request.files << folder.filePath(QStringLiteral("none.ps"));
+  EXPECT_EQ(failureLine(), request.files[1].toStdString() + ": No such file or directory");
+  EXPECT_TRUE(cups->jobAttributes(1).isEmpty());
+}
+
+TEST_F(QueueJob, SaysThatAQueueHasVanished) {
+  ASSERT_EQ(cups->run(QStringLiteral("lpadmin"), {QStringLiteral("-x"), kQueue}).exitStatus, 0);
+  EXPECT_EQ(failureLine(), "office: no such printer on " + cups->socket().toStdString() +
+                               "; \"orvek-print --list-printers\" lists them");
+}
+
+TEST_F(QueueJob, SaysThatAQueueTakesNoJobs) {
+  cups->run(QStringLiteral("cupsreject"), {kQueue});
+  EXPECT_EQ(failureLine(), "office: the queue takes no jobs at present");
+}
+
+TEST_F(QueueJob, SaysThatTheServerRefusesTheUser) {
+  cups->run(QStringLiteral("lpadmin"),
+            {QStringLiteral("-p"), kQueue, QStringLiteral("-u"), QStringLiteral("allow:berta")});
+  request.user = QStringLiteral("anna");
+  EXPECT_EQ(failureLine(), "office: the print server does not allow it for user \"anna\"");
+}
+
+TEST_F(QueueJob, SaysThatNoServerAnswers) {
+  cups->stop();
+  EXPECT_EQ(failureLine().find(cups->socket().toStdString() + ": no print server answers there"),
+            0U);
+}
+
+TEST_F(QueueJob, PrintsAgainOnceTheServerIsBack) {
+  cups->stop();
+  EXPECT_NE(failureLine(), "no failure");
+  cups->start();
+  EXPECT_GT(submit().jobId, 0);
+}
+
+TEST_F(QueueJob, CancelsOnTheServerWhatIsCancelledHalfWay) {
+  writeContents(document, postScriptDocument(1) + QByteArray(8 << 20, '\n'));
+  control.progress = [this](const JobProgress &now) {
+    if (now.bytes > now.expected / 2) control.cancelled = true;
+  };
+  EXPECT_EQ(failureLine(), "job: cancelled");
+  EXPECT_EQ(cups->waitForJob(1), QStringLiteral("canceled"));
+}
+
+TEST_F(QueueJob, CanBeCancelledWhileTheServerHangs) {
+  constexpr int kLongest = 15000;
+  control.progress = [this](const JobProgress &) { cups->pause(); };
+  std::thread canceller([this] {
+    std::this_thread::sleep_for(500ms);
+    control.cancelled = true;
+    std::this_thread::sleep_for(500ms);
+    cups->resume();
+  });
+  QElapsedTimer clock;
+  clock.start();
+  EXPECT_EQ(failureLine(), "job: cancelled");
+  canceller.join();
+  EXPECT_LT(clock.elapsed(), kLongest);
+}
+
+TEST_F(QueueJob, GivesUpOnAServerThatHangsWhileItSends) {
+  constexpr int kLongest = 45000;
+  control.progress = [this](const JobProgress &) { cups->pause(); };
+  QElapsedTimer clock;
+  clock.start();
+  EXPECT_EQ(failureLine(), cups->socket().toStdString() +
+                               ": the print server stopped answering; try again once it is up");
+  EXPECT_LT(clock.elapsed(), kLongest);
+}
+
+TEST_F(QueueJob, FailsWhereTheServerStopsWhileItSends) {
+  writeContents(document, postScriptDocument(1) + QByteArray(8 << 20, '\n'));
+  control.progress = [this](const JobProgress &now) {
+    if (now.bytes > now.expected / 2) cups->stop();
+  };
+  const std::string expected =
+      document.toStdString() + ": the connection to the print server broke (";
+  EXPECT_EQ(failureLine().substr(0, expected.size()), expected);
+}
+
+TEST_F(QueueJob, TakesALongStandardInputInLittleMemory) {
+  constexpr qint64 kMegabyte = 1 << 20;
+  constexpr long kMostGrowth = 24 * 1024;
+  const qint64 megabytes = std::max(qEnvironmentVariableIntValue("ORVEK_TEST_INPUT_MB"), 64);
+  const QString input = folder.filePath(QStringLiteral("input"));
+  writeContents(input, postScriptDocument(1));
+  ASSERT_TRUE(QFile::resize(input, megabytes * kMegabyte));
+  cups->run(QStringLiteral("cupsdisable"), {kQueue});
+  request.files.clear();
+  const StandardInput lent(input);
+  struct rusage before {
+  }, after{};
+  ::getrusage(RUSAGE_SELF, &before);
+  const auto outcome = submit();
+  ::getrusage(RUSAGE_SELF, &after);
+  EXPECT_EQ(outcome.bytes, megabytes * kMegabyte);
+  EXPECT_LT(after.ru_maxrss - before.ru_maxrss, kMostGrowth);
+}
+
+}  // namespace
+}  // namespace orvek
