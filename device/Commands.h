@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: Apache-2.0
+// The commands of orvek-device. Each gets its words as main() does, its own name first, and gives
+// the exit status.
+#pragma once
+
+#include <cstdio>
+
+namespace orvek::device {
+
+enum ExitStatus {
+  Done = 0,
+  Negative = 1,  ///< no address, no reply, no answer, no such element
+  BadArgument = 2,
+  NotWellFormed = 3,
+};
+
+/// The real standard output. The library writes its diagnostics through stdout, which main() has
+/// led to the standard error.
+struct Output {
+  std::FILE *file;
+};
+
+int urlCommand(int count, char **words, Output output);
+int pingCommand(int count, char **words, Output output);
+int mdnsCommand(int count, char **words, Output output);
+int fetchCommand(int count, char **words, Output output);
+int xmlCommand(int count, char **words, Output output);
+
+/// Writes "orvek-device: WHAT: WHY" (or "orvek-device: WHY" for a null `what`) to the standard
+/// error and gives `status`.
+int complain(ExitStatus status, const char *what, const char *why);
+
+/// What a bad command line gives: complains, and points to --help.
+int misuse(const char *what, const char *why);
+
+}  // namespace orvek::device

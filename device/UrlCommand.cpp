@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: Apache-2.0
+// orvek-device url: a printer's web address.
+
+#include "Common/Utilities.h"
+#include "device/Commands.h"
+
+namespace orvek::device {
+
+int urlCommand(int count, char **words, Output output) {
+  if (count != 2) return misuse(words[0], "give one device URI");
+  const QUrl url = GetPrinterURL(PMPrinterCreateWithDeviceURI(QString::fromUtf8(words[1])));
+  if (url.isEmpty()) return complain(Negative, words[1], "this device has no web address");
+  std::fprintf(output.file, "%s\n", url.toEncoded().constData());
+  return Done;
+}
+
+}  // namespace orvek::device

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: Apache-2.0
+// orvek-device xml: the value of an element.
+
+#include <QFile>
+
+#include "Common/Utilities.h"
+#include "device/Commands.h"
+#include "platform/xml/Document.h"
+
+namespace orvek::device {
+namespace {
+
+bool openFile(const char *path, QFile *file) {
+  if (qstrcmp(path, "-") == 0) return file->open(stdin, QIODevice::ReadOnly);
+  file->setFileName(QString::fromLocal8Bit(path));
+  return file->open(QIODevice::ReadOnly);
+}
+
+}  // namespace
+
+int xmlCommand(int count, char **words, Output output) {
+  if (count != 3) return misuse(words[0], "give a file and an element's name");
+  QFile file;
+  if (!openFile(words[1], &file)) {
+    return complain(Negative, words[1], file.errorString().toUtf8().constData());
+  }
+  const auto document = parseXML(file.readAll(), QString::fromLocal8Bit(words[1]));
+  if (!document) {
+    return complain(NotWellFormed, nullptr, document.failure().line().toUtf8().constData());
+  }
+  const QString value = GetOVGValue(*document.value(), QString::fromUtf8(words[2]));
+  if (value.isNull()) return complain(Negative, words[1], "there is no such element");
+  std::fprintf(output.file, "%s\n", value.toUtf8().constData());
+  return Done;
+}
+
+}  // namespace orvek::device
