@@ -35,13 +35,6 @@ class CupsOptions {
   cups_option_t *m_options = nullptr;
 };
 
-QList<OptionChoice> conflictsOf(const Marks &marks, const OptionChoice &pick) {
-  CupsOptions found;
-  found.m_count = cupsGetConflicts(marks.ppd(), pick.option.toUtf8().constData(),
-                                   pick.choice.toUtf8().constData(), &found.m_options);
-  return found.list();
-}
-
 std::optional<QList<OptionChoice>> resolutionOf(const Marks &marks, const OptionChoice &pick) {
   CupsOptions changed;
   const int resolved =
@@ -118,6 +111,13 @@ void undo(Marks &marks, const MarksSnapshot &before, const QList<OptionChoice> &
 }
 
 }  // namespace
+
+QList<OptionChoice> conflictsOf(const Marks &marks, const OptionChoice &pick) {
+  CupsOptions found;
+  found.m_count = cupsGetConflicts(marks.ppd(), pick.option.toUtf8().constData(),
+                                   pick.choice.toUtf8().constData(), &found.m_options);
+  return found.list();
+}
 
 Resolution markAndResolve(Marks &marks, const OptionChoice &pick) {
   Resolution result{pick, true, {}, {}};

@@ -28,6 +28,10 @@ struct Resolution {
   QList<OptionChoice> incompatible;  ///< where undone: what the pick can't be combined with
 };
 
+/// What takes part in a constraint that the pick would violate, the pick itself included; the marks
+/// stay as they are.
+QList<OptionChoice> conflictsOf(const Marks &marks, const OptionChoice &pick);
+
 /// Marks the pick (spelled as the PPD spells it) and resolves what it conflicts with, by either
 /// form of constraints. The pick never gives way, and neither does installed equipment: nobody
 /// installs a finisher by picking a staple. A pick whose own conflicts can't be resolved is undone.

@@ -6,15 +6,13 @@
 #include <algorithm>
 #include <utility>
 
+#include "host/session/BookletSettings.h"
 #include "host/session/JobOptions.h"
 #include "host/session/Wording.h"
 #include "platform/system/Log.h"
 
 namespace orvek {
 namespace {
-
-// The host's own layout control and the panels meet at this key.
-const QString layoutKey = QStringLiteral("com.apple.print.PrintSettings.PMLayoutNUp");
 
 Failure unknownMark(const Marks &marks, const OptionChoice &mark) {
   const QString what = QStringLiteral("--mark %1=%2").arg(mark.option, mark.choice);
@@ -147,8 +145,42 @@ QList<QPair<QString, QString>> PrintSession::summary() const {
   return lines;
 }
 
+bool PrintSession::printerCollates() const {
+  return ppdFindOption(marks().ppd(), collateOption) != nullptr;
+}
+
+JobSettings PrintSession::jobSettings() const {
+  JobSettings settings = m_jobSettings;
+  if (!printerCollates()) return settings;
+  const QString marked = marks().marked(QString::fromLatin1(collateOption));
+  settings.collate = marked.compare(QLatin1String("False"), Qt::CaseInsensitive) != 0;
+  return settings;
+}
+
+void PrintSession::setJobSettings(const JobSettings &settings) {
+  const bool collateChanges = settings.collate != jobSettings().collate;
+  perform([&] {
+    m_jobSettings = settings;
+    if (!printerCollates() || !collateChanges) return;
+    pick(QString::fromLatin1(collateOption),
+         settings.collate ? QStringLiteral("True") : QStringLiteral("False"));
+  });
+}
+
+Result<bool> PrintSession::takeJobOption(const QString &name, const QString &value) {
+  Result<bool> taken = m_askedOptions.take(name, value);
+  if (taken) m_jobSettings = m_askedOptions.settings;
+  return taken;
+}
+
 QMap<QString, QString> PrintSession::jobOptions() const {
-  return jobOptionsFor(marks(), m_queueOptions, m_ticket->values(), pagesPerSheet());
+  QMap<QString, QString> options =
+      jobOptionsFor(marks(), m_queueOptions, m_ticket->values(), pagesPerSheet());
+  JobSettings settings = m_jobSettings;
+  // The printer's own option, among the marks, says it already.
+  if (printerCollates()) settings.collate = true;
+  options.insert(toOptions(settings, m_askedOptions));
+  return options;
 }
 
 bool PrintSession::choiceAnnounced(const QString &option, const QString &choice) {

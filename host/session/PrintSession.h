@@ -4,8 +4,8 @@
 // own.
 //
 //   1. Setting up            begin, addPlugin, openPanels, reopenPanels
-//   2. What the user does    perform, pick, setPagesPerSheet, undo
-//   3. What can be seen      marks, ticket, panels, conflicts, summary, jobOptions
+//   2. What the user does    perform, pick, setPagesPerSheet, setJobSettings, undo
+//   3. What can be seen      marks, ticket, panels, conflicts, summary, jobSettings, jobOptions
 //   4. What has been heard   announced, resizeCount, log, notices
 #pragma once
 
@@ -19,6 +19,7 @@
 #include <vector>
 
 #include "host/session/HostedPanel.h"
+#include "host/session/JobSettings.h"
 #include "host/session/Picks.h"
 #include "host/session/PluginCallback.h"
 #include "host/session/PluginLoader.h"
@@ -68,6 +69,14 @@ class PrintSession final : public QObject, private PanelListener {
   void setPagesPerSheet(int pages);
   int pagesPerSheet() const;
 
+  /// Copies, pages, orientation. Collation is picked where the PPD has the option.
+  JobSettings jobSettings() const;
+  void setJobSettings(const JobSettings &settings);
+
+  /// Reads an option of the command line that is about job settings: false where it is none, a
+  /// Usage failure where its value makes no sense.
+  Result<bool> takeJobOption(const QString &name, const QString &value);
+
   /// Takes back the last step that changed something, and has the panels show it.
   void undo();
   bool canUndo() const { return m_picks.canUndo(); }
@@ -75,13 +84,18 @@ class PrintSession final : public QObject, private PanelListener {
   const std::shared_ptr<PrinterDescription> &printer() const { return m_printer; }
   const Marks &marks() const { return m_picks.marks(); }
   Ticket &ticket() const { return *m_ticket; }
+
+  /// The queue's and the user's options that the session began with.
+  const QList<OptionChoice> &queueOptions() const { return m_queueOptions; }
+
   const std::vector<std::unique_ptr<HostedPanel>> &panels() const { return m_panels; }
 
   /// Title and value of each line of each panel's summary.
   QList<QPair<QString, QString>> summary() const;
 
   /// What a job must say: every marked choice that is not the PPD's default or not the queue's,
-  /// every ticket key, and the pages per sheet in the words of the print server.
+  /// every ticket key, and in the words of the print server the pages per sheet and the job
+  /// settings.
   QMap<QString, QString> jobOptions() const;
 
   /// Every announced choice in order; null where it was empty.
@@ -114,6 +128,7 @@ class PrintSession final : public QObject, private PanelListener {
   void makePanels();
   void closePanels();
   bool apply(const QString &option, const QString &choice);
+  bool printerCollates() const;
   void notice(const Resolution &resolution);
   void endSoon();
   void endAction();
@@ -126,6 +141,8 @@ class PrintSession final : public QObject, private PanelListener {
   Picks m_picks;
   QList<OptionChoice> m_queueOptions;
   bool m_panelsMayResize;
+  JobSettings m_jobSettings;
+  AskedOptions m_askedOptions;
   std::vector<std::shared_ptr<LoadedPlugin>> m_plugins;
   std::vector<std::shared_ptr<PluginCallback>> m_callbacks;
   std::vector<std::unique_ptr<HostedPanel>> m_panels;

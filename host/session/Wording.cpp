@@ -6,24 +6,15 @@
 namespace orvek {
 namespace {
 
-// "Saddle fold" speaks for itself; "On" and "Not Installed" need the option's name before them.
-QString named(ppd_file_t *ppd, const OptionChoice &choice) {
-  const ppd_option_t *option = ppdFindOption(ppd, choice.option.toUtf8().constData());
-  const QString text = choiceText(ppd, choice);
-  const bool selfExplaining = option != nullptr && option->ui != PPD_UI_BOOLEAN &&
-                              !isInstalledEquipment(ppd, choice.option);
-  return selfExplaining ? text : optionText(ppd, choice.option) + QStringLiteral(": ") + text;
-}
-
 QString sentence(ppd_file_t *ppd, const ChoiceChange &change) {
   return QStringLiteral("%1 was set to %2: it can't be combined with %3")
       .arg(optionText(ppd, change.option), choiceText(ppd, {change.option, change.newChoice}),
-           named(ppd, change.partner));
+           namedChoice(ppd, change.partner));
 }
 
 QString refusal(ppd_file_t *ppd, const Resolution &resolution) {
   QStringList partners;
-  for (const OptionChoice &partner : resolution.incompatible) partners << named(ppd, partner);
+  for (const OptionChoice &partner : resolution.incompatible) partners << namedChoice(ppd, partner);
   return QStringLiteral("%1 was not set to %2: it can't be combined with %3")
       .arg(optionText(ppd, resolution.pick.option), choiceText(ppd, resolution.pick),
            partners.join(QStringLiteral(", ")));
@@ -43,6 +34,14 @@ QString choiceText(ppd_file_t *ppd, const OptionChoice &choice) {
   const ppd_choice_t *found = ppdFindChoice(option, choice.choice.toUtf8().constData());
   const QString text = found == nullptr ? QString() : QString::fromUtf8(found->text);
   return text.isEmpty() ? choice.choice : text;
+}
+
+QString namedChoice(ppd_file_t *ppd, const OptionChoice &choice) {
+  const ppd_option_t *option = ppdFindOption(ppd, choice.option.toUtf8().constData());
+  const QString text = choiceText(ppd, choice);
+  const bool selfExplaining = option != nullptr && option->ui != PPD_UI_BOOLEAN &&
+                              !isInstalledEquipment(ppd, choice.option);
+  return selfExplaining ? text : optionText(ppd, choice.option) + QStringLiteral(": ") + text;
 }
 
 QStringList wordsFor(ppd_file_t *ppd, const Resolution &resolution) {

@@ -15,6 +15,10 @@ QString optionText(ppd_file_t *ppd, const QString &option);
 /// The choice's display text; the choice itself where the PPD lacks it; null for none.
 QString choiceText(ppd_file_t *ppd, const OptionChoice &choice);
 
+/// The choice as it can stand alone in a sentence: "Saddle fold" speaks for itself; "On" and "Not
+/// Installed" get the option's name before them.
+QString namedChoice(ppd_file_t *ppd, const OptionChoice &choice);
+
 /// One sentence, without a full stop, for each option that gave way ("Stapling was set to Off: it
 /// can't be combined with Saddle fold"), or the one that says why the pick was undone.
 QStringList wordsFor(ppd_file_t *ppd, const Resolution &resolution);

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: Apache-2.0
+// What a dialog shows of a document before it prints it. Reads the file, never more than it needs,
+// and only for a bounded time.
+#pragma once
+
+#include <QSizeF>
+#include <QString>
+
+namespace orvek {
+
+struct DocumentInfo {
+  QString name;           ///< for people: the file's name, or "(stdin)"
+  QString path;           ///< as it was given; "-" for standard input
+  int pages = 0;          ///< 0: unknown
+  QSizeF pageSizePoints;  ///< the first page as it is seen; empty: unknown
+};
+
+/// PDF: what pdfinfo says of it. PostScript: the document's own comments (%%Pages, %%BoundingBox).
+/// A picture: one page of unknown size. Anything else, standard input, a file
+/// that can't be read, is damaged or takes too long: unknown.
+DocumentInfo documentInfo(const QString &path);
+
+}  // namespace orvek

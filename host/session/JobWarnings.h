@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: Apache-2.0
+// What a user should know before a job goes: settings that are allowed, and hardly meant. Pure
+// functions that return words; window and headless run show the same.
+#pragma once
+
+#include <QStringList>
+
+#include "host/session/JobSettings.h"
+#include "host/session/Marks.h"
+#include "host/session/TicketFile.h"
+
+namespace orvek {
+
+class PrintSession;
+
+/// One sentence, without a full stop, for each of: staples in copies that are not collated; a
+/// booklet of more sheets than the printer folds. `pages` is the document's page count (0: unknown,
+/// and then the booklet is not judged).
+QStringList jobWarnings(const Marks &marks, const TicketValues &ticket, const JobSettings &settings,
+                        int pages);
+
+/// The same for a session as it stands.
+QStringList jobWarnings(const PrintSession &session, int pages);
+
+/// How many sheets the printer folds into one booklet: *OVKBookletMaximumSheets of its PPD, or what
+/// booklet makers commonly do.
+int maximumBookletSheets(ppd_file_t *ppd);
+
+}  // namespace orvek

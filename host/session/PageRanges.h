@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: Apache-2.0
+// Page ranges as people type them and as CUPS takes them. Pure functions.
+#pragma once
+
+#include <QList>
+#include <QString>
+
+#include "platform/system/Result.h"
+
+namespace orvek {
+
+/// "1-3, 7" as CUPS wants it: ascending, without overlap or white space. "-5" and "8-" are open
+/// ranges. Null for an empty text: all pages. A Usage failure says which part makes no sense.
+Result<QString> normalizedPageRanges(const QString &text);
+
+/// The pages, from 1, that normalized ranges take of a document; all of them for null ranges.
+QList<int> pagesInRanges(const QString &pageRanges, int pageCount);
+
+}  // namespace orvek
