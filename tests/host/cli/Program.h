@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: Apache-2.0
+// Runs the built orvek-print and keeps what it said.
+#pragma once
+
+#include <QByteArrayList>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QStringList>
+
+namespace orvek::test {
+
+/// One finished run.
+struct ProgramRun {
+  int status = -1;  ///< -1: did not end by itself
+  QByteArray output;
+  QByteArray errors;
+
+  QJsonObject json() const { return QJsonDocument::fromJson(output).object(); }
+
+  /// The lines that report an error.
+  QByteArrayList errorLines() const {
+    QByteArrayList lines;
+    for (const QByteArray &line : errors.split('\n')) {
+      if (line.startsWith("orvek-print: ")) lines << line;
+    }
+    return lines;
+  }
+};
+
+/// What a run finds around it.
+struct Surroundings {
+  QStringList environment;  ///< "NAME=VALUE"; no display is ever among them
+  QByteArray input;
+  QString folder;
+  bool closeInput = true;  ///< false: standard input stays open and silent
+};
+
+inline ProgramRun runProgram(const QStringList &arguments, const Surroundings &surroundings = {}) {
+  QProcess program;
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  for (const char *display : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+    environment.remove(QLatin1String(display));
+  }
+  for (const QString &entry : surroundings.environment) {
+    environment.insert(entry.section('=', 0, 0), entry.section('=', 1));
+  }
+  program.setProcessEnvironment(environment);
+  if (!surroundings.folder.isEmpty()) program.setWorkingDirectory(surroundings.folder);
+  program.start(QStringLiteral(ORVEK_BINARY_DIR "/bin/orvek-print"), arguments);
+  program.write(surroundings.input);
+  if (surroundings.closeInput) program.closeWriteChannel();
+  constexpr int longestRun = 30000;
+  ProgramRun run;
+  if (program.waitForFinished(longestRun) && program.exitStatus() == QProcess::NormalExit) {
+    run.status = program.exitCode();
+  }
+  run.output = program.readAllStandardOutput();
+  run.errors = program.readAllStandardError();
+  return run;
+}
+
+inline QString testPpd(const char *name) {
+  return QStringLiteral(ORVEK_SOURCE_DIR "/tests/host/session/ppd/") + QLatin1String(name);
+}
+
+/// A headless run on a test printer with more arguments.
+inline ProgramRun runHeadless(const QStringList &more, const Surroundings &surroundings = {},
+                              const char *ppd = "finisher.ppd") {
+  return runProgram(QStringList{"--headless", "--ppd", testPpd(ppd)} + more, surroundings);
+}
+
+}  // namespace orvek::test

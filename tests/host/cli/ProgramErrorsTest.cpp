@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: Apache-2.0
+// What the program says and returns when something is wrong: one line, and a status that scripts
+// can count on.
+
+#include <gmock/gmock.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "tests/host/cli/Program.h"
+
+namespace orvek::test {
+namespace {
+
+using testing::HasSubstr;
+
+class ProgramErrors : public testing::Test {
+ protected:
+  QString file(const QString &name, const QByteArray &bytes) {
+    QFile made(dir.filePath(name));
+    EXPECT_TRUE(made.open(QIODevice::WriteOnly));
+    made.write(bytes);
+    return made.fileName();
+  }
+
+  static void expectFailure(const ProgramRun &run, int status, const char *words) {
+    EXPECT_EQ(run.status, status) << run.errors.constData();
+    EXPECT_EQ(run.output, "");
+    ASSERT_EQ(run.errorLines().size(), 1) << run.errors.constData();
+    EXPECT_THAT(run.errorLines().first().toStdString(), HasSubstr(words));
+  }
+
+  QTemporaryDir dir;
+};
+
+TEST_F(ProgramErrors, WrongOptionsAreTwo) {
+  expectFailure(runProgram({"--frobnicate"}), 2, "--frobnicate: unknown option");
+  expectFailure(runProgram({"-n", "x"}), 2, "-n: ");
+  expectFailure(runProgram({"--do", "fly"}), 2, "--do fly: ");
+}
+
+TEST_F(ProgramErrors, AnUnreadablePpdIsOneAndAnInvalidOneThree) {
+  expectFailure(runProgram({"--headless", "--ppd", "/nowhere.ppd"}), 1, "/nowhere.ppd: ");
+  expectFailure(runProgram({"--headless", "--ppd", file("a.ppd", "no ppd\n")}), 3, "a.ppd:1: ");
+  expectFailure(runProgram({"--headless", "--ppd", file("b.ppd", "")}), 3, "b.ppd: ");
+}
+
+TEST_F(ProgramErrors, AnUnreadableTicketIsOneAndAnInvalidOneThree) {
+  expectFailure(runHeadless({"--ticket", "/nowhere.json"}), 1, "/nowhere.json: ");
+  expectFailure(runHeadless({"--ticket", file("t.json", "{\n\"a\"\n}")}), 3, "t.json:3: ");
+  expectFailure(runHeadless({"--ticket", file("u.json", "{\"a\": true}")}), 3, "\"a\"");
+}
+
+TEST_F(ProgramErrors, AMarkThatThePpdLacksIsTwo) {
+  expectFailure(runHeadless({"--mark", "OVKFlying=True", "--inspect"}), 2, "OVKFlying=True: ");
+  expectFailure(runHeadless({"--mark", "OVKStapling=Triple", "--inspect"}), 2, "Triple: ");
+}
+
+TEST_F(ProgramErrors, AnOptionThatThePrinterCannotTakeIsTwo) {
+  expectFailure(runHeadless({"-o", "OVKStapling=Triple", "--inspect"}), 2, "Triple: ");
+  expectFailure(runHeadless({"-o", "number-up=x", "--inspect"}), 2, "number-up=x: ");
+}
+
+TEST_F(ProgramErrors, ABrokenPluginThatWasNamedIsThree) {
+  expectFailure(runHeadless({"--plugin", dir.filePath("none.bundle")}), 3, "none.bundle: ");
+  QDir(dir.path()).mkdir("a.bundle");
+  expectFailure(runHeadless({"--plugin", dir.filePath("a.bundle")}), 3, "a.bundle/Info.json: ");
+  file("a.bundle/Info.json", R"({"PluginInterface": 1, "PrincipalClass": "A",
+                                 "Executable": "libA.so"})");
+  file("a.bundle/libA.so", "no code");
+  expectFailure(runHeadless({"--plugin", dir.filePath("a.bundle")}), 3, "a.bundle/libA.so: ");
+}
+
+TEST_F(ProgramErrors, ABrokenInstalledPluginIsReportedAndLeftOut) {
+  QDir(dir.path()).mkdir("a.bundle");
+  const ProgramRun run =
+      runHeadless({"--inspect"}, {{"ORVEK_PRINT_PLUGIN_PATH=" + dir.path()}, {}, {}});
+  EXPECT_EQ(run.status, 0);
+  EXPECT_EQ(run.errorLines().size(), 1);
+  EXPECT_TRUE(run.json().value("panel").isNull());
+}
+
+TEST_F(ProgramErrors, AnActionOnWhatIsNotThereIsTwo) {
+  expectFailure(runHeadless({"--inspect", "--do", "flyPopup=#0"}), 2, "--do flyPopup=#0: ");
+  expectFailure(runHeadless({"--inspect", "--do", "staplingLbl=x"}), 2, "user can change");
+  expectFailure(runHeadless({"--inspect", "--do", "staplingPopup=#3"}), 2, "no such item");
+  expectFailure(runHeadless({"--inspect", "--do", "staplingPopup=#-1"}), 2, "no such item");
+  expectFailure(runHeadless({"--inspect", "--do", "staplingPopup=Triple"}), 2, "no such item");
+}
+
+TEST_F(ProgramErrors, AnActionWithAMalformedValueIsTwo) {
+  expectFailure(runHeadless({"--inspect", "--do", "staplingPopup=#x"}), 2, "integer");
+  expectFailure(runHeadless({"--inspect", "--do", "offsetChckBox=yes"}), 2, "on, off or mixed");
+  expectFailure(
+      runHeadless({"--inspect", "--do", "bookletChckBox=on", "--do", "gutterSlider=wide"}), 2,
+      "integer");
+}
+
+TEST_F(ProgramErrors, AnActionThatAUserCouldNotDoIsTwo) {
+  expectFailure(runHeadless({"--inspect", "--do", "gutterSlider=3"}), 2, "hidden");
+  expectFailure(
+      runHeadless({"--inspect", "--mark", "OVKOptionFinisher=False", "--do", "staplingPopup=#0"}),
+      2, "hidden");
+  expectFailure(runHeadless({"--inspect", "--no-resize", "--do", "bookletChckBox=off"}), 2,
+                "disabled");
+  expectFailure(runHeadless({"--inspect", "--do", "punchPopup=#1"}), 2, "disabled");
+}
+
+TEST_F(ProgramErrors, AFileThatCannotBeWrittenIsOne) {
+  expectFailure(runHeadless({"--ticket-out", "/nowhere/t.json", "--inspect"}), 1,
+                "/nowhere/t.json");
+  expectFailure(runHeadless({"--screenshot", "/nowhere/s.png", "--inspect"}), 1, "/nowhere/s.png");
+  expectFailure(runHeadless({"--output", "/nowhere/o.ps", "--inspect", "/dev/null"}), 1,
+                "/nowhere");
+}
+
+TEST_F(ProgramErrors, AReportStaysOneLineWhateverTheNameHolds) {
+  expectFailure(runHeadless({"--ticket", "/no\nwhere\r.json"}), 1, "/no where");
+}
+
+}  // namespace
+}  // namespace orvek::test
