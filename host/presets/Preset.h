@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: Apache-2.0
+// A named set of choices, and its JSON form.
+#pragma once
+
+#include <QByteArray>
+#include <QMap>
+#include <QString>
+
+#include "host/session/TicketFile.h"
+#include "platform/system/Result.h"
+
+namespace orvek {
+
+/// What a user saved under a name.
+struct Preset {
+  QString name;
+  QString printerModel;            ///< the printer it was made with; for messages
+  QMap<QString, QString> options;  ///< PPD keyword to choice keyword
+  TicketValues ticket;             ///< ticket key to text or integer
+};
+
+/// The preset as a JSON object: "name", "printer", "options", "ticket".
+QByteArray presetToJson(const Preset &preset);
+
+/// Reads one back. `where` names the file in failures, which are Invalid and say which part is
+/// wrong. Parts that are absent are empty; parts that this version does not know are passed over.
+Result<Preset> presetFromJson(const QByteArray &json, const QString &where);
+
+}  // namespace orvek

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: Apache-2.0
+// Spells names in percent signs and hexadecimal digits where a file system could stumble.
+
+#include "host/presets/PresetName.h"
+
+#include <QCryptographicHash>
+#include <QUrl>
+#include <algorithm>
+
+namespace orvek {
+namespace {
+
+/// File systems take 255 bytes; the rest is room for a digest, the suffix and a temporary name.
+constexpr qsizetype kLongestStem = 160;
+constexpr qsizetype kKeptOfLongStem = 90;
+
+const QString kSuffix = QStringLiteral(".json");
+
+}  // namespace
+
+Status checkPresetName(const QString &name) {
+  const auto fail = [](const QString &why) {
+    return Failure{FailureKind::Usage, QStringLiteral("preset name"), why};
+  };
+  if (name.trimmed().isEmpty()) return fail(QStringLiteral("is empty; give the preset a name"));
+  const auto isControl = [](QChar c) { return c.category() == QChar::Other_Control; };
+  if (std::any_of(name.cbegin(), name.cend(), isControl))
+    return fail(QStringLiteral("can't hold line breaks or control characters"));
+  return {};
+}
+
+QString presetFileName(const QString &name) {
+  const QByteArray composed = name.normalized(QString::NormalizationForm_C).toUtf8();
+  QByteArray stem = composed.toPercentEncoding({}, ".~");
+  if (stem.size() > kLongestStem) {
+    const auto digest = QCryptographicHash::hash(composed, QCryptographicHash::Sha256).toHex();
+    stem = stem.left(kKeptOfLongStem) + '~' + digest;
+  }
+  return QString::fromLatin1(stem) + kSuffix;
+}
+
+}  // namespace orvek

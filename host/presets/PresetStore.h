@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: Apache-2.0
+// Presets as files in the user's data folder: plain JSON, one file each, replaced as a whole.
+#pragma once
+
+#include <QList>
+#include <QStringList>
+#include <optional>
+
+#include "host/presets/Preset.h"
+
+namespace orvek {
+
+/// What there is, and what can't be read.
+struct PresetListing {
+  QStringList names;       ///< in the order of the user's language
+  QList<Failure> damaged;  ///< one for each file that is no preset; its `what` names it
+};
+
+/// The user's presets, and for each queue what was used last. Reads and writes at every call, so
+/// that two programs can share the folder. A damaged file is reported and never written over.
+class PresetStore {
+ public:
+  /// The folder holds `presets` and `last-used`; it is made when first written to.
+  explicit PresetStore(const QString &folder = standardFolder());
+
+  /// $XDG_DATA_HOME/orvek-print, or what stands for it.
+  static QString standardFolder();
+
+  PresetListing list() const;
+
+  /// Failures: Usage for a name that won't do, Io where there is none of that name or it can't be
+  /// read, Invalid where it is damaged.
+  Result<Preset> load(const QString &name) const;
+
+  /// Writes it under its name, in place of one that is there.
+  Status save(const Preset &preset);
+
+  /// Fails where there is none of the old name, or already one of the new.
+  Status rename(const QString &from, const QString &to);
+
+  /// Also removes a damaged one.
+  Status remove(const QString &name);
+
+  /// What was last printed with on `queue`; empty where nothing was.
+  Result<std::optional<Preset>> lastUsed(const QString &queue) const;
+  Status saveLastUsed(const QString &queue, const Preset &preset);
+
+ private:
+  QString fileOf(const QString &name) const;
+  QString lastUsedFileOf(const QString &queue) const;
+
+  QString m_presets;
+  QString m_lastUsed;
+};
+
+}  // namespace orvek
