@@ -214,8 +214,9 @@ TEST(Program, MakesThePanelAgainOnTheSamePpdAndTicket) {
 }
 
 TEST(Program, CarriesOptionsOutAsPicks) {
-  const ProgramRun run = runHeadless({"--inspect", "-o", "OVKStapling=front OVKFolding=Saddle",
-                                      "-o", "OVKGutter=30", "-o", "number-up=2"});
+  const ProgramRun run =
+      runHeadless({"--inspect", "-o", "OVKStapling=front", "-o", "OVKFolding=Saddle", "-o",
+                   "OVKGutter=30", "-o", "number-up=2"});
   ASSERT_EQ(run.status, 0);
   EXPECT_EQ(marked(run.json(), "OVKFolding"), "Saddle");
   EXPECT_EQ(marked(run.json(), "OVKStapling"), "None");
