@@ -15,13 +15,6 @@
 namespace orvek {
 namespace {
 
-Status runActions(const CommandLine &line, PrintSession &session) {
-  for (const Action &action : line.actions) {
-    if (Status done = runAction(session, action); !done) return done;
-  }
-  return {};
-}
-
 void savePanels(PrintSession &session) {
   session.perform([&] {
     for (const auto &hosted : session.panels()) {
@@ -30,13 +23,13 @@ void savePanels(PrintSession &session) {
   });
 }
 
-Status writeFiles(const CommandLine &line, const PrintSession &session) {
+Status writeFiles(const CommandLine &line, PrintSession &session) {
   if (!line.ticketOut.isNull()) {
     if (Status written = writeTicket(line.ticketOut, session.ticket().values()); !written) {
       return written;
     }
   }
-  return line.screenshot.isNull() ? Status() : writeScreenshot(session, line.screenshot);
+  return line.screenshot.isNull() ? Status() : writeScreenshot(line, session);
 }
 
 QByteArray summaryText(const PrintSession &session) {
@@ -47,6 +40,15 @@ QByteArray summaryText(const PrintSession &session) {
   return text.toUtf8();
 }
 
+}  // namespace
+
+Status runActions(const CommandLine &line, PrintSession &session) {
+  for (const Action &action : line.actions) {
+    if (Status done = runAction(session, action); !done) return done;
+  }
+  return {};
+}
+
 Status printState(const CommandLine &line, const PrintSession &session) {
   QByteArray text;
   if (line.inspect) text += QJsonDocument(inspect(session)).toJson(QJsonDocument::Indented);
@@ -54,16 +56,19 @@ Status printState(const CommandLine &line, const PrintSession &session) {
   return text.isEmpty() ? Status() : writeToStandardOutput(text);
 }
 
-}  // namespace
+Status saveAndWrite(const CommandLine &line, PrintSession &session) {
+  savePanels(session);
+  return writeFiles(line, session);
+}
 
 Status runHeadless(const CommandLine &line) {
   Result<std::unique_ptr<PrintSession>> started = startSession(line);
   if (!started) return started.failure();
   PrintSession &session = *started.value();
   if (Status done = runActions(line, session); !done) return done;
-  savePanels(session);
+  const Status written = saveAndWrite(line, session);
   for (const QString &sentence : session.notices()) tell(sentence);
-  if (Status written = writeFiles(line, session); !written) return written;
+  if (!written) return written;
   if (Status printed = printAsAsked(line, session); !printed) return printed;
   return printState(line, session);
 }

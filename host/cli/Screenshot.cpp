@@ -3,9 +3,13 @@
 
 #include "host/cli/Screenshot.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QImage>
 #include <QPixmap>
 #include <QSaveFile>
+
+#include "host/cli/Window.h"
 
 namespace orvek {
 namespace {
@@ -14,17 +18,20 @@ Failure notWritten(const QString &path, const QString &why) {
   return {FailureKind::Io, path, why};
 }
 
-QImage renderDialog(const PrintSession &session) {
-  if (session.panels().empty()) return {};
-  return session.panels().front()->container()->grab().toImage();
+// Shown without a screen, so that sizes, styles and texts are those of the real window.
+QImage renderDialog(const CommandLine &line, PrintSession &session) {
+  PrintDialog dialog(session, dialogSetupFor(line));
+  dialog.setAttribute(Qt::WA_DontShowOnScreen);
+  dialog.show();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+  return dialog.grab().toImage();
 }
 
 }  // namespace
 
-Status writeScreenshot(const PrintSession &session, const QString &path) {
-  const QImage picture = renderDialog(session);
-  if (picture.isNull())
-    return notWritten(path, QStringLiteral("there is no panel to take a picture of"));
+Status writeScreenshot(const CommandLine &line, PrintSession &session) {
+  const QString &path = line.screenshot;
+  const QImage picture = renderDialog(line, session);
   QSaveFile file(path);
   if (file.open(QIODevice::WriteOnly) && picture.save(&file, "PNG") && file.commit()) return {};
   return notWritten(path, file.errorString());

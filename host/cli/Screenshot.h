@@ -2,13 +2,13 @@
 // A picture of the dialog in a file.
 #pragma once
 
-#include <QString>
-
+#include "host/cli/CommandLine.h"
 #include "host/session/PrintSession.h"
 
 namespace orvek {
 
-/// Writes the dialog as a PNG; the file is replaced as a whole or left as it was.
-Status writeScreenshot(const PrintSession &session, const QString &path);
+/// Writes the window as it would be shown into --screenshot's file, as a PNG; the file is replaced
+/// as a whole or left as it was.
+Status writeScreenshot(const CommandLine &line, PrintSession &session);
 
 }  // namespace orvek

@@ -8,6 +8,7 @@
 #include "host/cli/Headless.h"
 #include "host/cli/Help.h"
 #include "host/cli/ToolkitMessages.h"
+#include "host/cli/Window.h"
 #include "platform/system/MainBundle.h"
 
 namespace {
@@ -28,11 +29,22 @@ Status run(const CommandLine &line) {
                    QStringLiteral("not available in this build")};
   }
   if (line.headless) return runHeadless(line);
+  return runWindow(line);
+}
+
+// The toolkit ends the program where it finds no display; this says it first.
+Status checkDisplay() {
+  for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+    if (!qEnvironmentVariableIsEmpty(variable)) return {};
+  }
   return Failure{FailureKind::Io, QStringLiteral("window"),
-                 QStringLiteral("not available in this build, use --headless")};
+                 QStringLiteral("there is no display (DISPLAY is not set), use --headless")};
 }
 
 int start(const CommandLine &line, char **argv) {
+  if (!needsNoWindow(line)) {
+    if (const Status checked = checkDisplay(); !checked) return report(checked.failure());
+  }
   if (needsNoWindow(line)) qputenv("QT_QPA_PLATFORM", "offscreen");
   shapeToolkitMessages();
   // The options are the program's own; the toolkit must not look for its among them.

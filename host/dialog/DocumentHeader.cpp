@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: Apache-2.0
+// Picture at the left, two lines beside it.
+
+#include "host/dialog/DocumentHeader.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+namespace orvek {
+namespace {
+
+constexpr int pictureSize = 32;
+constexpr int leastNameWidth = 160;
+constexpr int gap = 10;
+
+}  // namespace
+
+DocumentHeader::DocumentHeader(QWidget *parent)
+    : QWidget(parent),
+      m_picture(new QLabel(this)),
+      m_name(new QLabel(this)),
+      m_detail(new QLabel(this)) {
+  m_picture->hide();
+  QFont bold = m_name->font();
+  bold.setBold(true);
+  m_name->setFont(bold);
+  m_name->setTextFormat(Qt::PlainText);
+  m_detail->setTextFormat(Qt::PlainText);
+  m_name->setMinimumWidth(leastNameWidth);
+  m_name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  auto *grid = new QGridLayout(this);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setHorizontalSpacing(gap);
+  grid->setVerticalSpacing(0);
+  grid->addWidget(m_picture, 0, 0, 2, 1);
+  grid->addWidget(m_name, 0, 1);
+  grid->addWidget(m_detail, 1, 1);
+  grid->setColumnStretch(1, 1);
+}
+
+void DocumentHeader::setPicture(QStyle::StandardPixmap picture) {
+  m_picture->setPixmap(style()->standardIcon(picture).pixmap(pictureSize, pictureSize));
+  m_picture->show();
+}
+
+void DocumentHeader::setTexts(const QString &name, const QString &detail) {
+  m_fullName = name;
+  m_name->setToolTip(name);
+  m_name->setAccessibleName(name);
+  m_detail->setText(detail);
+  fitName();
+}
+
+void DocumentHeader::resizeEvent(QResizeEvent *event) {
+  QWidget::resizeEvent(event);
+  fitName();
+}
+
+void DocumentHeader::fitName() {
+  m_name->setText(m_name->fontMetrics().elidedText(m_fullName, Qt::ElideMiddle, m_name->width()));
+}
+
+QString pagesInWords(int pages) {
+  if (pages < 1) return {};
+  return pages == 1 ? DocumentHeader::tr("1 page") : DocumentHeader::tr("%1 pages").arg(pages);
+}
+
+}  // namespace orvek

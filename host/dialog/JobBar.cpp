@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: Apache-2.0
+// Progress at the left, buttons at the right in the desktop's own order.
+
+#include "host/dialog/JobBar.h"
+
+#include <QDialogButtonBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+
+namespace orvek {
+namespace {
+
+constexpr int progressWidth = 200;
+constexpr int wholeJob = 100;
+
+}  // namespace
+
+JobBar::JobBar(QWidget *parent)
+    : QWidget(parent), m_words(new QLabel(this)), m_progress(new QProgressBar(this)) {
+  auto *buttons = new QDialogButtonBox(this);
+  m_print = buttons->addButton(tr("&Print"), QDialogButtonBox::AcceptRole);
+  m_print->setObjectName(QStringLiteral("printButton"));
+  m_print->setDefault(true);
+  m_cancel = buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
+  m_cancel->setObjectName(QStringLiteral("cancelButton"));
+  m_cancel->setAutoDefault(false);
+  m_progress->setAccessibleName(tr("Progress"));
+  m_progress->setFixedWidth(progressWidth);
+  m_progress->setTextVisible(false);
+  auto *row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(m_progress);
+  row->addWidget(m_words, 1);
+  row->addWidget(buttons);
+  connect(m_print, &QPushButton::clicked, this, &JobBar::printAsked);
+  connect(m_cancel, &QPushButton::clicked, this, &JobBar::cancelAsked);
+  setState({});
+}
+
+void JobBar::setState(const JobBarState &state) {
+  m_print->setEnabled(state.canPrint && !state.isPrinting);
+  m_print->setText(state.asksForFile ? tr("&Print to File…") : tr("&Print"));
+  m_print->setAccessibleName(m_print->text().remove(QLatin1Char('&')));
+  m_cancel->setEnabled(!state.isCancelling);
+  m_cancel->setAccessibleName(m_cancel->text());
+  m_cancel->setAccessibleDescription(state.isPrinting ? tr("Stops the job")
+                                                      : tr("Closes the window without printing"));
+  m_progress->setVisible(state.isPrinting);
+  m_words->setVisible(state.isPrinting);
+  if (state.isCancelling) setProgress(tr("Stopping the job"), -1);
+}
+
+void JobBar::setProgress(const QString &words, int percent) {
+  m_words->setText(words);
+  m_progress->setRange(0, percent < 0 ? 0 : wholeJob);
+  m_progress->setValue(percent);
+}
+
+}  // namespace orvek

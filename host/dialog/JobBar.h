@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: Apache-2.0
+// The dialog's last row: Print and Cancel, and a job's progress. Shows and asks, knows no job.
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QProgressBar;
+class QPushButton;
+
+namespace orvek {
+
+/// What the row shows.
+struct JobBarState {
+  bool canPrint = true;
+  bool asksForFile = false;  ///< Print will ask where to
+  bool isPrinting = false;
+  bool isCancelling = false;
+
+  bool operator==(const JobBarState &) const = default;
+};
+
+class JobBar final : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit JobBar(QWidget *parent = nullptr);
+
+  /// Enabled, visible and texts of all controls come from the state, and from here alone.
+  void setState(const JobBarState &state);
+
+  /// How far the job is, in words, and in percent (-1: nobody knows).
+  void setProgress(const QString &words, int percent);
+
+ Q_SIGNALS:
+  void printAsked();
+  void cancelAsked();
+
+ private:
+  QLabel *m_words;
+  QProgressBar *m_progress;
+  QPushButton *m_print;
+  QPushButton *m_cancel;
+};
+
+}  // namespace orvek

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: Apache-2.0
+// Pages at the left, summary at the right.
+
+#include "host/dialog/SessionView.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "host/dialog/PanelPage.h"
+#include "host/dialog/SummaryView.h"
+
+namespace orvek {
+namespace {
+
+constexpr int gap = 12;
+
+}  // namespace
+
+SessionView::SessionView(PrintSession &session, QWidget *parent)
+    : QWidget(parent),
+      m_session(session),
+      m_baseline(panelLines(session)),
+      m_pages(new QTabWidget(this)),
+      m_summary(new SummaryView(this)) {
+  m_pages->setObjectName(QStringLiteral("pages"));
+  m_pages->setAccessibleName(tr("Settings"));
+  addPanelPages();
+  auto *summaryTitle = new QLabel(tr("&Summary"), this);
+  summaryTitle->setBuddy(m_summary);
+  // The list begins where the pages do.
+  summaryTitle->setFixedHeight(m_pages->tabBar()->sizeHint().height() - 1);
+  auto *aside = new QVBoxLayout;
+  aside->setSpacing(0);
+  aside->addWidget(summaryTitle);
+  aside->addWidget(m_summary, 1);
+  auto *row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(gap);
+  row->addWidget(m_pages, 1);
+  row->addLayout(aside);
+  connect(&session, &PrintSession::changed, this, &SessionView::followSession);
+  connect(&session, &PrintSession::panelViewResized, this, &SessionView::roomChanged);
+  followSession();
+}
+
+void SessionView::addPanelPages() {
+  for (const auto &hosted : m_session.panels()) {
+    if (hosted->container() == nullptr || hosted->view() == nullptr) continue;
+    m_pages->addTab(new PanelPage(hosted->container(), m_pages), hosted->name());
+  }
+}
+
+void SessionView::followSession() {
+  m_summary->show(summaryLines(m_session, m_baseline));
+}
+
+}  // namespace orvek

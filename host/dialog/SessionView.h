@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: Apache-2.0
+// Everything of the window that belongs to one printing session: its pages and its summary. Another
+// printer is another session, and gets another view.
+#pragma once
+
+#include <QMap>
+#include <QWidget>
+
+#include "host/session/PrintSession.h"
+
+class QTabWidget;
+
+namespace orvek {
+
+class SummaryView;
+
+/// Borrows the session, which must outlive the view, and its panels' containers.
+class SessionView final : public QWidget {
+  Q_OBJECT
+
+ public:
+  SessionView(PrintSession &session, QWidget *parent);
+
+ Q_SIGNALS:
+  /// The view needs more room, or less.
+  void roomChanged();
+
+ private:
+  void addPanelPages();
+  void followSession();
+
+  PrintSession &m_session;
+  QMap<QString, QString> m_baseline;  // the panels' lines when the view was made
+  QTabWidget *m_pages;
+  SummaryView *m_summary;
+};
+
+}  // namespace orvek

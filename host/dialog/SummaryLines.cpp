@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: Apache-2.0
+// Merges the panels' summaries with the marks that no panel speaks of.
+
+#include "host/dialog/SummaryLines.h"
+
+#include <QCoreApplication>
+#include <algorithm>
+
+#include "host/session/Constraints.h"
+#include "host/session/Wording.h"
+
+namespace orvek {
+namespace {
+
+// Titles and values of the marks that are not the PPD's own.
+QMap<QString, QString> changedOptions(const PrintSession &session, QStringList *order) {
+  QMap<QString, QString> changed;
+  if (!session.printer()) return changed;
+  ppd_file_t *ppd = session.printer()->ppd();
+  for (const OptionChoice &mark : session.marks().differingFromDefaults()) {
+    if (isInstalledEquipment(ppd, mark.option)) continue;
+    const QString title = optionText(ppd, mark.option);
+    *order << title;
+    changed.insert(title, choiceText(ppd, mark));
+  }
+  return changed;
+}
+
+QString pagesPerSheetTitle() {
+  return QCoreApplication::translate("SummaryLines", "Pages per sheet");
+}
+
+bool differs(const QMap<QString, QString> &baseline, const SummaryLine &line) {
+  const auto before = baseline.find(line.title);
+  return before != baseline.end() && before.value() != line.value;
+}
+
+}  // namespace
+
+QMap<QString, QString> panelLines(const PrintSession &session) {
+  QMap<QString, QString> lines;
+  for (const auto &[title, value] : session.summary()) lines.insert(title, value);
+  return lines;
+}
+
+QList<SummaryLine> summaryLines(const PrintSession &session,
+                                const QMap<QString, QString> &baseline) {
+  QStringList order;
+  QMap<QString, QString> changed = changedOptions(session, &order);
+  QList<SummaryLine> lines;
+  for (const auto &[title, value] : session.summary()) {
+    SummaryLine line{title, value, changed.contains(title)};
+    line.changed = line.changed || differs(baseline, line);
+    changed.remove(title);
+    lines << line;
+  }
+  for (const QString &title : order) {
+    const auto entry = changed.find(title);
+    if (entry != changed.end()) lines << SummaryLine{title, entry.value(), true};
+  }
+  if (const int pages = session.pagesPerSheet(); pages > 1) {
+    lines << SummaryLine{pagesPerSheetTitle(), QString::number(pages), true};
+  }
+  std::stable_partition(lines.begin(), lines.end(),
+                        [](const SummaryLine &line) { return line.changed; });
+  return lines;
+}
+
+}  // namespace orvek

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: Apache-2.0
+// What the dialog says about a job as it stands: which settings, in words, and which of them are
+// not the printer's own. Reads a session, changes nothing.
+#pragma once
+
+#include <QList>
+#include <QMap>
+#include <QString>
+
+#include "host/session/PrintSession.h"
+
+namespace orvek {
+
+/// One setting in words.
+struct SummaryLine {
+  QString title;
+  QString value;
+  bool changed = false;  ///< not what the printer does by itself
+
+  bool operator==(const SummaryLine &) const = default;
+};
+
+/// The panels' lines by title, to compare later ones with.
+QMap<QString, QString> panelLines(const PrintSession &session);
+
+/// Changed settings first: the panels' lines, then whatever else differs from the PPD's defaults;
+/// then the panels' other lines. A panel's line counts as changed where it speaks of an option
+/// whose choice is not the default, or where it is not what `baseline` has under its title.
+/// Installed equipment is no setting of a job and is left out.
+QList<SummaryLine> summaryLines(const PrintSession &session,
+                                const QMap<QString, QString> &baseline);
+
+}  // namespace orvek

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: Apache-2.0
+// A tree view without a tree: one row a line.
+
+#include "host/dialog/SummaryView.h"
+
+#include <QHeaderView>
+#include <QStyledItemDelegate>
+
+namespace orvek {
+namespace {
+
+constexpr int preferredWidth = 300;
+constexpr int preferredHeight = 250;
+constexpr int leastWidth = 240;
+constexpr int leastHeight = 120;
+constexpr int rowPadding = 2;
+constexpr double titleShare = 0.56;
+
+// Rows with air around their text.
+class RowDelegate final : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override {
+    return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 2 * rowPadding);
+  }
+
+  void paint(QPainter *painter, const QStyleOptionViewItem &option,
+             const QModelIndex &index) const override {
+    QStyleOptionViewItem inner(option);
+    inner.rect.adjust(0, rowPadding, 0, -rowPadding);
+    QStyledItemDelegate::paint(painter, inner, index);
+  }
+};
+
+QTreeWidgetItem *itemFor(const SummaryLine &line, const QFont &plain) {
+  auto *item = new QTreeWidgetItem({line.title, line.value});
+  QFont font = plain;
+  font.setBold(line.changed);
+  for (int column = 0; column < 2; ++column) {
+    item->setFont(column, font);
+    item->setTextAlignment(column, Qt::AlignLeft | Qt::AlignTop);
+  }
+  const QString sentence = line.changed
+                               ? SummaryView::tr("%1: %2 (changed)").arg(line.title, line.value)
+                               : SummaryView::tr("%1: %2").arg(line.title, line.value);
+  item->setData(0, Qt::AccessibleTextRole, sentence);
+  item->setToolTip(0, sentence);
+  item->setToolTip(1, sentence);
+  return item;
+}
+
+}  // namespace
+
+SummaryView::SummaryView(QWidget *parent) : QTreeWidget(parent) {
+  setAccessibleName(tr("Summary"));
+  setAccessibleDescription(tr("All settings of the job; those that were changed come first"));
+  setItemDelegate(new RowDelegate(this));
+  setColumnCount(2);
+  setHeaderHidden(true);
+  setRootIsDecorated(false);
+  setIndentation(0);
+  setWordWrap(true);
+  setTextElideMode(Qt::ElideRight);
+  setSelectionMode(QAbstractItemView::NoSelection);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+  header()->setStretchLastSection(true);
+  header()->setSectionResizeMode(QHeaderView::Fixed);
+}
+
+void SummaryView::show(const QList<SummaryLine> &lines) {
+  if (lines == m_lines && topLevelItemCount() > 0) return;
+  m_lines = lines;
+  clear();
+  for (const SummaryLine &line : lines) addTopLevelItem(itemFor(line, font()));
+}
+
+QSize SummaryView::sizeHint() const {
+  return {preferredWidth, preferredHeight};
+}
+
+QSize SummaryView::minimumSizeHint() const {
+  return {leastWidth, leastHeight};
+}
+
+void SummaryView::resizeEvent(QResizeEvent *event) {
+  setColumnWidth(0, int(viewport()->width() * titleShare));
+  QTreeWidget::resizeEvent(event);
+  scheduleDelayedItemsLayout();
+}
+
+}  // namespace orvek

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: Apache-2.0
+// A real window on a real PPD with the real plug-in, worked by events alone.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <memory>
+
+#include "host/dialog/NoticeBar.h"
+#include "host/dialog/PrintDialog.h"
+#include "host/dialog/SummaryView.h"
+#include "host/session/PluginLoader.h"
+#include "host/session/PrintSession.h"
+#include "tests/support/Printers.h"
+
+namespace orvek {
+
+inline constexpr int jobTimeout = 30000;  // milliseconds
+
+/// A window over a session on one of the project's printers. Prints the sample into outputFile.
+class DialogTest : public testing::Test {
+ protected:
+  void open(const QString &printer = QStringLiteral("Orvek-6180"), SessionSetup setup = {}) {
+    const QString source = QStringLiteral(ORVEK_SOURCE_DIR);
+    auto description = PrinterDescription::open(source + "/printers/" + printer + ".ppd");
+    ASSERT_TRUE(description) << description.failure().line().toStdString();
+    setup.printer = description.take();
+    auto begun = PrintSession::begin(std::move(setup));
+    ASSERT_TRUE(begun) << begun.failure().line().toStdString();
+    session = begun.take();
+    auto plugin = loadPlugin(QStringLiteral(ORVEK_BUNDLE_DIR));
+    ASSERT_TRUE(plugin) << plugin.failure().line().toStdString();
+    session->addPlugin(std::make_shared<LoadedPlugin>(plugin.take()));
+    session->openPanels();
+    showWindow();
+  }
+
+  void showWindow() {
+    DialogSetup dialogSetup;
+    dialogSetup.documentName = QStringLiteral("Finishing-Sample.pdf");
+    dialogSetup.pages = 8;
+    dialogSetup.jobRequest = [this](const PrintSession &now) { return requestFor(now); };
+    dialog = std::make_unique<PrintDialog>(*session, std::move(dialogSetup));
+    dialog->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog.get()));
+  }
+
+  JobRequest requestFor(const PrintSession &now) const {
+    JobRequest request;
+    request.files = files;
+    request.options = now.jobOptions();
+    request.ppdFile = now.printer()->path();
+    request.outputFile = outputFile;
+    return request;
+  }
+
+  template <typename Control>
+  Control *find(const char *name) const {
+    return dialog->findChild<Control *>(QLatin1String(name));
+  }
+
+  /// Opens the menu with the mouse and clicks on the item with this text.
+  void clickItem(const char *popUp, const QString &text) {
+    auto *menu = find<QComboBox>(popUp);
+    ASSERT_NE(menu, nullptr) << popUp;
+    const int row = menu->findText(text);
+    ASSERT_GE(row, 0) << text.toStdString();
+    QTest::mouseClick(menu, Qt::LeftButton);
+    QAbstractItemView *list = menu->view();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return list->isVisible(); }));
+    const QModelIndex index = menu->model()->index(row, 0);
+    list->scrollTo(index);
+    // A combo box takes a click for the one that opened it until a moment has passed.
+    QTest::qWait(QApplication::doubleClickInterval() + 50);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(index).center());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !list->isVisible(); }));
+    QCoreApplication::processEvents();
+  }
+
+  void click(const char *button) {
+    auto *found = find<QAbstractButton>(button);
+    ASSERT_NE(found, nullptr) << button;
+    QTest::mouseClick(found, Qt::LeftButton, {}, QPoint(found->height() / 2, found->height() / 2));
+    QCoreApplication::processEvents();
+  }
+
+  NoticeBar &notices() const { return *dialog->findChild<NoticeBar *>(); }
+  SummaryView &summary() const { return *dialog->findChild<SummaryView *>(); }
+
+  /// The value of a line of the summary as it is shown; null where there is no such line.
+  QString summaryValue(const QString &title) const {
+    for (int row = 0; row < summary().topLevelItemCount(); ++row) {
+      const QTreeWidgetItem *line = summary().topLevelItem(row);
+      if (line->text(0) == title) return line->text(1);
+    }
+    return {};
+  }
+
+  QByteArray printed() const {
+    QFile file(outputFile);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  }
+
+  QTemporaryDir folder;
+  QStringList files{QStringLiteral(ORVEK_SOURCE_DIR "/samples/Finishing-Sample.pdf")};
+  QString outputFile = folder.filePath(QStringLiteral("out.ps"));
+  std::unique_ptr<PrintSession> session;
+  std::unique_ptr<PrintDialog> dialog;
+};
+
+}  // namespace orvek
