@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: Apache-2.0
+// What is said before a job goes.
+
+#include "host/session/JobWarnings.h"
+
+#include <gtest/gtest.h>
+
+#include "host/session/PrintSession.h"
+#include "tests/support/Printers.h"
+
+namespace orvek {
+namespace {
+
+class JobWarnings : public testing::Test {
+ protected:
+  void SetUp() override {
+    SessionSetup setup;
+    setup.printer =
+        PrinterDescription::open(QStringLiteral(ORVEK_SOURCE_DIR "/printers/Orvek-6180.ppd"))
+            .take();
+    session = PrintSession::begin(setup).take();
+  }
+
+  void setCopies(int copies, bool collate) {
+    JobSettings settings = session->jobSettings();
+    settings.copies = copies;
+    settings.collate = collate;
+    session->setJobSettings(settings);
+  }
+
+  std::unique_ptr<PrintSession> session;
+};
+
+TEST_F(JobWarnings, AreNoneForAnOrdinaryJob) {
+  EXPECT_EQ(jobWarnings(*session, 500), QStringList());
+}
+
+TEST_F(JobWarnings, NameStaplesInCopiesThatAreNotCollated) {
+  session->pick("OVKStapling", "Dual");
+  setCopies(2, false);
+  EXPECT_EQ(jobWarnings(*session, 8),
+            QStringList{"Two staples with copies that are not collated: equal pages would be "
+                        "stapled together"});
+  setCopies(2, true);
+  EXPECT_EQ(jobWarnings(*session, 8), QStringList());
+  setCopies(1, false);
+  EXPECT_EQ(jobWarnings(*session, 8), QStringList());
+}
+
+TEST_F(JobWarnings, NameABookletOfMoreSheetsThanThePrinterFolds) {
+  session->ticket().setValue("OVKEnableBooklet", "True");
+  EXPECT_EQ(jobWarnings(*session, 60), QStringList());
+  EXPECT_EQ(
+      jobWarnings(*session, 61),
+      QStringList{"A booklet of 16 sheets is more than the printer folds at once: at most 15"});
+}
+
+TEST_F(JobWarnings, CountOnlyThePagesThatAreAskedFor) {
+  session->ticket().setValue("OVKEnableBooklet", "True");
+  JobSettings settings;
+  settings.pageRanges = QStringLiteral("1-60");
+  session->setJobSettings(settings);
+  EXPECT_EQ(jobWarnings(*session, 400), QStringList());
+}
+
+TEST_F(JobWarnings, CountTheSheetsOfASaddleFoldByTheLayout) {
+  session->pick("OVKFolding", "Saddle");
+  EXPECT_EQ(jobWarnings(*session, 16).size(), 1);
+  session->pick("Duplex", "DuplexTumble");
+  EXPECT_EQ(jobWarnings(*session, 30), QStringList());
+  EXPECT_EQ(jobWarnings(*session, 31).size(), 1);
+  session->setPagesPerSheet(2);
+  EXPECT_EQ(jobWarnings(*session, 31), QStringList());
+}
+
+TEST_F(JobWarnings, DoNotJudgeADocumentOfUnknownLength) {
+  session->ticket().setValue("OVKEnableBooklet", "True");
+  EXPECT_EQ(jobWarnings(*session, 0), QStringList());
+}
+
+TEST(JobWarningsWithoutPpd, KnowNoStaples) {
+  const auto session = PrintSession::begin({}).take();
+  JobSettings settings;
+  settings.copies = 2;
+  settings.collate = false;
+  session->setJobSettings(settings);
+  EXPECT_EQ(jobWarnings(*session, 8), QStringList());
+}
+
+}  // namespace
+}  // namespace orvek
