@@ -44,7 +44,8 @@ class CupsConnection {
 
   bool isCancelled() const;
 
-  /// Whether an answer was given up or lost. libcups may still report the success of an earlier call.
+  /// Whether an answer was given up or lost. libcups may still report the success of an earlier
+  /// call.
   bool isBroken() const;
 
   /// The failure of the libcups call just made, in words; `what` is what the call was about.
@@ -60,7 +61,7 @@ class CupsConnection {
   http_t *m_http = nullptr;
   QElapsedTimer m_stall;      ///< since the server stopped taking or giving bytes
   QElapsedTimer m_lastAsked;  ///< since libcups last asked whether to wait
-  bool m_gaveUp = false;  ///< waited too long, once and for all
+  bool m_gaveUp = false;      ///< waited too long, once and for all
 };
 
 }  // namespace orvek

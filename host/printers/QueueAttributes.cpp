@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: Apache-2.0
+// Reads what libcups knows of a destination: supported and default values, and their names.
+
+#include "host/printers/QueueAttributes.h"
+
+#include <memory>
+
+#include "host/printers/SettingTitles.h"
+
+namespace orvek {
+namespace {
+
+const char *const kSettings[] = {"media",     "sides",      "print-color-mode", "print-quality",
+                                 "number-up", "output-bin", "finishings"};
+
+using Destination = std::unique_ptr<cups_dest_t, void (*)(cups_dest_t *)>;
+using Details = std::unique_ptr<cups_dinfo_t, decltype(&cupsFreeDestInfo)>;
+
+void freeOne(cups_dest_t *destination) {
+  cupsFreeDests(1, destination);
+}
+
+/// A queue and what it can do.
+struct Queue {
+  http_t *http;
+  cups_dest_t *destination;
+  cups_dinfo_t *details;
+};
+
+/// A job's spelling of one value: enumerations and numbers go over as numbers, the rest as
+/// keywords.
+QString valueText(ipp_attribute_t *attribute, int index) {
+  switch (ippGetValueTag(attribute)) {
+    case IPP_TAG_INTEGER:
+    case IPP_TAG_ENUM:
+      return QString::number(ippGetInteger(attribute, index));
+    case IPP_TAG_RANGE:
+      return {};
+    default:
+      return QString::fromUtf8(ippGetString(attribute, index, nullptr));
+  }
+}
+
+/// libcups gives the keyword itself where neither the printer nor its own catalogs have a name.
+QString titleOr(const char *title, const QString &keyword, const QString &fallback) {
+  const QString text = QString::fromUtf8(title);
+  return text.isEmpty() || text == keyword ? fallback : text;
+}
+
+QString choiceTitle(const Queue &queue, const char *setting, const QString &keyword) {
+  const char *title = cupsLocalizeDestValue(queue.http, queue.destination, queue.details, setting,
+                                            keyword.toUtf8().constData());
+  return titleOr(title, keyword, plainChoiceTitle(QString::fromLatin1(setting), keyword));
+}
+
+QString settingTitle(const Queue &queue, const QString &keyword) {
+  const char *title = cupsLocalizeDestOption(queue.http, queue.destination, queue.details,
+                                             keyword.toUtf8().constData());
+  return titleOr(title, keyword, plainSettingTitle(keyword));
+}
+
+QueueSetting readSetting(const Queue &queue, const char *name) {
+  const QString keyword = QString::fromLatin1(name);
+  QueueSetting setting{keyword, settingTitle(queue, keyword), {}, {}};
+  ipp_attribute_t *supported =
+      cupsFindDestSupported(queue.http, queue.destination, queue.details, name);
+  for (int i = 0; i < ippGetCount(supported); ++i) {
+    const QString value = valueText(supported, i);
+    if (value.isEmpty()) continue;
+    setting.choices << SettingChoice{value, choiceTitle(queue, name, value)};
+  }
+  ipp_attribute_t *standard =
+      cupsFindDestDefault(queue.http, queue.destination, queue.details, name);
+  if (ippGetCount(standard) > 0) setting.defaultChoice = valueText(standard, 0);
+  return setting;
+}
+
+}  // namespace
+
+Result<QList<QueueSetting>> readQueueSettings(const ServerAccess &access, const QString &queue) {
+  auto connection = CupsConnection::open(access);
+  if (!connection) return connection.failure();
+  http_t *http = connection.value()->http();
+  const Destination destination(cupsGetNamedDest(http, queue.toUtf8().constData(), nullptr),
+                                &freeOne);
+  if (!destination) return connection.value()->lastFailure(queue);
+  const Details details(cupsCopyDestInfo(http, destination.get()), &cupsFreeDestInfo);
+  if (!details) return connection.value()->lastFailure(queue);
+  QList<QueueSetting> settings;
+  for (const char *name : kSettings) {
+    const auto setting = readSetting({http, destination.get(), details.get()}, name);
+    if (setting.choices.size() > 1) settings << setting;
+  }
+  return settings;
+}
+
+}  // namespace orvek

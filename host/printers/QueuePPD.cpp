@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: Apache-2.0
+// Fetches with libcups, keeps a copy under the date that the server gave it.
+
+#include "host/printers/QueuePPD.h"
+
+#include <QCryptographicHash>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QStandardPaths>
+#include <QUrl>
+#include <array>
+
+#include "host/printers/PrinterList.h"
+
+namespace orvek {
+namespace {
+
+constexpr qsizetype kLongestName = 200;
+
+QByteArray digestOf(const QString &text) {
+  return QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha256).toHex();
+}
+
+/// Keeps the queue's name readable, as messages about the PPD show it. Each server has a folder of
+/// its own: two of them may have queues of one name.
+QString keptPath(const QString &folder, const QString &server, const QString &queue) {
+  QByteArray name = queue.toUtf8().toPercentEncoding();
+  if (name.size() > kLongestName) name = digestOf(queue);
+  return QStringLiteral("%1/ppd/%2/%3.ppd")
+      .arg(folder, QString::fromLatin1(digestOf(server)), QString::fromLatin1(name));
+}
+
+time_t keptDate(const QString &path) {
+  const QFileInfo kept(path);
+  return kept.isFile() && kept.size() > 0
+             ? static_cast<time_t>(kept.lastModified().toSecsSinceEpoch())
+             : 0;
+}
+
+Status keep(const QString &fetched, const QString &path, time_t date) {
+  QFile source(fetched);
+  if (!source.open(QIODevice::ReadOnly))
+    return Failure{FailureKind::Io, fetched, source.errorString()};
+  const QByteArray ppd = source.readAll();
+  QDir().mkpath(QFileInfo(path).path());
+  QSaveFile kept(path);
+  if (!kept.open(QIODevice::WriteOnly) || kept.write(ppd) != ppd.size() || !kept.commit())
+    return Failure{FailureKind::Io, path, kept.errorString()};
+  QFile dated(path);
+  // Undated, it would only be fetched again the next time.
+  if (dated.open(QIODevice::ReadWrite))
+    dated.setFileTime(QDateTime::fromSecsSinceEpoch(date), QFileDevice::FileModificationTime);
+  return {};
+}
+
+/// No PPD is an answer as long as there is such a queue.
+Result<QString> withoutPPD(const CupsConnection &connection, const QString &queue) {
+  const auto printer = findPrinter(connection, queue);
+  if (!printer) return printer.failure();
+  return QString();
+}
+
+}  // namespace
+
+QueuePPD::QueuePPD(const QString &cacheFolder) : m_folder(cacheFolder) {}
+
+QString QueuePPD::standardFolder() {
+  return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
+         QStringLiteral("/orvek-print");
+}
+
+Result<QString> QueuePPD::fetch(const ServerAccess &access, const QString &queue) const {
+  auto connection = CupsConnection::open(access);
+  if (!connection) return connection.failure();
+  return fetch(*connection.value(), queue);
+}
+
+Result<QString> QueuePPD::fetch(const CupsConnection &connection, const QString &queue) const {
+  const QString path = keptPath(m_folder, connection.serverName(), queue);
+  time_t date = keptDate(path);
+  // libcups names a temporary file here; for a server on this machine it is a link to its own PPD.
+  std::array<char, 1024> fetched{};
+  const http_status_t status = cupsGetPPD3(connection.http(), queue.toUtf8().constData(), &date,
+                                           fetched.data(), fetched.size());
+  const QString fetchedPath = QFile::decodeName(fetched.data());
+  Status kept;
+  if (status == HTTP_STATUS_OK) kept = keep(fetchedPath, path, date);
+  if (!fetchedPath.isEmpty()) QFile::remove(fetchedPath);
+  if (connection.isBroken()) return connection.lastFailure(queue);
+  if (status == HTTP_STATUS_NOT_FOUND) return withoutPPD(connection, queue);
+  if (status != HTTP_STATUS_OK && status != HTTP_STATUS_NOT_MODIFIED)
+    return connection.lastFailure(queue);
+  return kept ? Result<QString>(path) : Result<QString>(kept.failure());
+}
+
+}  // namespace orvek

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: Apache-2.0
+// The PPD of a queue, fetched once and kept in the user's cache folder until the server has a newer
+// one.
+#pragma once
+
+#include "host/printers/CupsConnection.h"
+
+namespace orvek {
+
+/// Where PPD files of queues are kept.
+class QueuePPD {
+ public:
+  explicit QueuePPD(const QString &cacheFolder = standardFolder());
+
+  /// $XDG_CACHE_HOME/orvek-print, or what stands for it.
+  static QString standardFolder();
+
+  /// The path of `queue`'s PPD file: asks the server whether it has another than the one kept, and
+  /// fetches that. A null path where the queue has none (a driverless or raw queue). Fails where
+  /// the server does not answer, has no such queue, or the cache can't be written.
+  Result<QString> fetch(const ServerAccess &access, const QString &queue) const;
+
+  /// The same over an open connection.
+  Result<QString> fetch(const CupsConnection &connection, const QString &queue) const;
+
+ private:
+  QString m_folder;
+};
+
+}  // namespace orvek

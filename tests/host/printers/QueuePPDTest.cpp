@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: Apache-2.0
+// PPD files of real queues: fetched once, fetched again when changed, and what a queue without one
+// has.
+
+#include "host/printers/QueuePPD.h"
+
+#include <gtest/gtest.h>
+
+#include <QDateTime>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include "host/printers/QueueAttributes.h"
+#include "host/printers/SettingTitles.h"
+#include "tests/support/CapturingFilter.h"
+#include "tests/support/PrivateCups.h"
+
+namespace orvek {
+namespace {
+
+using orvek::testing::contentsOf;
+using orvek::testing::orvekPPD;
+using orvek::testing::PrivateCups;
+using orvek::testing::writeContents;
+
+const QString kQueue = QStringLiteral("office");
+
+class QueuePPDTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    if (!PrivateCups::obstacle().isEmpty()) GTEST_SKIP() << PrivateCups::obstacle().toStdString();
+    cups = std::make_unique<PrivateCups>();
+    cups->addQueue(kQueue, orvekPPD(QStringLiteral("6180")));
+  }
+
+  QString fetched(const QString &queue = kQueue) const {
+    const auto path = QueuePPD(cache.path()).fetch({}, queue);
+    EXPECT_TRUE(path) << (path ? "" : path.failure().line().toStdString());
+    return path ? path.value() : QString();
+  }
+
+  QTemporaryDir cache;
+  std::unique_ptr<PrivateCups> cups;
+};
+
+TEST_F(QueuePPDTest, IsTheOneTheQueueWasMadeWith) {
+  const QString path = fetched();
+  EXPECT_TRUE(path.startsWith(cache.path()));
+  EXPECT_TRUE(path.endsWith(QStringLiteral("/office.ppd")));
+  EXPECT_TRUE(QFileInfo(path).isFile() && !QFileInfo(path).isSymLink());
+  EXPECT_TRUE(contentsOf(path).contains("*ModelName: \"Orvek 6180\""));
+}
+
+TEST_F(QueuePPDTest, IsNotFetchedAgainWhileItIsTheSame) {
+  const QString path = fetched();
+  const QByteArray mark = "*% kept\n";
+  const QDateTime date = QFileInfo(path).lastModified();
+  writeContents(path, mark);
+  QFile kept(path);
+  ASSERT_TRUE(kept.open(QIODevice::ReadWrite));
+  kept.setFileTime(date, QFileDevice::FileModificationTime);
+  kept.close();
+  EXPECT_EQ(contentsOf(fetched()), mark);
+}
+
+TEST_F(QueuePPDTest, IsFetchedAgainOnceTheQueueHasAnother) {
+  constexpr int kHoursAgo = -3600;
+  const QString path = fetched();
+  QFile kept(path);
+  ASSERT_TRUE(kept.open(QIODevice::ReadWrite));
+  kept.setFileTime(QFileInfo(path).lastModified().addSecs(kHoursAgo),
+                   QFileDevice::FileModificationTime);
+  kept.close();
+  cups->addQueue(kQueue, orvekPPD(QStringLiteral("4150")));
+  EXPECT_TRUE(contentsOf(fetched()).contains("*ModelName: \"Orvek 4150\""));
+}
+
+TEST_F(QueuePPDTest, IsFetchedFromAServerByHostAndPort) {
+  const auto path = QueuePPD(cache.path()).fetch({cups->hostAndPort(), {}, nullptr}, kQueue);
+  ASSERT_TRUE(path) << path.failure().line().toStdString();
+  EXPECT_TRUE(contentsOf(path.value()).contains("*ModelName: \"Orvek 6180\""));
+  EXPECT_NE(path.value(), fetched());
+}
+
+TEST_F(QueuePPDTest, IsAbsentForAQueueWithoutOne) {
+  cups->addQueue(QStringLiteral("raw"), QString());
+  EXPECT_TRUE(fetched(QStringLiteral("raw")).isNull());
+}
+
+TEST_F(QueuePPDTest, FailsForAQueueThatDoesNotExist) {
+  const auto path = QueuePPD(cache.path()).fetch({}, QStringLiteral("gone"));
+  ASSERT_FALSE(path);
+  EXPECT_TRUE(path.failure().why.startsWith(QStringLiteral("no such printer")))
+      << path.failure().line().toStdString();
+}
+
+TEST_F(QueuePPDTest, SaysThatTheCacheCannotBeWritten) {
+  const QString file = cache.filePath(QStringLiteral("file"));
+  writeContents(file, "x");
+  const auto path = QueuePPD(file).fetch({}, kQueue);
+  ASSERT_FALSE(path);
+  EXPECT_TRUE(path.failure().what.startsWith(file));
+}
+
+TEST_F(QueuePPDTest, SaysThatNoServerAnswers) {
+  cups->stop();
+  const auto path = QueuePPD(cache.path()).fetch({}, kQueue);
+  ASSERT_FALSE(path);
+  EXPECT_EQ(path.failure().what, cups->socket());
+}
+
+TEST_F(QueuePPDTest, GivesUpOnAServerThatHangs) {
+  constexpr int kLongest = 45000;
+  // By its port: libcups does not ask a server whose files it can read itself.
+  const ServerAccess access{cups->hostAndPort(), {}, nullptr};
+  cups->pause();
+  QElapsedTimer clock;
+  clock.start();
+  const auto path = QueuePPD(cache.path()).fetch(access, kQueue);
+  const qint64 elapsed = clock.elapsed();
+  cups->resume();
+  ASSERT_FALSE(path);
+  EXPECT_LT(elapsed, kLongest);
+  EXPECT_TRUE(path.failure().why.contains(QStringLiteral("stopped answering")))
+      << path.failure().line().toStdString();
+}
+
+QByteArray optionGroup(int number) {
+  const QByteArray keyword = "Odd" + QByteArray::number(number);
+  return "*OpenUI *" + keyword + "/Odd: PickOne\n*Default" + keyword + ": A\n*" + keyword +
+         " A/A: \"\"\n*" + keyword + " B/B: \"\"\n*CloseUI: *" + keyword + "\n";
+}
+
+TEST_F(QueuePPDTest, MayHaveFiveThousandOptions) {
+  constexpr int kOptions = 5000;
+  constexpr int kLongest = 5000;
+  QByteArray ppd = contentsOf(orvekPPD(QStringLiteral("6180")));
+  for (int i = 0; i < kOptions; ++i) ppd += optionGroup(i);
+  const QString large = cache.filePath(QStringLiteral("large.ppd"));
+  writeContents(large, ppd);
+  const auto made = cups->addQueue(QStringLiteral("large"), large);
+  ASSERT_EQ(made.exitStatus, 0) << made.errors.toStdString();
+  QElapsedTimer clock;
+  clock.start();
+  ppd_file_t *opened = ppdOpenFile(fetched(QStringLiteral("large")).toUtf8().constData());
+  EXPECT_LT(clock.elapsed(), kLongest);
+  ASSERT_NE(opened, nullptr);
+  EXPECT_NE(ppdFindOption(opened, "Odd4999"), nullptr);
+  ppdClose(opened);
+}
+
+const QueueSetting *settingOf(const QList<QueueSetting> &settings, const char *keyword) {
+  for (const QueueSetting &setting : settings)
+    if (setting.keyword == QString::fromLatin1(keyword)) return &setting;
+  return nullptr;
+}
+
+TEST_F(QueuePPDTest, IsNotNeededToReadCommonSettings) {
+  const auto settings = readQueueSettings({}, kQueue);
+  ASSERT_TRUE(settings) << settings.failure().line().toStdString();
+  const QueueSetting *sides = settingOf(settings.value(), "sides");
+  ASSERT_NE(sides, nullptr);
+  EXPECT_EQ(sides->choices.size(), 3);
+  EXPECT_EQ(sides->choices[0].keyword, QStringLiteral("one-sided"));
+  EXPECT_NE(sides->title, sides->keyword);
+  const QueueSetting *media = settingOf(settings.value(), "media");
+  ASSERT_NE(media, nullptr);
+  EXPECT_GT(media->choices.size(), 3);
+  EXPECT_FALSE(media->defaultChoice.isEmpty());
+}
+
+TEST_F(QueuePPDTest, LeavesOutSettingsInWhichAQueueHasNoChoice) {
+  cups->addQueue(QStringLiteral("raw"), QString());
+  const auto settings = readQueueSettings({}, QStringLiteral("raw"));
+  ASSERT_TRUE(settings) << settings.failure().line().toStdString();
+  EXPECT_EQ(settingOf(settings.value(), "sides"), nullptr);
+}
+
+TEST_F(QueuePPDTest, SettingsFailForAQueueThatDoesNotExist) {
+  const auto settings = readQueueSettings({}, QStringLiteral("gone"));
+  ASSERT_FALSE(settings);
+  EXPECT_EQ(settings.failure().what, QStringLiteral("gone"));
+}
+
+TEST(SettingTitles, AreWordsWhereAKeywordIsKnown) {
+  EXPECT_EQ(plainSettingTitle(QStringLiteral("sides")), QStringLiteral("Two-sided"));
+  EXPECT_EQ(plainChoiceTitle(QStringLiteral("sides"), QStringLiteral("two-sided-long-edge")),
+            QStringLiteral("Long edge"));
+  EXPECT_EQ(plainChoiceTitle(QStringLiteral("media"), QStringLiteral("iso_a4_210x297mm")),
+            QStringLiteral("A4"));
+  EXPECT_EQ(plainChoiceTitle(QStringLiteral("finishings"), QStringLiteral("4")),
+            QStringLiteral("Staple"));
+}
+
+TEST(SettingTitles, SpellOutWhatIsNotKnown) {
+  EXPECT_EQ(plainSettingTitle(QStringLiteral("vendor-oddity")), QStringLiteral("Vendor oddity"));
+  EXPECT_EQ(plainChoiceTitle(QStringLiteral("output-bin"), QStringLiteral("face-down")),
+            QStringLiteral("Face down"));
+}
+
+}  // namespace
+}  // namespace orvek
