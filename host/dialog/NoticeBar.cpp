@@ -73,7 +73,6 @@ void NoticeBar::say(Kind kind, const QStringList &sentences, bool canUndo) {
   update();
   QAccessibleEvent alert(m_text, QAccessible::Alert);
   QAccessible::updateAccessibility(&alert);
-  Q_EMIT roomChanged();
 }
 
 void NoticeBar::fallSilent() {
@@ -81,7 +80,6 @@ void NoticeBar::fallSilent() {
   m_sentences.clear();
   // A hidden widget can't keep the keyboard; the next one in line takes it.
   hide();
-  Q_EMIT roomChanged();
 }
 
 void NoticeBar::showKind() {

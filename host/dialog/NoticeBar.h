@@ -33,9 +33,6 @@ class NoticeBar final : public QFrame {
  Q_SIGNALS:
   void undoAsked();
 
-  /// Shown, hidden, or of another height now.
-  void roomChanged();
-
  protected:
   void paintEvent(QPaintEvent *event) override;
 

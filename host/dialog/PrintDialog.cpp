@@ -3,7 +3,6 @@
 
 #include "host/dialog/PrintDialog.h"
 
-#include <QCoreApplication>
 #include <QEvent>
 #include <QFileDialog>
 #include <QFrame>
@@ -82,8 +81,6 @@ void PrintDialog::connectParts() {
   connect(&m_session, &PrintSession::noticed, this, &PrintDialog::showNotice);
   connect(&m_session, &PrintSession::changed, this, &PrintDialog::followSession);
   connect(m_notices, &NoticeBar::undoAsked, this, [this] { m_session.undo(); });
-  connect(m_notices, &NoticeBar::roomChanged, this, &PrintDialog::makeRoom);
-  connect(m_view, &SessionView::roomChanged, this, &PrintDialog::makeRoom);
   connect(m_jobBar, &JobBar::printAsked, this, &PrintDialog::print);
   connect(m_jobBar, &JobBar::cancelAsked, this, &PrintDialog::reject);
   connect(m_runner, &JobRunner::progressed, this, &PrintDialog::showProgress);
@@ -132,16 +129,23 @@ void PrintDialog::followSession() {
   updateControls();
 }
 
+bool PrintDialog::event(QEvent *event) {
+  const bool done = QDialog::event(event);
+  // Comes when something in the window needs other room than before.
+  if (event->type() == QEvent::LayoutRequest) makeRoom();
+  return done;
+}
+
 // Grows and shrinks with its content; a size that the user chose only grows, where it must.
 void PrintDialog::makeRoom() {
-  // Layouts pass a change of size upward by posted events, one level each.
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
   layout()->activate();
   const QSize wanted = sizeHint().expandedTo(minimumSizeHint());
-  const bool isUsersSize = m_ownSize.isValid() && size() != m_ownSize;
+  // The layout itself has the window grow to its minimum.
+  const bool isUsersSize =
+      m_ownSize.isValid() && size() != m_ownSize && size() != m_ownSize.expandedTo(minimumSize());
   const QSize next = isUsersSize ? size().expandedTo(minimumSizeHint()) : wanted;
-  if (!isUsersSize) m_ownSize = next;
   if (size() != next) resize(next);
+  if (!isUsersSize) m_ownSize = next;
 }
 
 bool PrintDialog::completeRequest(JobRequest *request) {

@@ -51,6 +51,9 @@ class PrintDialog final : public QDialog {
   /// A running job is stopped first; without one the window closes.
   void reject() override;
 
+ protected:
+  bool event(QEvent *event) override;
+
  private:
   void build();
   void connectParts();

@@ -42,7 +42,6 @@ SessionView::SessionView(PrintSession &session, QWidget *parent)
   row->addWidget(m_pages, 1);
   row->addLayout(aside);
   connect(&session, &PrintSession::changed, this, &SessionView::followSession);
-  connect(&session, &PrintSession::panelViewResized, this, &SessionView::roomChanged);
   followSession();
 }
 

@@ -21,10 +21,6 @@ class SessionView final : public QWidget {
  public:
   SessionView(PrintSession &session, QWidget *parent);
 
- Q_SIGNALS:
-  /// The view needs more room, or less.
-  void roomChanged();
-
  private:
   void addPanelPages();
   void followSession();

@@ -15,13 +15,12 @@ TEST_F(Window, GrowsWithTheBookletSectionAndShrinksAgain) {
   open();
   const QSize closed = dialog->size();
   click("bookletChckBox");
-  const QSize opened = dialog->size();
-  EXPECT_GT(opened.height(), closed.height());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return dialog->height() > closed.height(); }));
   auto *view = find<QWidget>("pdeView");
   EXPECT_GE(view->mapTo(dialog.get(), QPoint()).x(), 0);
   EXPECT_LE(view->mapTo(dialog.get(), QPoint(0, view->height())).y(), dialog->height());
   click("bookletChckBox");
-  EXPECT_EQ(dialog->size(), closed);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return dialog->size() == closed; }));
 }
 
 TEST_F(Window, KeepsTheSizeThatTheUserChose) {
@@ -37,7 +36,9 @@ TEST_F(Window, KeepsTheSizeThatTheUserChose) {
 
 TEST_F(Window, FitsASmallScreenWithTheBookletOpen) {
   open();
+  const int closed = dialog->height();
   click("bookletChckBox");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return dialog->height() > closed; }));
   EXPECT_LE(dialog->width(), 1280);
   EXPECT_LE(dialog->height(), 720 - 40);  // a title bar takes its share
 }
