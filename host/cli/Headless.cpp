@@ -8,6 +8,7 @@
 #include "host/cli/ActionRunner.h"
 #include "host/cli/Console.h"
 #include "host/cli/Inspection.h"
+#include "host/cli/Presets.h"
 #include "host/cli/PrintJob.h"
 #include "host/cli/Screenshot.h"
 #include "host/cli/SessionStart.h"
@@ -29,6 +30,7 @@ Status writeFiles(const CommandLine &line, PrintSession &session) {
       return written;
     }
   }
+  if (Status saved = savePresetAsAsked(line, session); !saved) return saved;
   return line.screenshot.isNull() ? Status() : writeScreenshot(line, session);
 }
 

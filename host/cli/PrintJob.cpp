@@ -21,9 +21,7 @@ JobRequest jobRequestFor(const CommandLine &line, const PrintSession &session) {
   request.files = line.files;
   request.title = line.title;
   request.user = line.user;
-  request.copies = line.copies;
   request.priority = line.priority.value_or(0);
-  request.pageRanges = line.pageRanges;
   request.options = session.jobOptions();
   request.ppdFile = session.printer() ? session.printer()->path() : QString();
   request.outputFile = line.output;

@@ -4,6 +4,7 @@
 #include "host/cli/SessionStart.h"
 
 #include "host/cli/Console.h"
+#include "host/cli/Presets.h"
 #include "host/session/PluginFinder.h"
 
 namespace orvek {
@@ -41,20 +42,37 @@ Status applyPagesPerSheet(const OptionChoice &option, PrintSession &session) {
   return {};
 }
 
-// An option of the printer is a pick like any other; what else a job may say goes into the ticket,
-// where panels and job find it.
+// What is no setting that the dialog shows goes into the ticket, where panels and job find it.
+Status applyJobOption(const OptionChoice &option, PrintSession &session) {
+  const Result<bool> taken = session.takeJobOption(option.option, option.choice);
+  if (!taken) return taken.failure();
+  if (!taken.value()) session.ticket().setValue(option.option, option.choice);
+  return {};
+}
+
+// An option of the printer is a pick like any other.
 Status applyOption(const OptionChoice &option, PrintSession &session) {
   if (option.option == pagesPerSheetOption) return applyPagesPerSheet(option, session);
   const QByteArray keyword = option.option.toUtf8();
   if (ppdFindOption(session.marks().ppd(), keyword.constData()) == nullptr) {
-    session.ticket().setValue(option.option, option.choice);
-    return {};
+    return applyJobOption(option, session);
   }
   if (!session.marks().spelled(option.option, option.choice)) {
     return Failure{FailureKind::Usage, QStringLiteral("-o %1=%2").arg(option.option, option.choice),
                    QStringLiteral("the PPD's option %1 has no such choice").arg(option.option)};
   }
   session.pick(option.option, option.choice);
+  return {};
+}
+
+// Copies and page ranges have letters of their own, and are options like any other.
+Status applyJobOptions(const CommandLine &line, PrintSession &session) {
+  QList<OptionChoice> options;
+  if (line.copies > 0) options.append({QStringLiteral("copies"), QString::number(line.copies)});
+  if (!line.pageRanges.isNull()) options.append({QStringLiteral("page-ranges"), line.pageRanges});
+  for (const OptionChoice &option : options) {
+    if (Status applied = applyJobOption(option, session); !applied) return applied;
+  }
   return {};
 }
 
@@ -92,6 +110,8 @@ Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line) {
   Result<std::unique_ptr<PrintSession>> begun = PrintSession::begin(std::move(setup));
   if (!begun) return begun;
   std::unique_ptr<PrintSession> session = begun.take();
+  if (const Status applied = applyPresetAsAsked(line, *session); !applied) return applied.failure();
+  if (const Status applied = applyJobOptions(line, *session); !applied) return applied.failure();
   if (const Status applied = applyOptions(line, *session); !applied) return applied.failure();
   if (const Status added = addPlugins(line, *session); !added) return added.failure();
   session->openPanels();

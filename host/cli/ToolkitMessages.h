@@ -4,8 +4,8 @@
 
 namespace orvek {
 
-/// From now on the toolkit's warnings carry time and process, as every line that is no error does. They
-/// are the toolkit's own and no part of the general log.
+/// From now on the toolkit's warnings carry time and process, as every line that is no error does.
+/// They are the toolkit's own and no part of the general log.
 void shapeToolkitMessages();
 
 }  // namespace orvek

@@ -7,6 +7,8 @@
 #include "host/cli/Console.h"
 #include "host/cli/Headless.h"
 #include "host/cli/Help.h"
+#include "host/cli/Presets.h"
+#include "host/cli/PrinterListing.h"
 #include "host/cli/ToolkitMessages.h"
 #include "host/cli/Window.h"
 #include "platform/system/MainBundle.h"
@@ -17,18 +19,17 @@ using namespace orvek;
 
 constexpr const char *programName = "orvek-print";
 
-// Neither may need a display.
+// None of these may need a display.
 bool needsNoWindow(const CommandLine &line) {
-  return line.headless || line.listPrinters || line.listPresets || !line.deletePreset.isNull();
+  return line.headless || line.listPrinters || line.listPresets || !line.deletePreset.isNull() ||
+         !line.savePreset.isNull();
 }
 
 Status run(const CommandLine &line) {
-  if (line.listPrinters || line.listPresets || !line.deletePreset.isNull() ||
-      !line.savePreset.isNull() || !line.preset.isNull()) {
-    return Failure{FailureKind::Io, QStringLiteral("presets and printer lists"),
-                   QStringLiteral("not available in this build")};
-  }
-  if (line.headless) return runHeadless(line);
+  if (line.listPrinters) return listPrintersAsAsked(line);
+  if (line.listPresets) return listPresets();
+  if (!line.deletePreset.isNull()) return deletePreset(line.deletePreset);
+  if (needsNoWindow(line)) return runHeadless(line);
   return runWindow(line);
 }
 

@@ -256,6 +256,29 @@ TEST(Program, DoesNotWaitForADocumentThatNobodyNeeds) {
   EXPECT_EQ(runHeadless({"--inspect"}, surroundings).status, 0);
 }
 
+TEST(Program, SavesAPresetBeginsWithItAndDeletesIt) {
+  QTemporaryDir dir;
+  const Surroundings home{{"XDG_DATA_HOME=" + dir.path()}, {}, {}};
+  ASSERT_EQ(runHeadless({"--save-preset", "My fold", "--do", "foldingPopup=Saddle"}, home).status,
+            0);
+  EXPECT_EQ(runProgram({"--list-presets"}, home).output, "My fold\n");
+  const ProgramRun run = runHeadless({"--preset", "My fold", "--inspect"}, home);
+  EXPECT_EQ(marked(run.json(), "OVKFolding"), "Saddle");
+  EXPECT_EQ(control(run.json(), "foldingPopup").value("selected"), 1);
+  EXPECT_EQ(runProgram({"--delete-preset", "My fold"}, home).status, 0);
+  EXPECT_EQ(runProgram({"--list-presets"}, home).output, "");
+  EXPECT_EQ(runHeadless({"--preset", "My fold"}, home).errorLines().size(), 1);
+}
+
+TEST(Program, LetsTheTicketOverruleThePreset) {
+  QTemporaryDir dir;
+  const Surroundings home{{"XDG_DATA_HOME=" + dir.path()}, {}, {}};
+  ASSERT_EQ(runHeadless({"--save-preset", "p", "--do", "foldingPopup=Saddle"}, home).status, 0);
+  const QString ticket = write(dir, R"({"OVKFolding": "None"})");
+  const ProgramRun run = runHeadless({"--preset", "p", "--ticket", ticket, "--inspect"}, home);
+  EXPECT_EQ(marked(run.json(), "OVKFolding"), "None");
+}
+
 TEST(Program, PrintsIntoAFileWhatTheDialogShows) {
   QTemporaryDir dir;
   const QString out = dir.filePath("out.ps");

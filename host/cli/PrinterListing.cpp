@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: Apache-2.0
+// Lists printers for people and scripts.
+
+#include "host/cli/PrinterListing.h"
+
+#include "host/cli/Console.h"
+#include "host/printers/PrinterList.h"
+
+namespace orvek {
+namespace {
+
+QString stateOf(const Printer &printer) {
+  if (printer.reasons.isEmpty()) return stateInWords(printer);
+  return stateInWords(printer) + QStringLiteral(" (") + printer.reasons.join(QStringLiteral(", ")) +
+         QLatin1Char(')');
+}
+
+// An administrator's words may hold anything; a tab or line feed would break the line.
+QString field(const QString &text) {
+  return text.simplified();
+}
+
+}  // namespace
+
+ServerAccess serverAccess(const CommandLine &line) {
+  return {line.server, line.user, nullptr};
+}
+
+Status listPrintersAsAsked(const CommandLine &line) {
+  const Result<QList<Printer>> printers = listPrinters(serverAccess(line));
+  if (!printers) return printers.failure();
+  QString text;
+  for (const Printer &printer : printers.value()) {
+    QStringList fields{field(printer.destination()), field(stateOf(printer)),
+                       field(printer.location)};
+    if (printer.isDefault) fields << QStringLiteral("default");
+    text += fields.join(QLatin1Char('\t')) + QLatin1Char('\n');
+  }
+  return writeToStandardOutput(text.toUtf8());
+}
+
+}  // namespace orvek

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: Apache-2.0
+// Saves a session's settings and brings them back.
+
+#include "host/presets/SessionPreset.h"
+
+#include <algorithm>
+
+#include "host/session/Constraints.h"
+
+namespace orvek {
+namespace {
+
+bool isMisfit(const PresetFit &fit, const QString &key) {
+  return std::any_of(fit.misfits.begin(), fit.misfits.end(),
+                     [&](const PresetMisfit &misfit) { return misfit.option == key; });
+}
+
+void writeTicket(PrintSession &session, const PresetFit &fit, const QStringList &keep) {
+  for (auto entry = fit.ticket.begin(); entry != fit.ticket.end(); ++entry) {
+    if (keep.contains(entry.key()) || isMisfit(fit, entry.key())) continue;
+    // A choice is recorded by its pick, and not at all where the pick is undone.
+    const bool isChoice = session.marks().spelled(entry.key(), textReading(*entry)).has_value();
+    if (!isChoice) session.ticket().setValue(entry.key(), *entry);
+  }
+}
+
+// A ticket may hold choices that no mark of the preset repeats: one that is the PPD's default.
+QMap<QString, QString> choicesOf(const PresetFit &fit, const PrintSession &session) {
+  QMap<QString, QString> choices;
+  for (auto entry = fit.ticket.begin(); entry != fit.ticket.end(); ++entry) {
+    const auto spelled = session.marks().spelled(entry.key(), textReading(*entry));
+    if (spelled) choices.insert(spelled->option, spelled->choice);
+  }
+  choices.insert(fit.options);
+  return choices;
+}
+
+void restorePanels(PrintSession &session) {
+  for (const auto &hosted : session.panels()) hosted->panel().restoreValuesAndReturnError(nullptr);
+}
+
+}  // namespace
+
+Preset presetOf(const PrintSession &session, const QString &name) {
+  Preset preset;
+  preset.name = name;
+  preset.printerModel = session.printer() ? session.printer()->modelName() : QString();
+  preset.ticket = session.ticket().values();
+  for (const OptionChoice &mark : session.marks().differingFromDefaults()) {
+    if (isInstalledEquipment(session.marks().ppd(), mark.option)) continue;
+    preset.options.insert(mark.option, mark.choice);
+  }
+  return preset;
+}
+
+QList<PresetMisfit> applyPreset(PrintSession &session, const Preset &preset,
+                                const QStringList &keep) {
+  const PresetFit fit = fitPreset(preset, session.marks().ppd());
+  session.perform([&] {
+    writeTicket(session, fit, keep);
+    const QMap<QString, QString> choices = choicesOf(fit, session);
+    for (auto choice = choices.begin(); choice != choices.end(); ++choice) {
+      if (!keep.contains(choice.key())) session.pick(choice.key(), choice.value());
+    }
+    restorePanels(session);
+  });
+  return fit.misfits;
+}
+
+}  // namespace orvek

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: Apache-2.0
+// Between a preset and a session: what of a session is worth saving, and how a preset is put into
+// one.
+#pragma once
+
+#include "host/presets/Preset.h"
+#include "host/presets/PresetFit.h"
+#include "host/session/PrintSession.h"
+
+namespace orvek {
+
+/// The session as a preset: every mark that is not the PPD's default, installed equipment left out,
+/// and the whole ticket.
+Preset presetOf(const PrintSession &session, const QString &name);
+
+/// Puts a preset into the session, before or after its panels were opened: its ticket is written
+/// and each of its choices picked, so that constraints speak up as for a user's pick; open panels
+/// restore. Ticket keys and options in `keep` stay as the session has them. Gives what the printer
+/// can't take.
+QList<PresetMisfit> applyPreset(PrintSession &session, const Preset &preset,
+                                const QStringList &keep = {});
+
+}  // namespace orvek

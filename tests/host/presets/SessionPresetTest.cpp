@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: Apache-2.0
+// Presets and sessions: what is saved, and what comes back.
+
+#include "host/presets/SessionPreset.h"
+
+#include <gtest/gtest.h>
+
+namespace orvek {
+namespace {
+
+std::unique_ptr<PrintSession> sessionOn(const QString &ppd, QList<OptionChoice> marks = {}) {
+  SessionSetup setup;
+  setup.printer =
+      PrinterDescription::open(QStringLiteral(ORVEK_SOURCE_DIR "/tests/host/session/ppd/") + ppd)
+          .take();
+  setup.marks = std::move(marks);
+  return PrintSession::begin(std::move(setup)).take();
+}
+
+TEST(SessionPreset, HoldsWhatIsNotThePpdsDefaultAndTheTicketButNoEquipment) {
+  const auto session = sessionOn("finisher.ppd", {{"OVKOptionPunch", "None"}});
+  session->pick("OVKFolding", "Saddle");
+  session->ticket().setValue("OVKGutter", "30");
+  const Preset preset = presetOf(*session, "mine");
+  EXPECT_EQ(preset.name, "mine");
+  EXPECT_EQ(preset.printerModel, "Orvek Test 6180, 1.0");
+  EXPECT_EQ(preset.options, (QMap<QString, QString>{{"OVKFolding", "Saddle"}}));
+  EXPECT_EQ(preset.ticket, (TicketValues{{"OVKFolding", "Saddle"}, {"OVKGutter", "30"}}));
+}
+
+TEST(SessionPreset, ComesBackAsPicks) {
+  const auto session = sessionOn("finisher.ppd");
+  session->pick("OVKStapling", "Front");
+  const Preset preset{"p", {}, {{"OVKFolding", "Saddle"}}, {{"OVKGutter", "30"}}};
+  EXPECT_TRUE(applyPreset(*session, preset).isEmpty());
+  EXPECT_EQ(session->marks().marked("OVKFolding"), "Saddle");
+  EXPECT_EQ(session->marks().marked("OVKStapling"), "None");
+  EXPECT_EQ(session->notices().size(), 1);
+  EXPECT_EQ(session->ticket().value("OVKGutter"), QVariant("30"));
+}
+
+TEST(SessionPreset, ComesBackWithAChoiceThatOnlyItsTicketKeeps) {
+  const auto session = sessionOn("finisher.ppd", {{"OVKFolding", "Saddle"}});
+  applyPreset(*session, {"p", {}, {}, {{"OVKFolding", "None"}}});
+  EXPECT_EQ(session->marks().marked("OVKFolding"), "None");
+}
+
+TEST(SessionPreset, NamesWhatThePrinterCannotTakeAndKeepsItOutOfTheTicket) {
+  const auto session = sessionOn("german.ppd");
+  const Preset preset{"p", {}, {{"OVKFolding", "Saddle"}}, {{"OVKFolding", "Saddle"}, {"k", "v"}}};
+  const QList<PresetMisfit> misfits = applyPreset(*session, preset);
+  ASSERT_EQ(misfits.size(), 1);
+  EXPECT_EQ(misfits[0].option, "OVKFolding");
+  EXPECT_EQ(session->ticket().values(), (TicketValues{{"k", "v"}}));
+}
+
+TEST(SessionPreset, LeavesAloneWhatTheSessionIsToKeep) {
+  const auto session = sessionOn("finisher.ppd");
+  session->ticket().setValue("OVKGutter", "10");
+  applyPreset(*session, {"p", {}, {{"OVKFolding", "Saddle"}}, {{"OVKGutter", "30"}}},
+              {"OVKGutter", "OVKFolding"});
+  EXPECT_EQ(session->ticket().value("OVKGutter"), QVariant("10"));
+  EXPECT_EQ(session->marks().marked("OVKFolding"), "None");
+}
+
+}  // namespace
+}  // namespace orvek
