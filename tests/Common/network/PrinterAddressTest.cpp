@@ -181,8 +181,12 @@ TEST_F(RealResponder, ResolvesTheServiceToItsHost) {
   constexpr const char *uri = "dnssd://Orvek%206180%20%5BRoom%201%5D._ipp._tcp.local/?uuid=1";
   QString found;
   // The daemon first makes sure that nobody else has its names, which takes it a second or two.
-  for (int attempt = 0; attempt < 5 && found.isNull(); ++attempt) found = addressOf(uri);
-  EXPECT_EQ(found, address("http://orvek-printer.local."));
+  for (int attempt = 0; attempt < 3 && found.isNull(); ++attempt) found = addressOf(uri);
+  if (found.isNull() && waitpid(daemon, nullptr, WNOHANG) == daemon) {
+    daemon = -1;
+    GTEST_SKIP() << "avahi-daemon does not run here";
+  }
+  EXPECT_EQ(found.toStdString(), "http://orvek-printer.local.");
 }
 
 }  // namespace

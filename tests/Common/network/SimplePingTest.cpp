@@ -174,7 +174,10 @@ TEST(EchoSocket, SaysThatItsIdentifierIsTaken) {
 TEST(EchoSocket, IsRefusedWhereTheSystemAllowsTheGroupNone) {
   NEEDS_OWN_NETWORK();
   constexpr const char *setting = "/proc/sys/net/ipv4/ping_group_range";
-  std::ofstream(setting) << "1 0";
+  std::ofstream range(setting);
+  range << "1 0";
+  range.close();
+  if (!range.good()) GTEST_SKIP() << "only root can leave out every group";
   int opened = -1;
   errno = 0;
   EXPECT_EQ(CreateSocketForCommunicationWithHost(nullptr, &opened), 1);
