@@ -21,6 +21,8 @@ struct JobSettings {
       pageRanges;  ///< "1-3,7", as normalizedPageRanges (PageRanges.h) gives them; null: all pages
   Orientation orientation = Orientation::Automatic;
   bool reverse = false;  ///< last page first
+  QString
+      pageRangesProblem;  ///< what is wrong with ranges that were typed, in words; null: nothing
 
   bool operator==(const JobSettings &) const = default;
 };

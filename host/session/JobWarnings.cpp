@@ -82,7 +82,8 @@ int maximumBookletSheets(ppd_file_t *ppd) {
 QStringList jobWarnings(const Marks &marks, const TicketValues &ticket, const JobSettings &settings,
                         int pages) {
   const int printed = static_cast<int>(pagesInRanges(settings.pageRanges, pages).size());
-  QStringList words{staplesUncollated(marks, settings), tooManySheets(marks, ticket, printed)};
+  QStringList words{settings.pageRangesProblem, staplesUncollated(marks, settings),
+                    tooManySheets(marks, ticket, printed)};
   words.removeAll(QString());
   return words;
 }

@@ -36,6 +36,7 @@ PrintSession::PrintSession(const SessionSetup &setup)
       m_ticket(std::make_shared<Ticket>()),
       m_picks(m_printer ? m_printer->ppd() : nullptr, m_ticket),
       m_queueOptions(setup.queueOptions),
+      m_offers(setup.offers),
       m_panelsMayResize(setup.panelsMayResize) {
   setLogListener([this](const QString &line) { m_log << line; });
   for (auto entry = setup.ticket.begin(); entry != setup.ticket.end(); ++entry) {

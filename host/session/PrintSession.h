@@ -24,6 +24,7 @@
 #include "host/session/PluginCallback.h"
 #include "host/session/PluginLoader.h"
 #include "host/session/PrinterDescription.h"
+#include "host/session/SettingOffer.h"
 #include "host/session/TicketFile.h"
 #include "platform/printing/PrintSession.h"
 
@@ -34,8 +35,9 @@ struct SessionSetup {
   std::shared_ptr<PrinterDescription> printer;  ///< null: a printer without PPD
   TicketValues ticket;
   QList<OptionChoice>
-      queueOptions;           ///< the queue's and the user's; what the PPD lacks is passed over
-  QList<OptionChoice> marks;  ///< equipment, an earlier job: marked last, the ticket left alone
+      queueOptions;            ///< the queue's and the user's; what the PPD lacks is passed over
+  QList<OptionChoice> marks;   ///< equipment, an earlier job: marked last, the ticket left alone
+  QList<SettingOffer> offers;  ///< of a printer without PPD
   bool panelsMayResize = true;
 };
 
@@ -84,6 +86,9 @@ class PrintSession final : public QObject, private PanelListener {
   const std::shared_ptr<PrinterDescription> &printer() const { return m_printer; }
   const Marks &marks() const { return m_picks.marks(); }
   Ticket &ticket() const { return *m_ticket; }
+
+  /// What a printer without PPD offers; empty where there is a PPD.
+  const QList<SettingOffer> &offers() const { return m_offers; }
 
   /// The queue's and the user's options that the session began with.
   const QList<OptionChoice> &queueOptions() const { return m_queueOptions; }
@@ -140,6 +145,7 @@ class PrintSession final : public QObject, private PanelListener {
   PrintSessionHandle m_handle;
   Picks m_picks;
   QList<OptionChoice> m_queueOptions;
+  QList<SettingOffer> m_offers;
   bool m_panelsMayResize;
   JobSettings m_jobSettings;
   AskedOptions m_askedOptions;

@@ -2,26 +2,70 @@
 // The page of settings that everyone expects. Shows and changes a session; no rules of its own.
 #pragma once
 
+#include <QList>
 #include <QWidget>
-#include <memory>
 
+#include "host/session/CommonSettings.h"
 #include "host/session/PrintSession.h"
+#include "host/settings/GeneralState.h"
+
+class QCheckBox;
+class QComboBox;
+class QFormLayout;
+class QLabel;
 
 namespace orvek {
 
-/// Copies and collation, page ranges, order; paper size, source and type; orientation, two-sided,
-/// pages per sheet; colour, quality. A row that the printer has nothing for is hidden.
+class Availability;
+class ChoiceBox;
+class CopiesRow;
+class CustomSizeRow;
+class PagesRow;
+
+/// Copies and collation, pages and their order; paper size, source and type; orientation,
+/// two-sided, pages per sheet; colour, quality. A row that the printer has nothing for is hidden.
 class GeneralPage final : public QWidget {
   Q_OBJECT
 
  public:
   /// Borrows the session, which must outlive the page.
   explicit GeneralPage(PrintSession &session, QWidget *parent = nullptr);
-  ~GeneralPage() override;
+
+ protected:
+  void showEvent(QShowEvent *event) override;
 
  private:
-  struct Rows;
-  std::unique_ptr<Rows> m_rows;
+  struct ChoiceRow {
+    CommonSetting setting;
+    QLabel *label;
+    ChoiceBox *box;
+  };
+
+  void addPagesRows();
+  void addPaperRows();
+  void addLayoutRows();
+  void addQualityRows();
+  void addGap();
+  QLabel *addRow(const QString &text, QWidget *field);
+  void addChoiceRow(CommonSetting setting, const QString &name, const QString &usual);
+  QComboBox *addListRow(const QString &name, const QString &title);
+
+  void followSession();
+  void showChoice(const ChoiceRow &row, const std::optional<Setting> &setting);
+  void showCustomPaper(const std::optional<CustomPaper> &paper);
+  void pickChoice(CommonSetting setting, const QString &choice);
+  void changeJob(const std::function<void(JobSettings *)> &change);
+
+  PrintSession &m_session;
+  Availability *m_availability;
+  QFormLayout *m_form;
+  CopiesRow *m_copies = nullptr;
+  PagesRow *m_pages = nullptr;
+  QCheckBox *m_reverse = nullptr;
+  CustomSizeRow *m_customSize = nullptr;
+  QComboBox *m_orientation = nullptr;
+  QComboBox *m_pagesPerSheet = nullptr;
+  QList<ChoiceRow> m_choiceRows;
 };
 
 }  // namespace orvek

@@ -30,7 +30,7 @@ TEST(JobSettings, SayNothingWhereNothingDiffers) {
 }
 
 TEST(JobSettings, SpeakInTheNamesOfCups) {
-  JobSettings settings{3, false, "1-3,7", Orientation::ReverseLandscape, true};
+  JobSettings settings{3, false, "1-3,7", Orientation::ReverseLandscape, true, {}};
   EXPECT_EQ(toOptions(settings), (Options{{"copies", "3"},
                                           {"Collate", "False"},
                                           {"page-ranges", "1-3,7"},
@@ -46,7 +46,7 @@ TEST(JobSettings, AreReadFromTheOptionsOfACommandLine) {
   EXPECT_TRUE(asked.take("OutputOrder", "Reverse").value());
   EXPECT_TRUE(
       asked.take("multiple-document-handling", "separate-documents-uncollated-copies").value());
-  EXPECT_EQ(asked.settings, (JobSettings{4, false, "1-3,7", Orientation::Landscape, true}));
+  EXPECT_EQ(asked.settings, (JobSettings{4, false, "1-3,7", Orientation::Landscape, true, {}}));
 }
 
 TEST(JobSettings, LeaveOtherOptionsToOthers) {

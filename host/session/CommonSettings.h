@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: Apache-2.0
+// The settings that nearly every printer has, whatever its PPD calls them, and for a printer
+// without PPD by what the queue says of itself. Picks go through the session.
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+#include "host/session/SettingOffer.h"
+
+namespace orvek {
+
+class PrintSession;
+
+enum class CommonSetting { PaperSize, PaperSource, PaperType, Sides, Color, Quality };
+
+/// One such setting of a session's printer.
+struct Setting {
+  QString key;    ///< the PPD's main keyword, or the IPP attribute
+  QString title;  ///< as the PPD names it; null where only IPP knows it
+  QList<SettingChoice> choices;
+  QString current;  ///< keyword of the choice in force; null: none
+  bool isInPpd = true;
+};
+
+/// Nothing where the printer lacks the setting, or has just one choice for it.
+std::optional<Setting> commonSetting(const PrintSession &session, CommonSetting setting);
+
+/// Picks a choice. False where it was refused.
+bool pickSetting(PrintSession &session, const Setting &setting, const QString &choice);
+
+/// Main keywords of the PPD's options that commonSetting gives, and of those that go with them
+/// (collation; the paper size once more, for manual feed).
+QStringList commonOptions(const PrintSession &session);
+
+}  // namespace orvek

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: Apache-2.0
+// What a printer without PPD offers. Plain data.
+#pragma once
+
+#include <QList>
+#include <QString>
+
+namespace orvek {
+
+struct SettingChoice {
+  QString keyword;
+  QString text;  ///< for people
+
+  bool operator==(const SettingChoice &) const = default;
+};
+
+/// One job attribute of RFC 8011 or PWG 5100 ("media", "sides", "print-color-mode",
+/// "print-quality", "media-source", "media-type") with what the queue supports.
+struct SettingOffer {
+  QString attribute;
+  QList<SettingChoice> choices;
+  QString standard;  ///< the queue's default; null: it names none
+};
+
+}  // namespace orvek

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: Apache-2.0
+// A combo box over a ChoiceModel.
+
+#include "host/settings/ChoiceBox.h"
+
+#include <QSignalBlocker>
+#include <QWheelEvent>
+
+namespace orvek {
+namespace {
+
+constexpr int usualLetters = 22;
+constexpr int itemsAtOnce = 20;
+
+}  // namespace
+
+ChoiceBox::ChoiceBox(Availability *availability, QWidget *parent)
+    : QComboBox(parent), m_choices(new ChoiceModel(availability, this)) {
+  setModel(m_choices);
+  setMaxVisibleItems(itemsAtOnce);
+  // Measuring every choice of every pop-up is what makes a dialog slow to open.
+  setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  setMinimumContentsLength(usualLetters);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  setFocusPolicy(Qt::StrongFocus);
+  connect(this, &QComboBox::activated, this,
+          [this](int row) { Q_EMIT choicePicked(m_choices->keywordAt(row)); });
+}
+
+void ChoiceBox::setChoices(const QString &option, const QList<SettingChoice> &choices) {
+  const QSignalBlocker silent(this);
+  m_choices->setChoices(option, choices);
+}
+
+void ChoiceBox::setChoice(const QString &keyword) {
+  const QSignalBlocker silent(this);
+  setCurrentIndex(m_choices->rowOf(keyword));
+  setToolTip(m_choices->data(m_choices->index(currentIndex()), Qt::ToolTipRole).toString());
+}
+
+// Scrolling over a page must not change a setting on the way.
+void ChoiceBox::wheelEvent(QWheelEvent *event) {
+  if (hasFocus()) {
+    QComboBox::wheelEvent(event);
+  } else {
+    event->ignore();
+  }
+}
+
+}  // namespace orvek

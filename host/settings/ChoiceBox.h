@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: Apache-2.0
+// A pop-up of an option's choices. Shows a choice and says what the user picks; changes nothing by
+// itself.
+#pragma once
+
+#include <QComboBox>
+
+#include "host/settings/ChoiceModel.h"
+
+namespace orvek {
+
+class ChoiceBox final : public QComboBox {
+  Q_OBJECT
+
+ public:
+  /// Borrows the availability; null: everything is usable.
+  explicit ChoiceBox(Availability *availability, QWidget *parent = nullptr);
+
+  void setChoices(const QString &option, const QList<SettingChoice> &choices);
+
+  /// Shows the choice without a word to anyone. One that is not on offer: no choice is shown.
+  void setChoice(const QString &keyword);
+
+  QString choice() const { return m_choices->keywordAt(currentIndex()); }
+
+ Q_SIGNALS:
+  /// The user picked another choice.
+  void choicePicked(const QString &keyword);
+
+ protected:
+  void wheelEvent(QWheelEvent *event) override;
+
+ private:
+  ChoiceModel *m_choices;
+};
+
+}  // namespace orvek

@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: Apache-2.0
+// One form, its rows in four groups.
+
+#include "host/settings/GeneralPage.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+#include <array>
+
+#include "host/session/Availability.h"
+#include "host/settings/ChoiceBox.h"
+#include "host/settings/CopiesRow.h"
+#include "host/settings/CustomSizeRow.h"
+#include "host/settings/Mnemonics.h"
+#include "host/settings/PagesRow.h"
+
+namespace orvek {
+namespace {
+
+constexpr int margin = 14;
+constexpr int rowSpacing = 6;
+constexpr int labelGap = 10;
+constexpr int groupGap = 6;
+constexpr int widestForm = 560;
+constexpr std::array<int, 6> layouts{1, 2, 4, 6, 9, 16};
+
+}  // namespace
+
+GeneralPage::GeneralPage(PrintSession &session, QWidget *parent)
+    : QWidget(parent),
+      m_session(session),
+      m_availability(new Availability(session, this)),
+      m_form(new QFormLayout) {
+  m_form->setContentsMargins(0, 0, 0, 0);
+  m_form->setVerticalSpacing(rowSpacing);
+  m_form->setHorizontalSpacing(labelGap);
+  m_form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+  addPagesRows();
+  addGap();
+  addPaperRows();
+  addGap();
+  addLayoutRows();
+  addGap();
+  addQualityRows();
+  auto *body = new QWidget(this);
+  body->setMaximumWidth(widestForm);
+  body->setLayout(m_form);
+  auto *column = new QVBoxLayout(this);
+  column->setContentsMargins(margin, margin, margin, margin);
+  column->addWidget(body);
+  column->addStretch(1);
+  connect(&session, &PrintSession::changed, this, &GeneralPage::followSession);
+  followSession();
+}
+
+void GeneralPage::addPagesRows() {
+  m_copies = new CopiesRow(this);
+  addRow(tr("Copies"), m_copies);
+  m_pages = new PagesRow(this);
+  addRow(tr("Pages"), m_pages);
+  m_reverse = new QCheckBox(tr("Last page first"), this);
+  m_reverse->setObjectName(QStringLiteral("reverse"));
+  m_form->addRow(QString(), m_reverse);
+  connect(m_copies, &CopiesRow::copiesPicked, this,
+          [this](int copies) { changeJob([=](JobSettings *job) { job->copies = copies; }); });
+  connect(m_copies, &CopiesRow::collatePicked, this,
+          [this](bool collate) { changeJob([=](JobSettings *job) { job->collate = collate; }); });
+  connect(m_pages, &PagesRow::rangesPicked, this,
+          [this](const QString &ranges, const QString &problem) {
+            changeJob([&](JobSettings *job) {
+              job->pageRanges = ranges;
+              job->pageRangesProblem = problem;
+            });
+          });
+  connect(m_reverse, &QCheckBox::clicked, this,
+          [this](bool reverse) { changeJob([=](JobSettings *job) { job->reverse = reverse; }); });
+}
+
+void GeneralPage::addPaperRows() {
+  addChoiceRow(CommonSetting::PaperSize, QStringLiteral("paperSize"), tr("Paper size"));
+  m_customSize = new CustomSizeRow(this);
+  m_form->addRow(QString(), m_customSize);
+  connect(m_customSize, &CustomSizeRow::choicePicked, this,
+          [this](const QString &choice) { pickChoice(CommonSetting::PaperSize, choice); });
+  addChoiceRow(CommonSetting::PaperSource, QStringLiteral("paperSource"), tr("Paper source"));
+  addChoiceRow(CommonSetting::PaperType, QStringLiteral("paperType"), tr("Paper type"));
+}
+
+void GeneralPage::addLayoutRows() {
+  m_orientation = addListRow(QStringLiteral("orientation"), tr("Orientation"));
+  // In the order of the enumeration.
+  m_orientation->addItems({tr("As in the document"), tr("Portrait"), tr("Landscape"),
+                           tr("Portrait, upside down"), tr("Landscape, upside down")});
+  addChoiceRow(CommonSetting::Sides, QStringLiteral("sides"), tr("Two-sided"));
+  m_pagesPerSheet = addListRow(QStringLiteral("pagesPerSheet"), tr("Pages per sheet"));
+  for (const int pages : layouts) m_pagesPerSheet->addItem(QString::number(pages), pages);
+  connect(m_orientation, &QComboBox::activated, this, [this](int row) {
+    changeJob([=](JobSettings *job) { job->orientation = static_cast<Orientation>(row); });
+  });
+  connect(m_pagesPerSheet, &QComboBox::activated, this, [this](int row) {
+    const int pages = m_pagesPerSheet->itemData(row).toInt();
+    m_session.setPagesPerSheet(pages > 1 ? pages : 0);
+  });
+}
+
+void GeneralPage::addQualityRows() {
+  addChoiceRow(CommonSetting::Color, QStringLiteral("color"), tr("Color"));
+  addChoiceRow(CommonSetting::Quality, QStringLiteral("quality"), tr("Quality"));
+}
+
+void GeneralPage::addGap() {
+  m_form->addItem(new QSpacerItem(0, groupGap, QSizePolicy::Minimum, QSizePolicy::Fixed));
+}
+
+QLabel *GeneralPage::addRow(const QString &text, QWidget *field) {
+  auto *label = new QLabel(withoutMnemonic(text), this);
+  label->setBuddy(field);
+  m_form->addRow(label, field);
+  return label;
+}
+
+// The PPD's own name is the one that notices and the printer's papers use.
+void GeneralPage::addChoiceRow(CommonSetting setting, const QString &name, const QString &usual) {
+  const std::optional<Setting> found = commonSetting(m_session, setting);
+  const QString title = found && !found->title.isNull() ? found->title : usual;
+  auto *box = new ChoiceBox(m_availability, this);
+  box->setObjectName(name);
+  box->setAccessibleName(title);
+  m_choiceRows.append({setting, addRow(title, box), box});
+  connect(box, &ChoiceBox::choicePicked, this,
+          [this, setting](const QString &choice) { pickChoice(setting, choice); });
+}
+
+QComboBox *GeneralPage::addListRow(const QString &name, const QString &title) {
+  auto *box = new QComboBox(this);
+  box->setObjectName(name);
+  box->setAccessibleName(title);
+  box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  addRow(title, box);
+  return box;
+}
+
+void GeneralPage::showEvent(QShowEvent *event) {
+  QWidget::showEvent(event);
+  assignMnemonics(this);
+}
+
+void GeneralPage::followSession() {
+  const GeneralState state = generalState(m_session);
+  m_copies->setSettings(state.job);
+  m_pages->setSettings(state.job);
+  m_reverse->setChecked(state.job.reverse);
+  m_orientation->setCurrentIndex(static_cast<int>(state.job.orientation));
+  m_pagesPerSheet->setCurrentIndex(m_pagesPerSheet->findData(state.pagesPerSheet));
+  for (const ChoiceRow &row : m_choiceRows) {
+    showChoice(row, state.settings[static_cast<int>(row.setting)]);
+  }
+  showCustomPaper(state.customPaper);
+}
+
+void GeneralPage::showChoice(const ChoiceRow &row, const std::optional<Setting> &setting) {
+  m_form->setRowVisible(row.box, setting.has_value());
+  if (!setting) return;
+  row.box->setChoices(setting->key, setting->choices);
+  const bool isCustom = row.setting == CommonSetting::PaperSize && isCustomPaper(setting->current);
+  row.box->setChoice(isCustom ? QStringLiteral("Custom") : setting->current);
+}
+
+void GeneralPage::showCustomPaper(const std::optional<CustomPaper> &paper) {
+  m_form->setRowVisible(m_customSize, paper.has_value());
+  if (paper) m_customSize->setSize(paper->size, paper->limits);
+}
+
+void GeneralPage::pickChoice(CommonSetting which, const QString &choice) {
+  const std::optional<Setting> setting = commonSetting(m_session, which);
+  if (!setting) return;
+  // A custom size begins as large as the paper that it replaces.
+  if (which == CommonSetting::PaperSize && choice == QLatin1String("Custom")) {
+    ppd_file_t *ppd = m_session.marks().ppd();
+    const std::optional<CustomPaperLimits> limits = customPaperLimits(ppd);
+    if (limits) {
+      m_customSize->setSize(paperSize(ppd, setting->current), *limits);
+      pickSetting(m_session, *setting, m_customSize->choice());
+      return;
+    }
+  }
+  pickSetting(m_session, *setting, choice);
+}
+
+void GeneralPage::changeJob(const std::function<void(JobSettings *)> &change) {
+  JobSettings job = m_session.jobSettings();
+  change(&job);
+  m_session.setJobSettings(job);
+}
+
+}  // namespace orvek

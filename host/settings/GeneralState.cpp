@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: Apache-2.0
+// Asks the session.
+
+#include "host/settings/GeneralState.h"
+
+#include <algorithm>
+
+#include "host/session/PrintSession.h"
+
+namespace orvek {
+namespace {
+
+std::optional<CustomPaper> customPaperOf(const PrintSession &session,
+                                         const std::optional<Setting> &paperSetting) {
+  if (!paperSetting || !isCustomPaper(paperSetting->current)) return std::nullopt;
+  ppd_file_t *ppd = session.marks().ppd();
+  const std::optional<CustomPaperLimits> limits = customPaperLimits(ppd);
+  if (!limits) return std::nullopt;
+  QSizeF size = paperSize(ppd, paperSetting->current);
+  if (size.isEmpty()) size = limits->least;
+  return CustomPaper{size, *limits};
+}
+
+}  // namespace
+
+GeneralState generalState(const PrintSession &session) {
+  GeneralState state;
+  state.job = session.jobSettings();
+  state.pagesPerSheet = std::max(1, session.pagesPerSheet());
+  for (const CommonSetting setting :
+       {CommonSetting::PaperSize, CommonSetting::PaperSource, CommonSetting::PaperType,
+        CommonSetting::Sides, CommonSetting::Color, CommonSetting::Quality}) {
+    state.settings << commonSetting(session, setting);
+  }
+  state.customPaper = customPaperOf(session, state.settings.first());
+  return state;
+}
+
+}  // namespace orvek

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: Apache-2.0
+// Everything the general page shows, computed from a session in one place: values, and which rows
+// there are.
+#pragma once
+
+#include <QList>
+#include <QSizeF>
+#include <optional>
+
+#include "host/session/CommonSettings.h"
+#include "host/session/JobSettings.h"
+#include "host/session/Paper.h"
+
+namespace orvek {
+
+/// A paper size of the user's own, where one is picked.
+struct CustomPaper {
+  QSizeF size;  ///< points
+  CustomPaperLimits limits;
+};
+
+struct GeneralState {
+  JobSettings job;
+  int pagesPerSheet = 1;
+  QList<std::optional<Setting>> settings;  ///< by CommonSetting; nothing: no such row
+  std::optional<CustomPaper> customPaper;  ///< nothing: no such row
+};
+
+GeneralState generalState(const PrintSession &session);
+
+}  // namespace orvek

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: Apache-2.0
+// Two radio buttons, a field, and a line for what is wrong with its text.
+
+#include "host/settings/PagesRow.h"
+
+#include <QAccessible>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+
+#include "host/session/PageRanges.h"
+
+namespace orvek {
+namespace {
+
+constexpr int gap = 8;
+constexpr int problemColumn = 2;
+
+}  // namespace
+
+PagesRow::PagesRow(QWidget *parent)
+    : QWidget(parent),
+      m_all(new QRadioButton(tr("All"), this)),
+      m_some(new QRadioButton(tr("Range"), this)),
+      m_ranges(new QLineEdit(this)),
+      m_problem(new QLabel(this)) {
+  m_all->setObjectName(QStringLiteral("allPages"));
+  m_all->setAccessibleName(tr("All pages"));
+  m_all->setChecked(true);
+  m_some->setObjectName(QStringLiteral("somePages"));
+  m_some->setAccessibleName(tr("A range of pages"));
+  m_ranges->setObjectName(QStringLiteral("pageRanges"));
+  m_ranges->setAccessibleName(tr("Page range"));
+  m_ranges->setPlaceholderText(tr("e.g. 1-3, 7"));
+  m_problem->setObjectName(QStringLiteral("pageRangesProblem"));
+  m_problem->setTextFormat(Qt::PlainText);
+  m_problem->setWordWrap(true);
+  setFocusProxy(m_all);
+  auto *grid = new QGridLayout(this);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setHorizontalSpacing(gap);
+  grid->setVerticalSpacing(gap / 2);
+  grid->addWidget(m_all, 0, 0);
+  grid->addWidget(m_some, 0, 1);
+  grid->addWidget(m_ranges, 0, problemColumn);
+  grid->addWidget(m_problem, 1, problemColumn);
+  grid->setColumnStretch(problemColumn, 1);
+  connect(m_all, &QRadioButton::clicked, this, &PagesRow::pick);
+  connect(m_some, &QRadioButton::clicked, this, [this] {
+    m_ranges->setFocus(Qt::OtherFocusReason);
+    pick();
+  });
+  connect(m_ranges, &QLineEdit::textEdited, this, [this] {
+    m_isTyping = true;
+    m_some->setChecked(true);
+    pick();
+  });
+  connect(m_ranges, &QLineEdit::editingFinished, this, [this] {
+    m_isTyping = false;
+    updateControls();
+  });
+  updateControls();
+}
+
+void PagesRow::pick() {
+  const Result<QString> ranges = normalizedPageRanges(m_ranges->text());
+  if (m_all->isChecked()) {
+    Q_EMIT rangesPicked(QString(), QString());
+  } else if (ranges) {
+    Q_EMIT rangesPicked(ranges.value(), QString());
+  } else {
+    Q_EMIT rangesPicked(QString(), ranges.failure().line());
+  }
+  updateControls();
+}
+
+void PagesRow::setSettings(const JobSettings &settings) {
+  const Result<QString> typed = normalizedPageRanges(m_ranges->text());
+  const bool hasRanges = !settings.pageRanges.isNull();
+  if (hasRanges && (!typed || typed.value() != settings.pageRanges)) {
+    m_ranges->setText(settings.pageRanges);
+  }
+  const bool isAboutToType = m_some->isChecked() && m_ranges->text().trimmed().isEmpty();
+  const bool isSome = hasRanges || !settings.pageRangesProblem.isNull() || isAboutToType;
+  (isSome ? m_some : m_all)->setChecked(true);
+  updateControls();
+}
+
+void PagesRow::updateControls() {
+  const Result<QString> typed = normalizedPageRanges(m_ranges->text());
+  const bool isWrong = m_some->isChecked() && !typed;
+  const QString problem = isWrong ? typed.failure().line() : QString();
+  const bool isNew = m_problem->text() != problem;
+  m_problem->setText(problem);
+  m_problem->setVisible(isWrong && !m_isTyping);
+  m_ranges->setAccessibleDescription(problem);
+  if (!isWrong || m_isTyping || !isNew) return;
+  QAccessibleEvent alert(m_problem, QAccessible::Alert);
+  QAccessible::updateAccessibility(&alert);
+}
+
+}  // namespace orvek

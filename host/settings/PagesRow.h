@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: Apache-2.0
+// Which pages of the document. Shows and asks; changes nothing by itself.
+#pragma once
+
+#include <QWidget>
+
+#include "host/session/JobSettings.h"
+
+class QLabel;
+class QLineEdit;
+class QRadioButton;
+
+namespace orvek {
+
+class PagesRow final : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit PagesRow(QWidget *parent = nullptr);
+
+  /// Leaves a text alone that means the same, so that it can be typed in peace.
+  void setSettings(const JobSettings &settings);
+
+ Q_SIGNALS:
+  /// Ranges as CUPS wants them (null: all pages), or what is wrong with what was typed.
+  void rangesPicked(const QString &ranges, const QString &problem);
+
+ private:
+  void pick();
+  void updateControls();
+
+  QRadioButton *m_all;
+  QRadioButton *m_some;
+  QLineEdit *m_ranges;
+  QLabel *m_problem;
+  bool m_isTyping = false;  // a half-typed text is not wrong yet
+};
+
+}  // namespace orvek

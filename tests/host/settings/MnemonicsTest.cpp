@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: Apache-2.0
+// Letters for controls that nobody chose letters for.
+
+#include "host/settings/Mnemonics.h"
+
+#include <gtest/gtest.h>
+
+#include <QKeySequence>
+#include <QLabel>
+#include <QPushButton>
+#include <QSet>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "tests/support/Printers.h"
+
+namespace orvek {
+namespace {
+
+class MnemonicsTest : public testing::Test {
+ protected:
+  QLabel *label(const QString &text) {
+    auto *made = new QLabel(text, &page);
+    made->setBuddy(new QWidget(&page));
+    return made;
+  }
+
+  QWidget page;
+};
+
+TEST_F(MnemonicsTest, TakeTheFirstFreeLetterOfAWord) {
+  QLabel *size = label("Paper size");
+  QLabel *source = label("Paper source");
+  QLabel *type = label("Paper type");
+  assignMnemonics(&page);
+  EXPECT_EQ(size->text(), "&Paper size");
+  EXPECT_EQ(source->text(), "Paper &source");
+  EXPECT_EQ(type->text(), "Paper &type");
+}
+
+TEST_F(MnemonicsTest, TakeAnyLetterWhereNoWordBeginsWithAFreeOne) {
+  label("A");
+  QLabel *second = label("Ab");
+  assignMnemonics(&page);
+  EXPECT_EQ(second->text(), "A&b");
+}
+
+TEST_F(MnemonicsTest, StandInBracketsBehindTextsWithoutLatinLetters) {
+  QLabel *size = label(QStringLiteral("用紙サイズ"));
+  assignMnemonics(&page);
+  EXPECT_EQ(size->text(), QStringLiteral("用紙サイズ (&A)"));
+  assignMnemonics(&page);
+  EXPECT_EQ(size->text(), QStringLiteral("用紙サイズ (&A)"));
+}
+
+TEST_F(MnemonicsTest, KeepsAmpersandsOfTheText) {
+  QLabel *text = label(withoutMnemonic("R&D paper"));
+  assignMnemonics(&page);
+  EXPECT_EQ(text->text(), "&R&&D paper");
+}
+
+TEST(Mnemonics, AvoidTheLettersOfTheWindowAround) {
+  QWidget window;
+  auto *print = new QPushButton("&Print", &window);
+  auto *tabs = new QTabWidget(&window);
+  auto *page = new QWidget;
+  tabs->addTab(page, "&General");
+  auto *column = new QVBoxLayout(&window);
+  column->addWidget(print);
+  column->addWidget(tabs);
+  auto *inside = new QPushButton("Page grid", page);
+  window.show();
+  assignMnemonics(page);
+  EXPECT_EQ(inside->text(), "P&age grid");
+}
+
+TEST_F(MnemonicsTest, NeverCollide) {
+  for (int i = 0; i < 30; ++i) label("Same");
+  assignMnemonics(&page);
+  QSet<QString> seen;
+  for (const QLabel *each : page.findChildren<QLabel *>()) {
+    const QString letter = QKeySequence::mnemonic(each->text()).toString();
+    if (letter.isEmpty()) continue;
+    EXPECT_FALSE(seen.contains(letter)) << letter.toStdString();
+    seen.insert(letter);
+  }
+  EXPECT_EQ(seen.size(), 30);
+}
+
+}  // namespace
+}  // namespace orvek
