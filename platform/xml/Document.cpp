@@ -6,8 +6,8 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 #include <string_view>
+#include <vector>
 
 #include "platform/xml/Nodes.h"
 
@@ -47,6 +47,18 @@ bool isBlank(std::string_view text) {
   return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
 }
 
+/// The name of an attribute that is given more than once; null if there is none.
+QString repeatedAttribute(const pugi::xml_node &element) {
+  if (!element.first_attribute().next_attribute()) return {};
+  std::vector<std::string_view> names;
+  for (const pugi::xml_attribute &attribute : element.attributes()) {
+    names.emplace_back(attribute.name());
+  }
+  std::sort(names.begin(), names.end());
+  const auto repeated = std::adjacent_find(names.begin(), names.end());
+  return repeated == names.end() ? QString() : QString::fromUtf8(repeated->data());
+}
+
 /// What is wrong with an element's attributes; null if nothing.
 QString attributeProblem(const pugi::xml_node &element, bool hasDoctype) {
   for (const pugi::xml_attribute &attribute : element.attributes()) {
@@ -55,13 +67,10 @@ QString attributeProblem(const pugi::xml_node &element, bool hasDoctype) {
       return QStringLiteral("the attribute \"%1\" holds a bare \"&\" or \"<\"")
           .arg(QString::fromUtf8(attribute.name()));
     }
-    for (auto other = attribute.next_attribute(); other; other = other.next_attribute()) {
-      if (std::strcmp(other.name(), attribute.name()) != 0) continue;
-      return QStringLiteral("the attribute \"%1\" is given twice")
-          .arg(QString::fromUtf8(attribute.name()));
-    }
   }
-  return {};
+  const QString twice = repeatedAttribute(element);
+  return twice.isNull() ? QString()
+                        : QStringLiteral("the attribute \"%1\" is given twice").arg(twice);
 }
 
 /// What is wrong with one node; null if nothing.
