@@ -3,7 +3,11 @@
 
 #include "host/cli/PrintJob.h"
 
+#include "host/cli/Console.h"
 #include "host/jobs/FilterChain.h"
+#include "host/jobs/QueueJob.h"
+#include "host/session/DocumentInfo.h"
+#include "host/session/JobWarnings.h"
 
 namespace orvek {
 namespace {
@@ -12,6 +16,26 @@ Status printIntoFile(const JobRequest &request) {
   JobControl control;
   const Result<JobOutcome> outcome = printThroughFilters(request, control);
   return outcome ? Status() : outcome.failure();
+}
+
+// The state as JSON must stay all there is on the standard output.
+Status tellJob(const CommandLine &line, const QString &words) {
+  if (line.silent) return {};
+  if (!line.inspect && !line.summary) return writeToStandardOutput(words.toUtf8() + '\n');
+  tell(words);
+  return {};
+}
+
+Status printOnQueue(const CommandLine &line, const JobRequest &request) {
+  JobControl control;
+  const Result<JobOutcome> outcome = submitToQueue(request, control);
+  return outcome ? tellJob(line, requestIdLine(request, outcome.value())) : outcome.failure();
+}
+
+// Only one document's pages are sure to end up in one set.
+void tellWarnings(const PrintSession &session, const JobRequest &request) {
+  const int pages = request.files.size() == 1 ? documentInfo(request.files.first()).pages : 0;
+  for (const QString &warning : jobWarnings(session, pages)) tell(warning);
 }
 
 }  // namespace
@@ -25,15 +49,20 @@ JobRequest jobRequestFor(const CommandLine &line, const PrintSession &session) {
   request.options = session.jobOptions();
   request.ppdFile = session.printer() ? session.printer()->path() : QString();
   request.outputFile = line.output;
+  request.queue = session.destination().section(QLatin1Char('/'), 0, 0);
+  request.instance = session.destination().section(QLatin1Char('/'), 1);
   request.server = line.server;
   return request;
 }
 
 Status printAsAsked(const CommandLine &line, const PrintSession &session) {
-  if (!line.output.isNull()) return printIntoFile(jobRequestFor(line, session));
-  if (!line.print) return {};
-  return Failure{FailureKind::Io, QStringLiteral("--print"),
-                 QStringLiteral("a job needs a print queue; use --output with --ppd")};
+  if (line.output.isNull() && !line.print) return {};
+  const JobRequest request = jobRequestFor(line, session);
+  tellWarnings(session, request);
+  if (!line.output.isNull()) {
+    if (Status printed = printIntoFile(request); !printed) return printed;
+  }
+  return line.print ? printOnQueue(line, request) : Status();
 }
 
 }  // namespace orvek

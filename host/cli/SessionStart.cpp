@@ -5,6 +5,8 @@
 
 #include "host/cli/Console.h"
 #include "host/cli/Presets.h"
+#include "host/cli/PrinterListing.h"
+#include "host/printers/QueueSetup.h"
 #include "host/session/PluginFinder.h"
 
 namespace orvek {
@@ -13,10 +15,8 @@ namespace {
 const QString pagesPerSheetOption = QStringLiteral("number-up");
 
 Status gatherPrinter(const CommandLine &line, SessionSetup *setup) {
-  if (line.ppd.isNull()) {
-    return Failure{FailureKind::Io, QStringLiteral("print queues"),
-                   QStringLiteral("not available in this build, name a PPD file with --ppd")};
-  }
+  if (line.ppd.isNull()) return setUpForQueue(serverAccess(line), line.destination, setup);
+  setup->destination = line.destination;
   Result<std::shared_ptr<PrinterDescription>> printer = PrinterDescription::open(line.ppd);
   if (!printer) return printer.failure();
   setup->printer = printer.take();

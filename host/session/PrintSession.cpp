@@ -33,6 +33,7 @@ Result<std::unique_ptr<PrintSession>> PrintSession::begin(SessionSetup setup) {
 
 PrintSession::PrintSession(const SessionSetup &setup)
     : m_printer(setup.printer),
+      m_destination(setup.destination),
       m_ticket(std::make_shared<Ticket>()),
       m_picks(m_printer ? m_printer->ppd() : nullptr, m_ticket),
       m_queueOptions(setup.queueOptions),

@@ -33,6 +33,7 @@ namespace orvek {
 /// What a session begins with.
 struct SessionSetup {
   std::shared_ptr<PrinterDescription> printer;  ///< null: a printer without PPD
+  QString destination;  ///< the queue, "NAME[/INSTANCE]"; null: none was named
   TicketValues ticket;
   QList<OptionChoice>
       queueOptions;            ///< the queue's and the user's; what the PPD lacks is passed over
@@ -84,6 +85,10 @@ class PrintSession final : public QObject, private PanelListener {
   bool canUndo() const { return m_picks.canUndo(); }
 
   const std::shared_ptr<PrinterDescription> &printer() const { return m_printer; }
+
+  /// The queue that a job goes to, "NAME[/INSTANCE]"; null: the default one.
+  const QString &destination() const { return m_destination; }
+
   const Marks &marks() const { return m_picks.marks(); }
   Ticket &ticket() const { return *m_ticket; }
 
@@ -141,6 +146,7 @@ class PrintSession final : public QObject, private PanelListener {
 
   // Panels borrow from all that stands before them here, and the PPD goes last.
   std::shared_ptr<PrinterDescription> m_printer;
+  QString m_destination;
   std::shared_ptr<Ticket> m_ticket;
   PrintSessionHandle m_handle;
   Picks m_picks;

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: Apache-2.0
+// Asks a print server for all that a session begins with.
+
+#include "host/printers/QueueSetup.h"
+
+#include "host/printers/PrinterList.h"
+#include "host/printers/QueuePPD.h"
+
+namespace orvek {
+namespace {
+
+QList<OptionChoice> savedOptions(const Printer &printer) {
+  QList<OptionChoice> options;
+  for (auto entry = printer.options.begin(); entry != printer.options.end(); ++entry) {
+    options.append({entry.key(), entry.value()});
+  }
+  return options;
+}
+
+Status describe(const CupsConnection &connection, const QString &queue, SessionSetup *setup) {
+  const Result<QString> path = QueuePPD().fetch(connection, queue);
+  if (!path) return path.failure();
+  if (path.value().isNull()) return {};
+  Result<std::shared_ptr<PrinterDescription>> printer = PrinterDescription::open(path.value());
+  if (!printer) return printer.failure();
+  setup->printer = printer.take();
+  return {};
+}
+
+}  // namespace
+
+Status setUpForQueue(const ServerAccess &access, const QString &destination, SessionSetup *setup) {
+  const Result<std::unique_ptr<CupsConnection>> connection = CupsConnection::open(access);
+  if (!connection) return connection.failure();
+  const Result<Printer> printer = findPrinter(*connection.value(), destination);
+  if (!printer) return printer.failure();
+  if (Status described = describe(*connection.value(), printer.value().name, setup); !described) {
+    return described;
+  }
+  setup->queueOptions = savedOptions(printer.value());
+  setup->destination = printer.value().destination();
+  return {};
+}
+
+}  // namespace orvek

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: Apache-2.0
+// The program before a real print server of its own.
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "tests/host/cli/Program.h"
+#include "tests/support/PrivateCups.h"
+
+namespace orvek::test {
+namespace {
+
+using orvek::testing::PrivateCups;
+
+const QString document = QStringLiteral(ORVEK_SOURCE_DIR "/samples/Finishing-Sample.ps");
+
+class ProgramQueue : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    if (!PrivateCups::obstacle().isEmpty()) GTEST_SKIP() << PrivateCups::obstacle().toStdString();
+    cups = std::make_unique<PrivateCups>();
+    ASSERT_EQ(cups->addQueue("office", testPpd("finisher.ppd"), {"-L", "Room 5"}).exitStatus, 0);
+    ASSERT_EQ(cups->run("lpadmin", {"-d", "office"}).exitStatus, 0);
+  }
+
+  ProgramRun run(const QStringList &arguments) {
+    return runProgram(arguments, {{"XDG_CACHE_HOME=" + cache.path()}, {}, {}});
+  }
+
+  QByteArray printed() {
+    QFile file(cups->printedBy("office"));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  }
+
+  QTemporaryDir cache;
+  std::unique_ptr<PrivateCups> cups;
+};
+
+TEST_F(ProgramQueue, IsListedWithStateLocationAndDefault) {
+  const ProgramRun list = run({"--list-printers"});
+  EXPECT_EQ(list.status, 0) << list.errors.constData();
+  EXPECT_EQ(list.output, "office\tIdle\tRoom 5\tdefault\n");
+}
+
+TEST_F(ProgramQueue, GivesItsPpdAndTheUsersSavedOptions) {
+  ASSERT_EQ(cups->run("lpoptions", {"-p", "office", "-o", "OVKPunching=2"}).exitStatus, 0);
+  const ProgramRun session = run({"--headless", "--inspect"});
+  ASSERT_EQ(session.status, 0) << session.errors.constData();
+  const QJsonObject marks = session.json().value("marks").toObject();
+  EXPECT_EQ(marks.value("OVKPunching"), "2");
+  EXPECT_EQ(session.json().value("modelNumber"), "6180");
+}
+
+TEST_F(ProgramQueue, TakesAJobWithWhatThePanelChose) {
+  const ProgramRun job = run({"--headless", "--print", "--do", "foldingPopup=Saddle", "-n", "2",
+                              "-t", "Report", document});
+  ASSERT_EQ(job.status, 0) << job.errors.constData();
+  EXPECT_EQ(job.output, "request id is office-1 (1 file(s))\n");
+  EXPECT_EQ(cups->waitForJob(1), "completed");
+  EXPECT_EQ(cups->jobAttributes(1).value("copies"), "2");
+  EXPECT_EQ(cups->jobAttributes(1).value("job-name"), "Report");
+  EXPECT_TRUE(printed().contains("%%BeginFeature: *OVKFolding Saddle"))
+      << cups->log().toStdString();
+}
+
+TEST_F(ProgramQueue, KeepsTheJobsNumberToItselfWhereAskedTo) {
+  EXPECT_EQ(run({"--headless", "--print", "-s", document}).output, "");
+}
+
+TEST_F(ProgramQueue, KeepsTheStateAloneOnTheStandardOutput) {
+  const ProgramRun job = run({"--headless", "--print", "--inspect", document});
+  EXPECT_FALSE(job.json().isEmpty());
+  EXPECT_TRUE(job.errors.contains("request id is office-1"));
+}
+
+TEST_F(ProgramQueue, GetsNoJobWithoutPrint) {
+  ASSERT_EQ(run({"--headless", document}).status, 0);
+  EXPECT_TRUE(cups->jobAttributes(1).isEmpty());
+}
+
+TEST_F(ProgramQueue, IsNamedWhereItDoesNotExist) {
+  const ProgramRun job = run({"--headless", "-d", "cellar", "--inspect"});
+  EXPECT_EQ(job.status, 1);
+  EXPECT_EQ(job.output, "");
+  ASSERT_EQ(job.errorLines().size(), 1) << job.errors.constData();
+  EXPECT_TRUE(job.errorLines().first().contains("cellar"));
+}
+
+TEST_F(ProgramQueue, IsMissedInOneLineWhenTheServerIsGone) {
+  cups->stop();
+  const ProgramRun job = run({"--headless", "--inspect"});
+  EXPECT_EQ(job.status, 1);
+  EXPECT_EQ(job.errorLines().size(), 1) << job.errors.constData();
+}
+
+}  // namespace
+}  // namespace orvek::test
