@@ -1,0 +1,10 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: Apache-2.0
+# Builds the dialog benchmark and prints its table.  bench/dialog/run.sh [RUNS]
+set -euo pipefail
+cd "$(dirname "$(readlink -f "$0")")/../.."
+. tools/lib.sh
+
+ensure_packages run test
+build bench compare-dialogs toolkit-dialog orvek-dialog orvek-print OrvekFinishing orvek-resources
+QT_QPA_PLATFORM=${QT_QPA_PLATFORM:-offscreen} build-bench/bin/compare-dialogs "$@"
