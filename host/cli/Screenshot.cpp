@@ -20,7 +20,9 @@ Failure notWritten(const QString &path, const QString &why) {
 
 // Shown without a screen, so that sizes, styles and texts are those of the real window.
 QImage renderDialog(const CommandLine &line, PrintSession &session) {
-  PrintDialog dialog(session, dialogSetupFor(line));
+  DialogSetup setup = dialogSetupFor(line);
+  if (!setup.document.path.isEmpty()) setup.document = documentInfo(setup.document.path);
+  PrintDialog dialog(session, std::move(setup));
   dialog.setAttribute(Qt::WA_DontShowOnScreen);
   dialog.show();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);

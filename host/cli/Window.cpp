@@ -4,11 +4,14 @@
 #include "host/cli/Window.h"
 
 #include <QFileInfo>
+#include <QTimer>
 
+#include "host/cli/Console.h"
 #include "host/cli/Headless.h"
 #include "host/cli/PrintJob.h"
 #include "host/cli/SessionStart.h"
 #include "host/jobs/Document.h"
+#include "host/jobs/QueueJob.h"
 
 namespace orvek {
 namespace {
@@ -30,11 +33,38 @@ Status checkDocuments(const QStringList &files) {
   return {};
 }
 
+// As lp does: a job on a queue has a number, one into a file has none.
+Status tellOutcome(const CommandLine &line, const PrintDialog &dialog) {
+  if (line.silent || !dialog.outcome() || dialog.outcome()->jobId == 0) return {};
+  const QString words = requestIdLine(dialog.request(), *dialog.outcome());
+  return writeToStandardOutput(words.toUtf8() + '\n');
+}
+
+// A session on a queue chosen in the window; what was entered goes along by itself.
+Result<std::unique_ptr<PrintSession>> openPrinter(const CommandLine &line,
+                                                  const QString &destination) {
+  CommandLine other = line;
+  other.destination = destination;
+  other.ppd = QString();
+  other.ticket = QString();
+  other.preset = QString();
+  other.options.clear();
+  other.marks.clear();
+  return startSession(other);
+}
+
 }  // namespace
 
 DialogSetup dialogSetupFor(const CommandLine &line) {
   DialogSetup setup;
   setup.documentName = line.title.isNull() ? namesOf(line.files) : line.title;
+  if (line.files.size() == 1) setup.document.path = line.files.first();
+  setup.openPrinter = [&line](const QString &destination) {
+    return openPrinter(line, destination);
+  };
+  setup.presets = std::make_shared<PresetStore>();
+  setup.server.server = line.server;
+  setup.server.user = line.user;
   setup.jobRequest = [&line](const PrintSession &session) { return jobRequestFor(line, session); };
   return setup;
 }
@@ -45,12 +75,12 @@ Status runWindow(const CommandLine &line) {
   if (!started) return started.failure();
   PrintSession &session = *started.value();
   if (Status done = runActions(line, session); !done) return done;
-  {
-    PrintDialog dialog(session, dialogSetupFor(line));
-    dialog.exec();
-  }
-  if (Status written = saveAndWrite(line, session); !written) return written;
-  return printState(line, session);
+  PrintDialog dialog(session, dialogSetupFor(line));
+  QTimer::singleShot(0, &dialog, &PrintDialog::lookAround);
+  dialog.exec();
+  if (Status told = tellOutcome(line, dialog); !told) return told;
+  if (Status written = saveAndWrite(line, dialog.session()); !written) return written;
+  return printState(line, dialog.session());
 }
 
 }  // namespace orvek

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
-// The window's parts, its size, and a job's way through it.
+// The window's parts, its notices and its size.
 
 #include "host/dialog/PrintDialog.h"
 
+#include <QComboBox>
 #include <QEvent>
-#include <QFileDialog>
 #include <QFrame>
+#include <QGridLayout>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QShortcut>
 #include <QVBoxLayout>
 #include <utility>
@@ -16,21 +18,13 @@
 #include "host/dialog/JobRunner.h"
 #include "host/dialog/NoticeBar.h"
 #include "host/dialog/SessionView.h"
-#include "host/jobs/FilterChain.h"
 
 namespace orvek {
 namespace {
 
 constexpr int margin = 12;
 constexpr int spacing = 10;
-constexpr int wholeJob = 100;
-
-int percentDone(const JobProgress &progress, int pages) {
-  if (progress.expected > 0) return int(progress.bytes * wholeJob / progress.expected);
-  if (progress.pages > 0 && progress.documents == 1 && pages >= progress.pages)
-    return progress.pages * wholeJob / pages;
-  return -1;
-}
+constexpr int labelGap = 6;
 
 QFrame *separator(QWidget *parent) {
   auto *line = new QFrame(parent);
@@ -39,34 +33,43 @@ QFrame *separator(QWidget *parent) {
   return line;
 }
 
+QLabel *labelFor(QWidget *control, const QString &text, QWidget *parent) {
+  auto *label = new QLabel(text, parent);
+  label->setBuddy(control);
+  return label;
+}
+
 }  // namespace
 
 PrintDialog::PrintDialog(PrintSession &session, DialogSetup setup, QWidget *parent)
-    : QDialog(parent), m_session(session), m_setup(std::move(setup)) {
+    : QDialog(parent), m_session(&session), m_setup(std::move(setup)) {
   setObjectName(QStringLiteral("printDialog"));
   setWindowTitle(tr("Print"));
   setWindowIcon(QIcon::fromTheme(QStringLiteral("orvek-print")));
   build();
   connectParts();
+  followSession();
   showHeader();
-  updateControls();
   makeRoom();
 }
 
-PrintDialog::~PrintDialog() = default;
+PrintDialog::~PrintDialog() {
+  // The view borrows from the session, which goes with the members.
+  delete m_view;
+}
 
 void PrintDialog::build() {
   m_document = new DocumentHeader(this);
   m_document->setPicture(QStyle::SP_FileIcon);
-  m_printer = new DocumentHeader(this);
+  QWidget *choosers = buildChoosers();
   m_notices = new NoticeBar(this);
-  m_view = new SessionView(m_session, this);
+  m_view = new SessionView(*m_session, this);
   m_jobBar = new JobBar(this);
   m_runner = new JobRunner(this);
   auto *header = new QHBoxLayout;
   header->setSpacing(2 * margin);
-  header->addWidget(m_document, 1);
-  header->addWidget(m_printer, 1);
+  header->addWidget(m_document, 1, Qt::AlignTop);
+  header->addWidget(choosers, 0, Qt::AlignTop);
   auto *column = new QVBoxLayout(this);
   column->setContentsMargins(margin, margin, margin, margin);
   column->setSpacing(spacing);
@@ -77,10 +80,34 @@ void PrintDialog::build() {
   column->addWidget(m_jobBar);
 }
 
+QWidget *PrintDialog::buildChoosers() {
+  auto *choosers = new QWidget(this);
+  auto *grid = new QGridLayout(choosers);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setHorizontalSpacing(labelGap);
+  m_printers = new PrinterChooser(m_setup.server, choosers);
+  QLabel *printerLabel = labelFor(m_printers->menu(), tr("P&rinter:"), choosers);
+  printerLabel->setFixedHeight(m_printers->menu()->sizeHint().height());
+  grid->addWidget(printerLabel, 0, 0, Qt::AlignTop);
+  grid->addWidget(m_printers, 0, 1, Qt::AlignTop);
+  if (!m_setup.presets) return choosers;
+  const auto snapshot = [this](const QString &name) { return presetOf(*m_session, name); };
+  m_presets = new PresetChooser(m_setup.presets, snapshot, choosers);
+  QLabel *presetLabel = labelFor(m_presets->menu(), tr("Pr&eset:"), choosers);
+  presetLabel->setFixedHeight(m_presets->menu()->sizeHint().height());
+  grid->setColumnMinimumWidth(2, margin);
+  grid->addWidget(presetLabel, 0, 3, Qt::AlignTop);
+  grid->addWidget(m_presets, 0, 4, Qt::AlignTop);
+  return choosers;
+}
+
 void PrintDialog::connectParts() {
-  connect(&m_session, &PrintSession::noticed, this, &PrintDialog::showNotice);
-  connect(&m_session, &PrintSession::changed, this, &PrintDialog::followSession);
-  connect(m_notices, &NoticeBar::undoAsked, this, [this] { m_session.undo(); });
+  connect(m_printers, &PrinterChooser::chosen, this, &PrintDialog::choosePrinter);
+  if (m_presets != nullptr) {
+    connect(m_presets, &PresetChooser::picked, this, &PrintDialog::applyPicked);
+    connect(m_presets, &PresetChooser::failed, this, &PrintDialog::showProblem);
+  }
+  connect(m_notices, &NoticeBar::undoAsked, this, [this] { m_session->undo(); });
   connect(m_jobBar, &JobBar::printAsked, this, &PrintDialog::print);
   connect(m_jobBar, &JobBar::cancelAsked, this, &PrintDialog::reject);
   connect(m_runner, &JobRunner::progressed, this, &PrintDialog::showProgress);
@@ -88,41 +115,70 @@ void PrintDialog::connectParts() {
   connect(m_runner, &JobRunner::failed, this, &PrintDialog::showFailure);
   auto *undo = new QShortcut(QKeySequence::Undo, this);
   connect(undo, &QShortcut::activated, this, [this] {
-    if (m_session.canUndo()) m_session.undo();
+    if (m_session->canUndo()) m_session->undo();
   });
+}
+
+void PrintDialog::followSession() {
+  connect(m_session, &PrintSession::noticed, this, &PrintDialog::showNotice);
+  connect(m_session, &PrintSession::changed, this, &PrintDialog::sessionChanged);
 }
 
 void PrintDialog::updateControls() {
   const bool isPrinting = m_runner->isRunning();
-  const JobRequest request = m_setup.jobRequest(m_session);
+  const bool isForFile = m_setup.destination.isEmpty();
+  const bool hasFile = isForFile && !m_setup.jobRequest(*m_session).outputFile.isNull();
   m_view->setEnabled(!isPrinting);
   m_notices->setEnabled(!isPrinting);
-  m_jobBar->setState({.canPrint = true,
-                      .asksForFile = request.queue.isNull() && request.outputFile.isNull(),
+  m_printers->setEnabled(!isPrinting);
+  if (m_presets != nullptr) m_presets->setEnabled(!isPrinting);
+  m_jobBar->setState({.canPrint = !isForFile || m_session->printer() != nullptr,
+                      .asksForFile = isForFile && !hasFile,
                       .isPrinting = isPrinting,
                       .isCancelling = isPrinting && m_isCancelling});
 }
 
 void PrintDialog::showHeader() {
-  const QString pages = pagesInWords(m_setup.pages);
+  const QString pages = pagesInWords(m_setup.document.pages);
   m_document->setTexts(m_setup.documentName, pages.isNull() ? tr("Document") : pages);
-  const QString model = m_session.printer() ? m_session.printer()->modelName() : QString();
-  m_printer->setTexts(model.isNull() ? tr("Printer") : model, tr("Prints into a file"));
+  m_printers->setFileModel(m_session->printer() ? m_session->printer()->modelName() : QString());
+  m_printers->show(m_setup.destination);
+  if (m_presets != nullptr) m_presets->reload(m_setup.destination);
+  updateControls();
+}
+
+void PrintDialog::setDocument(const DocumentInfo &document) {
+  m_setup.document = document;
+  const QString pages = pagesInWords(document.pages);
+  m_document->setTexts(m_setup.documentName, pages.isNull() ? tr("Document") : pages);
+}
+
+void PrintDialog::lookAround() {
+  m_printers->refresh();
+  const QString path = m_setup.document.path;
+  if (path.isEmpty()) return;
+  m_reading.start(
+      this, [path](const BackgroundTask::Cancelled &) { return documentInfo(path); },
+      [this](const DocumentInfo &document) { setDocument(document); });
 }
 
 void PrintDialog::showNotice(const QStringList &sentences) {
-  const bool addsToNew = m_noticeIsNew;
-  m_noticeIsNew = true;
+  const bool addsToNew = std::exchange(m_noticeIsNew, true);
   const QStringList all = addsToNew ? m_notices->sentences() + sentences : sentences;
   m_notices->say(NoticeBar::Kind::Information, all, true);
 }
 
+void PrintDialog::showProblem(const Failure &failure) {
+  m_noticedMarks = m_session->marks().snapshot();
+  m_notices->say(NoticeBar::Kind::Problem, {failure.line()}, false);
+}
+
 // A notice stands until the next choice is made: its Undo would take back that one.
-void PrintDialog::followSession() {
-  const MarksSnapshot marks = m_session.marks().snapshot();
+void PrintDialog::sessionChanged() {
+  const MarksSnapshot marks = m_session->marks().snapshot();
   if (std::exchange(m_noticeIsNew, false)) {
     m_noticedMarks = marks;
-    m_notices->say(NoticeBar::Kind::Information, m_notices->sentences(), m_session.canUndo());
+    m_notices->say(NoticeBar::Kind::Information, m_notices->sentences(), m_session->canUndo());
   } else if (marks != m_noticedMarks) {
     m_notices->fallSilent();
   }
@@ -146,52 +202,6 @@ void PrintDialog::makeRoom() {
   const QSize next = isUsersSize ? size().expandedTo(minimumSizeHint()) : wanted;
   if (size() != next) resize(next);
   if (!isUsersSize) m_ownSize = next;
-}
-
-bool PrintDialog::completeRequest(JobRequest *request) {
-  if (!request->queue.isNull() || !request->outputFile.isNull()) return true;
-  request->outputFile = QFileDialog::getSaveFileName(this, tr("Print into a File"));
-  return !request->outputFile.isEmpty();
-}
-
-void PrintDialog::print() {
-  if (m_runner->isRunning()) return;
-  JobRequest request = m_setup.jobRequest(m_session);
-  if (!completeRequest(&request)) return;
-  m_notices->fallSilent();
-  m_isCancelling = false;
-  m_runner->start(request, printThroughFilters);
-  showProgress({});
-  updateControls();
-}
-
-void PrintDialog::reject() {
-  if (!m_runner->isRunning()) {
-    QDialog::reject();
-    return;
-  }
-  m_isCancelling = true;
-  updateControls();
-  m_runner->cancel();
-}
-
-void PrintDialog::showProgress(const JobProgress &progress) {
-  if (m_isCancelling) return;
-  m_jobBar->setProgress(progressInWords(progress), percentDone(progress, m_setup.pages));
-}
-
-void PrintDialog::end(const JobOutcome &outcome) {
-  m_outcome = outcome;
-  accept();
-}
-
-void PrintDialog::showFailure(const Failure &failure) {
-  const QString words = m_isCancelling ? tr("The job was cancelled.") : failure.line();
-  const auto kind = m_isCancelling ? NoticeBar::Kind::Information : NoticeBar::Kind::Problem;
-  m_isCancelling = false;
-  m_noticedMarks = m_session.marks().snapshot();
-  m_notices->say(kind, {words}, false);
-  updateControls();
 }
 
 }  // namespace orvek

@@ -2,17 +2,24 @@
 // The window: a view over a print session. It has no rules of its own about marks, constraints,
 // tickets or jobs; it shows what the session says and asks it for what the user wants.
 //
-//   DocumentHeader    what is printed, and where
-//   NoticeBar         what constraints did, what went wrong; Undo
+//   Parts, in the window from top to bottom            Sources
+//   DocumentHeader    what is printed                  PrintDialog         parts, notices, size
+//   PrinterChooser    where; PresetChooser with what   PrintDialogPrinter  other printers, presets
+//   NoticeBar         what happened; Undo              PrintDialogJob      a job's way
 //   SessionView       pages and summary
 //   JobBar            progress, Cancel, Print
 #pragma once
 
 #include <QDialog>
 #include <functional>
+#include <memory>
 #include <optional>
 
+#include "host/dialog/PresetChooser.h"
+#include "host/dialog/PrinterChooser.h"
 #include "host/jobs/JobRequest.h"
+#include "host/presets/SessionPreset.h"
+#include "host/session/DocumentInfo.h"
 #include "host/session/PrintSession.h"
 #include "platform/system/Result.h"
 
@@ -26,12 +33,20 @@ class SessionView;
 
 /// What a window is made for, besides the session.
 struct DialogSetup {
-  QString documentName;  ///< for people
-  int pages = 0;         ///< of the document; 0: unknown
+  using OpenPrinter =
+      std::function<Result<std::unique_ptr<PrintSession>>(const QString &destination)>;
 
-  /// The job as it would be printed now. Where it names neither queue nor output file, Print asks
-  /// for a file.
+  QString documentName;   ///< for people
+  DocumentInfo document;  ///< what is known of it; more may come with setDocument
+  QString destination;    ///< "NAME/INSTANCE" of the session's queue; empty: into a file
+  ServerAccess server;
+
+  /// The job as the session has it. Where it goes is the window's business: to the queue chosen
+  /// there, or into the request's output file; without one, Print asks for a file.
   std::function<JobRequest(const PrintSession &)> jobRequest;
+
+  OpenPrinter openPrinter;               ///< a session on another queue, its panels open
+  std::shared_ptr<PresetStore> presets;  ///< null: no presets
 };
 
 class PrintDialog final : public QDialog {
@@ -42,8 +57,17 @@ class PrintDialog final : public QDialog {
   PrintDialog(PrintSession &session, DialogSetup setup, QWidget *parent = nullptr);
   ~PrintDialog() override;
 
-  /// What became of the job; nothing where none was printed.
+  /// The session on show: the one it was made with, or the one of a printer chosen since.
+  PrintSession &session() const { return *m_session; }
+
+  void setDocument(const DocumentInfo &document);
+
+  /// Reads the document and asks the server for its printers, both in the background.
+  void lookAround();
+
+  /// What became of the job, and what it was; nothing where none was printed.
   const std::optional<JobOutcome> &outcome() const { return m_outcome; }
+  const JobRequest &request() const { return m_request; }
 
   /// Prints as the Print button does.
   void print();
@@ -55,33 +79,50 @@ class PrintDialog final : public QDialog {
   bool event(QEvent *event) override;
 
  private:
+  // Parts and what they show
   void build();
+  QWidget *buildChoosers();
   void connectParts();
+  void followSession();
   void updateControls();
   void showHeader();
   void showNotice(const QStringList &sentences);
-  void followSession();
+  void showProblem(const Failure &failure);
+  void sessionChanged();
   void makeRoom();
 
+  // Other printers, presets
+  void choosePrinter(const QString &destination);
+  void takeSession(std::unique_ptr<PrintSession> session, const QString &destination);
+  void applyPicked(const Preset &preset);
+  void showMisfits(const QString &opening, const QList<PresetMisfit> &misfits);
+
+  // A job's way
+  JobRequest gatherRequest();
   bool completeRequest(JobRequest *request);
+  bool acceptsWarnings();
   void showProgress(const JobProgress &progress);
   void end(const JobOutcome &outcome);
   void showFailure(const Failure &failure);
 
-  PrintSession &m_session;
+  std::unique_ptr<PrintSession> m_ownSession;  // of a printer chosen in the window
+  PrintSession *m_session;
   DialogSetup m_setup;
+  JobRequest m_request;
   std::optional<JobOutcome> m_outcome;
   MarksSnapshot m_noticedMarks;  // as they stood when the notice was given
   bool m_noticeIsNew = false;    // the action that it belongs to still runs
   bool m_isCancelling = false;
   QSize m_ownSize;  // the size that the window chose last; another one is the user's choice
 
-  DocumentHeader *m_document;
-  DocumentHeader *m_printer;
-  NoticeBar *m_notices;
-  SessionView *m_view;
-  JobBar *m_jobBar;
-  JobRunner *m_runner;
+  DocumentHeader *m_document = nullptr;
+  PrinterChooser *m_printers = nullptr;
+  PresetChooser *m_presets = nullptr;  // null: no presets
+  NoticeBar *m_notices = nullptr;
+  SessionView *m_view = nullptr;
+  JobBar *m_jobBar = nullptr;
+  JobRunner *m_runner = nullptr;
+  BackgroundTask m_reading;  // the last: it ends before what it reports to
 };
 
 }  // namespace orvek

@@ -26,8 +26,49 @@ QMap<QString, QString> changedOptions(const PrintSession &session, QStringList *
   return changed;
 }
 
-QString pagesPerSheetTitle() {
-  return QCoreApplication::translate("SummaryLines", "Pages per sheet");
+/// The texts of this file, for translation.
+struct Text {
+  Q_DECLARE_TR_FUNCTIONS(SummaryLines)
+};
+
+QString orientationText(Orientation orientation) {
+  switch (orientation) {
+    case Orientation::Portrait:
+      return Text::tr("Portrait");
+    case Orientation::Landscape:
+      return Text::tr("Landscape");
+    case Orientation::ReversePortrait:
+      return Text::tr("Portrait, upside down");
+    case Orientation::ReverseLandscape:
+      return Text::tr("Landscape, upside down");
+    case Orientation::Automatic:
+      break;
+  }
+  return Text::tr("Automatic");
+}
+
+// What the job settings and the layout say beside the printer's options.
+QList<SummaryLine> jobLines(const PrintSession &session) {
+  const JobSettings settings = session.jobSettings();
+  QList<SummaryLine> lines;
+  if (settings.copies > 1) {
+    lines << SummaryLine{Text::tr("Copies"), QString::number(settings.copies), true};
+    const QString order = settings.collate ? Text::tr("Set by set") : Text::tr("Page by page");
+    lines << SummaryLine{Text::tr("Order of copies"), order, !settings.collate};
+  }
+  if (!settings.pageRanges.isEmpty()) {
+    lines << SummaryLine{Text::tr("Pages"), settings.pageRanges, true};
+  }
+  if (settings.orientation != Orientation::Automatic) {
+    lines << SummaryLine{Text::tr("Orientation"), orientationText(settings.orientation), true};
+  }
+  if (settings.reverse) {
+    lines << SummaryLine{Text::tr("Page order"), Text::tr("Last page first"), true};
+  }
+  if (const int pages = session.pagesPerSheet(); pages > 1) {
+    lines << SummaryLine{Text::tr("Pages per sheet"), QString::number(pages), true};
+  }
+  return lines;
 }
 
 bool differs(const QMap<QString, QString> &baseline, const SummaryLine &line) {
@@ -58,9 +99,7 @@ QList<SummaryLine> summaryLines(const PrintSession &session,
     const auto entry = changed.find(title);
     if (entry != changed.end()) lines << SummaryLine{title, entry.value(), true};
   }
-  if (const int pages = session.pagesPerSheet(); pages > 1) {
-    lines << SummaryLine{pagesPerSheetTitle(), QString::number(pages), true};
-  }
+  lines << jobLines(session);
   std::stable_partition(lines.begin(), lines.end(),
                         [](const SummaryLine &line) { return line.changed; });
   return lines;

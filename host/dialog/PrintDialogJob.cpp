@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: Apache-2.0
+// A job's way: gathered, warned of, sent, watched, ended.
+
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "host/dialog/JobBar.h"
+#include "host/dialog/JobRunner.h"
+#include "host/dialog/NoticeBar.h"
+#include "host/dialog/PrintDialog.h"
+#include "host/jobs/FilterChain.h"
+#include "host/jobs/QueueJob.h"
+#include "host/session/JobWarnings.h"
+
+namespace orvek {
+namespace {
+
+constexpr int wholeJob = 100;
+constexpr QLatin1Char instanceMark('/');
+
+int percentDone(const JobProgress &progress, int pages) {
+  if (progress.expected > 0) return int(progress.bytes * wholeJob / progress.expected);
+  if (progress.pages > 0 && progress.documents == 1 && pages >= progress.pages) {
+    return progress.pages * wholeJob / pages;
+  }
+  return -1;
+}
+
+}  // namespace
+
+JobRequest PrintDialog::gatherRequest() {
+  m_session->perform([this] {
+    for (const auto &hosted : m_session->panels())
+      hosted->panel().saveValuesAndReturnError(nullptr);
+  });
+  JobRequest request = m_setup.jobRequest(*m_session);
+  const QString &destination = m_setup.destination;
+  request.queue = destination.isEmpty() ? QString() : destination.section(instanceMark, 0, 0);
+  request.instance = destination.section(instanceMark, 1);
+  if (!destination.isEmpty()) request.outputFile = QString();
+  return request;
+}
+
+bool PrintDialog::completeRequest(JobRequest *request) {
+  if (!request->queue.isNull() || !request->outputFile.isNull()) return true;
+  request->outputFile = QFileDialog::getSaveFileName(this, tr("Print into a File"));
+  return !request->outputFile.isEmpty();
+}
+
+bool PrintDialog::acceptsWarnings() {
+  const QStringList warnings = jobWarnings(*m_session, m_setup.document.pages);
+  if (warnings.isEmpty()) return true;
+  QMessageBox question(QMessageBox::Warning, tr("Print"),
+                       warnings.join(QStringLiteral(".\n")) + QLatin1Char('.'), QMessageBox::Cancel,
+                       this);
+  question.setInformativeText(tr("Print all the same?"));
+  QPushButton *print = question.addButton(tr("&Print"), QMessageBox::AcceptRole);
+  question.setDefaultButton(QMessageBox::Cancel);
+  question.exec();
+  return question.clickedButton() == print;
+}
+
+void PrintDialog::print() {
+  if (m_runner->isRunning()) return;
+  JobRequest request = gatherRequest();
+  if (!acceptsWarnings() || !completeRequest(&request)) return;
+  m_notices->fallSilent();
+  m_isCancelling = false;
+  m_request = request;
+  m_runner->start(request, request.queue.isNull() ? printThroughFilters : submitToQueue);
+  showProgress({});
+  updateControls();
+}
+
+void PrintDialog::reject() {
+  if (!m_runner->isRunning()) {
+    QDialog::reject();
+    return;
+  }
+  m_isCancelling = true;
+  updateControls();
+  m_runner->cancel();
+}
+
+void PrintDialog::showProgress(const JobProgress &progress) {
+  if (m_isCancelling) return;
+  m_jobBar->setProgress(progressInWords(progress), percentDone(progress, m_setup.document.pages));
+}
+
+void PrintDialog::end(const JobOutcome &outcome) {
+  m_outcome = outcome;
+  if (m_setup.presets && !m_request.queue.isNull()) {
+    // The job went; that it can't be remembered is no reason to stay.
+    static_cast<void>(m_setup.presets->saveLastUsed(m_setup.destination, presetOf(*m_session, {})));
+  }
+  accept();
+}
+
+void PrintDialog::showFailure(const Failure &failure) {
+  QStringList words{m_isCancelling ? tr("The job was cancelled.") : failure.line()};
+  const auto kind = m_isCancelling ? NoticeBar::Kind::Information : NoticeBar::Kind::Problem;
+  if (!m_isCancelling && !m_request.queue.isNull() && m_session->printer()) {
+    words << tr("It can still be printed into a file: choose File as the printer.");
+  }
+  m_isCancelling = false;
+  m_noticedMarks = m_session->marks().snapshot();
+  m_notices->say(kind, words, false);
+  m_printers->refresh();
+  updateControls();
+}
+
+}  // namespace orvek

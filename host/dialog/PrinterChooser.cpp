@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: Apache-2.0
+// The file comes first, then the queues by name, the default marked.
+
+#include "host/dialog/PrinterChooser.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <QStandardItemModel>
+#include <QVBoxLayout>
+#include <utility>
+
+namespace orvek {
+namespace {
+
+constexpr int leastCharacters = 24;
+constexpr int mostVisibleItems = 16;
+const QString separator = QStringLiteral(" · ");
+
+// "Idle · Second floor · Toner is low"
+QString detailOf(const Printer &printer) {
+  QStringList parts{stateInWords(printer)};
+  if (!printer.location.isEmpty()) parts << printer.location;
+  parts << printer.reasons;
+  if (!printer.stateMessage.isEmpty() && !parts.contains(printer.stateMessage)) {
+    parts << printer.stateMessage;
+  }
+  return parts.join(separator);
+}
+
+QString titleOf(const Printer &printer) {
+  const QString title = printer.destination();
+  return printer.isDefault ? PrinterChooser::tr("%1 (default)").arg(title) : title;
+}
+
+}  // namespace
+
+PrinterChooser::PrinterChooser(ServerAccess access, QWidget *parent)
+    : QWidget(parent),
+      m_access(std::move(access)),
+      m_menu(new QComboBox(this)),
+      m_detail(new QLabel(this)) {
+  m_menu->setObjectName(QStringLiteral("printerMenu"));
+  m_menu->setAccessibleName(tr("Printer"));
+  m_menu->setMinimumContentsLength(leastCharacters);
+  m_menu->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  m_menu->setMaxVisibleItems(mostVisibleItems);
+  m_detail->setObjectName(QStringLiteral("printerDetail"));
+  m_detail->setTextFormat(Qt::PlainText);
+  m_detail->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  auto *column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(2);
+  column->addWidget(m_menu);
+  column->addWidget(m_detail);
+  setFocusProxy(m_menu);
+  connect(m_menu, &QComboBox::activated, this, [this] {
+    const QString destination = m_menu->currentData().toString();
+    if (destination == m_destination) return;
+    Q_EMIT chosen(destination);
+  });
+  fill({});
+}
+
+void PrinterChooser::refresh() {
+  m_task.start(
+      this,
+      [access = m_access](const std::atomic<bool> &cancelled) mutable {
+        access.cancelled = &cancelled;
+        return listPrinters(access);
+      },
+      [this](const Answer &answer) { take(answer); });
+}
+
+void PrinterChooser::take(const Answer &answer) {
+  m_problem = answer ? QString() : answer.failure().line();
+  // Queues that were known stay on offer when the server stops answering.
+  if (answer) m_printers = answer.value();
+  fill(m_destination);
+  Q_EMIT listed();
+}
+
+void PrinterChooser::show(const QString &destination) {
+  fill(destination);
+}
+
+void PrinterChooser::setFileModel(const QString &model) {
+  m_fileModel = model;
+  fill(m_destination);
+}
+
+QString PrinterChooser::destination() const {
+  return m_destination;
+}
+
+void PrinterChooser::fill(const QString &destination) {
+  const QSignalBlocker quiet(m_menu);
+  m_destination = destination;
+  m_menu->clear();
+  m_menu->addItem(m_fileModel.isEmpty() ? tr("File") : tr("File (%1)").arg(m_fileModel), QString());
+  for (const Printer &printer : m_printers) {
+    m_menu->addItem(titleOf(printer), printer.destination());
+    const int row = m_menu->count() - 1;
+    m_menu->setItemData(row, detailOf(printer), Qt::ToolTipRole);
+    const QString spoken = titleOf(printer) + QStringLiteral(", ") + detailOf(printer);
+    m_menu->setItemData(row, spoken, Qt::AccessibleTextRole);
+  }
+  // A queue that the list lacks: not asked for yet, or gone meanwhile.
+  if (!destination.isEmpty() && m_menu->findData(destination) < 0) {
+    m_menu->addItem(destination, destination);
+  }
+  m_menu->setCurrentIndex(m_menu->findData(destination.isEmpty() ? QString() : destination));
+  showDetail();
+}
+
+void PrinterChooser::showDetail() {
+  QString detail = tr("Prints into a file");
+  for (const Printer &printer : m_printers) {
+    if (printer.destination() == m_destination) detail = detailOf(printer);
+  }
+  if (!m_problem.isNull()) detail = m_problem;
+  m_detail->setText(detail);
+  m_detail->setToolTip(detail);
+  m_menu->setAccessibleDescription(detail);
+}
+
+}  // namespace orvek

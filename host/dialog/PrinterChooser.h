@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: Apache-2.0
+// The pop-up of printers: every queue with its state in words, and a file. Asks the server in the
+// background; opens no queue itself.
+#pragma once
+
+#include <QWidget>
+
+#include "host/printers/BackgroundTask.h"
+#include "host/printers/PrinterList.h"
+
+class QComboBox;
+class QLabel;
+
+namespace orvek {
+
+class PrinterChooser final : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit PrinterChooser(ServerAccess access, QWidget *parent = nullptr);
+
+  /// Asks the server for its queues; `listed` follows.
+  void refresh();
+
+  /// Shows a destination ("NAME/INSTANCE"; empty: a file) without a word to anyone.
+  void show(const QString &destination);
+
+  /// What a file is printed for.
+  void setFileModel(const QString &model);
+
+  QString destination() const;
+  QComboBox *menu() const { return m_menu; }
+
+ Q_SIGNALS:
+  /// The user picked another one.
+  void chosen(const QString &destination);
+
+  /// The server answered, or said why not.
+  void listed();
+
+ private:
+  using Answer = Result<QList<Printer>>;
+
+  void take(const Answer &answer);
+  void fill(const QString &destination);
+  void showDetail();
+
+  ServerAccess m_access;
+  QList<Printer> m_printers;
+  QString m_problem;  // why there is no list; null: there is one, or nobody asked yet
+  QString m_destination;
+  QString m_fileModel;
+  QComboBox *m_menu;
+  QLabel *m_detail;
+  BackgroundTask m_task;  // the last: it ends before what it reports to
+};
+
+}  // namespace orvek
