@@ -45,9 +45,9 @@ PresetChooser::PresetChooser(std::shared_ptr<PresetStore> store, Snapshot snapsh
 void PresetChooser::buildActions() {
   m_button->setObjectName(QStringLiteral("presetButton"));
   m_button->setText(QStringLiteral("…"));
+  m_button->setFixedHeight(m_menu->sizeHint().height());
   m_button->setAccessibleName(tr("Save and manage presets"));
   m_button->setToolTip(tr("Save and manage presets"));
-  m_button->setPopupMode(QToolButton::InstantPopup);
   m_button->setFocusPolicy(Qt::StrongFocus);
   auto *menu = new QMenu(m_button);
   connect(menu->addAction(tr("&Save As…")), &QAction::triggered, this, &PresetChooser::saveAs);
@@ -55,7 +55,8 @@ void PresetChooser::buildActions() {
   connect(m_rename, &QAction::triggered, this, &PresetChooser::rename);
   m_remove = menu->addAction(tr("&Delete"));
   connect(m_remove, &QAction::triggered, this, &PresetChooser::remove);
-  m_button->setMenu(menu);
+  connect(m_button, &QToolButton::clicked, this,
+          [this, menu] { menu->popup(m_button->mapToGlobal(QPoint(0, m_button->height()))); });
 }
 
 void PresetChooser::reload(const QString &queue) {

@@ -50,6 +50,7 @@ PrintDialog::PrintDialog(PrintSession &session, DialogSetup setup, QWidget *pare
   connectParts();
   followSession();
   showHeader();
+  showEarlierNotices();
   makeRoom();
 }
 
@@ -166,6 +167,13 @@ void PrintDialog::showNotice(const QStringList &sentences) {
   const bool addsToNew = std::exchange(m_noticeIsNew, true);
   const QStringList all = addsToNew ? m_notices->sentences() + sentences : sentences;
   m_notices->say(NoticeBar::Kind::Information, all, true);
+}
+
+// What constraints did to the command line's options, before there was a window.
+void PrintDialog::showEarlierNotices() {
+  if (m_session->notices().isEmpty()) return;
+  m_noticedMarks = m_session->marks().snapshot();
+  m_notices->say(NoticeBar::Kind::Information, m_session->notices(), m_session->canUndo());
 }
 
 void PrintDialog::showProblem(const Failure &failure) {

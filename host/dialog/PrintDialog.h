@@ -87,6 +87,7 @@ class PrintDialog final : public QDialog {
   void updateControls();
   void showHeader();
   void showNotice(const QStringList &sentences);
+  void showEarlierNotices();
   void showProblem(const Failure &failure);
   void sessionChanged();
   void makeRoom();

@@ -22,7 +22,6 @@ constexpr int gap = 12;
 SessionView::SessionView(PrintSession &session, QWidget *parent)
     : QWidget(parent),
       m_session(session),
-      m_baseline(panelLines(session)),
       m_pages(new QTabWidget(this)),
       m_summary(new SummaryView(this)) {
   m_pages->setObjectName(QStringLiteral("pages"));
@@ -53,7 +52,7 @@ void SessionView::addPanelPages() {
 }
 
 void SessionView::followSession() {
-  m_summary->show(summaryLines(m_session, m_baseline));
+  m_summary->show(summaryLines(m_session));
 }
 
 }  // namespace orvek

@@ -3,7 +3,6 @@
 // printer is another session, and gets another view.
 #pragma once
 
-#include <QMap>
 #include <QWidget>
 
 #include "host/session/PrintSession.h"
@@ -26,7 +25,6 @@ class SessionView final : public QWidget {
   void followSession();
 
   PrintSession &m_session;
-  QMap<QString, QString> m_baseline;  // the panels' lines when the view was made
   QTabWidget *m_pages;
   SummaryView *m_summary;
 };

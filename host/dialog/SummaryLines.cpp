@@ -78,14 +78,9 @@ bool differs(const QMap<QString, QString> &baseline, const SummaryLine &line) {
 
 }  // namespace
 
-QMap<QString, QString> panelLines(const PrintSession &session) {
-  QMap<QString, QString> lines;
-  for (const auto &[title, value] : session.summary()) lines.insert(title, value);
-  return lines;
-}
-
-QList<SummaryLine> summaryLines(const PrintSession &session,
-                                const QMap<QString, QString> &baseline) {
+QList<SummaryLine> summaryLines(const PrintSession &session) {
+  QMap<QString, QString> baseline;
+  for (const auto &[title, value] : session.openingSummary()) baseline.insert(title, value);
   QStringList order;
   QMap<QString, QString> changed = changedOptions(session, &order);
   QList<SummaryLine> lines;

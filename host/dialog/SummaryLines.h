@@ -4,7 +4,6 @@
 #pragma once
 
 #include <QList>
-#include <QMap>
 #include <QString>
 
 #include "host/session/PrintSession.h"
@@ -20,14 +19,10 @@ struct SummaryLine {
   bool operator==(const SummaryLine &) const = default;
 };
 
-/// The panels' lines by title, to compare later ones with.
-QMap<QString, QString> panelLines(const PrintSession &session);
-
 /// Changed settings first: the panels' lines, then whatever else differs from the PPD's defaults;
 /// then the panels' other lines. A panel's line counts as changed where it speaks of an option
-/// whose choice is not the default, or where it is not what `baseline` has under its title.
+/// whose choice is not the default, or where it is not what it was when the panels were opened.
 /// Installed equipment is no setting of a job and is left out.
-QList<SummaryLine> summaryLines(const PrintSession &session,
-                                const QMap<QString, QString> &baseline);
+QList<SummaryLine> summaryLines(const PrintSession &session);
 
 }  // namespace orvek

@@ -73,6 +73,7 @@ void PrintSession::addPlugin(std::shared_ptr<LoadedPlugin> plugin) {
 
 void PrintSession::openPanels() {
   perform([this] { makePanels(); });
+  m_openingSummary = summary();
 }
 
 void PrintSession::reopenPanels() {

@@ -103,6 +103,9 @@ class PrintSession final : public QObject, private PanelListener {
   /// Title and value of each line of each panel's summary.
   QList<QPair<QString, QString>> summary() const;
 
+  /// The summary as it was when panels were last opened, before anything was done to them.
+  const QList<QPair<QString, QString>> &openingSummary() const { return m_openingSummary; }
+
   /// What a job must say: every marked choice that is not the PPD's default or not the queue's,
   /// every ticket key, and in the words of the print server the pages per sheet and the job
   /// settings.
@@ -159,6 +162,7 @@ class PrintSession final : public QObject, private PanelListener {
   std::vector<std::shared_ptr<PluginCallback>> m_callbacks;
   std::vector<std::unique_ptr<HostedPanel>> m_panels;
 
+  QList<QPair<QString, QString>> m_openingSummary;
   QList<QPair<QString, QString>> m_announced;
   int m_resizeCount = 0;
   QStringList m_log;

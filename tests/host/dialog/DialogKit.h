@@ -24,7 +24,7 @@ namespace orvek {
 inline constexpr int jobTimeout = 30000;  // milliseconds
 
 /// A window over a session on one of the project's printers. Prints the sample into outputFile.
-class DialogTest : public testing::Test {
+class DialogTest : public ::testing::Test {
  protected:
   void open(const QString &printer = QStringLiteral("Orvek-6180"), SessionSetup setup = {}) {
     const QString source = QStringLiteral(ORVEK_SOURCE_DIR);
@@ -44,7 +44,7 @@ class DialogTest : public testing::Test {
   void showWindow() {
     DialogSetup dialogSetup;
     dialogSetup.documentName = QStringLiteral("Finishing-Sample.pdf");
-    dialogSetup.pages = 8;
+    dialogSetup.document.pages = 8;
     dialogSetup.jobRequest = [this](const PrintSession &now) { return requestFor(now); };
     dialog = std::make_unique<PrintDialog>(*session, std::move(dialogSetup));
     dialog->show();
