@@ -21,6 +21,8 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(ORVEK_BUNDLE_DIR "${CMAKE_BINARY_DIR}/OrvekFinishing.bundle")
+# From bin/, from beside each other and from a plug-in bundle, wherever the whole is moved to.
+set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR};$ORIGIN;$ORIGIN/../../..")
 set(ORVEK_PLUGIN_INSTALL_DIR "${CMAKE_INSTALL_LIBDIR}/orvek-print/plugins")
 
 find_program(ORVEK_CCACHE ccache)
