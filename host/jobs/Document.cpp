@@ -39,6 +39,15 @@ Status checkDocument(const QString &file) {
   return {};
 }
 
+Status checkAllDocuments(const QStringList &files) {
+  if (files.count(kStandardInput) > 1)
+    return Failure{FailureKind::Usage, documentName(kStandardInput),
+                   QStringLiteral("can be printed once only, and \"-\" is given more than once")};
+  for (const QString &file : files)
+    if (Status document = checkDocument(file); !document) return document;
+  return {};
+}
+
 qint64 documentSize(const QString &file) {
   const QFileInfo info(file);
   return file != kStandardInput && info.isFile() ? info.size() : -1;

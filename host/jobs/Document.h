@@ -15,6 +15,9 @@ namespace orvek {
 /// always can.
 Status checkDocument(const QString &file);
 
+/// The same for all documents of a job; standard input may be among them once.
+Status checkAllDocuments(const QStringList &files);
+
 /// The name that messages use for a document.
 QString documentName(const QString &file);
 

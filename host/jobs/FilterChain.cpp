@@ -64,7 +64,8 @@ void stop(QProcess &process) {
   const auto group = static_cast<pid_t>(process.processId());
   if (group <= 0) return;
   ::kill(-group, SIGTERM);
-  if (process.waitForFinished(kGraceMilliseconds)) return;
+  process.waitForFinished(kGraceMilliseconds);
+  // The tool may be gone while a filter that does not listen goes on.
   ::kill(-group, SIGKILL);
   process.waitForFinished(kGraceMilliseconds);
 }
@@ -141,9 +142,7 @@ Status filterNamed(Run &run, const QString &file) {
 
 Status checkRequest(const JobRequest &request) {
   if (Status ppd = checkPPDFile(request.ppdFile); !ppd) return ppd;
-  for (const QString &file : effectiveFiles(request))
-    if (Status document = checkDocument(file); !document) return document;
-  return {};
+  return checkAllDocuments(effectiveFiles(request));
 }
 
 }  // namespace

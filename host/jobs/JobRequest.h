@@ -8,6 +8,8 @@
 #include <atomic>
 #include <functional>
 
+#include "host/printers/ServerAccess.h"
+
 namespace orvek {
 
 /// One job, for a queue or for a file.
@@ -27,6 +29,8 @@ struct JobRequest {
   QString queue;     ///< to a queue: its name
   QString instance;  ///< to a queue: whose saved options to begin with; null: the queue's own
   QString server;    ///< to a queue: HOST[:PORT] or a socket's path; null: the server in force
+  std::chrono::milliseconds patience =
+      kServerPatience;  ///< to a queue: how long its server may keep silent
 };
 
 /// How far a job is. Sizes are bytes.

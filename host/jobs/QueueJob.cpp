@@ -28,15 +28,6 @@ struct Submission {
   JobProgress progress;
 };
 
-Status checkDocuments(const QStringList &files) {
-  if (files.count(kStandardInput) > 1)
-    return Failure{FailureKind::Usage, documentName(kStandardInput),
-                   QStringLiteral("can be printed once only, and \"-\" is given more than once")};
-  for (const QString &file : files)
-    if (Status document = checkDocument(file); !document) return document;
-  return {};
-}
-
 qint64 expectedBytes(const QStringList &files) {
   qint64 sum = 0;
   for (const QString &file : files) {
@@ -128,6 +119,10 @@ Status createJob(Submission &job, const QString &title) {
   return job.jobId > 0 ? Status() : Status(lastFailure(job, QString::fromUtf8(job.queue)));
 }
 
+ServerAccess accessOf(const JobRequest &request, const std::atomic<bool> *cancelled) {
+  return {request.server, request.user, cancelled, request.patience};
+}
+
 QString destinationOf(const JobRequest &request) {
   return request.instance.isEmpty() ? request.queue : request.queue + u'/' + request.instance;
 }
@@ -136,10 +131,10 @@ QString destinationOf(const JobRequest &request) {
 
 Result<JobOutcome> submitToQueue(const JobRequest &request, JobControl &control) {
   const QStringList files = effectiveFiles(request);
-  if (Status checked = checkDocuments(files); !checked) return checked.failure();
+  if (Status checked = checkAllDocuments(files); !checked) return checked.failure();
   auto begin = beginOfStandardInput(files, control);
   if (!begin) return begin.failure();
-  auto connection = CupsConnection::open({request.server, request.user, &control.cancelled});
+  auto connection = CupsConnection::open(accessOf(request, &control.cancelled));
   if (!connection) return connection.failure();
   const auto printer = findPrinter(*connection.value(), destinationOf(request));
   if (!printer) return control.cancelled ? cancelledFailure() : printer.failure();
@@ -152,14 +147,14 @@ Result<JobOutcome> submitToQueue(const JobRequest &request, JobControl &control)
   if (Status sent = sendAll(job, files); !sent) {
     // The connection may be in the middle of a document; only a new one can be used to cancel.
     connection.value().reset();
-    (void)cancelJob(request.server, request.user, queue, job.jobId);
+    (void)cancelJob(accessOf(request, nullptr), queue, job.jobId);
     return sent.failure();
   }
   return JobOutcome{job.jobId, queue, job.progress.documents, job.progress.bytes};
 }
 
-Status cancelJob(const QString &server, const QString &user, const QString &queue, int jobId) {
-  auto connection = CupsConnection::open({server, user, nullptr});
+Status cancelJob(const ServerAccess &access, const QString &queue, int jobId) {
+  auto connection = CupsConnection::open(access);
   if (!connection) return connection.failure();
   constexpr int kKeepHistory = 0;
   const ipp_status_t status =

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/jobs/JobRequest.h"
+#include "host/printers/ServerAccess.h"
 #include "platform/system/Result.h"
 
 namespace orvek {
@@ -20,7 +21,7 @@ Result<JobOutcome> submitToQueue(const JobRequest &request, JobControl &control)
 /// "request id is QUEUE-ID (N file(s))", as lp says it; standard input alone counts as no file.
 QString requestIdLine(const JobRequest &request, const JobOutcome &outcome);
 
-/// Cancels a job on the server in force, whatever has become of the program that sent it.
-Status cancelJob(const QString &server, const QString &user, const QString &queue, int jobId);
+/// Cancels a job, whatever has become of the program that sent it.
+Status cancelJob(const ServerAccess &access, const QString &queue, int jobId);
 
 }  // namespace orvek

@@ -13,7 +13,6 @@ constexpr int kConnectMilliseconds = 5000;
 constexpr double kAskEverySeconds = 0.25;
 /// Asked more than this after the last time, a new wait has begun: bytes went over in between.
 constexpr qint64 kNewStallMilliseconds = 1000;
-constexpr qint64 kPatienceMilliseconds = 10000;
 
 /// Nobody is there to answer: without this libcups would read a password from the terminal, also
 /// under a window. Whoever needs one is told so.
@@ -78,7 +77,7 @@ bool CupsConnection::mayWaitLonger() {
   if (isCancelled() || m_gaveUp) return false;
   if (!m_lastAsked.isValid() || m_lastAsked.elapsed() > kNewStallMilliseconds) m_stall.start();
   m_lastAsked.start();
-  m_gaveUp = m_stall.elapsed() > kPatienceMilliseconds;
+  m_gaveUp = m_stall.elapsed() > m_access.patience.count();
   return !m_gaveUp;
 }
 

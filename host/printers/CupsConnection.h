@@ -11,20 +11,12 @@
 
 #include <QElapsedTimer>
 #include <QString>
-#include <atomic>
 #include <memory>
 
+#include "host/printers/ServerAccess.h"
 #include "platform/system/Result.h"
 
 namespace orvek {
-
-/// Which server, and as whom. A null string leaves it to libcups: CUPS_SERVER, CUPS_USER,
-/// client.conf.
-struct ServerAccess {
-  QString server;  ///< HOST[:PORT], or a socket's path
-  QString user;
-  const std::atomic<bool> *cancelled = nullptr;  ///< borrowed; set, it ends every wait
-};
 
 /// An open connection. libcups keeps server and user per thread: use a connection, and every
 /// libcups call about its server, on the thread that opened it, and one connection at a time.

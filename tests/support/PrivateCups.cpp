@@ -49,7 +49,7 @@ int freePort() {
   address.sin_family = AF_INET;
   address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
   socklen_t size = sizeof address;
-  ::bind(listener, reinterpret_cast<sockaddr *>(&address), size);
+  EXPECT_EQ(::bind(listener, reinterpret_cast<sockaddr *>(&address), size), 0);
   ::getsockname(listener, reinterpret_cast<sockaddr *>(&address), &size);
   ::close(listener);
   return ntohs(address.sin_port);

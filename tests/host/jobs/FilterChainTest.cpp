@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QTemporaryDir>
+#include <QTest>
 #include <thread>
 
 #include "tests/support/CapturingFilter.h"
@@ -231,8 +232,25 @@ TEST_F(FilterChain, EndsAtOnceWhenCancelledAndTakesItsFiltersWithIt) {
   EXPECT_LT(clock.elapsed(), 5000);
   const int pid = contentsOf(pidFile).trimmed().toInt();
   ASSERT_GT(pid, 0);
-  EXPECT_FALSE(QFile::exists(QStringLiteral("/proc/%1/exe").arg(pid)));
+  const QString process = QStringLiteral("/proc/%1/exe").arg(pid);
+  EXPECT_TRUE(QTest::qWaitFor([&process] { return !QFile::exists(process); }));
   EXPECT_TRUE(leftBehind().isEmpty());
+}
+
+TEST_F(FilterChain, EndsAFilterThatDoesNotListenWhenCancelled) {
+  constexpr int kLongest = 10000;
+  const CapturingFilter filter(QStringLiteral("trap '' TERM INT; while :; do sleep 1; done"));
+  request.ppdFile = filter.ppdFile();
+  std::thread canceller([&] {
+    while (filter.argument(5).isEmpty() && filter.argument(1).isEmpty())
+      std::this_thread::sleep_for(10ms);
+    control.cancelled = true;
+  });
+  QElapsedTimer clock;
+  clock.start();
+  EXPECT_EQ(failureLine(), "job: cancelled");
+  canceller.join();
+  EXPECT_LT(clock.elapsed(), kLongest);
 }
 
 TEST_F(FilterChain, HoldsNoDocumentInMemory) {

@@ -132,6 +132,13 @@ TEST_F(QueueJob, MakesNoJobOfEmptyStandardInput) {
   EXPECT_TRUE(cups->jobAttributes(1).isEmpty());
 }
 
+TEST_F(QueueJob, RefusesStandardInputTwice) {
+  request.files = {QStringLiteral("-"), document, QStringLiteral("-")};
+  const auto result = submitToQueue(request, control);
+  ASSERT_FALSE(result);
+  EXPECT_EQ(result.failure().kind, FailureKind::Usage);
+}
+
 TEST_F(QueueJob, GoesToTheDefaultPrinterWhereNoneIsNamed) {
   request.queue.clear();
   EXPECT_NE(failureLine().find("there is no default printer"), std::string::npos);
@@ -220,7 +227,8 @@ TEST_F(QueueJob, CanBeCancelledWhileTheServerHangs) {
 }
 
 TEST_F(QueueJob, GivesUpOnAServerThatHangsWhileItSends) {
-  constexpr int kLongest = 45000;
+  constexpr int kLongest = 10000;
+  request.patience = 1s;
   control.progress = [this](const JobProgress &) { cups->pause(); };
   QElapsedTimer clock;
   clock.start();
@@ -241,7 +249,7 @@ TEST_F(QueueJob, FailsWhereTheServerStopsWhileItSends) {
 
 TEST_F(QueueJob, TakesALongStandardInputInLittleMemory) {
   constexpr qint64 kMegabyte = 1 << 20;
-  constexpr long kMostGrowth = 24 * 1024;
+  constexpr long kMostGrowth = 24L * 1024;
   const qint64 megabytes = std::max(qEnvironmentVariableIntValue("ORVEK_TEST_INPUT_MB"), 64);
   const QString input = folder.filePath(QStringLiteral("input"));
   writeContents(input, postScriptDocument(1));

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: Apache-2.0
+// Which print server is meant, and how long it may take. Plain data.
+#pragma once
+
+#include <QString>
+#include <atomic>
+#include <chrono>
+
+namespace orvek {
+
+/// How long a server may neither take nor give a byte before it counts as hanging.
+inline constexpr std::chrono::milliseconds kServerPatience{10000};
+
+/// Which server, and as whom. A null text leaves it to libcups: CUPS_SERVER, CUPS_USER,
+/// client.conf.
+struct ServerAccess {
+  QString server;  ///< HOST[:PORT], or a socket's path
+  QString user;
+  const std::atomic<bool> *cancelled = nullptr;  ///< borrowed; set, it ends every wait
+  std::chrono::milliseconds patience = kServerPatience;
+};
+
+}  // namespace orvek
