@@ -193,7 +193,8 @@ class PaperLabel : public PanelFixture {
     PPDText text;
     text.option(pageSizeOption());
     PPDHandle handle = openPPD(text);
-    std::strcpy(ppdFindOption(handle.get(), "PageSize")->text, bytes);
+    ppd_option_t *option = ppdFindOption(handle.get(), "PageSize");
+    qstrncpy(option->text, bytes, sizeof option->text);
     char *declared = handle->lang_encoding;
     handle->lang_encoding = const_cast<char *>(encoding);
     openHandle(std::move(handle));

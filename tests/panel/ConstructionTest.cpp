@@ -10,11 +10,11 @@ namespace {
 
 const QStringList falseTrue{QStringLiteral("False"), QStringLiteral("True")};
 
-OptionText finisher(const char *marked, QStringList choices = falseTrue) {
+OptionText finisher(const char *marked, const QStringList &choices = falseTrue) {
   return installed(QStringLiteral("OVKOptionFinisher"), QLatin1String(marked), choices);
 }
 
-OptionText offsetBin(const char *marked, QStringList choices = falseTrue) {
+OptionText offsetBin(const char *marked, const QStringList &choices = falseTrue) {
   return installed(QStringLiteral("OVKOptionOffsetBin"), QLatin1String(marked), choices);
 }
 

@@ -15,9 +15,10 @@ namespace {
 struct HandBuiltOption {
   explicit HandBuiltOption(std::initializer_list<const char *> keywords) {
     for (const char *keyword : keywords) {
-      std::strcpy(choices[std::size_t(option.num_choices)].choice, keyword);
-      std::strcpy(choices[std::size_t(option.num_choices)].text, keyword);
-      choices[std::size_t(option.num_choices++)].option = &option;
+      ppd_choice_t &made = choices[std::size_t(option.num_choices++)];
+      qstrncpy(made.choice, keyword, sizeof made.choice);
+      qstrncpy(made.text, keyword, sizeof made.text);
+      made.option = &option;
     }
     option.choices = choices.data();
   }
