@@ -60,11 +60,16 @@ jobs() {
   printf '%s' "${ORVEK_JOBS:-$(nproc)}"
 }
 
-# build PRESET TARGET...: configures where that was never done, then builds the targets.
+# configure PRESET [CMAKE OPTION]...: where that was never done.
+configure() {
+  [ -f "$(build_folder "$1")/build.ninja" ] || cmake --preset "$@" || die "can't configure $1"
+}
+
+# build PRESET TARGET...: configures if need be, then builds the targets.
 build() {
   local preset=$1 target
   shift
-  [ -f "$(build_folder "$preset")/build.ninja" ] || cmake --preset "$preset" || die "can't configure $preset"
+  configure "$preset"
   local -a targets=()
   for target in "$@"; do targets+=(--target "$target"); done
   cmake --build --preset "$preset" -j "$(jobs)" "${targets[@]}" || die "can't build $preset"
