@@ -49,15 +49,18 @@ bool sameKeyword(const QString &one, const QString &other) {
 }
 
 // The marks a resolution would really move; the pick itself and what already stands are none.
-QList<ChoiceChange> changesAmong(const Marks &marks, const QList<OptionChoice> &resolution,
-                                 const OptionChoice &pick) {
+// Nothing where it names a choice that the PPD lacks: libcups proposes an option's default without
+// looking for it, and half a resolution is none.
+std::optional<QList<ChoiceChange>> changesAmong(const Marks &marks,
+                                                const QList<OptionChoice> &resolution,
+                                                const OptionChoice &pick) {
   QList<ChoiceChange> changes;
   for (const OptionChoice &wanted : resolution) {
+    if (sameKeyword(wanted.option, pick.option)) continue;
     const auto spelled = marks.spelled(wanted.option, wanted.choice);
-    if (!spelled || sameKeyword(spelled->option, pick.option)) continue;
+    if (!spelled) return std::nullopt;
     const QString old = marks.marked(spelled->option);
-    if (old == spelled->choice) continue;
-    changes.append({spelled->option, old, spelled->choice, {}});
+    if (old != spelled->choice) changes.append({spelled->option, old, spelled->choice, {}});
   }
   return changes;
 }
@@ -91,15 +94,15 @@ void namePartners(const Marks &marks, QList<ChoiceChange> *changes, const Option
 bool resolve(Marks &marks, Resolution *result) {
   const auto resolution = resolutionOf(marks, result->pick);
   if (!resolution) return false;
-  QList<ChoiceChange> changes = changesAmong(marks, *resolution, result->pick);
-  if (touchesInstalledEquipment(marks, changes)) return false;
-  namePartners(marks, &changes, result->pick);
+  std::optional<QList<ChoiceChange>> changes = changesAmong(marks, *resolution, result->pick);
+  if (!changes || touchesInstalledEquipment(marks, *changes)) return false;
+  namePartners(marks, &*changes, result->pick);
   const MarksSnapshot unresolved = marks.snapshot();
-  if (!apply(marks, changes, result->pick)) {
+  if (!apply(marks, *changes, result->pick)) {
     marks.restore(unresolved);
     return false;
   }
-  result->changes = changes;
+  result->changes = *changes;
   return true;
 }
 

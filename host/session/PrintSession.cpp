@@ -203,7 +203,9 @@ bool PrintSession::apply(const QString &option, const QString &choice) {
   endSoon();
   const std::optional<Resolution> resolution = m_picks.pick(option, choice);
   if (!resolution) return false;
-  if (!resolution->marked) m_changedOptions << resolution->pick.option;
+  // Undone, the pick of a choice that was marked before has changed nothing.
+  const OptionChoice &wanted = resolution->pick;
+  if (marks().marked(wanted.option) != wanted.choice) m_changedOptions << wanted.option;
   for (const ChoiceChange &change : resolution->changes) m_changedOptions << change.option;
   notice(*resolution);
   return resolution->marked;

@@ -120,6 +120,16 @@ TEST(ConstraintsThatCannotBeResolved, HinderNoPickThatHasNoPartInThem) {
   EXPECT_EQ(marks.marked("OVKFolding"), "Saddle");
 }
 
+TEST(ConstraintsThatCannotBeResolved, UndoAPickWhoseResolutionNamesAChoiceThatThePpdLacks) {
+  auto printer = openTestPpd(QStringLiteral("no-default.ppd"));
+  Marks marks(printer->ppd());
+  marks.markDefaults();
+  marks.mark("OVKFolding", "Saddle");
+  EXPECT_FALSE(markAndResolve(marks, {"OVKStapling", "Front"}).marked);
+  EXPECT_EQ(marks.marked("OVKFolding"), "Saddle");
+  EXPECT_EQ(marks.marked("OVKStapling"), "None");
+}
+
 TEST(InstalledEquipment, IsTheGroupOfInstallableOptions) {
   auto printer = openTestPpd(QStringLiteral("finisher.ppd"));
   EXPECT_TRUE(isInstalledEquipment(printer->ppd(), "OVKOptionFinisher"));

@@ -115,11 +115,23 @@ TEST(PrintSession, RestoresOnceAfterTheStartWhenTheTicketContradictsItself) {
   EXPECT_TRUE(recorded.session->marks().conflicts().isEmpty());
 }
 
-TEST(PrintSession, SaysTheSameRefusalOnlyOnceAnAction) {
+TEST(PrintSession, DoesNotRestoreForAnUndonePickThatWasMarkedBefore) {
   SessionSetup setup;
   setup.marks = {{"OVKOptionFinisher", "False"}};
   setup.ticket = {{"OVKStapling", "Front"}};
   const RecordedSession recorded(setup);
+  EXPECT_EQ(recorded.marked("OVKStapling"), "Front");
+  EXPECT_EQ(restores(recorded), 1);
+}
+
+TEST(PrintSession, SaysTheSameRefusalOnlyOnceAnAction) {
+  SessionSetup setup;
+  setup.marks = {{"OVKOptionFinisher", "False"}};
+  const RecordedSession recorded(setup);
+  recorded.session->perform([&] {
+    recorded.panel()->host().willChangePPDOptionKeyValue_ppdChoice("OVKStapling", "Front");
+    recorded.panel()->host().willChangePPDOptionKeyValue_ppdChoice("OVKStapling", "Front");
+  });
   EXPECT_EQ(recorded.session->notices().size(), 1);
 }
 
