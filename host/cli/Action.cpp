@@ -4,6 +4,9 @@
 #include "host/cli/Action.h"
 
 #include <QMap>
+#include <algorithm>
+
+#include "platform/printing/PrintSettings.h"
 
 namespace orvek {
 namespace {
@@ -27,10 +30,10 @@ Result<Action> parseWord(const QString &text) {
 }
 
 Result<Action> parsePagesPerSheet(Action action) {
-  bool isNumber = false;
+  const std::optional<int> number = integerIn(action.value);
+  if (!number) return actionFailure(action, QStringLiteral("nup takes an integer"));
   action.kind = Action::Kind::PagesPerSheet;
-  action.number = action.value.toInt(&isNumber);
-  if (!isNumber) return actionFailure(action, QStringLiteral("nup takes an integer"));
+  action.number = *number;
   return action;
 }
 
@@ -42,6 +45,15 @@ Result<Action> parseAction(const QString &text) {
   Action action{Action::Kind::Control, text.left(equals), text.mid(equals + 1), 0, text};
   if (action.control == QLatin1String("nup")) return parsePagesPerSheet(action);
   return action;
+}
+
+std::optional<int> integerIn(const QString &text) {
+  const bool hasSign = text.startsWith(QLatin1Char('-')) || text.startsWith(QLatin1Char('+'));
+  const QStringView digits = QStringView(text).mid(hasSign ? 1 : 0);
+  const bool areDigits =
+      std::all_of(digits.begin(), digits.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+  if (digits.isEmpty() || !areDigits) return std::nullopt;
+  return leadingInteger(text);
 }
 
 Failure actionFailure(const Action &action, const QString &why) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 #include "platform/system/Result.h"
 
@@ -21,6 +22,10 @@ struct Action {
 
 /// Reads an action. Usage failures name the action.
 Result<Action> parseAction(const QString &text);
+
+/// The INTEGER of an action: decimal digits after an optional sign and nothing else. One beyond 32
+/// bits is the nearest 32-bit number, as in tickets.
+std::optional<int> integerIn(const QString &text);
 
 /// The failure of an action, as a Usage failure that names it.
 Failure actionFailure(const Action &action, const QString &why);

@@ -54,12 +54,6 @@ Status checkReachable(const Action &action, const Target &target) {
   return {};
 }
 
-std::optional<int> integerIn(const QString &text) {
-  bool isNumber = false;
-  const int number = text.toInt(&isNumber);
-  return isNumber ? std::optional<int>(number) : std::nullopt;
-}
-
 int findItem(const QComboBox *popUp, const QString &text) {
   for (int i = 0; i < numberOfItems(popUp); ++i) {
     if (itemIdentifier(popUp, i) == text) return i;

@@ -35,9 +35,17 @@ TEST(Action, TakesALayoutAsAnInteger) {
   EXPECT_EQ(parseAction("nup=4").value().kind, Action::Kind::PagesPerSheet);
 }
 
+TEST(Action, TakesTheNearestNumberForOneBeyond32Bits) {
+  EXPECT_EQ(parseAction("nup=99999999999").value().number, 2147483647);
+  EXPECT_EQ(integerIn("-99999999999"), std::optional<int>(-2147483648));
+  EXPECT_EQ(integerIn("+7"), std::optional<int>(7));
+  EXPECT_EQ(integerIn(" 7"), std::nullopt);
+  EXPECT_EQ(integerIn(""), std::nullopt);
+}
+
 TEST(Action, IsRefusedWithItsOwnWordsWhenItIsNone) {
   for (const char *text :
-       {"", "fly", "Restore", "nup=", "nup=four", "nup=1.5", "nup=99999999999"}) {
+       {"", "fly", "Restore", "nup=", "nup=four", "nup=1.5", "nup= 2", "nup=--2", "nup=-"}) {
     const auto action = parseAction(QString::fromLatin1(text));
     ASSERT_FALSE(action.ok()) << text;
     EXPECT_EQ(action.failure().kind, FailureKind::Usage);
