@@ -8,7 +8,15 @@
 
 #include "host/session/PrintSession.h"
 
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
 namespace orvek {
+
+class OptionsModel;
+class OptionsView;
 
 class OptionsPage final : public QWidget {
   Q_OBJECT
@@ -17,6 +25,25 @@ class OptionsPage final : public QWidget {
   /// Leaves out the options of `claimedKeys` (panels') and those of the general page. Borrows the
   /// session, which must outlive the page.
   OptionsPage(PrintSession &session, const QStringList &claimedKeys, QWidget *parent = nullptr);
+
+ protected:
+  void showEvent(QShowEvent *event) override;
+
+ private:
+  void build();
+  void connectParts();
+  void updateControls();
+  void setBack();
+  void setAllBack();
+
+  PrintSession &m_session;
+  OptionsModel *m_model;
+  OptionsView *m_view;
+  QLineEdit *m_search;
+  QCheckBox *m_onlyChanged;
+  QLabel *m_state;
+  QPushButton *m_setBack;
+  QPushButton *m_setAllBack;
 };
 
 }  // namespace orvek

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: Apache-2.0
+// The options of a PPD that a page shows, by group: a list read once, and the questions asked about
+// it. Reads PPD and marks only.
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include "host/session/Marks.h"
+#include "host/session/SettingOffer.h"
+
+namespace orvek {
+
+struct OptionEntry {
+  QString keyword;
+  QString text;      ///< for people
+  QString standard;  ///< the queue's or user's choice, else the PPD's default
+};
+
+struct OptionGroup {
+  QString text;
+  QList<OptionEntry> options;
+};
+
+/// Every option but those left out (keywords, without regard to case), in the PPD's groups and
+/// order; groups without options are dropped. Nothing without a PPD.
+QList<OptionGroup> optionGroups(ppd_file_t *ppd, const QStringList &leftOut,
+                                const QList<OptionChoice> &queueOptions);
+
+/// The choices of an option for people. A custom choice needs values that nobody asks for here: it
+/// is left out.
+QList<SettingChoice> choicesOf(ppd_file_t *ppd, const QString &option);
+
+/// True where the mark is not the entry's standard.
+bool isChanged(const Marks &marks, const OptionEntry &entry);
+
+/// What a search looks in: text, keyword and choices of the option, a line each.
+QString searchText(ppd_file_t *ppd, const OptionEntry &entry);
+
+}  // namespace orvek
