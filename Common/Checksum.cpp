@@ -35,8 +35,11 @@ std::uint64_t partialWord(const unsigned char *bytes, std::size_t length) {
 }
 
 std::uint16_t folded(std::uint64_t sum) {
-  while ((sum >> 16) != 0) sum = (sum & 0xFFFF) + (sum >> 16);
-  return static_cast<std::uint16_t>(sum);
+  const auto high = static_cast<std::uint32_t>(sum >> 32);
+  std::uint32_t half = static_cast<std::uint32_t>(sum) + high;
+  half += half < high ? 1 : 0;
+  const std::uint32_t folds = (half & 0xFFFF) + (half >> 16);
+  return static_cast<std::uint16_t>((folds & 0xFFFF) + (folds >> 16));
 }
 
 }  // namespace
@@ -54,6 +57,6 @@ unsigned short in_cksum(const void *bytes, int length) {
   }
   std::uint64_t total = plus(plus(sum[0], sum[1]), plus(sum[2], sum[3]));
   for (; left >= wordSize; at += wordSize, left -= wordSize) total = plus(total, wordAt(at));
-  total = plus(total, partialWord(at, left));
+  if (left > 0) total = plus(total, partialWord(at, left));
   return static_cast<unsigned short>(~folded(total));
 }

@@ -10,6 +10,7 @@
 #include "Common/Utilities.h"
 #include "platform/network/ReadStream.h"
 #include "platform/system/Gestalt.h"
+#include "platform/system/LargePages.h"
 #include "platform/system/TickCount.h"
 
 namespace {
@@ -43,13 +44,18 @@ void addAuthentication(orvek::HTTPRequest *request, const QString &user, const Q
   request->authentication = orvek::HTTPRequest::Basic{user, password};
 }
 
+/// Makes room for as much as the server announced, as far as a server is to be believed.
+void reserveAnnounced(const ReadStream &stream, QByteArray *document) {
+  const qsizetype announced = stream.announcedLength();
+  if (announced <= 0) return;
+  document->reserve(std::min(announced, largestReserve) + chunkSize);
+  orvek::preferLargePages(document->data(), static_cast<std::size_t>(document->capacity()));
+}
+
 /// Reads one piece and appends it. What read() gave.
 std::int64_t readChunk(ReadStream *stream, QByteArray *document) {
   const qsizetype before = document->size();
-  if (before == 0) {
-    const qsizetype announced = stream->announcedLength();
-    if (announced > 0) document->reserve(std::min(announced, largestReserve) + chunkSize);
-  }
+  if (before == 0) reserveAnnounced(*stream, document);
   // Read into the document's own space: the piece is then copied once, not twice.
   document->resize(before + chunkSize);
   const std::int64_t count =

@@ -24,8 +24,9 @@ for name in Readers Answers Http XML DeviceURI; do
   build-fuzz/bin/fuzz-"$name" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 \
     -print_final_stats=1 -verbosity=0 -artifact_prefix="$found/failed-" "$found" "fuzz/seeds/$name" 2>&1 |
     tee "$found.log" | grep -E 'number_of_executed_units|ERROR|SUMMARY|runtime error|failed-' || true
-  grep -q 'stat::number_of_executed_units' "$found.log" && ! grep -qE 'ERROR|SUMMARY|failed-' "$found.log" || {
+  if ! grep -q 'stat::number_of_executed_units' "$found.log" ||
+    grep -qE 'ERROR|SUMMARY|failed-' "$found.log"; then
     cat "$found.log" >&2
     exit 1
-  }
+  fi
 done

@@ -190,11 +190,17 @@ class Writer {
   }
 
   std::string pattern(std::string_view length, char conversion) const {
-    std::string result = "%" + std::string(m_spec.flags);
+    std::string result("%");
+    result += m_spec.flags;
     if (m_width < 0) result += '-';
     if (m_width != 0) result += std::to_string(std::abs(m_width));
-    if (m_spec.hasPrecision && m_precision >= 0) result += "." + std::to_string(m_precision);
-    return result + std::string(length) + conversion;
+    if (m_spec.hasPrecision && m_precision >= 0) {
+      result += '.';
+      result += std::to_string(m_precision);
+    }
+    result += length;
+    result += conversion;
+    return result;
   }
 
   template <class T>
