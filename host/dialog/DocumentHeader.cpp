@@ -6,6 +6,8 @@
 #include <QGridLayout>
 #include <QLabel>
 
+#include "host/dialog/ElidedLabel.h"
+
 namespace orvek {
 namespace {
 
@@ -18,16 +20,14 @@ constexpr int gap = 10;
 DocumentHeader::DocumentHeader(QWidget *parent)
     : QWidget(parent),
       m_picture(new QLabel(this)),
-      m_name(new QLabel(this)),
+      m_name(new ElidedLabel(Qt::ElideMiddle, this)),
       m_detail(new QLabel(this)) {
   m_picture->hide();
   QFont bold = m_name->font();
   bold.setBold(true);
   m_name->setFont(bold);
-  m_name->setTextFormat(Qt::PlainText);
   m_detail->setTextFormat(Qt::PlainText);
   m_name->setMinimumWidth(leastNameWidth);
-  m_name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   auto *grid = new QGridLayout(this);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setHorizontalSpacing(gap);
@@ -44,20 +44,8 @@ void DocumentHeader::setPicture(QStyle::StandardPixmap picture) {
 }
 
 void DocumentHeader::setTexts(const QString &name, const QString &detail) {
-  m_fullName = name;
-  m_name->setToolTip(name);
-  m_name->setAccessibleName(name);
+  m_name->setWholeText(name);
   m_detail->setText(detail);
-  fitName();
-}
-
-void DocumentHeader::resizeEvent(QResizeEvent *event) {
-  QWidget::resizeEvent(event);
-  fitName();
-}
-
-void DocumentHeader::fitName() {
-  m_name->setText(m_name->fontMetrics().elidedText(m_fullName, Qt::ElideMiddle, m_name->width()));
 }
 
 QString pagesInWords(int pages) {

@@ -9,6 +9,8 @@ class QLabel;
 
 namespace orvek {
 
+class ElidedLabel;
+
 class DocumentHeader final : public QWidget {
   Q_OBJECT
 
@@ -20,15 +22,9 @@ class DocumentHeader final : public QWidget {
   /// A name too long for the window is shortened in its middle; the tool tip has all of it.
   void setTexts(const QString &name, const QString &detail);
 
- protected:
-  void resizeEvent(QResizeEvent *event) override;
-
  private:
-  void fitName();
-
-  QString m_fullName;
   QLabel *m_picture;
-  QLabel *m_name;
+  ElidedLabel *m_name;
   QLabel *m_detail;
 };
 

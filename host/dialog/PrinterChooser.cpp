@@ -4,16 +4,17 @@
 #include "host/dialog/PrinterChooser.h"
 
 #include <QComboBox>
-#include <QLabel>
 #include <QSignalBlocker>
 #include <QStandardItemModel>
 #include <QVBoxLayout>
 #include <utility>
 
+#include "host/dialog/ElidedLabel.h"
+
 namespace orvek {
 namespace {
 
-constexpr int leastCharacters = 24;
+constexpr int leastCharacters = 28;
 constexpr int mostVisibleItems = 16;
 const QString separator = QStringLiteral(" · ");
 
@@ -39,15 +40,13 @@ PrinterChooser::PrinterChooser(ServerAccess access, QWidget *parent)
     : QWidget(parent),
       m_access(std::move(access)),
       m_menu(new QComboBox(this)),
-      m_detail(new QLabel(this)) {
+      m_detail(new ElidedLabel(Qt::ElideRight, this)) {
   m_menu->setObjectName(QStringLiteral("printerMenu"));
   m_menu->setAccessibleName(tr("Printer"));
   m_menu->setMinimumContentsLength(leastCharacters);
   m_menu->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   m_menu->setMaxVisibleItems(mostVisibleItems);
   m_detail->setObjectName(QStringLiteral("printerDetail"));
-  m_detail->setTextFormat(Qt::PlainText);
-  m_detail->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   auto *column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(2);
@@ -109,18 +108,25 @@ void PrinterChooser::fill(const QString &destination) {
   if (!destination.isEmpty() && m_menu->findData(destination) < 0) {
     m_menu->addItem(destination, destination);
   }
-  m_menu->setCurrentIndex(m_menu->findData(destination.isEmpty() ? QString() : destination));
+  addProblem();
+  m_menu->setCurrentIndex(destination.isEmpty() ? 0 : m_menu->findData(destination));
   showDetail();
 }
 
+// A list without queues says why.
+void PrinterChooser::addProblem() {
+  if (m_problem.isNull()) return;
+  m_menu->addItem(tr("No printers: %1").arg(m_problem));
+  auto *items = qobject_cast<QStandardItemModel *>(m_menu->model());
+  items->item(m_menu->count() - 1)->setEnabled(false);
+}
+
 void PrinterChooser::showDetail() {
-  QString detail = tr("Prints into a file");
+  QString detail = m_destination.isEmpty() ? tr("Prints into a file") : m_problem;
   for (const Printer &printer : m_printers) {
-    if (printer.destination() == m_destination) detail = detailOf(printer);
+    if (printer.destination() == m_destination && m_problem.isNull()) detail = detailOf(printer);
   }
-  if (!m_problem.isNull()) detail = m_problem;
-  m_detail->setText(detail);
-  m_detail->setToolTip(detail);
+  m_detail->setWholeText(detail);
   m_menu->setAccessibleDescription(detail);
 }
 

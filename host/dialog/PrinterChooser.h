@@ -9,9 +9,10 @@
 #include "host/printers/PrinterList.h"
 
 class QComboBox;
-class QLabel;
 
 namespace orvek {
+
+class ElidedLabel;
 
 class PrinterChooser final : public QWidget {
   Q_OBJECT
@@ -43,6 +44,7 @@ class PrinterChooser final : public QWidget {
 
   void take(const Answer &answer);
   void fill(const QString &destination);
+  void addProblem();
   void showDetail();
 
   ServerAccess m_access;
@@ -51,7 +53,7 @@ class PrinterChooser final : public QWidget {
   QString m_destination;
   QString m_fileModel;
   QComboBox *m_menu;
-  QLabel *m_detail;
+  ElidedLabel *m_detail;
   BackgroundTask m_task;  // the last: it ends before what it reports to
 };
 

@@ -9,8 +9,10 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "host/dialog/LazyPage.h"
 #include "host/dialog/PanelPage.h"
 #include "host/dialog/SummaryView.h"
+#include "host/settings/GeneralPage.h"
 
 namespace orvek {
 namespace {
@@ -26,9 +28,8 @@ SessionView::SessionView(PrintSession &session, QWidget *parent)
       m_summary(new SummaryView(this)) {
   m_pages->setObjectName(QStringLiteral("pages"));
   m_pages->setAccessibleName(tr("Settings"));
-  addPanelPages();
-  auto *summaryTitle = new QLabel(tr("&Summary"), this);
-  summaryTitle->setBuddy(m_summary);
+  addPages();
+  auto *summaryTitle = new QLabel(tr("Summary"), this);
   // The list begins where the pages do.
   summaryTitle->setFixedHeight(m_pages->tabBar()->sizeHint().height() - 1);
   auto *aside = new QVBoxLayout;
@@ -42,6 +43,15 @@ SessionView::SessionView(PrintSession &session, QWidget *parent)
   row->addLayout(aside);
   connect(&session, &PrintSession::changed, this, &SessionView::followSession);
   followSession();
+}
+
+// The window opens with the panel, where there is one; the other pages are made when asked for.
+void SessionView::addPages() {
+  PrintSession &session = m_session;
+  const auto general = [&session](QWidget *parent) { return new GeneralPage(session, parent); };
+  m_pages->addTab(new LazyPage(general, m_pages), tr("General"));
+  addPanelPages();
+  m_pages->setCurrentIndex(m_pages->count() > 1 ? 1 : 0);
 }
 
 void SessionView::addPanelPages() {

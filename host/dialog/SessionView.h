@@ -21,6 +21,7 @@ class SessionView final : public QWidget {
   SessionView(PrintSession &session, QWidget *parent);
 
  private:
+  void addPages();
   void addPanelPages();
   void followSession();
 

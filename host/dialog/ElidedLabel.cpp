@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: Apache-2.0
+// Shortens anew whenever the width changes.
+
+#include "host/dialog/ElidedLabel.h"
+
+namespace orvek {
+
+ElidedLabel::ElidedLabel(Qt::TextElideMode mode, QWidget *parent) : QLabel(parent), m_mode(mode) {
+  setTextFormat(Qt::PlainText);
+  setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+}
+
+void ElidedLabel::setWholeText(const QString &text) {
+  m_text = text;
+  setToolTip(text);
+  setAccessibleName(text);
+  fit();
+}
+
+void ElidedLabel::resizeEvent(QResizeEvent *event) {
+  QLabel::resizeEvent(event);
+  fit();
+}
+
+void ElidedLabel::fit() {
+  const QString shortened = fontMetrics().elidedText(m_text, m_mode, width());
+  if (shortened != text()) setText(shortened);
+}
+
+}  // namespace orvek

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: Apache-2.0
+// A line of text that takes what width there is and is shortened to it.
+#pragma once
+
+#include <QLabel>
+
+namespace orvek {
+
+/// The whole text is the tool tip and the accessible name.
+class ElidedLabel final : public QLabel {
+  Q_OBJECT
+
+ public:
+  explicit ElidedLabel(Qt::TextElideMode mode, QWidget *parent = nullptr);
+
+  void setWholeText(const QString &text);
+  const QString &wholeText() const { return m_text; }
+
+ protected:
+  void resizeEvent(QResizeEvent *event) override;
+
+ private:
+  void fit();
+
+  Qt::TextElideMode m_mode;
+  QString m_text;
+};
+
+}  // namespace orvek
