@@ -7,10 +7,7 @@ cd "$(dirname "$(readlink -f "$0")")/../.."
 . tools/lib.sh
 
 if [ "${1:-}" != --inside ]; then
-  ensure_packages run test
-  for tool in nginx fping openssl; do
-    command -v "$tool" >/dev/null || die "$tool is needed to compare with: install it"
-  done
+  ensure_packages run test bench
   build bench bench-device orvek-device
   [ "$(id -u)" -eq 0 ] || die "a network namespace is needed: run it as root"
   exec unshare --net "bench/device/${0##*/}" --inside
