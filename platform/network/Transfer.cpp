@@ -4,6 +4,7 @@
 #include "platform/network/Transfer.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace orvek {
 namespace {
@@ -120,8 +121,18 @@ bool CurlTransfer::configure(const HTTPRequest &request, const TransferOptions &
 }
 
 std::size_t CurlTransfer::receive(char *bytes, std::size_t size, std::size_t count, void *self) {
-  static_cast<CurlTransfer *>(self)->append({bytes, size * count});
+  auto *transfer = static_cast<CurlTransfer *>(self);
+  if (!transfer->hasRoom()) {
+    transfer->m_paused = true;
+    return CURL_WRITEFUNC_PAUSE;
+  }
+  transfer->append({bytes, size * count});
   return size * count;
+}
+
+/// One piece may wait for a reader; with more than that the server has to wait.
+bool CurlTransfer::hasRoom() const {
+  return m_directFilled < m_direct.size() || leftOver() == 0;
 }
 
 void CurlTransfer::append(std::span<const char> bytes) {
@@ -136,6 +147,7 @@ void CurlTransfer::append(std::span<const char> bytes) {
 /// Gives whether anything came or the transfer ended.
 bool CurlTransfer::perform() {
   const std::size_t before = m_directFilled + m_pending.size();
+  if (std::exchange(m_paused, false)) curl_easy_pause(m_easy.get(), CURLPAUSE_CONT);
   int running = 0;
   if (curl_multi_perform(m_multi.get(), &running) != CURLM_OK) {
     m_done = true;

@@ -60,6 +60,7 @@ class CurlTransfer {
   bool configure(const HTTPRequest &request, const TransferOptions &options);
   bool perform();
   std::size_t leftOver() const { return m_pending.size() - m_pendingRead; }
+  bool hasRoom() const;
   void append(std::span<const char> bytes);
   std::size_t takeLeftOver(std::span<char> into);
 
@@ -69,6 +70,7 @@ class CurlTransfer {
   std::size_t m_directFilled = 0;
   std::vector<char> m_pending;  // what came while nobody read, or beyond the reader's piece
   std::size_t m_pendingRead = 0;
+  bool m_paused = false;
   bool m_done = false;
   CURLcode m_result = CURLE_OK;
 };
