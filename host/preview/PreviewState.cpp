@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: Apache-2.0
+// Reads ticket, page ranges and paper.
+
+#include "host/preview/PreviewState.h"
+
+#include <QCoreApplication>
+
+#include "host/session/PageRanges.h"
+#include "host/session/Paper.h"
+#include "host/session/PrintSession.h"
+#include "host/session/Wording.h"
+
+namespace orvek {
+namespace {
+
+constexpr int samplePages = 8;
+constexpr QSizeF a4(595, 842);
+constexpr int mostSpoken = 25;
+
+const QString pageSizeOption = QStringLiteral("PageSize");
+
+struct Words {
+  Q_DECLARE_TR_FUNCTIONS(orvek::PreviewState)
+};
+
+// The menu that the ticket's number counts begins with "as the job" and leaves out the PPD's last.
+QString targetPaper(const PrintSession &session, int number) {
+  const ppd_option_t *option = ppdFindOption(session.marks().ppd(), "PageSize");
+  if (option == nullptr || number < 1 || number >= option->num_choices) {
+    return session.marks().marked(pageSizeOption);
+  }
+  return QString::fromUtf8(option->choices[number - 1].choice);
+}
+
+QString pageInWords(int page) {
+  return page == 0 ? Words::tr("empty") : QString::number(page);
+}
+
+}  // namespace
+
+PreviewState previewState(const PrintSession &session, int pageCount, QSizeF pageSize) {
+  PreviewState state;
+  ppd_file_t *ppd = session.marks().ppd();
+  state.booklet = bookletSettings(session.ticket().values());
+  state.isSample = pageCount <= 0;
+  const QString ranges = state.isSample ? QString() : session.jobSettings().pageRanges;
+  const QList<int> pages = pagesInRanges(ranges, state.isSample ? samplePages : pageCount);
+  state.pages = static_cast<int>(pages.size());
+  const QString marked = session.marks().marked(pageSizeOption);
+  const QString target = targetPaper(session, state.booklet.targetPaper);
+  state.paper = paperSize(ppd, target);
+  if (state.paper.isEmpty()) state.paper = a4;
+  if (!target.isNull()) state.paperName = choiceText(ppd, {pageSizeOption, target});
+  state.page = pageSize.isEmpty() ? paperSize(ppd, marked) : pageSize;
+  if (state.page.isEmpty()) state.page = a4;
+  if (state.booklet.enabled) state.sheets = imposeBooklet(pages, state.booklet);
+  return state;
+}
+
+QString spokenSheets(const QList<ImposedSheet> &sheets) {
+  QStringList sentences;
+  for (int i = 0; i < sheets.size() && i < mostSpoken; ++i) {
+    const ImposedSheet &sheet = sheets[i];
+    sentences << Words::tr("Sheet %1: front %2 and %3, back %4 and %5")
+                     .arg(QString::number(i + 1), pageInWords(sheet.front.left),
+                          pageInWords(sheet.front.right), pageInWords(sheet.back.left),
+                          pageInWords(sheet.back.right));
+  }
+  return sentences.join(QStringLiteral(". "));
+}
+
+}  // namespace orvek
