@@ -63,8 +63,10 @@ class WebServer : public testing::Test {
 
   static std::string root() { return folder->path().toStdString(); }
 
-  /// How many requests the HTTPS side has answered.
+  /// How many requests the HTTPS side has answered. The server writes them down a moment after its
+  /// answer.
   static std::size_t secureRequests() {
+    std::this_thread::sleep_for(std::chrono::milliseconds(200));
     const std::string log = contents(root() + "/secure.log");
     return static_cast<std::size_t>(std::count(log.begin(), log.end(), '\n'));
   }
