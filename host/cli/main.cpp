@@ -11,6 +11,7 @@
 #include "host/cli/PrinterListing.h"
 #include "host/cli/ToolkitMessages.h"
 #include "host/cli/Window.h"
+#include "host/translations/Translations.h"
 #include "platform/system/MainBundle.h"
 
 namespace {
@@ -53,6 +54,7 @@ int start(const CommandLine &line, char **argv) {
   char *toolkitArgv[] = {argv[0], nullptr};
   QApplication application(toolkitArgc, toolkitArgv);
   QApplication::setApplicationName(QLatin1String(programName));
+  installTranslations();
   setMainBundleInfo(
       QJsonObject{{QLatin1String(kCFBundleExecutableKey), QLatin1String(programName)}});
   const Status done = run(line);

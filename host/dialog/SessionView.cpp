@@ -13,6 +13,7 @@
 #include "host/dialog/PanelPage.h"
 #include "host/dialog/SummaryView.h"
 #include "host/settings/GeneralPage.h"
+#include "host/settings/OptionsPage.h"
 
 namespace orvek {
 namespace {
@@ -52,6 +53,12 @@ void SessionView::addPages() {
   m_pages->addTab(new LazyPage(general, m_pages), tr("General"));
   addPanelPages();
   m_pages->setCurrentIndex(m_pages->count() > 1 ? 1 : 0);
+  QStringList claimed;
+  for (const auto &hosted : session.panels()) claimed << hosted->claimedOptions();
+  const auto options = [&session, claimed](QWidget *parent) {
+    return new OptionsPage(session, claimed, parent);
+  };
+  m_pages->addTab(new LazyPage(options, m_pages), tr("More Options"));
 }
 
 void SessionView::addPanelPages() {

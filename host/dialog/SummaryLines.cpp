@@ -28,7 +28,7 @@ QMap<QString, QString> changedOptions(const PrintSession &session, QStringList *
 
 /// The texts of this file, for translation.
 struct Text {
-  Q_DECLARE_TR_FUNCTIONS(SummaryLines)
+  Q_DECLARE_TR_FUNCTIONS(orvek::SummaryLines)
 };
 
 QString orientationText(Orientation orientation) {

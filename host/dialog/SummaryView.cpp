@@ -19,10 +19,13 @@ constexpr double titleShare = 0.56;
 // Rows with air around their text.
 class RowDelegate final : public QStyledItemDelegate {
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
+  explicit RowDelegate(QTreeView *view) : QStyledItemDelegate(view), m_view(view) {}
 
   QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override {
-    return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 2 * rowPadding);
+    // A tree view asks without a width, and would get the height of a single line.
+    QStyleOptionViewItem inner(option);
+    inner.rect.setWidth(m_view->columnWidth(index.column()));
+    return QStyledItemDelegate::sizeHint(inner, index) + QSize(0, 2 * rowPadding);
   }
 
   void paint(QPainter *painter, const QStyleOptionViewItem &option,
@@ -31,6 +34,9 @@ class RowDelegate final : public QStyledItemDelegate {
     inner.rect.adjust(0, rowPadding, 0, -rowPadding);
     QStyledItemDelegate::paint(painter, inner, index);
   }
+
+ private:
+  QTreeView *m_view;
 };
 
 QTreeWidgetItem *itemFor(const SummaryLine &line, const QFont &plain) {

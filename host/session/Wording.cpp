@@ -3,11 +3,18 @@
 
 #include "host/session/Wording.h"
 
+#include <QCoreApplication>
+
 namespace orvek {
 namespace {
 
+/// The sentences of this file, for translation.
+struct Text {
+  Q_DECLARE_TR_FUNCTIONS(orvek::Wording)
+};
+
 QString sentence(ppd_file_t *ppd, const ChoiceChange &change) {
-  return QStringLiteral("%1 was set to %2: it can't be combined with %3")
+  return Text::tr("%1 was set to %2: it can't be combined with %3")
       .arg(optionText(ppd, change.option), choiceText(ppd, {change.option, change.newChoice}),
            namedChoice(ppd, change.partner));
 }
@@ -15,7 +22,7 @@ QString sentence(ppd_file_t *ppd, const ChoiceChange &change) {
 QString refusal(ppd_file_t *ppd, const Resolution &resolution) {
   QStringList partners;
   for (const OptionChoice &partner : resolution.incompatible) partners << namedChoice(ppd, partner);
-  return QStringLiteral("%1 was not set to %2: it can't be combined with %3")
+  return Text::tr("%1 was not set to %2: it can't be combined with %3")
       .arg(optionText(ppd, resolution.pick.option), choiceText(ppd, resolution.pick),
            partners.join(QStringLiteral(", ")));
 }

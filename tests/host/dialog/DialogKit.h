@@ -4,12 +4,14 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QFile>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <functional>
 #include <memory>
 
 #include "host/dialog/NoticeBar.h"
@@ -27,18 +29,25 @@ inline constexpr int jobTimeout = 30000;  // milliseconds
 class DialogTest : public ::testing::Test {
  protected:
   void open(const QString &printer = QStringLiteral("Orvek-6180"), SessionSetup setup = {}) {
-    const QString source = QStringLiteral(ORVEK_SOURCE_DIR);
-    auto description = PrinterDescription::open(source + "/printers/" + printer + ".ppd");
-    ASSERT_TRUE(description) << description.failure().line().toStdString();
-    setup.printer = description.take();
-    auto begun = PrintSession::begin(std::move(setup));
+    auto begun = openSession(QStringLiteral(ORVEK_SOURCE_DIR "/printers/") + printer + ".ppd",
+                             std::move(setup));
     ASSERT_TRUE(begun) << begun.failure().line().toStdString();
     session = begun.take();
-    auto plugin = loadPlugin(QStringLiteral(ORVEK_BUNDLE_DIR));
-    ASSERT_TRUE(plugin) << plugin.failure().line().toStdString();
-    session->addPlugin(std::make_shared<LoadedPlugin>(plugin.take()));
-    session->openPanels();
     showWindow();
+  }
+
+  static Result<std::unique_ptr<PrintSession>> openSession(const QString &ppd,
+                                                           SessionSetup setup = {}) {
+    auto description = PrinterDescription::open(ppd);
+    if (!description) return description.failure();
+    setup.printer = description.take();
+    auto begun = PrintSession::begin(std::move(setup));
+    if (!begun) return begun;
+    auto plugin = loadPlugin(QStringLiteral(ORVEK_BUNDLE_DIR));
+    if (!plugin) return plugin.failure();
+    begun.value()->addPlugin(std::make_shared<LoadedPlugin>(plugin.take()));
+    begun.value()->openPanels();
+    return begun;
   }
 
   void showWindow() {
@@ -46,8 +55,10 @@ class DialogTest : public ::testing::Test {
     dialogSetup.documentName = QStringLiteral("Finishing-Sample.pdf");
     dialogSetup.document.pages = 8;
     dialogSetup.jobRequest = [this](const PrintSession &now) { return requestFor(now); };
+    if (prepare) prepare(dialogSetup);
     dialog = std::make_unique<PrintDialog>(*session, std::move(dialogSetup));
     dialog->show();
+    dialog->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog.get()));
   }
 
@@ -108,6 +119,7 @@ class DialogTest : public ::testing::Test {
   }
 
   QTemporaryDir folder;
+  std::function<void(DialogSetup &)> prepare;  ///< what a test adds to the window's setup
   QStringList files{QStringLiteral(ORVEK_SOURCE_DIR "/samples/Finishing-Sample.pdf")};
   QString outputFile = folder.filePath(QStringLiteral("out.ps"));
   std::unique_ptr<PrintSession> session;

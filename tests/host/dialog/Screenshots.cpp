@@ -16,6 +16,7 @@
 
 #include "host/dialog/PrintDialog.h"
 #include "host/session/PluginLoader.h"
+#include "host/translations/Translations.h"
 
 using namespace orvek;
 
@@ -123,6 +124,7 @@ QPalette darkPalette() {
 
 int main(int argc, char **argv) {
   QApplication application(argc, argv);
+  installTranslations();
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   const QStringList words = QApplication::arguments();
   if (words.size() < 3) {

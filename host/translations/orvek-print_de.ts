@@ -1,0 +1,566 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>orvek::Availability</name>
+    <message>
+        <source>needs the %1, which this printer doesn't have</source>
+        <translation>braucht %1, was dieser Drucker nicht hat</translation>
+    </message>
+    <message>
+        <source>not with %1</source>
+        <translation>nicht mit %1</translation>
+    </message>
+    <message>
+        <source>%1 would be set to %2</source>
+        <translation>%1 würde auf %2 gestellt</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::CopiesRow</name>
+    <message>
+        <source>Copies</source>
+        <translation>Exemplare</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>Sortieren</translation>
+    </message>
+    <message>
+        <source>Whole sets one after the other, not all copies of each page</source>
+        <translation>Ganze Sätze nacheinander statt aller Exemplare einer Seite</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::CustomSizeRow</name>
+    <message>
+        <source>Paper width</source>
+        <translation>Papierbreite</translation>
+    </message>
+    <message>
+        <source>Paper height</source>
+        <translation>Papierhöhe</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::DocumentHeader</name>
+    <message>
+        <source>1 page</source>
+        <translation>1 Seite</translation>
+    </message>
+    <message>
+        <source>%1 pages</source>
+        <translation>%1 Seiten</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::DocumentInfo</name>
+    <message>
+        <source>(stdin)</source>
+        <translation>(Standardeingabe)</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::GeneralPage</name>
+    <message>
+        <source>Copies</source>
+        <translation>Exemplare</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Letzte Seite zuerst</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>Papierformat</translation>
+    </message>
+    <message>
+        <source>Paper source</source>
+        <translation>Papierzufuhr</translation>
+    </message>
+    <message>
+        <source>Paper type</source>
+        <translation>Papierart</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>As in the document</source>
+        <translation>Wie im Dokument</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>Hochformat, kopfüber</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>Querformat, kopfüber</translation>
+    </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>Zweiseitig</translation>
+    </message>
+    <message>
+        <source>Pages per sheet</source>
+        <translation>Seiten pro Blatt</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::JobBar</name>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Drucken</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>&amp;Print to File…</source>
+        <translation>In &amp;Datei drucken…</translation>
+    </message>
+    <message>
+        <source>Stops the job</source>
+        <translation>Hält den Auftrag an</translation>
+    </message>
+    <message>
+        <source>Closes the window without printing</source>
+        <translation>Schließt das Fenster, ohne zu drucken</translation>
+    </message>
+    <message>
+        <source>Stopping the job</source>
+        <translation>Der Auftrag wird angehalten</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::JobRunner</name>
+    <message>
+        <source>only a part of it was read before the job was cancelled</source>
+        <translation>vor dem Abbruch wurde nur ein Teil gelesen</translation>
+    </message>
+    <message>
+        <source>page %1</source>
+        <translation>Seite %1</translation>
+    </message>
+    <message>
+        <source>Printing: %1</source>
+        <translation>Druckt: %1</translation>
+    </message>
+    <message>
+        <source>Printing document %1 of %2: %3</source>
+        <translation>Druckt Dokument %1 von %2: %3</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::JobWarnings</name>
+    <message>
+        <source>%1 with copies that are not collated: equal pages would be stapled together</source>
+        <translation>%1 bei unsortierten Exemplaren: Es würden gleiche Seiten zusammengeheftet</translation>
+    </message>
+    <message>
+        <source>A booklet of %1 sheets is more than the printer folds at once: at most %2</source>
+        <translation>Eine Broschüre aus %1 Blatt ist mehr, als der Drucker auf einmal falzt: höchstens %2</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::NoticeBar</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Notice</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Takes back the last choice with all that it changed</source>
+        <translation>Nimmt die letzte Wahl mit allem, was sie änderte, zurück</translation>
+    </message>
+    <message>
+        <source>Close the notice</source>
+        <translation>Hinweis schließen</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::OptionsModel</name>
+    <message>
+        <source>Changed; by itself: %1</source>
+        <translation>Geändert; sonst: %1</translation>
+    </message>
+    <message>
+        <source>Option</source>
+        <translation>Option</translation>
+    </message>
+    <message>
+        <source>Choice</source>
+        <translation>Auswahl</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::OptionsPage</name>
+    <message>
+        <source>Only changed</source>
+        <translation>Nur geänderte</translation>
+    </message>
+    <message>
+        <source>Set Back</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Set All Back</source>
+        <translation>Alle zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Search options</source>
+        <translation>Optionen suchen</translation>
+    </message>
+    <message>
+        <source>1 option changed</source>
+        <translation>1 Option geändert</translation>
+    </message>
+    <message>
+        <source>%1 options changed</source>
+        <translation>%1 Optionen geändert</translation>
+    </message>
+    <message>
+        <source>No option changed</source>
+        <translation>Keine Option geändert</translation>
+    </message>
+    <message>
+        <source>No option found</source>
+        <translation>Keine Option gefunden</translation>
+    </message>
+    <message>
+        <source>This printer has no more options</source>
+        <translation>Dieser Drucker hat keine weiteren Optionen</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::OptionsView</name>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Return opens an option's choices, Delete sets it back</source>
+        <translation>Eingabe öffnet die Auswahl einer Option, Entf setzt sie zurück</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PageRanges</name>
+    <message>
+        <source>not a page range; write for example 1-3,7</source>
+        <translation>kein Seitenbereich; Beispiel: 1-3,7</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PagesRow</name>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation>Bereich</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>Alle Seiten</translation>
+    </message>
+    <message>
+        <source>A range of pages</source>
+        <translation>Ein Seitenbereich</translation>
+    </message>
+    <message>
+        <source>Page range</source>
+        <translation>Seitenbereich</translation>
+    </message>
+    <message>
+        <source>e.g. 1-3, 7</source>
+        <translation>z. B. 1-3, 7</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PresetChooser</name>
+    <message>
+        <source>Preset</source>
+        <translation>Voreinstellung</translation>
+    </message>
+    <message>
+        <source>Save and manage presets</source>
+        <translation>Voreinstellungen sichern und verwalten</translation>
+    </message>
+    <message>
+        <source>&amp;Save As…</source>
+        <translation>&amp;Sichern als…</translation>
+    </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <translation>&amp;Umbenennen…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>Zuletzt verwendet</translation>
+    </message>
+    <message>
+        <source>Name of the preset:</source>
+        <translation>Name der Voreinstellung:</translation>
+    </message>
+    <message>
+        <source>Save Preset</source>
+        <translation>Voreinstellung sichern</translation>
+    </message>
+    <message>
+        <source>There is a preset “%1” already. Replace it?</source>
+        <translation>Es gibt schon eine Voreinstellung „%1“. Ersetzen?</translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation>Voreinstellung umbenennen</translation>
+    </message>
+    <message>
+        <source>Delete Preset</source>
+        <translation>Voreinstellung löschen</translation>
+    </message>
+    <message>
+        <source>Delete the preset “%1”?</source>
+        <translation>Voreinstellung „%1“ löschen?</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PrintDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>Drucke&amp;r:</translation>
+    </message>
+    <message>
+        <source>Pr&amp;eset:</source>
+        <translation>Voreinst&amp;ellung:</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Dokument</translation>
+    </message>
+    <message>
+        <source>Print into a File</source>
+        <translation>In eine Datei drucken</translation>
+    </message>
+    <message>
+        <source>Print all the same?</source>
+        <translation>Trotzdem drucken?</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Drucken</translation>
+    </message>
+    <message>
+        <source>The job was cancelled.</source>
+        <translation>Der Auftrag wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>It can still be printed into a file: choose File as the printer.</source>
+        <translation>In eine Datei lässt sich weiterhin drucken: Wählen Sie Datei als Drucker.</translation>
+    </message>
+    <message>
+        <source>Not everything fits this printer:</source>
+        <translation>Nicht alles passt zu diesem Drucker:</translation>
+    </message>
+    <message>
+        <source>Not all of the preset fits this printer:</source>
+        <translation>Nicht die ganze Voreinstellung passt zu diesem Drucker:</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PrinterChooser</name>
+    <message>
+        <source>%1 (default)</source>
+        <translation>%1 (Standard)</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>File (%1)</source>
+        <translation>Datei (%1)</translation>
+    </message>
+    <message>
+        <source>No printers: %1</source>
+        <translation>Keine Drucker: %1</translation>
+    </message>
+    <message>
+        <source>Prints into a file</source>
+        <translation>Druckt in eine Datei</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SessionView</name>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Zusammenfassung</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>Weitere Optionen</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SummaryLines</name>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>Hochformat, kopfüber</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>Querformat, kopfüber</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Exemplare</translation>
+    </message>
+    <message>
+        <source>Set by set</source>
+        <translation>Satz für Satz</translation>
+    </message>
+    <message>
+        <source>Page by page</source>
+        <translation>Seite für Seite</translation>
+    </message>
+    <message>
+        <source>Order of copies</source>
+        <translation>Reihenfolge der Exemplare</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Page order</source>
+        <translation>Seitenfolge</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Letzte Seite zuerst</translation>
+    </message>
+    <message>
+        <source>Pages per sheet</source>
+        <translation>Seiten pro Blatt</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SummaryView</name>
+    <message>
+        <source>%1: %2 (changed)</source>
+        <translation>%1: %2 (geändert)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Zusammenfassung</translation>
+    </message>
+    <message>
+        <source>All settings of the job; those that were changed come first</source>
+        <translation>Alle Einstellungen des Auftrags, geänderte zuerst</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::Wording</name>
+    <message>
+        <source>%1 was set to %2: it can't be combined with %3</source>
+        <translation>%1 wurde auf „%2“ gestellt: nicht vereinbar mit „%3“</translation>
+    </message>
+    <message>
+        <source>%1 was not set to %2: it can't be combined with %3</source>
+        <translation>%1 wurde nicht auf „%2“ gestellt: nicht vereinbar mit „%3“</translation>
+    </message>
+</context>
+</TS>

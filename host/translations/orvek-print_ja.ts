@@ -1,0 +1,566 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>orvek::Availability</name>
+    <message>
+        <source>needs the %1, which this printer doesn't have</source>
+        <translation>%1 が必要ですが、このプリンターにはありません</translation>
+    </message>
+    <message>
+        <source>not with %1</source>
+        <translation>%1 とは併用できません</translation>
+    </message>
+    <message>
+        <source>%1 would be set to %2</source>
+        <translation>%1 が %2 に変わります</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::CopiesRow</name>
+    <message>
+        <source>Copies</source>
+        <translation>部数</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>部単位で印刷</translation>
+    </message>
+    <message>
+        <source>Whole sets one after the other, not all copies of each page</source>
+        <translation>ページごとではなく、1 部ずつ印刷します</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::CustomSizeRow</name>
+    <message>
+        <source>Paper width</source>
+        <translation>用紙の幅</translation>
+    </message>
+    <message>
+        <source>Paper height</source>
+        <translation>用紙の高さ</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::DocumentHeader</name>
+    <message>
+        <source>1 page</source>
+        <translation>1 ページ</translation>
+    </message>
+    <message>
+        <source>%1 pages</source>
+        <translation>%1 ページ</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::DocumentInfo</name>
+    <message>
+        <source>(stdin)</source>
+        <translation>(標準入力)</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::GeneralPage</name>
+    <message>
+        <source>Copies</source>
+        <translation>部数</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>最後のページから</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>用紙サイズ</translation>
+    </message>
+    <message>
+        <source>Paper source</source>
+        <translation>給紙元</translation>
+    </message>
+    <message>
+        <source>Paper type</source>
+        <translation>用紙の種類</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>印刷の向き</translation>
+    </message>
+    <message>
+        <source>As in the document</source>
+        <translation>文書のとおり</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>縦</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>縦 (上下逆)</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>横 (上下逆)</translation>
+    </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>両面印刷</translation>
+    </message>
+    <message>
+        <source>Pages per sheet</source>
+        <translation>1 枚あたりのページ数</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>カラー</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>品質</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::JobBar</name>
+    <message>
+        <source>&amp;Print</source>
+        <translation>印刷(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>進行状況</translation>
+    </message>
+    <message>
+        <source>&amp;Print to File…</source>
+        <translation>ファイルに印刷(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>Stops the job</source>
+        <translation>ジョブを中止します</translation>
+    </message>
+    <message>
+        <source>Closes the window without printing</source>
+        <translation>印刷せずにウィンドウを閉じます</translation>
+    </message>
+    <message>
+        <source>Stopping the job</source>
+        <translation>ジョブを中止しています</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::JobRunner</name>
+    <message>
+        <source>only a part of it was read before the job was cancelled</source>
+        <translation>中止までに一部しか読み込まれていません</translation>
+    </message>
+    <message>
+        <source>page %1</source>
+        <translation>%1 ページ目</translation>
+    </message>
+    <message>
+        <source>Printing: %1</source>
+        <translation>印刷中: %1</translation>
+    </message>
+    <message>
+        <source>Printing document %1 of %2: %3</source>
+        <translation>文書 %1/%2 を印刷中: %3</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::JobWarnings</name>
+    <message>
+        <source>%1 with copies that are not collated: equal pages would be stapled together</source>
+        <translation>%1 と部単位でない印刷の組み合わせ: 同じページどうしがとじられます</translation>
+    </message>
+    <message>
+        <source>A booklet of %1 sheets is more than the printer folds at once: at most %2</source>
+        <translation>%1 枚の小冊子は一度に折れる枚数 (最大 %2 枚) を超えています</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::NoticeBar</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Notice</source>
+        <translation>お知らせ</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Takes back the last choice with all that it changed</source>
+        <translation>直前の選択と、それによる変更をすべて元に戻します</translation>
+    </message>
+    <message>
+        <source>Close the notice</source>
+        <translation>お知らせを閉じる</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>問題</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>情報</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::OptionsModel</name>
+    <message>
+        <source>Changed; by itself: %1</source>
+        <translation>変更あり (既定: %1)</translation>
+    </message>
+    <message>
+        <source>Option</source>
+        <translation>オプション</translation>
+    </message>
+    <message>
+        <source>Choice</source>
+        <translation>選択</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::OptionsPage</name>
+    <message>
+        <source>Only changed</source>
+        <translation>変更したもののみ</translation>
+    </message>
+    <message>
+        <source>Set Back</source>
+        <translation>既定に戻す</translation>
+    </message>
+    <message>
+        <source>Set All Back</source>
+        <translation>すべて既定に戻す</translation>
+    </message>
+    <message>
+        <source>Search options</source>
+        <translation>オプションを検索</translation>
+    </message>
+    <message>
+        <source>1 option changed</source>
+        <translation>1 個のオプションを変更</translation>
+    </message>
+    <message>
+        <source>%1 options changed</source>
+        <translation>%1 個のオプションを変更</translation>
+    </message>
+    <message>
+        <source>No option changed</source>
+        <translation>変更なし</translation>
+    </message>
+    <message>
+        <source>No option found</source>
+        <translation>見つかりません</translation>
+    </message>
+    <message>
+        <source>This printer has no more options</source>
+        <translation>このプリンターに他のオプションはありません</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::OptionsView</name>
+    <message>
+        <source>Options</source>
+        <translation>オプション</translation>
+    </message>
+    <message>
+        <source>Return opens an option's choices, Delete sets it back</source>
+        <translation>Enter で選択肢を開き、Delete で既定に戻します</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PageRanges</name>
+    <message>
+        <source>not a page range; write for example 1-3,7</source>
+        <translation>ページ範囲ではありません (例: 1-3,7)</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PagesRow</name>
+    <message>
+        <source>All</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation>範囲</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>すべてのページ</translation>
+    </message>
+    <message>
+        <source>A range of pages</source>
+        <translation>ページの範囲</translation>
+    </message>
+    <message>
+        <source>Page range</source>
+        <translation>ページ範囲</translation>
+    </message>
+    <message>
+        <source>e.g. 1-3, 7</source>
+        <translation>例: 1-3, 7</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PresetChooser</name>
+    <message>
+        <source>Preset</source>
+        <translation>プリセット</translation>
+    </message>
+    <message>
+        <source>Save and manage presets</source>
+        <translation>プリセットの保存と管理</translation>
+    </message>
+    <message>
+        <source>&amp;Save As…</source>
+        <translation>名前を付けて保存(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <translation>名前の変更(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>削除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>前回の設定</translation>
+    </message>
+    <message>
+        <source>Name of the preset:</source>
+        <translation>プリセット名:</translation>
+    </message>
+    <message>
+        <source>Save Preset</source>
+        <translation>プリセットの保存</translation>
+    </message>
+    <message>
+        <source>There is a preset “%1” already. Replace it?</source>
+        <translation>プリセット「%1」は既にあります。置き換えますか？</translation>
+    </message>
+    <message>
+        <source>Rename Preset</source>
+        <translation>プリセット名の変更</translation>
+    </message>
+    <message>
+        <source>Delete Preset</source>
+        <translation>プリセットの削除</translation>
+    </message>
+    <message>
+        <source>Delete the preset “%1”?</source>
+        <translation>プリセット「%1」を削除しますか？</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PrintDialog</name>
+    <message>
+        <source>Print</source>
+        <translation>印刷</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>プリンター(&amp;R):</translation>
+    </message>
+    <message>
+        <source>Pr&amp;eset:</source>
+        <translation>プリセット(&amp;E):</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文書</translation>
+    </message>
+    <message>
+        <source>Print into a File</source>
+        <translation>ファイルに印刷</translation>
+    </message>
+    <message>
+        <source>Print all the same?</source>
+        <translation>このまま印刷しますか？</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>印刷(&amp;P)</translation>
+    </message>
+    <message>
+        <source>The job was cancelled.</source>
+        <translation>ジョブは中止されました。</translation>
+    </message>
+    <message>
+        <source>It can still be printed into a file: choose File as the printer.</source>
+        <translation>ファイルへの印刷はできます。プリンターに「ファイル」を選んでください。</translation>
+    </message>
+    <message>
+        <source>Not everything fits this printer:</source>
+        <translation>このプリンターで使えない設定があります:</translation>
+    </message>
+    <message>
+        <source>Not all of the preset fits this printer:</source>
+        <translation>このプリンターで使えない設定がプリセットにあります:</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 ほか %2 件</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PrinterChooser</name>
+    <message>
+        <source>%1 (default)</source>
+        <translation>%1 (既定)</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>File (%1)</source>
+        <translation>ファイル (%1)</translation>
+    </message>
+    <message>
+        <source>No printers: %1</source>
+        <translation>プリンターなし: %1</translation>
+    </message>
+    <message>
+        <source>Prints into a file</source>
+        <translation>ファイルに印刷します</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SessionView</name>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>設定の一覧</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>More Options</source>
+        <translation>その他のオプション</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SummaryLines</name>
+    <message>
+        <source>Portrait</source>
+        <translation>縦</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>縦 (上下逆)</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>横 (上下逆)</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>部数</translation>
+    </message>
+    <message>
+        <source>Set by set</source>
+        <translation>部ごと</translation>
+    </message>
+    <message>
+        <source>Page by page</source>
+        <translation>ページごと</translation>
+    </message>
+    <message>
+        <source>Order of copies</source>
+        <translation>印刷の順序</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>印刷の向き</translation>
+    </message>
+    <message>
+        <source>Page order</source>
+        <translation>ページの順序</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>最後のページから</translation>
+    </message>
+    <message>
+        <source>Pages per sheet</source>
+        <translation>1 枚あたりのページ数</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SummaryView</name>
+    <message>
+        <source>%1: %2 (changed)</source>
+        <translation>%1: %2 (変更あり)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>設定の一覧</translation>
+    </message>
+    <message>
+        <source>All settings of the job; those that were changed come first</source>
+        <translation>ジョブのすべての設定 (変更したものが先)</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::Wording</name>
+    <message>
+        <source>%1 was set to %2: it can't be combined with %3</source>
+        <translation>%1 を「%2」に変更しました: 「%3」とは併用できません</translation>
+    </message>
+    <message>
+        <source>%1 was not set to %2: it can't be combined with %3</source>
+        <translation>%1 は「%2」にできません: 「%3」とは併用できません</translation>
+    </message>
+</context>
+</TS>

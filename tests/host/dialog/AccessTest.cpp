@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: Apache-2.0
+// The window without eyes and without a mouse.
+
+#include <QAbstractSlider>
+#include <QAbstractSpinBox>
+#include <QAccessible>
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QTabWidget>
+
+#include "tests/host/dialog/DialogKit.h"
+
+using namespace orvek;
+
+namespace {
+
+class Access : public DialogTest {
+ protected:
+  void SetUp() override {
+    auto store = std::make_shared<PresetStore>(folder.filePath(QStringLiteral("data")));
+    prepare = [store](DialogSetup &setup) { setup.presets = store; };
+  }
+
+  bool isControl(const QWidget *widget) const {
+    // Parts of another control speak through it.
+    const QWidget *parent = widget->parentWidget();
+    if (qobject_cast<const QComboBox *>(parent) || qobject_cast<const QAbstractSpinBox *>(parent) ||
+        qobject_cast<const QTabBar *>(parent) || qobject_cast<const QLineEdit *>(parent)) {
+      return false;
+    }
+    return qobject_cast<const QAbstractButton *>(widget) ||
+           qobject_cast<const QComboBox *>(widget) || qobject_cast<const QLineEdit *>(widget) ||
+           qobject_cast<const QAbstractSlider *>(widget) ||
+           qobject_cast<const QAbstractSpinBox *>(widget) ||
+           qobject_cast<const QAbstractItemView *>(widget);
+  }
+
+  QStringList nameless() const {
+    QStringList found;
+    for (QWidget *widget : dialog->findChildren<QWidget *>()) {
+      if (!isControl(widget) || !widget->isVisibleTo(dialog.get())) continue;
+      if (widget->inherits("QScrollBar") || widget->inherits("QHeaderView")) continue;
+      QAccessibleInterface *speech = QAccessible::queryAccessibleInterface(widget);
+      if (speech == nullptr || speech->text(QAccessible::Name).isEmpty()) {
+        found << QString::fromLatin1(widget->metaObject()->className()) + ' ' +
+                     widget->objectName();
+      }
+    }
+    return found;
+  }
+};
+
+TEST_F(Access, EveryControlOfEveryPageHasAName) {
+  open();
+  click("bookletChckBox");
+  auto *pages = find<QTabWidget>("pages");
+  for (int page = 0; page < pages->count(); ++page) {
+    pages->setCurrentIndex(page);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(nameless().join(QStringLiteral(", ")), QString()) << page;
+  }
+}
+
+TEST_F(Access, TabReachesEveryControlOfThePanel) {
+  open();
+  click("bookletChckBox");
+  QStringList wanted{QStringLiteral("staplingPopup"), QStringLiteral("foldingPopup"),
+                     QStringLiteral("punchPopup"),    QStringLiteral("paperDestPopup"),
+                     QStringLiteral("offsetChckBox"), QStringLiteral("bookletChckBox"),
+                     QStringLiteral("gutterSlider"),  QStringLiteral("gutterTxtBox"),
+                     QStringLiteral("printButton"),   QStringLiteral("cancelButton"),
+                     QStringLiteral("printerMenu"),   QStringLiteral("presetMenu")};
+  for (int steps = 0; steps < 80 && !wanted.isEmpty(); ++steps) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    if (QApplication::focusWidget() == nullptr) break;
+    wanted.removeAll(QApplication::focusWidget()->objectName());
+  }
+  EXPECT_EQ(wanted.join(QStringLiteral(", ")), QString());
+}
+
+TEST_F(Access, AWholeSessionWorksByKeysAlone) {
+  open();
+  const auto press = [](Qt::Key key, Qt::KeyboardModifiers with = {}) {
+    QTest::keyClick(QApplication::focusWidget(), key, with);
+    QCoreApplication::processEvents();
+  };
+  for (int steps = 0; steps < 40; ++steps) {
+    if (QApplication::focusWidget()->objectName() == QLatin1String("punchPopup")) break;
+    press(Qt::Key_Tab);
+  }
+  press(Qt::Key_Down);
+  ASSERT_NE(session->marks().marked(QStringLiteral("OVKPunching")), QStringLiteral("None"));
+  press(Qt::Key_Backtab);
+  ASSERT_EQ(QApplication::focusWidget()->objectName(), QStringLiteral("foldingPopup"));
+  press(Qt::Key_End);
+  ASSERT_EQ(session->marks().marked(QStringLiteral("OVKFolding")), QStringLiteral("Saddle"));
+  ASSERT_TRUE(notices().isVisible());
+  press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_NE(session->marks().marked(QStringLiteral("OVKPunching")), QStringLiteral("None"));
+  EXPECT_EQ(session->marks().marked(QStringLiteral("OVKFolding")), QStringLiteral("None"));
+  press(Qt::Key_Escape);
+  EXPECT_FALSE(dialog->isVisible());
+  EXPECT_FALSE(dialog->outcome());
+}
+
+}  // namespace
