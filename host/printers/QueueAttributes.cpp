@@ -59,9 +59,9 @@ QString settingTitle(const Queue &queue, const QString &keyword) {
   return titleOr(title, keyword, plainSettingTitle(keyword));
 }
 
-QueueSetting readSetting(const Queue &queue, const char *name) {
+SettingOffer readSetting(const Queue &queue, const char *name) {
   const QString keyword = QString::fromLatin1(name);
-  QueueSetting setting{keyword, settingTitle(queue, keyword), {}, {}};
+  SettingOffer setting{keyword, settingTitle(queue, keyword), {}, {}};
   ipp_attribute_t *supported =
       cupsFindDestSupported(queue.http, queue.destination, queue.details, name);
   for (int i = 0; i < ippGetCount(supported); ++i) {
@@ -71,27 +71,32 @@ QueueSetting readSetting(const Queue &queue, const char *name) {
   }
   ipp_attribute_t *standard =
       cupsFindDestDefault(queue.http, queue.destination, queue.details, name);
-  if (ippGetCount(standard) > 0) setting.defaultChoice = valueText(standard, 0);
+  if (ippGetCount(standard) > 0) setting.standard = valueText(standard, 0);
   return setting;
 }
 
 }  // namespace
 
-Result<QList<QueueSetting>> readQueueSettings(const ServerAccess &access, const QString &queue) {
-  auto connection = CupsConnection::open(access);
-  if (!connection) return connection.failure();
-  http_t *http = connection.value()->http();
+Result<QList<SettingOffer>> readQueueSettings(const CupsConnection &connection,
+                                              const QString &queue) {
+  http_t *http = connection.http();
   const Destination destination(cupsGetNamedDest(http, queue.toUtf8().constData(), nullptr),
                                 &freeOne);
-  if (!destination) return connection.value()->lastFailure(queue);
+  if (!destination) return connection.lastFailure(queue);
   const Details details(cupsCopyDestInfo(http, destination.get()), &cupsFreeDestInfo);
-  if (!details) return connection.value()->lastFailure(queue);
-  QList<QueueSetting> settings;
+  if (!details) return connection.lastFailure(queue);
+  QList<SettingOffer> settings;
   for (const char *name : kSettings) {
     const auto setting = readSetting({http, destination.get(), details.get()}, name);
     if (setting.choices.size() > 1) settings << setting;
   }
   return settings;
+}
+
+Result<QList<SettingOffer>> readQueueSettings(const ServerAccess &access, const QString &queue) {
+  const auto connection = CupsConnection::open(access);
+  if (!connection) return connection.failure();
+  return readQueueSettings(*connection.value(), queue);
 }
 
 }  // namespace orvek

@@ -5,26 +5,17 @@
 #include <QList>
 
 #include "host/printers/CupsConnection.h"
+#include "host/session/SettingOffer.h"
 
 namespace orvek {
-
-/// One value of a setting.
-struct SettingChoice {
-  QString keyword;  ///< as a job says it: "two-sided-long-edge"
-  QString title;    ///< as people read it; the keyword where nothing better is known
-};
-
-/// One setting that a job may state.
-struct QueueSetting {
-  QString keyword;  ///< the job attribute: "sides"
-  QString title;
-  QList<SettingChoice> choices;
-  QString defaultChoice;  ///< a keyword among the choices; null where the printer states none
-};
 
 /// Paper, sides, color, quality, pages per sheet, output tray and finishings of `queue`, in this
 /// order, as far as it has a choice in them. Fails where the server does not answer or has no such
 /// queue.
-Result<QList<QueueSetting>> readQueueSettings(const ServerAccess &access, const QString &queue);
+Result<QList<SettingOffer>> readQueueSettings(const ServerAccess &access, const QString &queue);
+
+/// The same over a connection that is open already.
+Result<QList<SettingOffer>> readQueueSettings(const CupsConnection &connection,
+                                              const QString &queue);
 
 }  // namespace orvek

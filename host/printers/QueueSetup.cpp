@@ -4,6 +4,7 @@
 #include "host/printers/QueueSetup.h"
 
 #include "host/printers/PrinterList.h"
+#include "host/printers/QueueAttributes.h"
 #include "host/printers/QueuePPD.h"
 
 namespace orvek {
@@ -27,6 +28,12 @@ Status describe(const CupsConnection &connection, const QString &queue, SessionS
   return {};
 }
 
+// A queue that says nothing of itself still prints.
+QList<SettingOffer> offersOf(const CupsConnection &connection, const QString &queue) {
+  Result<QList<SettingOffer>> offers = readQueueSettings(connection, queue);
+  return offers ? offers.take() : QList<SettingOffer>();
+}
+
 }  // namespace
 
 Status setUpForQueue(const ServerAccess &access, const QString &destination, SessionSetup *setup) {
@@ -37,6 +44,7 @@ Status setUpForQueue(const ServerAccess &access, const QString &destination, Ses
   if (Status described = describe(*connection.value(), printer.value().name, setup); !described) {
     return described;
   }
+  if (!setup->printer) setup->offers = offersOf(*connection.value(), printer.value().name);
   setup->queueOptions = savedOptions(printer.value());
   setup->destination = printer.value().destination();
   return {};

@@ -3,6 +3,7 @@
 
 #include "host/session/CommonSettings.h"
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -34,6 +35,7 @@ const std::array<Names, 6> &allNames() {
 
 constexpr const char *manualFeedSize = "PageRegion";
 constexpr const char *customChoice = "Custom";
+constexpr const char *pagesPerSheetAttribute = "number-up";  // the ticket's layout says it
 
 const ppd_option_t *optionFor(ppd_file_t *ppd, const Names &names) {
   for (const char *keyword : names.options) {
@@ -63,15 +65,34 @@ Setting settingOf(const PrintSession &session, const ppd_option_t &option, Commo
   return setting;
 }
 
+// What was asked for, what the queue was set up for, what it does by itself.
+QString choiceInForce(const PrintSession &session, const SettingOffer &offer) {
+  const QVariant asked = session.ticket().value(offer.attribute);
+  if (asked.isValid()) return textReading(asked);
+  for (const OptionChoice &option : session.queueOptions()) {
+    if (option.option == offer.attribute) return option.choice;
+  }
+  return offer.standard;
+}
+
+Setting settingOf(const PrintSession &session, const SettingOffer &offer) {
+  return {offer.attribute, offer.title, offer.choices, choiceInForce(session, offer), false};
+}
+
 std::optional<Setting> offered(const PrintSession &session, const Names &names) {
-  const QString attribute = QString::fromLatin1(names.attribute);
   for (const SettingOffer &offer : session.offers()) {
-    if (offer.attribute != attribute) continue;
-    const QVariant asked = session.ticket().value(attribute);
-    return Setting{attribute, QString(), offer.choices,
-                   asked.isValid() ? textReading(asked) : offer.standard, false};
+    if (offer.attribute == QLatin1String(names.attribute)) return settingOf(session, offer);
   }
   return std::nullopt;
+}
+
+bool isFurther(const SettingOffer &offer) {
+  if (offer.attribute == QLatin1String(pagesPerSheetAttribute) || offer.choices.size() < 2) {
+    return false;
+  }
+  return std::none_of(allNames().begin(), allNames().end(), [&](const Names &names) {
+    return offer.attribute == QLatin1String(names.attribute);
+  });
 }
 
 }  // namespace
@@ -87,6 +108,14 @@ std::optional<Setting> commonSetting(const PrintSession &session, CommonSetting 
   }
   if (setting && setting->choices.size() < 2) return std::nullopt;
   return setting;
+}
+
+QList<Setting> furtherSettings(const PrintSession &session) {
+  QList<Setting> settings;
+  for (const SettingOffer &offer : session.offers()) {
+    if (isFurther(offer)) settings << settingOf(session, offer);
+  }
+  return settings;
 }
 
 bool pickSetting(PrintSession &session, const Setting &setting, const QString &choice) {

@@ -28,6 +28,9 @@ struct Setting {
 /// Nothing where the printer lacks the setting, or has just one choice for it.
 std::optional<Setting> commonSetting(const PrintSession &session, CommonSetting setting);
 
+/// What a printer without PPD offers beyond those (output tray, finishings).
+QList<Setting> furtherSettings(const PrintSession &session);
+
 /// Picks a choice. False where it was refused.
 bool pickSetting(PrintSession &session, const Setting &setting, const QString &choice);
 

@@ -18,6 +18,7 @@ struct SettingChoice {
 /// "print-quality", "media-source", "media-type") with what the queue supports.
 struct SettingOffer {
   QString attribute;
+  QString title;  ///< for people; null: a usual one
   QList<SettingChoice> choices;
   QString standard;  ///< the queue's default; null: it names none
 };

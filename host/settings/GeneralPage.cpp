@@ -26,6 +26,8 @@ constexpr int rowSpacing = 6;
 constexpr int labelGap = 10;
 constexpr int groupGap = 6;
 constexpr int widestForm = 560;
+constexpr int paperSizePlace = static_cast<int>(CommonSetting::PaperSize);
+constexpr int commonSettings = static_cast<int>(CommonSetting::Quality) + 1;
 constexpr std::array<int, 6> layouts{1, 2, 4, 6, 9, 16};
 
 }  // namespace
@@ -33,6 +35,7 @@ constexpr std::array<int, 6> layouts{1, 2, 4, 6, 9, 16};
 GeneralPage::GeneralPage(PrintSession &session, QWidget *parent)
     : QWidget(parent),
       m_session(session),
+      m_state(generalState(session)),
       m_availability(new Availability(session, this)),
       m_form(new QFormLayout) {
   m_form->setContentsMargins(0, 0, 0, 0);
@@ -55,7 +58,7 @@ GeneralPage::GeneralPage(PrintSession &session, QWidget *parent)
   column->addWidget(body);
   column->addStretch(1);
   connect(&session, &PrintSession::changed, this, &GeneralPage::followSession);
-  followSession();
+  showState();
 }
 
 void GeneralPage::addPagesRows() {
@@ -86,7 +89,7 @@ void GeneralPage::addPaperRows() {
   m_customSize = new CustomSizeRow(this);
   m_form->addRow(QString(), m_customSize);
   connect(m_customSize, &CustomSizeRow::choicePicked, this,
-          [this](const QString &choice) { pickChoice(CommonSetting::PaperSize, choice); });
+          [this](const QString &choice) { pickChoice(paperSizePlace, choice); });
   addChoiceRow(CommonSetting::PaperSource, QStringLiteral("paperSource"), tr("Paper source"));
   addChoiceRow(CommonSetting::PaperType, QStringLiteral("paperType"), tr("Paper type"));
 }
@@ -111,6 +114,14 @@ void GeneralPage::addLayoutRows() {
 void GeneralPage::addQualityRows() {
   addChoiceRow(CommonSetting::Color, QStringLiteral("color"), tr("Color"));
   addChoiceRow(CommonSetting::Quality, QStringLiteral("quality"), tr("Quality"));
+  addFurtherRows();
+}
+
+void GeneralPage::addFurtherRows() {
+  const QList<std::optional<Setting>> &settings = m_state.settings;
+  for (int place = commonSettings; place < settings.size(); ++place) {
+    addChoiceRow(place, settings[place]->key, settings[place]->key);
+  }
 }
 
 void GeneralPage::addGap() {
@@ -125,8 +136,8 @@ QLabel *GeneralPage::addRow(const QString &text, QWidget *field) {
 }
 
 // The PPD's own name is the one that notices and the printer's papers use.
-void GeneralPage::addChoiceRow(CommonSetting setting, const QString &name, const QString &usual) {
-  const std::optional<Setting> found = commonSetting(m_session, setting);
+void GeneralPage::addChoiceRow(int setting, const QString &name, const QString &usual) {
+  const std::optional<Setting> found = m_state.settings[setting];
   const QString title = found && !found->title.isNull() ? found->title : usual;
   auto *box = new ChoiceBox(m_availability, this);
   box->setObjectName(name);
@@ -151,23 +162,27 @@ void GeneralPage::showEvent(QShowEvent *event) {
 }
 
 void GeneralPage::followSession() {
-  const GeneralState state = generalState(m_session);
-  m_copies->setSettings(state.job);
-  m_pages->setSettings(state.job);
-  m_reverse->setChecked(state.job.reverse);
-  m_orientation->setCurrentIndex(static_cast<int>(state.job.orientation));
-  m_pagesPerSheet->setCurrentIndex(m_pagesPerSheet->findData(state.pagesPerSheet));
+  m_state = generalState(m_session);
+  showState();
+}
+
+void GeneralPage::showState() {
+  m_copies->setSettings(m_state.job);
+  m_pages->setSettings(m_state.job);
+  m_reverse->setChecked(m_state.job.reverse);
+  m_orientation->setCurrentIndex(static_cast<int>(m_state.job.orientation));
+  m_pagesPerSheet->setCurrentIndex(m_pagesPerSheet->findData(m_state.pagesPerSheet));
   for (const ChoiceRow &row : m_choiceRows) {
-    showChoice(row, state.settings[static_cast<int>(row.setting)]);
+    showChoice(row, m_state.settings[row.setting]);
   }
-  showCustomPaper(state.customPaper);
+  showCustomPaper(m_state.customPaper);
 }
 
 void GeneralPage::showChoice(const ChoiceRow &row, const std::optional<Setting> &setting) {
   m_form->setRowVisible(row.box, setting.has_value());
   if (!setting) return;
   row.box->setChoices(setting->key, setting->choices);
-  const bool isCustom = row.setting == CommonSetting::PaperSize && isCustomPaper(setting->current);
+  const bool isCustom = row.setting == paperSizePlace && isCustomPaper(setting->current);
   row.box->setChoice(isCustom ? QStringLiteral("Custom") : setting->current);
 }
 
@@ -176,20 +191,22 @@ void GeneralPage::showCustomPaper(const std::optional<CustomPaper> &paper) {
   if (paper) m_customSize->setSize(paper->size, paper->limits);
 }
 
-void GeneralPage::pickChoice(CommonSetting which, const QString &choice) {
-  const std::optional<Setting> setting = commonSetting(m_session, which);
+void GeneralPage::pickChoice(int place, const QString &choice) {
+  const std::optional<Setting> setting = m_state.settings[place];
   if (!setting) return;
-  // A custom size begins as large as the paper that it replaces.
-  if (which == CommonSetting::PaperSize && choice == QLatin1String("Custom")) {
-    ppd_file_t *ppd = m_session.marks().ppd();
-    const std::optional<CustomPaperLimits> limits = customPaperLimits(ppd);
-    if (limits) {
-      m_customSize->setSize(paperSize(ppd, setting->current), *limits);
-      pickSetting(m_session, *setting, m_customSize->choice());
-      return;
-    }
+  if (place == paperSizePlace && choice == QLatin1String("Custom")) {
+    pickCustomPaper(*setting);
+  } else {
+    pickSetting(m_session, *setting, choice);
   }
-  pickSetting(m_session, *setting, choice);
+}
+
+// A custom size begins as large as the paper that it replaces.
+void GeneralPage::pickCustomPaper(const Setting &setting) {
+  ppd_file_t *ppd = m_session.marks().ppd();
+  const std::optional<CustomPaperLimits> limits = customPaperLimits(ppd);
+  if (limits) m_customSize->setSize(paperSize(ppd, setting.current), *limits);
+  pickSetting(m_session, setting, limits ? m_customSize->choice() : QStringLiteral("Custom"));
 }
 
 void GeneralPage::changeJob(const std::function<void(JobSettings *)> &change) {

@@ -36,7 +36,7 @@ class GeneralPage final : public QWidget {
 
  private:
   struct ChoiceRow {
-    CommonSetting setting;
+    int setting;  // its place among the state's settings
     QLabel *label;
     ChoiceBox *box;
   };
@@ -47,16 +47,23 @@ class GeneralPage final : public QWidget {
   void addQualityRows();
   void addGap();
   QLabel *addRow(const QString &text, QWidget *field);
-  void addChoiceRow(CommonSetting setting, const QString &name, const QString &usual);
+  void addChoiceRow(int setting, const QString &name, const QString &usual);
+  void addChoiceRow(CommonSetting setting, const QString &name, const QString &usual) {
+    addChoiceRow(static_cast<int>(setting), name, usual);
+  }
+  void addFurtherRows();
   QComboBox *addListRow(const QString &name, const QString &title);
 
   void followSession();
+  void showState();
   void showChoice(const ChoiceRow &row, const std::optional<Setting> &setting);
   void showCustomPaper(const std::optional<CustomPaper> &paper);
-  void pickChoice(CommonSetting setting, const QString &choice);
+  void pickChoice(int setting, const QString &choice);
+  void pickCustomPaper(const Setting &setting);
   void changeJob(const std::function<void(JobSettings *)> &change);
 
   PrintSession &m_session;
+  GeneralState m_state;  // what is shown
   Availability *m_availability;
   QFormLayout *m_form;
   CopiesRow *m_copies = nullptr;

@@ -32,6 +32,7 @@ GeneralState generalState(const PrintSession &session) {
         CommonSetting::Sides, CommonSetting::Color, CommonSetting::Quality}) {
     state.settings << commonSetting(session, setting);
   }
+  for (const Setting &setting : furtherSettings(session)) state.settings << setting;
   state.customPaper = customPaperOf(session, state.settings.first());
   return state;
 }

@@ -22,7 +22,8 @@ struct CustomPaper {
 struct GeneralState {
   JobSettings job;
   int pagesPerSheet = 1;
-  QList<std::optional<Setting>> settings;  ///< by CommonSetting; nothing: no such row
+  QList<std::optional<Setting>> settings;  ///< by CommonSetting, then further ones; nothing: no
+                                           ///< such row
   std::optional<CustomPaper> customPaper;  ///< nothing: no such row
 };
 

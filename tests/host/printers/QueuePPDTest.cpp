@@ -151,24 +151,24 @@ TEST_F(QueuePPDTest, MayHaveFiveThousandOptions) {
   ppdClose(opened);
 }
 
-const QueueSetting *settingOf(const QList<QueueSetting> &settings, const char *keyword) {
-  for (const QueueSetting &setting : settings)
-    if (setting.keyword == QString::fromLatin1(keyword)) return &setting;
+const SettingOffer *settingOf(const QList<SettingOffer> &settings, const char *keyword) {
+  for (const SettingOffer &setting : settings)
+    if (setting.attribute == QString::fromLatin1(keyword)) return &setting;
   return nullptr;
 }
 
 TEST_F(QueuePPDTest, IsNotNeededToReadCommonSettings) {
   const auto settings = readQueueSettings({}, kQueue);
   ASSERT_TRUE(settings) << settings.failure().line().toStdString();
-  const QueueSetting *sides = settingOf(settings.value(), "sides");
+  const SettingOffer *sides = settingOf(settings.value(), "sides");
   ASSERT_NE(sides, nullptr);
   EXPECT_EQ(sides->choices.size(), 3);
   EXPECT_EQ(sides->choices[0].keyword, QStringLiteral("one-sided"));
-  EXPECT_NE(sides->title, sides->keyword);
-  const QueueSetting *media = settingOf(settings.value(), "media");
+  EXPECT_NE(sides->title, sides->attribute);
+  const SettingOffer *media = settingOf(settings.value(), "media");
   ASSERT_NE(media, nullptr);
   EXPECT_GT(media->choices.size(), 3);
-  EXPECT_FALSE(media->defaultChoice.isEmpty());
+  EXPECT_FALSE(media->standard.isEmpty());
 }
 
 TEST_F(QueuePPDTest, LeavesOutSettingsInWhichAQueueHasNoChoice) {

@@ -209,7 +209,11 @@ TEST_F(GeneralPageTest, HasNoRowForWhatThePrinterLacks) {
 
 TEST_F(GeneralPageTest, OffersWhatAQueueWithoutPpdCanDo) {
   SessionSetup setup;
-  setup.offers = {{"sides", {{"one-sided", "Off"}, {"two-sided-long-edge", "On"}}, "one-sided"}};
+  setup.offers = {
+      {"sides", "Both", {{"one-sided", "Off"}, {"two-sided-long-edge", "On"}}, "one-sided"},
+      {"number-up", "Up", {{"1", "1"}, {"2", "2"}}, "1"},
+      {"output-bin", "Tray", {{"face-up", "Upper"}, {"face-down", "Lower"}}, "face-up"}};
+  setup.queueOptions = {{"output-bin", "face-down"}};
   open(QString(), setup);
   ChoiceBox *sides = box("sides");
   ASSERT_TRUE(sides->isVisible());
@@ -217,6 +221,10 @@ TEST_F(GeneralPageTest, OffersWhatAQueueWithoutPpdCanDo) {
   ASSERT_TRUE(pickText(sides, "On"));
   EXPECT_EQ(session->jobOptions().value("sides"), "two-sided-long-edge");
   EXPECT_EQ(sides->choice(), "two-sided-long-edge");
+  EXPECT_EQ(box("output-bin")->currentText(), "Lower");
+  ASSERT_TRUE(pickText(box("output-bin"), "Upper"));
+  EXPECT_EQ(session->jobOptions().value("output-bin"), "face-up");
+  EXPECT_EQ(page->findChild<ChoiceBox *>("number-up"), nullptr);
 }
 
 TEST_F(GeneralPageTest, LeavesASettingAloneThatIsScrolledOver) {
