@@ -64,7 +64,7 @@ void PrintDialog::build() {
   m_document->setPicture(QStyle::SP_FileIcon);
   QWidget *choosers = buildChoosers();
   m_notices = new NoticeBar(this);
-  m_view = new SessionView(*m_session, this);
+  m_view = new SessionView(*m_session, m_setup.document, this);
   m_jobBar = new JobBar(this);
   m_runner = new JobRunner(this);
   auto *header = new QHBoxLayout;
@@ -152,6 +152,7 @@ void PrintDialog::setDocument(const DocumentInfo &document) {
   m_setup.document = document;
   const QString pages = pagesInWords(document.pages);
   m_document->setTexts(m_setup.documentName, pages.isNull() ? tr("Document") : pages);
+  m_view->setDocument(document);
 }
 
 void PrintDialog::lookAround() {

@@ -38,7 +38,7 @@ void PrintDialog::takeSession(std::unique_ptr<PrintSession> session, const QStri
   m_session->disconnect(this);
   m_notices->fallSilent();
   // The old view gives back what it borrowed before the old session goes.
-  auto *view = new SessionView(*session, this);
+  auto *view = new SessionView(*session, m_setup.document, this);
   delete layout()->replaceWidget(m_view, view);
   delete std::exchange(m_view, view);
   m_session = session.get();

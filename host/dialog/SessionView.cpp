@@ -8,10 +8,13 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "host/dialog/LazyPage.h"
 #include "host/dialog/PanelPage.h"
 #include "host/dialog/SummaryView.h"
+#include "host/preview/BookletPreview.h"
+#include "host/session/BookletSettings.h"
 #include "host/settings/GeneralPage.h"
 #include "host/settings/OptionsPage.h"
 
@@ -19,31 +22,37 @@ namespace orvek {
 namespace {
 
 constexpr int gap = 12;
+constexpr int previewHeight = 216;
 
 }  // namespace
 
-SessionView::SessionView(PrintSession &session, QWidget *parent)
+SessionView::SessionView(PrintSession &session, const DocumentInfo &document, QWidget *parent)
     : QWidget(parent),
       m_session(session),
+      m_document(document),
       m_pages(new QTabWidget(this)),
       m_summary(new SummaryView(this)) {
   m_pages->setObjectName(QStringLiteral("pages"));
   m_pages->setAccessibleName(tr("Settings"));
   addPages();
-  auto *summaryTitle = new QLabel(tr("Summary"), this);
-  // The list begins where the pages do.
-  summaryTitle->setFixedHeight(m_pages->tabBar()->sizeHint().height() - 1);
-  auto *aside = new QVBoxLayout;
-  aside->setSpacing(0);
-  aside->addWidget(summaryTitle);
-  aside->addWidget(m_summary, 1);
   auto *row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(gap);
   row->addWidget(m_pages, 1);
-  row->addLayout(aside);
+  row->addLayout(buildAside());
   connect(&session, &PrintSession::changed, this, &SessionView::followSession);
   followSession();
+}
+
+QLayout *SessionView::buildAside() {
+  auto *title = new QLabel(tr("Summary"), this);
+  // The list begins where the pages do.
+  title->setFixedHeight(m_pages->tabBar()->sizeHint().height() - 1);
+  m_aside = new QVBoxLayout;
+  m_aside->setSpacing(0);
+  m_aside->addWidget(title);
+  m_aside->addWidget(m_summary, 1);
+  return m_aside;
 }
 
 // The window opens with the panel, where there is one; the other pages are made when asked for.
@@ -68,8 +77,29 @@ void SessionView::addPanelPages() {
   }
 }
 
+void SessionView::setDocument(const DocumentInfo &document) {
+  m_document = document;
+  delete std::exchange(m_preview, nullptr);
+  updatePreview();
+}
+
 void SessionView::followSession() {
   m_summary->show(summaryLines(m_session));
+  updatePreview();
+}
+
+// Below the summary, where an open booklet section makes the window tall enough for both.
+void SessionView::updatePreview() {
+  const bool isBooklet = bookletSettings(m_session.ticket().values()).enabled;
+  if (isBooklet && m_preview == nullptr) {
+    m_preview = new BookletPreview(m_session, m_document.pages, m_document.pageSizePoints, this);
+    // As wide as the summary; the window is not to grow for it.
+    m_preview->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_preview->setFixedHeight(previewHeight);
+    m_preview->layout()->setContentsMargins(0, gap, 0, 0);
+    m_aside->addWidget(m_preview);
+  }
+  if (m_preview != nullptr) m_preview->setVisible(isBooklet);
 }
 
 }  // namespace orvek

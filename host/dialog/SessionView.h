@@ -5,12 +5,16 @@
 
 #include <QWidget>
 
+#include "host/session/DocumentInfo.h"
 #include "host/session/PrintSession.h"
 
+class QLayout;
 class QTabWidget;
+class QVBoxLayout;
 
 namespace orvek {
 
+class BookletPreview;
 class SummaryView;
 
 /// Borrows the session, which must outlive the view, and its panels' containers.
@@ -18,16 +22,23 @@ class SessionView final : public QWidget {
   Q_OBJECT
 
  public:
-  SessionView(PrintSession &session, QWidget *parent);
+  SessionView(PrintSession &session, const DocumentInfo &document, QWidget *parent);
+
+  void setDocument(const DocumentInfo &document);
 
  private:
   void addPages();
   void addPanelPages();
+  QLayout *buildAside();
   void followSession();
+  void updatePreview();
 
   PrintSession &m_session;
+  DocumentInfo m_document;
   QTabWidget *m_pages;
   SummaryView *m_summary;
+  QVBoxLayout *m_aside = nullptr;
+  BookletPreview *m_preview = nullptr;  // made when the job first is a booklet
 };
 
 }  // namespace orvek

@@ -9,8 +9,8 @@
 namespace orvek {
 namespace {
 
-constexpr int preferredWidth = 300;
-constexpr int preferredHeight = 250;
+constexpr int preferredWidth = 316;
+constexpr int preferredHeight = 236;
 constexpr int leastWidth = 240;
 constexpr int leastHeight = 120;
 constexpr int rowPadding = 2;
@@ -22,9 +22,9 @@ class RowDelegate final : public QStyledItemDelegate {
   explicit RowDelegate(QTreeView *view) : QStyledItemDelegate(view), m_view(view) {}
 
   QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override {
-    // A tree view asks without a width, and would get the height of a single line.
+    // A tree view asks without a room, and would get the height of a single line.
     QStyleOptionViewItem inner(option);
-    inner.rect.setWidth(m_view->columnWidth(index.column()));
+    inner.rect = QRect(0, 0, m_view->columnWidth(index.column()), QWIDGETSIZE_MAX);
     return QStyledItemDelegate::sizeHint(inner, index) + QSize(0, 2 * rowPadding);
   }
 
