@@ -17,7 +17,7 @@ struct PreviewState {
   BookletSettings booklet;
   QList<ImposedSheet> sheets;  ///< empty where no booklet is printed
   QSizeF page;                 ///< one page of the document
-  QSizeF paper;                ///< the paper that is printed on, in either orientation
+  QSizeF paper{1, 1};          ///< the paper that is printed on, in either orientation
   QString paperName;           ///< for people; null: unknown
   int pages = 0;               ///< that are printed
   bool isSample = false;       ///< the document's own page count is unknown

@@ -16,7 +16,9 @@ namespace {
 constexpr int gap = 16;
 constexpr int captionGap = 4;
 constexpr int widestSide = 320;
+constexpr int comfortableSide = 190;
 constexpr int narrowestSide = 60;
+constexpr int rowsAtOnce = 2;
 constexpr int darkGround = 128;  // lightness below which a ground counts as dark
 constexpr QSize usualSize(520, 320);
 constexpr QSize leastSize(220, 140);
@@ -44,8 +46,16 @@ QSize SheetsView::minimumSizeHint() const {
   return leastSize;
 }
 
+// As wide as the place allows; narrower where two rows fit then, but not so narrow that pages can't
+// be told apart.
 int SheetsView::sideWidth() const {
-  return std::clamp((viewport()->width() - 3 * gap) / 2, narrowestSide, widestSide);
+  const int byWidth = (viewport()->width() - 3 * gap) / 2;
+  const int rows = std::clamp(static_cast<int>(m_state.sheets.size()), 1, rowsAtOnce);
+  const int rowHeight = (viewport()->height() - gap) / rows;
+  const double height = rowHeight - fontMetrics().height() - captionGap - gap;
+  const int byHeight = static_cast<int>(height / sideHeight(1, m_state.paper));
+  const int wanted = std::min(byWidth, std::max(byHeight, comfortableSide));
+  return std::clamp(wanted, narrowestSide, widestSide);
 }
 
 int SheetsView::rowHeight() const {

@@ -16,6 +16,7 @@ namespace {
 
 constexpr int pdfLimitMilliseconds = 2000;
 constexpr qint64 commentBytes = 64 * 1024;  // DSC comments stand at the start or at the end
+constexpr int mostPages = 1'000'000;        // a file that claims more is taken for damaged
 constexpr qint64 headerBytes = 1024;        // readers look for "%PDF-" this far
 
 struct Words {
@@ -95,6 +96,7 @@ DocumentInfo documentInfo(const QString &path) {
   }
   info.name = QFileInfo(path).fileName();
   readContent(&info);
+  if (info.pages > mostPages) info.pages = 0;
   if (info.pageSizePoints.isEmpty()) info.pageSizePoints = QSizeF();
   return info;
 }

@@ -53,7 +53,7 @@ def large_office_printer():
                                   equipment.PAPER_TRAYS),
         ),
         constraints.FAMILY, color=True, pages_per_minute=60, memory=536870912,
-        attributes=(("OVKHasBooklet", "True"),))
+        attributes=(("OVKHasBooklet", "True"), ("OVKBookletMaximumSheets", "15")))
 
 
 def workgroup_printer():

@@ -70,6 +70,12 @@ TEST_F(DocumentInfoTest, ReadsACountThatStandsAtTheEndOfALongFile) {
   EXPECT_EQ(documentInfo(path).pages, 3);
 }
 
+TEST_F(DocumentInfoTest, DoesNotBelieveInMillionsOfPages) {
+  EXPECT_EQ(documentInfo(write("a.ps", "%!PS\n%%Pages: 1000000\n")).pages, 1000000);
+  EXPECT_EQ(documentInfo(write("b.ps", "%!PS\n%%Pages: 2000000000\n")).pages, 0);
+  EXPECT_EQ(documentInfo(write("c.ps", "%!PS\n%%Pages: 99999999999999\n")).pages, 0);
+}
+
 TEST_F(DocumentInfoTest, CountsAPictureAsOnePage) {
   const QString path = folder.filePath("a.png");
   ASSERT_TRUE(QImage(4, 4, QImage::Format_RGB32).save(path));

@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
+#include <QTemporaryDir>
+
 #include "host/session/PrintSession.h"
 #include "tests/support/Printers.h"
 
@@ -76,6 +79,27 @@ TEST_F(JobWarnings, CountTheSheetsOfASaddleFoldByTheLayout) {
 TEST_F(JobWarnings, DoNotJudgeADocumentOfUnknownLength) {
   session->ticket().setValue("OVKEnableBooklet", "True");
   EXPECT_EQ(jobWarnings(*session, 0), QStringList());
+}
+
+TEST_F(JobWarnings, NameRangesThatCanNotBeRead) {
+  JobSettings settings;
+  settings.pageRangesProblem = QStringLiteral("3-x: not a page range");
+  session->setJobSettings(settings);
+  EXPECT_EQ(jobWarnings(*session, 8), QStringList{"3-x: not a page range"});
+}
+
+TEST(MaximumBookletSheets, AreThePrintersOrWhatIsUsual) {
+  QTemporaryDir folder;
+  const QString path = folder.filePath("folder.ppd");
+  QFile original(QStringLiteral(ORVEK_SOURCE_DIR "/printers/Orvek-6180.ppd"));
+  ASSERT_TRUE(original.open(QIODevice::ReadOnly));
+  QFile changed(path);
+  ASSERT_TRUE(changed.open(QIODevice::WriteOnly));
+  changed.write(original.readAll().replace("*OVKBookletMaximumSheets: \"15\"",
+                                           "*OVKBookletMaximumSheets: \"3\""));
+  changed.close();
+  EXPECT_EQ(maximumBookletSheets(PrinterDescription::open(path).take()->ppd()), 3);
+  EXPECT_EQ(maximumBookletSheets(nullptr), 15);
 }
 
 TEST(JobWarningsWithoutPpd, KnowNoStaples) {
