@@ -41,27 +41,26 @@ QString valueText(ipp_attribute_t *attribute, int index) {
   }
 }
 
-/// libcups gives the keyword itself where neither the printer nor its own catalogs have a name.
-QString titleOr(const char *title, const QString &keyword, const QString &fallback) {
-  const QString text = QString::fromUtf8(title);
-  return text.isEmpty() || text == keyword ? fallback : text;
+/// libcups gives the keyword itself where neither the printer nor its own catalogs have a name: the
+/// very pointer that it was lent, so the title may live no longer than the keyword.
+QString titleOr(const char *title, const QByteArray &keyword, const QString &fallback) {
+  return title && title != keyword ? QString::fromUtf8(title) : fallback;
 }
 
-QString choiceTitle(const Queue &queue, const char *setting, const QString &keyword) {
+QString choiceTitle(const Queue &queue, const char *setting, const QString &value) {
+  const QByteArray keyword = value.toUtf8();
   const char *title = cupsLocalizeDestValue(queue.http, queue.destination, queue.details, setting,
-                                            keyword.toUtf8().constData());
-  return titleOr(title, keyword, plainChoiceTitle(QString::fromLatin1(setting), keyword));
+                                            keyword.constData());
+  return titleOr(title, keyword, plainChoiceTitle(QString::fromLatin1(setting), value));
 }
 
-QString settingTitle(const Queue &queue, const QString &keyword) {
-  const char *title = cupsLocalizeDestOption(queue.http, queue.destination, queue.details,
-                                             keyword.toUtf8().constData());
-  return titleOr(title, keyword, plainSettingTitle(keyword));
+QString settingTitle(const Queue &queue, const char *setting) {
+  const char *title = cupsLocalizeDestOption(queue.http, queue.destination, queue.details, setting);
+  return titleOr(title, setting, plainSettingTitle(QString::fromLatin1(setting)));
 }
 
 SettingOffer readSetting(const Queue &queue, const char *name) {
-  const QString keyword = QString::fromLatin1(name);
-  SettingOffer setting{keyword, settingTitle(queue, keyword), {}, {}};
+  SettingOffer setting{QString::fromLatin1(name), settingTitle(queue, name), {}, {}};
   ipp_attribute_t *supported =
       cupsFindDestSupported(queue.http, queue.destination, queue.details, name);
   for (int i = 0; i < ippGetCount(supported); ++i) {

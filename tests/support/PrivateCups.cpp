@@ -10,6 +10,7 @@
 
 #include <arpa/inet.h>
 #include <gtest/gtest.h>
+#include <sys/prctl.h>
 #include <sys/socket.h>
 #include <unistd.h>
 

@@ -135,7 +135,7 @@ QByteArray optionGroup(int number) {
 
 TEST_F(QueuePPDTest, MayHaveFiveThousandOptions) {
   constexpr int kOptions = 5000;
-  constexpr int kLongest = 5000;
+  constexpr int kLongest = 10000;
   QByteArray ppd = contentsOf(orvekPPD(QStringLiteral("6180")));
   for (int i = 0; i < kOptions; ++i) ppd += optionGroup(i);
   const QString large = cache.filePath(QStringLiteral("large.ppd"));
