@@ -15,9 +15,9 @@ namespace orvek {
 namespace {
 
 constexpr int pdfLimitMilliseconds = 2000;
-constexpr qint64 commentBytes = 64 * 1024;  // DSC comments stand at the start or at the end
-constexpr int mostPages = 1'000'000;        // a file that claims more is taken for damaged
-constexpr qint64 headerBytes = 1024;        // readers look for "%PDF-" this far
+constexpr qint64 commentBytes = 65536;  // DSC comments stand at the start or at the end
+constexpr int mostPages = 1'000'000;    // a file that claims more is taken for damaged
+constexpr qint64 headerBytes = 1024;    // readers look for "%PDF-" this far
 
 struct Words {
   Q_DECLARE_TR_FUNCTIONS(orvek::DocumentInfo)
