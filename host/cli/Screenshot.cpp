@@ -20,7 +20,7 @@ Failure notWritten(const QString &path, const QString &why) {
 
 // Shown without a screen, so that sizes, styles and texts are those of the real window.
 QImage renderDialog(const CommandLine &line, PrintSession &session) {
-  DialogSetup setup = dialogSetupFor(line);
+  DialogSetup setup = dialogSetupFor(line, session);
   if (!setup.document.path.isEmpty()) setup.document = documentInfo(setup.document.path);
   PrintDialog dialog(session, std::move(setup));
   dialog.setAttribute(Qt::WA_DontShowOnScreen);

@@ -5,6 +5,7 @@
 
 #include <QFileInfo>
 #include <QTimer>
+#include <optional>
 
 #include "host/cli/Console.h"
 #include "host/cli/Headless.h"
@@ -40,12 +41,12 @@ Status tellOutcome(const CommandLine &line, const PrintDialog &dialog) {
   return writeToStandardOutput(words.toUtf8() + '\n');
 }
 
-// A session on a queue chosen in the window; what was entered goes along by itself.
+// A session on a printer chosen in the window; what was entered goes along by itself.
 Result<std::unique_ptr<PrintSession>> openPrinter(const CommandLine &line,
-                                                  const QString &destination) {
+                                                  const QString &destination, const QString &ppd) {
   CommandLine other = line;
   other.destination = destination;
-  other.ppd = QString();
+  other.ppd = ppd;
   other.ticket = QString();
   other.preset = QString();
   other.options.clear();
@@ -53,29 +54,47 @@ Result<std::unique_ptr<PrintSession>> openPrinter(const CommandLine &line,
   return startSession(other);
 }
 
+struct Opened {
+  std::unique_ptr<PrintSession> session;
+  std::optional<Failure> problem;  ///< why it is a session without a printer
+};
+
+// Where no server answers, the window is where the user can do something about it.
+Result<Opened> openSession(const CommandLine &line) {
+  Result<std::unique_ptr<PrintSession>> started = startSession(line);
+  if (started) return Opened{started.take(), {}};
+  if (!line.ppd.isNull() || started.failure().kind != FailureKind::Io) return started.failure();
+  Result<std::unique_ptr<PrintSession>> empty = PrintSession::begin({});
+  if (!empty) return empty.failure();
+  return Opened{empty.take(), started.failure()};
+}
+
 }  // namespace
 
-DialogSetup dialogSetupFor(const CommandLine &line) {
+DialogSetup dialogSetupFor(const CommandLine &line, const PrintSession &session) {
   DialogSetup setup;
+  if (line.output.isNull()) setup.destination = session.destination();
   setup.documentName = line.title.isNull() ? namesOf(line.files) : line.title;
   if (line.files.size() == 1) setup.document.path = line.files.first();
   setup.openPrinter = [&line](const QString &destination) {
-    return openPrinter(line, destination);
+    return openPrinter(line, destination, QString());
   };
+  setup.openDescription = [&line](const QString &ppd) { return openPrinter(line, QString(), ppd); };
   setup.presets = std::make_shared<PresetStore>();
   setup.server.server = line.server;
   setup.server.user = line.user;
-  setup.jobRequest = [&line](const PrintSession &session) { return jobRequestFor(line, session); };
+  setup.jobRequest = [&line](const PrintSession &now) { return jobRequestFor(line, now); };
   return setup;
 }
 
 Status runWindow(const CommandLine &line) {
   if (Status checked = checkDocuments(line.files); !checked) return checked;
-  Result<std::unique_ptr<PrintSession>> started = startSession(line);
-  if (!started) return started.failure();
-  PrintSession &session = *started.value();
+  Result<Opened> opened = openSession(line);
+  if (!opened) return opened.failure();
+  PrintSession &session = *opened.value().session;
   if (Status done = runActions(line, session); !done) return done;
-  PrintDialog dialog(session, dialogSetupFor(line));
+  PrintDialog dialog(session, dialogSetupFor(line, session));
+  if (opened.value().problem) dialog.showProblem(*opened.value().problem);
   QTimer::singleShot(0, &dialog, &PrintDialog::lookAround);
   dialog.exec();
   if (Status told = tellOutcome(line, dialog); !told) return told;

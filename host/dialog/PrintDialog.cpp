@@ -104,6 +104,7 @@ QWidget *PrintDialog::buildChoosers() {
 
 void PrintDialog::connectParts() {
   connect(m_printers, &PrinterChooser::chosen, this, &PrintDialog::choosePrinter);
+  connect(m_printers, &PrinterChooser::descriptionAsked, this, &PrintDialog::chooseDescription);
   if (m_presets != nullptr) {
     connect(m_presets, &PresetChooser::picked, this, &PrintDialog::applyPicked);
     connect(m_presets, &PresetChooser::failed, this, &PrintDialog::showProblem);
@@ -143,6 +144,7 @@ void PrintDialog::showHeader() {
   const QString pages = pagesInWords(m_setup.document.pages);
   m_document->setTexts(m_setup.documentName, pages.isNull() ? tr("Document") : pages);
   m_printers->setFileModel(m_session->printer() ? m_session->printer()->modelName() : QString());
+  m_printers->setFileIsPossible(m_session->printer() != nullptr);
   m_printers->show(m_setup.destination);
   if (m_presets != nullptr) m_presets->reload(m_setup.destination);
   updateControls();

@@ -34,7 +34,7 @@ class SessionView;
 /// What a window is made for, besides the session.
 struct DialogSetup {
   using OpenPrinter =
-      std::function<Result<std::unique_ptr<PrintSession>>(const QString &destination)>;
+      std::function<Result<std::unique_ptr<PrintSession>>(const QString &destinationOrPath)>;
 
   QString documentName;   ///< for people
   DocumentInfo document;  ///< what is known of it; more may come with setDocument
@@ -46,6 +46,7 @@ struct DialogSetup {
   std::function<JobRequest(const PrintSession &)> jobRequest;
 
   OpenPrinter openPrinter;               ///< a session on another queue, its panels open
+  OpenPrinter openDescription;           ///< the same for the PPD file of this path
   std::shared_ptr<PresetStore> presets;  ///< null: no presets
 };
 
@@ -69,6 +70,9 @@ class PrintDialog final : public QDialog {
   const std::optional<JobOutcome> &outcome() const { return m_outcome; }
   const JobRequest &request() const { return m_request; }
 
+  /// Says what went wrong, above the pages.
+  void showProblem(const Failure &failure);
+
   /// Prints as the Print button does.
   void print();
 
@@ -88,12 +92,14 @@ class PrintDialog final : public QDialog {
   void showHeader();
   void showNotice(const QStringList &sentences);
   void showEarlierNotices();
-  void showProblem(const Failure &failure);
   void sessionChanged();
   void makeRoom();
 
   // Other printers, presets
   void choosePrinter(const QString &destination);
+  void chooseDescription();
+  void moveTo(const DialogSetup::OpenPrinter &open, const QString &what,
+              const QString &destination);
   void takeSession(std::unique_ptr<PrintSession> session, const QString &destination);
   void applyPicked(const Preset &preset);
   void showMisfits(const QString &opening, const QList<PresetMisfit> &misfits);

@@ -2,6 +2,7 @@
 // Another printer, another session: what was entered goes along as far as it fits. Presets go the
 // same way.
 
+#include <QFileDialog>
 #include <QGuiApplication>
 #include <QLayout>
 #include <utility>
@@ -13,16 +14,29 @@
 namespace orvek {
 
 void PrintDialog::choosePrinter(const QString &destination) {
-  if (destination.isEmpty() || !m_setup.openPrinter) {
-    m_setup.destination = destination;
+  if (destination.isEmpty()) {
+    m_setup.destination = QString();
     showHeader();
     return;
   }
+  moveTo(m_setup.openPrinter, destination, destination);
+}
+
+void PrintDialog::chooseDescription() {
+  const QString path = QFileDialog::getOpenFileName(this, tr("Open a Printer Description"), {},
+                                                    tr("Printer descriptions (*.ppd *.ppd.gz)"));
+  m_printers->show(m_setup.destination);
+  if (!path.isEmpty()) moveTo(m_setup.openDescription, path, {});
+}
+
+void PrintDialog::moveTo(const DialogSetup::OpenPrinter &open, const QString &what,
+                         const QString &destination) {
+  m_printers->show(m_setup.destination);
+  if (!open) return;
   QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-  Result<std::unique_ptr<PrintSession>> opened = m_setup.openPrinter(destination);
+  Result<std::unique_ptr<PrintSession>> opened = open(what);
   QGuiApplication::restoreOverrideCursor();
   if (!opened) {
-    m_printers->show(m_setup.destination);
     showProblem(opened.failure());
     return;
   }

@@ -14,6 +14,7 @@
 namespace orvek {
 namespace {
 
+constexpr int kindRole = Qt::UserRole + 1;  // true: the item that opens a description
 constexpr int leastCharacters = 28;
 constexpr int mostVisibleItems = 16;
 const QString separator = QStringLiteral(" · ");
@@ -53,12 +54,17 @@ PrinterChooser::PrinterChooser(ServerAccess access, QWidget *parent)
   column->addWidget(m_menu);
   column->addWidget(m_detail);
   setFocusProxy(m_menu);
-  connect(m_menu, &QComboBox::activated, this, [this] {
-    const QString destination = m_menu->currentData().toString();
-    if (destination == m_destination) return;
-    Q_EMIT chosen(destination);
-  });
+  connect(m_menu, &QComboBox::activated, this, &PrinterChooser::pick);
   fill({});
+}
+
+void PrinterChooser::pick() {
+  if (m_menu->currentData(kindRole).toBool()) {
+    Q_EMIT descriptionAsked();
+    return;
+  }
+  const QString destination = m_menu->currentData().toString();
+  if (destination != m_destination) Q_EMIT chosen(destination);
 }
 
 void PrinterChooser::refresh() {
@@ -88,6 +94,11 @@ void PrinterChooser::setFileModel(const QString &model) {
   fill(m_destination);
 }
 
+void PrinterChooser::setFileIsPossible(bool isPossible) {
+  m_fileIsPossible = isPossible;
+  fill(m_destination);
+}
+
 QString PrinterChooser::destination() const {
   return m_destination;
 }
@@ -96,7 +107,11 @@ void PrinterChooser::fill(const QString &destination) {
   const QSignalBlocker quiet(m_menu);
   m_destination = destination;
   m_menu->clear();
-  m_menu->addItem(m_fileModel.isEmpty() ? tr("File") : tr("File (%1)").arg(m_fileModel), QString());
+  if (m_fileIsPossible) {
+    m_menu->addItem(m_fileModel.isEmpty() ? tr("File") : tr("File (%1)").arg(m_fileModel));
+  } else {
+    addNote(tr("File (needs a printer description)"));
+  }
   for (const Printer &printer : m_printers) {
     m_menu->addItem(titleOf(printer), printer.destination());
     const int row = m_menu->count() - 1;
@@ -108,21 +123,23 @@ void PrinterChooser::fill(const QString &destination) {
   if (!destination.isEmpty() && m_menu->findData(destination) < 0) {
     m_menu->addItem(destination, destination);
   }
-  addProblem();
+  if (!m_problem.isNull()) addNote(tr("No printers: %1").arg(m_problem));
+  m_menu->addItem(tr("Open Printer Description…"));
+  m_menu->setItemData(m_menu->count() - 1, true, kindRole);
   m_menu->setCurrentIndex(destination.isEmpty() ? 0 : m_menu->findData(destination));
   showDetail();
 }
 
-// A list without queues says why.
-void PrinterChooser::addProblem() {
-  if (m_problem.isNull()) return;
-  m_menu->addItem(tr("No printers: %1").arg(m_problem));
+void PrinterChooser::addNote(const QString &text) {
+  m_menu->addItem(text);
   auto *items = qobject_cast<QStandardItemModel *>(m_menu->model());
   items->item(m_menu->count() - 1)->setEnabled(false);
 }
 
 void PrinterChooser::showDetail() {
-  QString detail = m_destination.isEmpty() ? tr("Prints into a file") : m_problem;
+  const QString file = m_fileIsPossible ? tr("Prints into a file")
+                                        : tr("Choose a printer, or open a printer description");
+  QString detail = m_destination.isEmpty() ? file : m_problem;
   for (const Printer &printer : m_printers) {
     if (printer.destination() == m_destination && m_problem.isNull()) detail = detailOf(printer);
   }

@@ -29,12 +29,18 @@ class PrinterChooser final : public QWidget {
   /// What a file is printed for.
   void setFileModel(const QString &model);
 
+  /// Without a printer description nothing can be printed into a file.
+  void setFileIsPossible(bool isPossible);
+
   QString destination() const;
   QComboBox *menu() const { return m_menu; }
 
  Q_SIGNALS:
   /// The user picked another one.
   void chosen(const QString &destination);
+
+  /// The user wants a printer description from a file.
+  void descriptionAsked();
 
   /// The server answered, or said why not.
   void listed();
@@ -44,7 +50,8 @@ class PrinterChooser final : public QWidget {
 
   void take(const Answer &answer);
   void fill(const QString &destination);
-  void addProblem();
+  void pick();
+  void addNote(const QString &text);
   void showDetail();
 
   ServerAccess m_access;
@@ -52,6 +59,7 @@ class PrinterChooser final : public QWidget {
   QString m_problem;  // why there is no list; null: there is one, or nobody asked yet
   QString m_destination;
   QString m_fileModel;
+  bool m_fileIsPossible = true;
   QComboBox *m_menu;
   ElidedLabel *m_detail;
   BackgroundTask m_task;  // the last: it ends before what it reports to

@@ -66,7 +66,7 @@ class DialogTest : public ::testing::Test {
     JobRequest request;
     request.files = files;
     request.options = now.jobOptions();
-    request.ppdFile = now.printer()->path();
+    if (now.printer()) request.ppdFile = now.printer()->path();
     request.outputFile = outputFile;
     return request;
   }

@@ -110,10 +110,21 @@ TEST_F(PrinterChoice, SaysWhyThereAreNoPrinters) {
   server->stop();
   list();
   auto *menu = find<QComboBox>("printerMenu");
-  const int last = menu->count() - 1;
+  const int last = menu->count() - 2;  // the last one opens a printer description
   EXPECT_TRUE(menu->itemText(last).startsWith(QStringLiteral("No printers")));
   EXPECT_FALSE(qobject_cast<QStandardItemModel *>(menu->model())->item(last)->isEnabled());
   EXPECT_TRUE(find<QPushButton>("printButton")->isEnabled());
+}
+
+TEST_F(PrinterChoice, WithoutAPrinterSaysWhatToDo) {
+  session = PrintSession::begin({}).take();
+  showWindow();
+  EXPECT_FALSE(find<QPushButton>("printButton")->isEnabled());
+  EXPECT_TRUE(detail().contains(QStringLiteral("printer description"))) << detail().toStdString();
+  list();
+  clickItem("printerMenu", QStringLiteral("big"));
+  EXPECT_TRUE(find<QPushButton>("printButton")->isEnabled());
+  EXPECT_NE(find<QComboBox>("foldingPopup"), nullptr);
 }
 
 }  // namespace
