@@ -3,8 +3,15 @@
 
 #include "host/presets/PresetFit.h"
 
+#include <QCoreApplication>
+
 namespace orvek {
 namespace {
+
+/// The words of this file, for translation.
+struct Text {
+  Q_DECLARE_TR_FUNCTIONS(orvek::PresetFit)
+};
 
 const char *const kEquipmentGroup = "InstallableOptions";
 
@@ -38,14 +45,14 @@ void fitOption(const QString &keyword, const QString &choice, ppd_file_t *ppd, P
     fit.misfits << PresetMisfit{keyword, choice, why};
   };
   ppd_option_t *option = ppd ? ppdFindOption(ppd, keyword.toUtf8().constData()) : nullptr;
-  if (!option) return misfit(QStringLiteral("this printer has no option \"%1\"").arg(keyword));
+  if (!option) return misfit(Text::tr("this printer has no option \"%1\"").arg(keyword));
   if (isEquipment(*ppd, option))
-    return misfit(QStringLiteral("\"%1\" is installed equipment, which a preset does not change")
+    return misfit(Text::tr("\"%1\" is installed equipment, which a preset does not change")
                       .arg(nameOf(*option)));
   const ppd_choice_t *found = ppdFindChoice(option, choice.toUtf8().constData());
   if (!found)
     return misfit(
-        QStringLiteral("\"%1\" of this printer has no choice \"%2\"").arg(nameOf(*option), choice));
+        Text::tr("\"%1\" of this printer has no choice \"%2\"").arg(nameOf(*option), choice));
   fit.options.insert(QString::fromUtf8(option->keyword), spelledChoice(*found, choice));
 }
 

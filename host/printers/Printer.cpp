@@ -3,42 +3,48 @@
 
 #include "host/printers/Printer.h"
 
+#include <QCoreApplication>
+
 namespace orvek {
 namespace {
+
+/// The words of this file, for translation.
+struct Text {
+  Q_DECLARE_TR_FUNCTIONS(orvek::Printer)
+};
 
 /// Keywords of RFC 8011 and of CUPS that people meet, without their severity.
 const QMap<QString, QString> &knownReasons() {
   static const QMap<QString, QString> reasons{
-      {QStringLiteral("connecting-to-device"), QStringLiteral("Connecting to the printer")},
-      {QStringLiteral("cover-open"), QStringLiteral("A cover is open")},
+      {QStringLiteral("connecting-to-device"), Text::tr("Connecting to the printer")},
+      {QStringLiteral("cover-open"), Text::tr("A cover is open")},
       {QStringLiteral("cups-insecure-filter"),
-       QStringLiteral("The printer's filter can be changed by others and is not run")},
-      {QStringLiteral("cups-missing-filter"), QStringLiteral("The printer's filter is missing")},
-      {QStringLiteral("door-open"), QStringLiteral("A door is open")},
-      {QStringLiteral("input-tray-missing"), QStringLiteral("A paper tray is missing")},
-      {QStringLiteral("marker-supply-empty"), QStringLiteral("Toner or ink is empty")},
-      {QStringLiteral("marker-supply-low"), QStringLiteral("Toner or ink is low")},
-      {QStringLiteral("marker-waste-almost-full"),
-       QStringLiteral("The waste container is almost full")},
-      {QStringLiteral("marker-waste-full"), QStringLiteral("The waste container is full")},
-      {QStringLiteral("media-empty"), QStringLiteral("Out of paper")},
-      {QStringLiteral("media-jam"), QStringLiteral("Paper jam")},
-      {QStringLiteral("media-low"), QStringLiteral("Paper is low")},
-      {QStringLiteral("media-needed"), QStringLiteral("Paper has to be put in")},
-      {QStringLiteral("moving-to-paused"), QStringLiteral("Stopping")},
-      {QStringLiteral("offline"), QStringLiteral("The printer is offline")},
-      {QStringLiteral("other"), QStringLiteral("The printer reports a problem")},
-      {QStringLiteral("output-area-almost-full"), QStringLiteral("The output tray is almost full")},
-      {QStringLiteral("output-area-full"), QStringLiteral("The output tray is full")},
-      {QStringLiteral("output-tray-missing"), QStringLiteral("The output tray is missing")},
-      {QStringLiteral("paused"), QStringLiteral("Paused")},
-      {QStringLiteral("shutdown"), QStringLiteral("The printer is switched off")},
-      {QStringLiteral("spool-area-full"), QStringLiteral("The printer's memory is full")},
-      {QStringLiteral("stopped-partly"), QStringLiteral("Part of the printer is stopped")},
-      {QStringLiteral("stopping"), QStringLiteral("Stopping")},
-      {QStringLiteral("timed-out"), QStringLiteral("The printer does not answer")},
-      {QStringLiteral("toner-empty"), QStringLiteral("Toner is empty")},
-      {QStringLiteral("toner-low"), QStringLiteral("Toner is low")},
+       Text::tr("The printer's filter can be changed by others and is not run")},
+      {QStringLiteral("cups-missing-filter"), Text::tr("The printer's filter is missing")},
+      {QStringLiteral("door-open"), Text::tr("A door is open")},
+      {QStringLiteral("input-tray-missing"), Text::tr("A paper tray is missing")},
+      {QStringLiteral("marker-supply-empty"), Text::tr("Toner or ink is empty")},
+      {QStringLiteral("marker-supply-low"), Text::tr("Toner or ink is low")},
+      {QStringLiteral("marker-waste-almost-full"), Text::tr("The waste container is almost full")},
+      {QStringLiteral("marker-waste-full"), Text::tr("The waste container is full")},
+      {QStringLiteral("media-empty"), Text::tr("Out of paper")},
+      {QStringLiteral("media-jam"), Text::tr("Paper jam")},
+      {QStringLiteral("media-low"), Text::tr("Paper is low")},
+      {QStringLiteral("media-needed"), Text::tr("Paper has to be put in")},
+      {QStringLiteral("moving-to-paused"), Text::tr("Stopping")},
+      {QStringLiteral("offline"), Text::tr("The printer is offline")},
+      {QStringLiteral("other"), Text::tr("The printer reports a problem")},
+      {QStringLiteral("output-area-almost-full"), Text::tr("The output tray is almost full")},
+      {QStringLiteral("output-area-full"), Text::tr("The output tray is full")},
+      {QStringLiteral("output-tray-missing"), Text::tr("The output tray is missing")},
+      {QStringLiteral("paused"), Text::tr("Paused")},
+      {QStringLiteral("shutdown"), Text::tr("The printer is switched off")},
+      {QStringLiteral("spool-area-full"), Text::tr("The printer's memory is full")},
+      {QStringLiteral("stopped-partly"), Text::tr("Part of the printer is stopped")},
+      {QStringLiteral("stopping"), Text::tr("Stopping")},
+      {QStringLiteral("timed-out"), Text::tr("The printer does not answer")},
+      {QStringLiteral("toner-empty"), Text::tr("Toner is empty")},
+      {QStringLiteral("toner-low"), Text::tr("Toner is low")},
   };
   return reasons;
 }
@@ -71,19 +77,19 @@ QString stateInWords(const Printer &printer) {
   QString words;
   switch (printer.state) {
     case PrinterState::Idle:
-      words = QStringLiteral("Idle");
+      words = Text::tr("Idle");
       break;
     case PrinterState::Printing:
-      words = QStringLiteral("Printing");
+      words = Text::tr("Printing");
       break;
     case PrinterState::Stopped:
-      words = QStringLiteral("Stopped");
+      words = Text::tr("Stopped");
       break;
     case PrinterState::Unknown:
-      words = QStringLiteral("State unknown");
+      words = Text::tr("State unknown");
       break;
   }
-  return printer.acceptsJobs ? words : QString(words + QStringLiteral(", takes no jobs"));
+  return printer.acceptsJobs ? words : QString(words + Text::tr(", takes no jobs"));
 }
 
 }  // namespace orvek

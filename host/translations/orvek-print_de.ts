@@ -21,6 +21,45 @@
     </message>
 </context>
 <context>
+    <name>orvek::BookletPreview</name>
+    <message>
+        <source>1 sheet</source>
+        <translation>1 Blatt</translation>
+    </message>
+    <message>
+        <source>%1 sheets</source>
+        <translation>%1 Blatt</translation>
+    </message>
+    <message>
+        <source>Booklet preview</source>
+        <translation>Vorschau der Broschüre</translation>
+    </message>
+    <message>
+        <source>Booklet printing is off: pages are printed one after the other.</source>
+        <translation>Broschürendruck ist aus: Die Seiten werden nacheinander gedruckt.</translation>
+    </message>
+    <message>
+        <source>No page of the document is printed.</source>
+        <translation>Keine Seite des Dokuments wird gedruckt.</translation>
+    </message>
+    <message>
+        <source>The document's page count is not known; a sample of %1 pages is shown</source>
+        <translation>Seitenzahl des Dokuments unbekannt; Beispiel mit %1 Seiten</translation>
+    </message>
+    <message>
+        <source>%1 pages on %2</source>
+        <translation>%1 Seiten auf %2</translation>
+    </message>
+    <message>
+        <source>read from right to left</source>
+        <translation>von rechts nach links gelesen</translation>
+    </message>
+    <message>
+        <source>creep shown %1 times as large</source>
+        <translation>Bundzuwachs %1-fach vergrößert dargestellt</translation>
+    </message>
+</context>
+<context>
     <name>orvek::CopiesRow</name>
     <message>
         <source>Copies</source>
@@ -378,6 +417,32 @@
     </message>
 </context>
 <context>
+    <name>orvek::PresetFit</name>
+    <message>
+        <source>this printer has no option "%1"</source>
+        <translation>dieser Drucker hat keine Option „%1“</translation>
+    </message>
+    <message>
+        <source>"%1" is installed equipment, which a preset does not change</source>
+        <translation>„%1“ ist eingebaute Ausstattung; eine Voreinstellung ändert sie nicht</translation>
+    </message>
+    <message>
+        <source>"%1" of this printer has no choice "%2"</source>
+        <translation>„%1“ hat bei diesem Drucker keine Auswahl „%2“</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PreviewState</name>
+    <message>
+        <source>empty</source>
+        <translation>leer</translation>
+    </message>
+    <message>
+        <source>Sheet %1: front %2 and %3, back %4 and %5</source>
+        <translation>Blatt %1: vorn %2 und %3, hinten %4 und %5</translation>
+    </message>
+</context>
+<context>
     <name>orvek::PrintDialog</name>
     <message>
         <source>Print</source>
@@ -427,6 +492,145 @@
         <source>%1 and %2 more</source>
         <translation>%1 und %2 weitere</translation>
     </message>
+    <message>
+        <source>Open a Printer Description</source>
+        <translation>Druckerbeschreibung öffnen</translation>
+    </message>
+    <message>
+        <source>Printer descriptions (*.ppd *.ppd.gz)</source>
+        <translation>Druckerbeschreibungen (*.ppd *.ppd.gz)</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::Printer</name>
+    <message>
+        <source>Connecting to the printer</source>
+        <translation>Verbindung zum Drucker wird hergestellt</translation>
+    </message>
+    <message>
+        <source>A cover is open</source>
+        <translation>Eine Abdeckung ist offen</translation>
+    </message>
+    <message>
+        <source>The printer's filter can be changed by others and is not run</source>
+        <translation>Der Filter des Druckers kann von anderen geändert werden und läuft nicht</translation>
+    </message>
+    <message>
+        <source>The printer's filter is missing</source>
+        <translation>Der Filter des Druckers fehlt</translation>
+    </message>
+    <message>
+        <source>A door is open</source>
+        <translation>Eine Klappe ist offen</translation>
+    </message>
+    <message>
+        <source>A paper tray is missing</source>
+        <translation>Ein Papierfach fehlt</translation>
+    </message>
+    <message>
+        <source>Toner or ink is empty</source>
+        <translation>Toner oder Tinte ist leer</translation>
+    </message>
+    <message>
+        <source>Toner or ink is low</source>
+        <translation>Toner oder Tinte geht zur Neige</translation>
+    </message>
+    <message>
+        <source>The waste container is almost full</source>
+        <translation>Der Resttonerbehälter ist fast voll</translation>
+    </message>
+    <message>
+        <source>The waste container is full</source>
+        <translation>Der Resttonerbehälter ist voll</translation>
+    </message>
+    <message>
+        <source>Out of paper</source>
+        <translation>Kein Papier</translation>
+    </message>
+    <message>
+        <source>Paper jam</source>
+        <translation>Papierstau</translation>
+    </message>
+    <message>
+        <source>Paper is low</source>
+        <translation>Wenig Papier</translation>
+    </message>
+    <message>
+        <source>Paper has to be put in</source>
+        <translation>Papier muss eingelegt werden</translation>
+    </message>
+    <message>
+        <source>Stopping</source>
+        <translation>Wird angehalten</translation>
+    </message>
+    <message>
+        <source>The printer is offline</source>
+        <translation>Der Drucker ist offline</translation>
+    </message>
+    <message>
+        <source>The printer reports a problem</source>
+        <translation>Der Drucker meldet ein Problem</translation>
+    </message>
+    <message>
+        <source>The output tray is almost full</source>
+        <translation>Das Ausgabefach ist fast voll</translation>
+    </message>
+    <message>
+        <source>The output tray is full</source>
+        <translation>Das Ausgabefach ist voll</translation>
+    </message>
+    <message>
+        <source>The output tray is missing</source>
+        <translation>Das Ausgabefach fehlt</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message>
+        <source>The printer is switched off</source>
+        <translation>Der Drucker ist ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>The printer's memory is full</source>
+        <translation>Der Speicher des Druckers ist voll</translation>
+    </message>
+    <message>
+        <source>Part of the printer is stopped</source>
+        <translation>Ein Teil des Druckers steht still</translation>
+    </message>
+    <message>
+        <source>The printer does not answer</source>
+        <translation>Der Drucker antwortet nicht</translation>
+    </message>
+    <message>
+        <source>Toner is empty</source>
+        <translation>Toner ist leer</translation>
+    </message>
+    <message>
+        <source>Toner is low</source>
+        <translation>Toner geht zur Neige</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Druckt</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Angehalten</translation>
+    </message>
+    <message>
+        <source>State unknown</source>
+        <translation>Zustand unbekannt</translation>
+    </message>
+    <message>
+        <source>, takes no jobs</source>
+        <translation>, nimmt keine Aufträge an</translation>
+    </message>
 </context>
 <context>
     <name>orvek::PrinterChooser</name>
@@ -454,6 +658,18 @@
         <source>Prints into a file</source>
         <translation>Druckt in eine Datei</translation>
     </message>
+    <message>
+        <source>File (needs a printer description)</source>
+        <translation>Datei (braucht eine Druckerbeschreibung)</translation>
+    </message>
+    <message>
+        <source>Open Printer Description…</source>
+        <translation>Druckerbeschreibung öffnen…</translation>
+    </message>
+    <message>
+        <source>Choose a printer, or open a printer description</source>
+        <translation>Drucker wählen oder Druckerbeschreibung öffnen</translation>
+    </message>
 </context>
 <context>
     <name>orvek::SessionView</name>
@@ -472,6 +688,17 @@
     <message>
         <source>More Options</source>
         <translation>Weitere Optionen</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SheetsView</name>
+    <message>
+        <source>Sheet %1, front</source>
+        <translation>Blatt %1, vorn</translation>
+    </message>
+    <message>
+        <source>Sheet %1, back</source>
+        <translation>Blatt %1, hinten</translation>
     </message>
 </context>
 <context>

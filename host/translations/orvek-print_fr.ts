@@ -21,6 +21,45 @@
     </message>
 </context>
 <context>
+    <name>orvek::BookletPreview</name>
+    <message>
+        <source>1 sheet</source>
+        <translation>1 feuille</translation>
+    </message>
+    <message>
+        <source>%1 sheets</source>
+        <translation>%1 feuilles</translation>
+    </message>
+    <message>
+        <source>Booklet preview</source>
+        <translation>Aperçu du livret</translation>
+    </message>
+    <message>
+        <source>Booklet printing is off: pages are printed one after the other.</source>
+        <translation>L’impression en livret est désactivée : les pages s’impriment l’une après l’autre.</translation>
+    </message>
+    <message>
+        <source>No page of the document is printed.</source>
+        <translation>Aucune page du document n’est imprimée.</translation>
+    </message>
+    <message>
+        <source>The document's page count is not known; a sample of %1 pages is shown</source>
+        <translation>Nombre de pages inconnu ; exemple de %1 pages</translation>
+    </message>
+    <message>
+        <source>%1 pages on %2</source>
+        <translation>%1 pages sur %2</translation>
+    </message>
+    <message>
+        <source>read from right to left</source>
+        <translation>lecture de droite à gauche</translation>
+    </message>
+    <message>
+        <source>creep shown %1 times as large</source>
+        <translation>compensation montrée %1 fois plus grande</translation>
+    </message>
+</context>
+<context>
     <name>orvek::CopiesRow</name>
     <message>
         <source>Copies</source>
@@ -378,6 +417,32 @@
     </message>
 </context>
 <context>
+    <name>orvek::PresetFit</name>
+    <message>
+        <source>this printer has no option "%1"</source>
+        <translation>cette imprimante n’a pas d’option « %1 »</translation>
+    </message>
+    <message>
+        <source>"%1" is installed equipment, which a preset does not change</source>
+        <translation>« %1 » est un équipement installé, qu’un préréglage ne change pas</translation>
+    </message>
+    <message>
+        <source>"%1" of this printer has no choice "%2"</source>
+        <translation>« %1 » n’a pas de choix « %2 » sur cette imprimante</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PreviewState</name>
+    <message>
+        <source>empty</source>
+        <translation>vide</translation>
+    </message>
+    <message>
+        <source>Sheet %1: front %2 and %3, back %4 and %5</source>
+        <translation>Feuille %1 : recto %2 et %3, verso %4 et %5</translation>
+    </message>
+</context>
+<context>
     <name>orvek::PrintDialog</name>
     <message>
         <source>Print</source>
@@ -427,6 +492,145 @@
         <source>%1 and %2 more</source>
         <translation>%1 et %2 autres</translation>
     </message>
+    <message>
+        <source>Open a Printer Description</source>
+        <translation>Ouvrir une description d’imprimante</translation>
+    </message>
+    <message>
+        <source>Printer descriptions (*.ppd *.ppd.gz)</source>
+        <translation>Descriptions d’imprimante (*.ppd *.ppd.gz)</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::Printer</name>
+    <message>
+        <source>Connecting to the printer</source>
+        <translation>Connexion à l’imprimante</translation>
+    </message>
+    <message>
+        <source>A cover is open</source>
+        <translation>Un capot est ouvert</translation>
+    </message>
+    <message>
+        <source>The printer's filter can be changed by others and is not run</source>
+        <translation>Le filtre de l’imprimante est modifiable par d’autres et n’est pas exécuté</translation>
+    </message>
+    <message>
+        <source>The printer's filter is missing</source>
+        <translation>Le filtre de l’imprimante manque</translation>
+    </message>
+    <message>
+        <source>A door is open</source>
+        <translation>Une porte est ouverte</translation>
+    </message>
+    <message>
+        <source>A paper tray is missing</source>
+        <translation>Un bac à papier manque</translation>
+    </message>
+    <message>
+        <source>Toner or ink is empty</source>
+        <translation>Plus de toner ni d’encre</translation>
+    </message>
+    <message>
+        <source>Toner or ink is low</source>
+        <translation>Toner ou encre presque épuisé</translation>
+    </message>
+    <message>
+        <source>The waste container is almost full</source>
+        <translation>Le bac de récupération est presque plein</translation>
+    </message>
+    <message>
+        <source>The waste container is full</source>
+        <translation>Le bac de récupération est plein</translation>
+    </message>
+    <message>
+        <source>Out of paper</source>
+        <translation>Plus de papier</translation>
+    </message>
+    <message>
+        <source>Paper jam</source>
+        <translation>Bourrage papier</translation>
+    </message>
+    <message>
+        <source>Paper is low</source>
+        <translation>Peu de papier</translation>
+    </message>
+    <message>
+        <source>Paper has to be put in</source>
+        <translation>Du papier doit être chargé</translation>
+    </message>
+    <message>
+        <source>Stopping</source>
+        <translation>Arrêt en cours</translation>
+    </message>
+    <message>
+        <source>The printer is offline</source>
+        <translation>L’imprimante est hors ligne</translation>
+    </message>
+    <message>
+        <source>The printer reports a problem</source>
+        <translation>L’imprimante signale un problème</translation>
+    </message>
+    <message>
+        <source>The output tray is almost full</source>
+        <translation>Le bac de sortie est presque plein</translation>
+    </message>
+    <message>
+        <source>The output tray is full</source>
+        <translation>Le bac de sortie est plein</translation>
+    </message>
+    <message>
+        <source>The output tray is missing</source>
+        <translation>Le bac de sortie manque</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>En pause</translation>
+    </message>
+    <message>
+        <source>The printer is switched off</source>
+        <translation>L’imprimante est éteinte</translation>
+    </message>
+    <message>
+        <source>The printer's memory is full</source>
+        <translation>La mémoire de l’imprimante est pleine</translation>
+    </message>
+    <message>
+        <source>Part of the printer is stopped</source>
+        <translation>Une partie de l’imprimante est arrêtée</translation>
+    </message>
+    <message>
+        <source>The printer does not answer</source>
+        <translation>L’imprimante ne répond pas</translation>
+    </message>
+    <message>
+        <source>Toner is empty</source>
+        <translation>Plus de toner</translation>
+    </message>
+    <message>
+        <source>Toner is low</source>
+        <translation>Toner presque épuisé</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>Prête</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Impression</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>Arrêtée</translation>
+    </message>
+    <message>
+        <source>State unknown</source>
+        <translation>État inconnu</translation>
+    </message>
+    <message>
+        <source>, takes no jobs</source>
+        <translation>, n’accepte pas de travaux</translation>
+    </message>
 </context>
 <context>
     <name>orvek::PrinterChooser</name>
@@ -454,6 +658,18 @@
         <source>Prints into a file</source>
         <translation>Imprime dans un fichier</translation>
     </message>
+    <message>
+        <source>File (needs a printer description)</source>
+        <translation>Fichier (nécessite une description d’imprimante)</translation>
+    </message>
+    <message>
+        <source>Open Printer Description…</source>
+        <translation>Ouvrir une description d’imprimante…</translation>
+    </message>
+    <message>
+        <source>Choose a printer, or open a printer description</source>
+        <translation>Choisissez une imprimante ou ouvrez une description</translation>
+    </message>
 </context>
 <context>
     <name>orvek::SessionView</name>
@@ -472,6 +688,17 @@
     <message>
         <source>More Options</source>
         <translation>Autres options</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SheetsView</name>
+    <message>
+        <source>Sheet %1, front</source>
+        <translation>Feuille %1, recto</translation>
+    </message>
+    <message>
+        <source>Sheet %1, back</source>
+        <translation>Feuille %1, verso</translation>
     </message>
 </context>
 <context>

@@ -21,6 +21,45 @@
     </message>
 </context>
 <context>
+    <name>orvek::BookletPreview</name>
+    <message>
+        <source>1 sheet</source>
+        <translation>1 枚</translation>
+    </message>
+    <message>
+        <source>%1 sheets</source>
+        <translation>%1 枚</translation>
+    </message>
+    <message>
+        <source>Booklet preview</source>
+        <translation>小冊子のプレビュー</translation>
+    </message>
+    <message>
+        <source>Booklet printing is off: pages are printed one after the other.</source>
+        <translation>小冊子印刷はオフです。ページは順に印刷されます。</translation>
+    </message>
+    <message>
+        <source>No page of the document is printed.</source>
+        <translation>印刷されるページがありません。</translation>
+    </message>
+    <message>
+        <source>The document's page count is not known; a sample of %1 pages is shown</source>
+        <translation>文書のページ数が不明なため、%1 ページの例を示します</translation>
+    </message>
+    <message>
+        <source>%1 pages on %2</source>
+        <translation>%1 ページ、%2</translation>
+    </message>
+    <message>
+        <source>read from right to left</source>
+        <translation>右から左に読む</translation>
+    </message>
+    <message>
+        <source>creep shown %1 times as large</source>
+        <translation>クリープ補正は %1 倍で表示</translation>
+    </message>
+</context>
+<context>
     <name>orvek::CopiesRow</name>
     <message>
         <source>Copies</source>
@@ -378,6 +417,32 @@
     </message>
 </context>
 <context>
+    <name>orvek::PresetFit</name>
+    <message>
+        <source>this printer has no option "%1"</source>
+        <translation>このプリンターにオプション「%1」はありません</translation>
+    </message>
+    <message>
+        <source>"%1" is installed equipment, which a preset does not change</source>
+        <translation>「%1」は装備品のため、プリセットでは変更されません</translation>
+    </message>
+    <message>
+        <source>"%1" of this printer has no choice "%2"</source>
+        <translation>このプリンターの「%1」に選択肢「%2」はありません</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PreviewState</name>
+    <message>
+        <source>empty</source>
+        <translation>空白</translation>
+    </message>
+    <message>
+        <source>Sheet %1: front %2 and %3, back %4 and %5</source>
+        <translation>%1 枚目: 表 %2 と %3、裏 %4 と %5</translation>
+    </message>
+</context>
+<context>
     <name>orvek::PrintDialog</name>
     <message>
         <source>Print</source>
@@ -427,6 +492,145 @@
         <source>%1 and %2 more</source>
         <translation>%1 ほか %2 件</translation>
     </message>
+    <message>
+        <source>Open a Printer Description</source>
+        <translation>プリンター記述を開く</translation>
+    </message>
+    <message>
+        <source>Printer descriptions (*.ppd *.ppd.gz)</source>
+        <translation>プリンター記述 (*.ppd *.ppd.gz)</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::Printer</name>
+    <message>
+        <source>Connecting to the printer</source>
+        <translation>プリンターに接続中</translation>
+    </message>
+    <message>
+        <source>A cover is open</source>
+        <translation>カバーが開いています</translation>
+    </message>
+    <message>
+        <source>The printer's filter can be changed by others and is not run</source>
+        <translation>フィルターが他の人に変更可能なため実行されません</translation>
+    </message>
+    <message>
+        <source>The printer's filter is missing</source>
+        <translation>フィルターがありません</translation>
+    </message>
+    <message>
+        <source>A door is open</source>
+        <translation>ドアが開いています</translation>
+    </message>
+    <message>
+        <source>A paper tray is missing</source>
+        <translation>給紙トレイがありません</translation>
+    </message>
+    <message>
+        <source>Toner or ink is empty</source>
+        <translation>トナーまたはインクがありません</translation>
+    </message>
+    <message>
+        <source>Toner or ink is low</source>
+        <translation>トナーまたはインクが残りわずかです</translation>
+    </message>
+    <message>
+        <source>The waste container is almost full</source>
+        <translation>廃トナー容器がもうすぐいっぱいです</translation>
+    </message>
+    <message>
+        <source>The waste container is full</source>
+        <translation>廃トナー容器がいっぱいです</translation>
+    </message>
+    <message>
+        <source>Out of paper</source>
+        <translation>用紙切れ</translation>
+    </message>
+    <message>
+        <source>Paper jam</source>
+        <translation>紙づまり</translation>
+    </message>
+    <message>
+        <source>Paper is low</source>
+        <translation>用紙が残りわずかです</translation>
+    </message>
+    <message>
+        <source>Paper has to be put in</source>
+        <translation>用紙を入れてください</translation>
+    </message>
+    <message>
+        <source>Stopping</source>
+        <translation>停止処理中</translation>
+    </message>
+    <message>
+        <source>The printer is offline</source>
+        <translation>プリンターがオフラインです</translation>
+    </message>
+    <message>
+        <source>The printer reports a problem</source>
+        <translation>プリンターに問題があります</translation>
+    </message>
+    <message>
+        <source>The output tray is almost full</source>
+        <translation>排紙トレイがもうすぐいっぱいです</translation>
+    </message>
+    <message>
+        <source>The output tray is full</source>
+        <translation>排紙トレイがいっぱいです</translation>
+    </message>
+    <message>
+        <source>The output tray is missing</source>
+        <translation>排紙トレイがありません</translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation>一時停止中</translation>
+    </message>
+    <message>
+        <source>The printer is switched off</source>
+        <translation>プリンターの電源が切れています</translation>
+    </message>
+    <message>
+        <source>The printer's memory is full</source>
+        <translation>プリンターのメモリーがいっぱいです</translation>
+    </message>
+    <message>
+        <source>Part of the printer is stopped</source>
+        <translation>プリンターの一部が停止しています</translation>
+    </message>
+    <message>
+        <source>The printer does not answer</source>
+        <translation>プリンターが応答しません</translation>
+    </message>
+    <message>
+        <source>Toner is empty</source>
+        <translation>トナーがありません</translation>
+    </message>
+    <message>
+        <source>Toner is low</source>
+        <translation>トナーが残りわずかです</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>待機中</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>印刷中</translation>
+    </message>
+    <message>
+        <source>Stopped</source>
+        <translation>停止中</translation>
+    </message>
+    <message>
+        <source>State unknown</source>
+        <translation>状態不明</translation>
+    </message>
+    <message>
+        <source>, takes no jobs</source>
+        <translation>、ジョブを受け付けません</translation>
+    </message>
 </context>
 <context>
     <name>orvek::PrinterChooser</name>
@@ -454,6 +658,18 @@
         <source>Prints into a file</source>
         <translation>ファイルに印刷します</translation>
     </message>
+    <message>
+        <source>File (needs a printer description)</source>
+        <translation>ファイル (プリンター記述が必要)</translation>
+    </message>
+    <message>
+        <source>Open Printer Description…</source>
+        <translation>プリンター記述を開く…</translation>
+    </message>
+    <message>
+        <source>Choose a printer, or open a printer description</source>
+        <translation>プリンターを選ぶか、プリンター記述を開いてください</translation>
+    </message>
 </context>
 <context>
     <name>orvek::SessionView</name>
@@ -472,6 +688,17 @@
     <message>
         <source>More Options</source>
         <translation>その他のオプション</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SheetsView</name>
+    <message>
+        <source>Sheet %1, front</source>
+        <translation>%1 枚目 表</translation>
+    </message>
+    <message>
+        <source>Sheet %1, back</source>
+        <translation>%1 枚目 裏</translation>
     </message>
 </context>
 <context>

@@ -23,6 +23,7 @@ using namespace orvek;
 namespace {
 
 const QString source = QStringLiteral(ORVEK_SOURCE_DIR);
+constexpr int smallest = 0;     // of the qualities of a PNG: the most compressed
 constexpr int settleTime = 80;  // milliseconds
 
 std::unique_ptr<PrintSession> openSession(const QString &printer) {
@@ -83,7 +84,8 @@ class Shot {
   }
 
   void save(const QString &file) {
-    if (!m_dialog->grab().save(file, "PNG")) std::fprintf(stderr, "%s\n", qPrintable(file));
+    if (!m_dialog->grab().save(file, "PNG", smallest))
+      std::fprintf(stderr, "%s\n", qPrintable(file));
   }
 
  private:
