@@ -80,8 +80,9 @@ void compareWithOptions(PrivateCups &server, const QByteArray &ppd, int count, i
   written.close();
   server.addQueue(queue, file);
   const QByteArray size = QByteArray::number(count) + " more options";
-  compare((size + ", PPD file").constData(), runs, queue, {QStringLiteral("--ppd"), file});
-  compare((size + ", queue").constData(), runs, queue, {QStringLiteral("-d"), queue});
+  compare(QByteArray(size + ", PPD file").constData(), runs, queue,
+          {QStringLiteral("--ppd"), file});
+  compare(QByteArray(size + ", queue").constData(), runs, queue, {QStringLiteral("-d"), queue});
   QFile::remove(file);
 }
 

@@ -5,11 +5,22 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEvent>
+#include <QLabel>
 #include <QTimer>
 #include <QWidget>
 #include <cstdio>
 
 namespace orvek::bench {
+
+/// Shows a window with a word in it and takes it away. A program that prints has had windows
+/// before; what the toolkit does once per process (finding fonts above all) belongs to neither
+/// dialog.
+inline void warmUp() {
+  QLabel word(QStringLiteral("Print"));
+  word.show();
+  word.grab();
+  QCoreApplication::processEvents();
+}
 
 /// Watches `window`; once it has painted, prints the milliseconds since `clock` was started and
 /// ends the application. Painting of children comes within the same pass, so the line is written

@@ -5,7 +5,7 @@
 #include "bench/dialog/FirstPaint.h"
 #include "host/cli/CommandLine.h"
 #include "host/cli/SessionStart.h"
-#include "host/dialog/PrintDialog.h"
+#include "host/cli/Window.h"
 
 int main(int argc, char **argv) {
   int toolkitArgc = 1;
@@ -14,6 +14,7 @@ int main(int argc, char **argv) {
   for (int i = 1; i < argc; ++i) words << argv[i];
   const auto line = orvek::parseCommandLine(words);
   if (!line) return 2;
+  orvek::bench::warmUp();
   QElapsedTimer clock;
   clock.start();
   auto session = orvek::startSession(line.value());
@@ -21,7 +22,7 @@ int main(int argc, char **argv) {
     std::fprintf(stderr, "%s\n", qPrintable(session.failure().line()));
     return 3;
   }
-  orvek::PrintDialog dialog(*session.value(), {});
+  orvek::PrintDialog dialog(*session.value(), orvek::dialogSetupFor(line.value()));
   const orvek::bench::FirstPaint watch(&dialog, clock);
   dialog.show();
   return QApplication::exec();

@@ -23,7 +23,12 @@ void ElidedLabel::resizeEvent(QResizeEvent *event) {
 }
 
 void ElidedLabel::fit() {
-  const QString shortened = fontMetrics().elidedText(m_text, m_mode, width());
+  // Asking for a text with an ellipsis has the toolkit look for a font that has one, which takes
+  // longer than all the rest of a window's start. Most texts fit. Before the first layout the width
+  // means nothing.
+  const bool fits =
+      !testAttribute(Qt::WA_Resized) || fontMetrics().horizontalAdvance(m_text) <= width();
+  const QString shortened = fits ? m_text : fontMetrics().elidedText(m_text, m_mode, width());
   if (shortened != text()) setText(shortened);
 }
 

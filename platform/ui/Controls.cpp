@@ -18,6 +18,8 @@
 namespace orvek {
 namespace {
 
+// Named, so that the toolkit does not load every picture plug-in to ask what the file holds.
+constexpr const char *pictureFormat = "PNG";
 constexpr const char *imageNameProperty = "orvekImageName";
 
 // Qt reads a single "&" in every one of these titles as a mnemonic mark.
@@ -156,7 +158,7 @@ QString stringValue(const QLineEdit *field) {
 
 void setImage(QLabel *imageView, const QString &path) {
   if (imageView == nullptr) return;
-  const QPixmap picture = path.isNull() ? QPixmap() : QPixmap(densestFile(path));
+  const QPixmap picture = path.isNull() ? QPixmap() : QPixmap(densestFile(path), pictureFormat);
   imageView->setPixmap(picture);
   const QString name = picture.isNull() ? QString() : QFileInfo(path).fileName();
   imageView->setProperty(imageNameProperty, name);
