@@ -19,8 +19,9 @@ using orvek::ReadStream;
 using orvek::StreamStatus;
 
 constexpr qsizetype chunkSize = 32768;
-constexpr qsizetype largestReserve = 128 * 1024 * 1024;  // beyond it a server's word is not enough
-constexpr qsizetype largestDocument = 1024 * 1024 * 1024;
+constexpr qsizetype mebibyte = 1 << 20;
+constexpr qsizetype largestReserve = 128 * mebibyte;  // beyond it a server's word is not enough
+constexpr qsizetype largestDocument = 1024 * mebibyte;
 constexpr std::int32_t version105 = 0x1050;
 constexpr qsizetype schemeLength = 4;
 

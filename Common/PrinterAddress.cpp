@@ -87,6 +87,8 @@ QString hostInURL(const QString &host) {
 
 }  // namespace
 
+// A handle is passed by value, as the platform's handles are.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 QUrl GetPrinterURL(PMPrinter printer) {
   std::optional<orvek::DeviceURI> deviceURI;
   PMPrinterCopyDeviceURI(printer, &deviceURI);

@@ -27,7 +27,7 @@ constexpr timeval receiveTimeout{1, 0};
 constexpr std::uint8_t echoRequest = 8;
 constexpr std::uint8_t echoReply = 0;
 constexpr int headerLengthMask = 0x0F;
-constexpr int headerLengthUnit = 4;
+constexpr ssize_t headerLengthUnit = 4;
 constexpr long microsecondsPerSecond = 1000000;
 constexpr std::int64_t microsecondsPerMillisecond = 1000;
 

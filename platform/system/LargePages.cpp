@@ -10,7 +10,7 @@
 namespace orvek {
 
 void preferLargePages(void *begin, std::size_t size) {
-  constexpr std::uintptr_t largePage = 2 * 1024 * 1024;
+  constexpr std::uintptr_t largePage = 2 << 20;
   const auto address = reinterpret_cast<std::uintptr_t>(begin);
   const std::uintptr_t first = (address + largePage - 1) / largePage * largePage;
   const std::uintptr_t end = (address + size) / largePage * largePage;

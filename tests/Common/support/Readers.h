@@ -67,8 +67,7 @@ inline Reading readQuestion(const Bytes &reply, std::ptrdiff_t offset) {
 inline Reading readService(const Bytes &reply, std::ptrdiff_t offset) {
   return read(reply, offset,
               [](const unsigned char **cursor, const unsigned char *start, int length, Reading *r) {
-                std::array<char, orvek::decodedNameSize> target{};
-                std::strcpy(target.data(), "untouched");
+                std::array<char, orvek::decodedNameSize> target{"untouched"};
                 const int result = decode_srv(cursor, start, length, target.data(), &r->port);
                 r->text = target.data();
                 return result;

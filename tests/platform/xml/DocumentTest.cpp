@@ -81,8 +81,7 @@ TEST(XMLDocument, NeverExpandsEntitiesOfEntities) {
 
 TEST(XMLDocument, TakesLargeOnes) {
   QByteArray large("<a>");
-  while (large.size() < 50 * 1000 * 1000)
-    large += "<item number='17'>a value of some length</item>\n";
+  while (large.size() < 50'000'000) large += "<item number='17'>a value of some length</item>\n";
   EXPECT_EQ(verdict(large + "</a>"), "well-formed");
 }
 
