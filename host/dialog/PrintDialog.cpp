@@ -129,7 +129,7 @@ void PrintDialog::followSession() {
 void PrintDialog::updateControls() {
   const bool isPrinting = m_runner->isRunning();
   const bool isForFile = m_setup.destination.isEmpty();
-  const bool hasFile = isForFile && !m_setup.jobRequest(*m_session).outputFile.isNull();
+  const bool hasFile = isForFile && !requestAsAsked().outputFile.isNull();
   m_view->setEnabled(!isPrinting);
   m_notices->setEnabled(!isPrinting);
   m_printers->setEnabled(!isPrinting);
@@ -138,6 +138,10 @@ void PrintDialog::updateControls() {
                       .asksForFile = isForFile && !hasFile,
                       .isPrinting = isPrinting,
                       .isCancelling = isPrinting && m_isCancelling});
+}
+
+JobRequest PrintDialog::requestAsAsked() const {
+  return m_setup.jobRequest ? m_setup.jobRequest(*m_session) : JobRequest();
 }
 
 void PrintDialog::showHeader() {

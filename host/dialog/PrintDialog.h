@@ -42,7 +42,8 @@ struct DialogSetup {
   ServerAccess server;
 
   /// The job as the session has it. Where it goes is the window's business: to the queue chosen
-  /// there, or into the request's output file; without one, Print asks for a file.
+  /// there, or into the request's output file; without one, Print asks for a file. Empty: a request
+  /// that says nothing.
   std::function<JobRequest(const PrintSession &)> jobRequest;
 
   OpenPrinter openPrinter;               ///< a session on another queue, its panels open
@@ -105,6 +106,7 @@ class PrintDialog final : public QDialog {
   void showMisfits(const QString &opening, const QList<PresetMisfit> &misfits);
 
   // A job's way
+  JobRequest requestAsAsked() const;
   JobRequest gatherRequest();
   bool completeRequest(JobRequest *request);
   bool acceptsWarnings();

@@ -34,7 +34,7 @@ JobRequest PrintDialog::gatherRequest() {
     for (const auto &hosted : m_session->panels())
       hosted->panel().saveValuesAndReturnError(nullptr);
   });
-  JobRequest request = m_setup.jobRequest(*m_session);
+  JobRequest request = requestAsAsked();
   const QString &destination = m_setup.destination;
   request.queue = destination.isEmpty() ? QString() : destination.section(instanceMark, 0, 0);
   request.instance = destination.section(instanceMark, 1);
