@@ -22,7 +22,8 @@ int main(int argc, char **argv) {
     std::fprintf(stderr, "%s\n", qPrintable(session.failure().line()));
     return 3;
   }
-  orvek::PrintDialog dialog(*session.value(), orvek::dialogSetupFor(line.value()));
+  orvek::PrintDialog dialog(*session.value(),
+                            orvek::dialogSetupFor(line.value(), *session.value()));
   const orvek::bench::FirstPaint watch(&dialog, clock);
   dialog.show();
   return QApplication::exec();
