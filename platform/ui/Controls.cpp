@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QGroupBox>
 #include <QGuiApplication>
+#include <QImageReader>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPixmap>
@@ -18,8 +19,6 @@
 namespace orvek {
 namespace {
 
-// Named, so that the toolkit does not load every picture plug-in to ask what the file holds.
-constexpr const char *pictureFormat = "PNG";
 constexpr const char *imageNameProperty = "orvekImageName";
 
 // Qt reads a single "&" in every one of these titles as a mnemonic mark.
@@ -51,6 +50,14 @@ QString densestFile(const QString &path) {
   const QString companion =
       file.dir().filePath(file.completeBaseName() + QStringLiteral("@2x.") + file.suffix());
   return QFileInfo::exists(companion) ? companion : path;
+}
+
+// The format is named, so that the toolkit does not load every picture plug-in to ask what a file
+// holds.
+QPixmap readPicture(const QString &path) {
+  QImageReader reader(path, "png");
+  reader.setAutoDetectImageFormat(false);
+  return QPixmap::fromImage(reader.read());
 }
 
 }  // namespace
@@ -158,7 +165,7 @@ QString stringValue(const QLineEdit *field) {
 
 void setImage(QLabel *imageView, const QString &path) {
   if (imageView == nullptr) return;
-  const QPixmap picture = path.isNull() ? QPixmap() : QPixmap(densestFile(path), pictureFormat);
+  const QPixmap picture = path.isNull() ? QPixmap() : readPicture(densestFile(path));
   imageView->setPixmap(picture);
   const QString name = picture.isNull() ? QString() : QFileInfo(path).fileName();
   imageView->setProperty(imageNameProperty, name);
