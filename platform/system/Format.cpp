@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Splits formats into specifications, collects arguments by them, and has snprintf(3) write each
+// Splits formats into directives, collects arguments by them, and has snprintf(3) write each
 // one.
 
 #include "platform/system/Format.h"
@@ -20,22 +20,22 @@ namespace {
 constexpr int widestField = 65535;
 
 /// A "%" sequence: where it ends, and its pieces as printf(3) names them.
-struct Specification {
+struct Directive {
   std::string_view text;  // all of it, from "%" on
   std::string_view flags;
   std::string_view width;  // digits, "*" or nothing
   bool hasPrecision = false;
   std::string_view precision;  // digits, "*" or nothing
   std::string_view length;
-  char conversion = '\0';  // '\0': not a specification
+  char conversion = '\0';  // '\0': not a directive
 };
 
-class SpecificationParser {
+class DirectiveParser {
  public:
-  explicit SpecificationParser(std::string_view rest) : m_rest(rest) {}
+  explicit DirectiveParser(std::string_view rest) : m_rest(rest) {}
 
-  Specification parse() {
-    Specification result;
+  Directive parse() {
+    Directive result;
     m_at = 1;
     result.flags = takeWhile("-+ #0'");
     result.width = takeNumber();
@@ -73,16 +73,16 @@ class SpecificationParser {
   std::size_t m_at = 0;
 };
 
-/// Calls `literal(text)` and `specification(spec)` for the pieces of a format, in order.
-template <class Literal, class OnSpecification>
-void walk(std::string_view format, Literal literal, OnSpecification specification) {
+/// Calls `literal(text)` and `directive(spec)` for the pieces of a format, in order.
+template <class Literal, class OnDirective>
+void walk(std::string_view format, Literal literal, OnDirective directive) {
   while (!format.empty()) {
     const std::size_t percent = std::min(format.find('%'), format.size());
     if (percent > 0) literal(format.substr(0, percent));
     format.remove_prefix(percent);
     if (format.empty()) return;
-    const Specification spec = SpecificationParser(format).parse();
-    specification(spec);
+    const Directive spec = DirectiveParser(format).parse();
+    directive(spec);
     format.remove_prefix(spec.text.size());
   }
 }
@@ -114,7 +114,7 @@ FormatArgument takeUnsigned(std::string_view length, std::va_list *arguments) {
   return U{va_arg(*arguments, unsigned long long)};
 }
 
-FormatArgument takeArgument(const Specification &spec, std::va_list *arguments) {
+FormatArgument takeArgument(const Directive &spec, std::va_list *arguments) {
   const bool isLong = spec.length == "l";
   if (isOneOf(spec.conversion, "di")) return takeSigned(spec.length, arguments);
   if (isOneOf(spec.conversion, "ouxX")) return takeUnsigned(spec.length, arguments);
@@ -155,10 +155,10 @@ class ArgumentQueue {
   std::size_t m_next = 0;
 };
 
-/// One specification written out; nothing where its arguments are not there.
+/// One directive written out; nothing where its arguments are not there.
 class Writer {
  public:
-  Writer(const Specification &spec, ArgumentQueue *queue) : m_spec(spec), m_queue(queue) {}
+  Writer(const Directive &spec, ArgumentQueue *queue) : m_spec(spec), m_queue(queue) {}
 
   std::optional<QByteArray> write() {
     if (m_spec.conversion == '%') return QByteArray("%");
@@ -251,7 +251,7 @@ class Writer {
     return print(pattern("", 's'), value.constData());
   }
 
-  const Specification &m_spec;
+  const Directive &m_spec;
   ArgumentQueue *m_queue;
   int m_width = 0;
   int m_precision = 0;
@@ -266,7 +266,7 @@ std::vector<FormatArgument> collectArguments(const char *format, std::va_list ar
   va_copy(rest, arguments);
   walk(
       format, [](std::string_view) {},
-      [&](const Specification &spec) {
+      [&](const Directive &spec) {
         if (spec.conversion == '\0' || spec.conversion == '%') return;
         if (spec.width == "*") result.emplace_back(std::int64_t{va_arg(rest, int)});
         if (spec.precision == "*") result.emplace_back(std::int64_t{va_arg(rest, int)});
@@ -282,7 +282,7 @@ QString expandFormat(const std::string &format, const std::vector<FormatArgument
   const auto append = [&result](std::string_view text) {
     result.append(text.data(), static_cast<qsizetype>(text.size()));
   };
-  walk(format, append, [&](const Specification &spec) {
+  walk(format, append, [&](const Directive &spec) {
     const std::size_t mark = queue.mark();
     const auto written = spec.conversion == '\0' ? std::nullopt : Writer(spec, &queue).write();
     if (written) {

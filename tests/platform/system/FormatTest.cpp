@@ -76,7 +76,7 @@ TEST(Format, HoldsAbsurdWidthsToABound) {
   EXPECT_EQ(expanded("%*d", std::numeric_limits<int>::min(), 1).size(), 65535U);
 }
 
-TEST(Format, LeavesASpecificationAsItIsWhereItsArgumentIsMissing) {
+TEST(Format, LeavesADirectiveAsItIsWhereItsArgumentIsMissing) {
   EXPECT_EQ(orvek::expandFormat("%d %s", {std::int64_t{4}}).toStdString(), "4 %s");
   EXPECT_EQ(orvek::expandFormat("%s %d", {std::int64_t{4}}).toStdString(), "%s 4");
   EXPECT_EQ(orvek::expandFormat("%@", {}).toStdString(), "%@");
