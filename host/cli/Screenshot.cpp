@@ -26,6 +26,8 @@ QImage renderDialog(const CommandLine &line, PrintSession &session) {
   dialog.setAttribute(Qt::WA_DontShowOnScreen);
   dialog.show();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+  dialog.grab();
+  QCoreApplication::processEvents();  // what waits for the first paint
   return dialog.grab().toImage();
 }
 

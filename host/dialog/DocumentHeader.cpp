@@ -5,6 +5,8 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QTimer>
+#include <utility>
 
 #include "host/dialog/ElidedLabel.h"
 
@@ -39,8 +41,20 @@ DocumentHeader::DocumentHeader(QWidget *parent)
 }
 
 void DocumentHeader::setPicture(QStyle::StandardPixmap picture) {
-  m_picture->setPixmap(style()->standardIcon(picture).pixmap(pictureSize, pictureSize));
+  m_waitingPicture = picture;
+  m_picture->setFixedSize(pictureSize, pictureSize);
   m_picture->show();
+}
+
+void DocumentHeader::paintEvent(QPaintEvent *event) {
+  QWidget::paintEvent(event);
+  if (m_waitingPicture) QTimer::singleShot(0, this, &DocumentHeader::loadPicture);
+}
+
+void DocumentHeader::loadPicture() {
+  const auto picture = std::exchange(m_waitingPicture, std::nullopt);
+  if (!picture) return;
+  m_picture->setPixmap(style()->standardIcon(*picture).pixmap(pictureSize, pictureSize));
 }
 
 void DocumentHeader::setTexts(const QString &name, const QString &detail) {

@@ -4,6 +4,7 @@
 
 #include <QStyle>
 #include <QWidget>
+#include <optional>
 
 class QLabel;
 
@@ -17,12 +18,20 @@ class DocumentHeader final : public QWidget {
  public:
   explicit DocumentHeader(QWidget *parent = nullptr);
 
+  /// Room is made at once. The picture itself comes after the first paint: looking for it in the
+  /// desktop's icon theme takes longer than building the rest of the header.
   void setPicture(QStyle::StandardPixmap picture);
 
   /// A name too long for the window is shortened in its middle; the tool tip has all of it.
   void setTexts(const QString &name, const QString &detail);
 
+ protected:
+  void paintEvent(QPaintEvent *event) override;
+
  private:
+  void loadPicture();
+
+  std::optional<QStyle::StandardPixmap> m_waitingPicture;
   QLabel *m_picture;
   ElidedLabel *m_name;
   QLabel *m_detail;
