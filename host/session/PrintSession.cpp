@@ -25,7 +25,7 @@ Failure unknownMark(const Marks &marks, const OptionChoice &mark) {
 
 }  // namespace
 
-Result<std::unique_ptr<PrintSession>> PrintSession::begin(SessionSetup setup) {
+Result<std::unique_ptr<PrintSession>> PrintSession::begin(const SessionSetup &setup) {
   std::unique_ptr<PrintSession> session(new PrintSession(setup));
   if (const Status marked = session->markAll(setup); !marked) return marked.failure();
   return session;

@@ -48,7 +48,7 @@ class PrintSession final : public QObject, private PanelListener {
  public:
   /// Marks the PPD: its defaults, the queue's options, the ticket's choices, then the given marks.
   /// A given mark that the PPD lacks is a Usage failure.
-  static Result<std::unique_ptr<PrintSession>> begin(SessionSetup setup);
+  static Result<std::unique_ptr<PrintSession>> begin(const SessionSetup &setup);
   ~PrintSession() override;
 
   /// Plug-ins give panels in the order in which they were added.
