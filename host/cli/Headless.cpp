@@ -26,7 +26,7 @@ void savePanels(PrintSession &session) {
 
 Status writeFiles(const CommandLine &line, PrintSession &session) {
   if (!line.ticketOut.isNull()) {
-    if (Status written = writeTicket(line.ticketOut, session.ticket().values()); !written) {
+    if (Status written = writeTicket(line.ticketOut, session.ticketToKeep()); !written) {
       return written;
     }
   }

@@ -83,7 +83,7 @@ QJsonObject inspect(const PrintSession &session) {
       {QStringLiteral("selections"), selectionsOf(panel)},
       {QStringLiteral("modelNumber"),
        panel == nullptr ? QJsonValue() : textOrNull(panel->inspectedModelNumber())},
-      {QStringLiteral("ticket"), ticketToJson(session.ticket().values())},
+      {QStringLiteral("ticket"), ticketToJson(session.ticketToKeep())},
       {QStringLiteral("announced"), announcedIn(session)},
       {QStringLiteral("resized"), session.resizeCount()},
       {QStringLiteral("marks"), marksIn(session)},

@@ -6,6 +6,7 @@
 #include "host/cli/Console.h"
 #include "host/presets/PresetStore.h"
 #include "host/presets/SessionPreset.h"
+#include "host/session/JobWords.h"
 
 namespace orvek {
 
@@ -13,7 +14,11 @@ Status applyPresetAsAsked(const CommandLine &line, PrintSession &session) {
   if (line.preset.isNull()) return {};
   const Result<Preset> preset = PresetStore().load(line.preset);
   if (!preset) return preset.failure();
-  const QStringList keep = session.ticket().values().keys();
+  QStringList keep = session.ticket().values().keys();
+  for (const OptionChoice &meant :
+       JobWords::of(session.marks(), {}, session.ticket().values()).choices()) {
+    keep << meant.option;
+  }
   for (const PresetMisfit &misfit : applyPreset(session, preset.value(), keep)) tell(misfit.line());
   return {};
 }

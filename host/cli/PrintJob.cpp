@@ -47,6 +47,7 @@ JobRequest jobRequestFor(const CommandLine &line, const PrintSession &session) {
   request.user = line.user;
   request.priority = line.priority.value_or(0);
   request.options = session.jobOptions();
+  request.overruled = session.overruledOptions();
   request.ppdFile = session.printer() ? session.printer()->path() : QString();
   request.outputFile = line.output;
   request.queue = session.destination().section(QLatin1Char('/'), 0, 0);

@@ -43,19 +43,23 @@ Status applyPagesPerSheet(const OptionChoice &option, PrintSession &session) {
 }
 
 // What is no setting that the dialog shows goes into the ticket, where panels and job find it.
-Status applyJobOption(const OptionChoice &option, PrintSession &session) {
+Status applyJobOption(const OptionChoice &option, const QList<OptionChoice> &beside,
+                      PrintSession &session) {
   const Result<bool> taken = session.takeJobOption(option.option, option.choice);
   if (!taken) return taken.failure();
-  if (!taken.value()) session.ticket().setValue(option.option, option.choice);
+  if (taken.value()) return {};
+  session.ticket().setValue(option.option, option.choice);
+  session.pickWord(option, beside);
   return {};
 }
 
 // An option of the printer is a pick like any other.
-Status applyOption(const OptionChoice &option, PrintSession &session) {
+Status applyOption(const OptionChoice &option, const QList<OptionChoice> &beside,
+                   PrintSession &session) {
   if (option.option == pagesPerSheetOption) return applyPagesPerSheet(option, session);
   const QByteArray keyword = option.option.toUtf8();
   if (ppdFindOption(session.marks().ppd(), keyword.constData()) == nullptr) {
-    return applyJobOption(option, session);
+    return applyJobOption(option, beside, session);
   }
   if (!session.marks().spelled(option.option, option.choice)) {
     return Failure{FailureKind::Usage, QStringLiteral("-o %1=%2").arg(option.option, option.choice),
@@ -71,14 +75,14 @@ Status applyJobOptions(const CommandLine &line, PrintSession &session) {
   if (line.copies > 0) options.append({QStringLiteral("copies"), QString::number(line.copies)});
   if (!line.pageRanges.isNull()) options.append({QStringLiteral("page-ranges"), line.pageRanges});
   for (const OptionChoice &option : options) {
-    if (Status applied = applyJobOption(option, session); !applied) return applied;
+    if (Status applied = applyJobOption(option, options, session); !applied) return applied;
   }
   return {};
 }
 
 Status applyOptions(const CommandLine &line, PrintSession &session) {
   for (const OptionChoice &option : line.options) {
-    if (Status applied = applyOption(option, session); !applied) return applied;
+    if (Status applied = applyOption(option, line.options, session); !applied) return applied;
   }
   return {};
 }

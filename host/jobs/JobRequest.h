@@ -21,7 +21,8 @@ struct JobRequest {
   int priority = 0;    ///< 1 to 100; 0: not asked for
   QString pageRanges;  ///< "1-3,7"; null: all
   QMap<QString, QString>
-      options;  ///< keyword or attribute to its value, neither quoted nor escaped
+      options;            ///< keyword or attribute to its value, neither quoted nor escaped
+  QStringList overruled;  ///< to a queue: options saved for it that must not go with the job
 
   QString ppdFile;     ///< into a file: the printer description
   QString outputFile;  ///< into a file: where to; a device is fine, "-" is standard output

@@ -123,6 +123,14 @@ ServerAccess accessOf(const JobRequest &request, const std::atomic<bool> *cancel
   return {request.server, request.user, cancelled, request.patience};
 }
 
+QMap<QString, QString> savedOptions(const Printer &printer, const JobRequest &request) {
+  QMap<QString, QString> options = printer.options;
+  options.removeIf([&](const auto &saved) {
+    return request.overruled.contains(saved.key(), Qt::CaseInsensitive);
+  });
+  return options;
+}
+
 QString destinationOf(const JobRequest &request) {
   return request.instance.isEmpty() ? request.queue : request.queue + u'/' + request.instance;
 }
@@ -140,7 +148,7 @@ Result<JobOutcome> submitToQueue(const JobRequest &request, JobControl &control)
   if (!printer) return control.cancelled ? cancelledFailure() : printer.failure();
 
   CupsOptions options(effectiveOptions(request));
-  options.addMissing(printer.value().options);
+  options.addMissing(savedOptions(printer.value(), request));
   const QString queue = printer.value().name;
   Submission job{control, *connection.value(), queue.toUtf8(), options, begin.take(), 0, {}};
   if (Status created = createJob(job, effectiveTitle(request)); !created) return created.failure();

@@ -35,6 +35,21 @@ QMap<QString, QString> choicesOf(const PresetFit &fit, const PrintSession &sessi
   return choices;
 }
 
+// Words say what their options' own names leave unsaid; on another printer that may be everything.
+void pickWords(PrintSession &session, const PresetFit &fit, const QMap<QString, QString> &choices,
+               const QStringList &keep) {
+  QList<OptionChoice> asked;
+  for (auto entry = fit.ticket.begin(); entry != fit.ticket.end(); ++entry) {
+    if (!keep.contains(entry.key())) asked.append({entry.key(), textReading(*entry)});
+  }
+  QList<OptionChoice> beside = asked;
+  for (auto choice = choices.begin(); choice != choices.end(); ++choice) {
+    beside.append({choice.key(), choice.value()});
+  }
+  for (const QString &kept : keep) beside.append({kept, QString()});
+  for (const OptionChoice &option : asked) session.pickWord(option, beside);
+}
+
 void restorePanels(PrintSession &session) {
   for (const auto &hosted : session.panels()) hosted->panel().restoreValuesAndReturnError(nullptr);
 }
@@ -45,7 +60,7 @@ Preset presetOf(const PrintSession &session, const QString &name) {
   Preset preset;
   preset.name = name;
   preset.printerModel = session.printer() ? session.printer()->modelName() : QString();
-  preset.ticket = session.ticket().values();
+  preset.ticket = session.ticketToKeep();
   for (const OptionChoice &mark : session.marks().differingFromDefaults()) {
     if (isInstalledEquipment(session.marks().ppd(), mark.option)) continue;
     preset.options.insert(mark.option, mark.choice);
@@ -59,6 +74,7 @@ QList<PresetMisfit> applyPreset(PrintSession &session, const Preset &preset,
   session.perform([&] {
     writeTicket(session, fit, keep);
     const QMap<QString, QString> choices = choicesOf(fit, session);
+    pickWords(session, fit, choices, keep);
     for (auto choice = choices.begin(); choice != choices.end(); ++choice) {
       if (!keep.contains(choice.key())) session.pick(choice.key(), choice.value());
     }

@@ -3,6 +3,7 @@
 
 #include "host/session/JobOptions.h"
 
+#include "host/session/JobWords.h"
 #include "platform/printing/PrintSettings.h"
 
 namespace orvek {
@@ -10,29 +11,63 @@ namespace {
 
 const QString pagesPerSheetOption = QStringLiteral("number-up");
 
-}  // namespace
+void sayWords(const JobWords &words, QMap<QString, QString> *options) {
+  for (const OptionChoice &said : words.choices()) options->remove(said.option);
+  for (const JobWord &word : words.words()) options->insert(word.name, word.value);
+}
 
-QMap<QString, QString> jobOptionsFor(const Marks &marks, const QList<OptionChoice> &queueOptions,
-                                     const TicketValues &ticket, int pagesPerSheet) {
-  QMap<QString, QString> options;
-  for (auto entry = ticket.begin(); entry != ticket.end(); ++entry) {
-    const QString marked = marks.marked(entry.key());
-    options.insert(entry.key(), marked.isNull() ? textReading(entry.value()) : marked);
+void takeBackUntrueWords(const Marks &marks, const JobWords &words,
+                         QMap<QString, QString> *options) {
+  for (const JobWord &word : words.untrue(marks)) {
+    options->remove(word.name);
+    for (const QString &option : word.options) {
+      if (const QString marked = marks.marked(option); !marked.isNull()) {
+        options->insert(option, marked);
+      }
+    }
   }
-  for (const OptionChoice &mark : marks.differingFromDefaults()) {
-    options.insert(mark.option, mark.choice);
-  }
-  // A mark back at the PPD's default must be said where the queue would choose otherwise.
+}
+
+// A mark back at the PPD's default must be said where the queue would choose otherwise.
+void sayWhatTheQueueWouldNotDo(const Marks &marks, const QList<OptionChoice> &queueOptions,
+                               QMap<QString, QString> *options) {
   for (const OptionChoice &option : queueOptions) {
     const auto queueChoice = marks.spelled(option.option, option.choice);
     if (!queueChoice) continue;
     const QString marked = marks.marked(queueChoice->option);
     if (!marked.isNull() && marked != queueChoice->choice) {
-      options.insert(queueChoice->option, marked);
+      options->insert(queueChoice->option, marked);
     }
   }
+}
+
+}  // namespace
+
+QMap<QString, QString> jobOptionsFor(const Marks &marks, const QList<OptionChoice> &queueOptions,
+                                     const TicketValues &ticket, int pagesPerSheet) {
+  QMap<QString, QString> options;
+  for (const OptionChoice &mark : marks.differingFromDefaults()) {
+    options.insert(mark.option, mark.choice);
+  }
+  const JobWords words = JobWords::of(marks, queueOptions, ticket);
+  sayWords(words, &options);
+  for (auto entry = ticket.begin(); entry != ticket.end(); ++entry) {
+    const QString marked = marks.marked(entry.key());
+    options.insert(entry.key(), marked.isNull() ? textReading(entry.value()) : marked);
+  }
+  takeBackUntrueWords(marks, words, &options);
+  sayWhatTheQueueWouldNotDo(marks, queueOptions, &options);
   if (pagesPerSheet > 1) options.insert(pagesPerSheetOption, QString::number(pagesPerSheet));
   return options;
+}
+
+QStringList overruledOptions(const Marks &marks, const QList<OptionChoice> &queueOptions,
+                             const TicketValues &ticket) {
+  QStringList names;
+  for (const JobWord &word : JobWords::of(marks, queueOptions, ticket).untrue(marks)) {
+    names << word.name;
+  }
+  return names;
 }
 
 }  // namespace orvek

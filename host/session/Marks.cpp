@@ -3,6 +3,10 @@
 
 #include "host/session/Marks.h"
 
+#include <cups/cups.h>
+
+#include <vector>
+
 namespace orvek {
 namespace {
 
@@ -27,6 +31,72 @@ QList<ppd_option_t *> allOptions(ppd_file_t *ppd) {
     options.append(option);
   }
   return options;
+}
+
+// Takes all marks away for its lifetime. libcups has no call for that, but keeps its marks in
+// public places.
+class MarksSetAside {
+ public:
+  explicit MarksSetAside(ppd_file_t *ppd) : m_ppd(ppd) {
+    m_choices = takeAll();
+    for (int i = 0; i < ppd->num_sizes; ++i) m_sizes.push_back(ppd->sizes[i].marked);
+  }
+
+  ~MarksSetAside() {
+    takeAll();
+    for (ppd_choice_t *choice : m_choices) {
+      choice->marked = 1;
+      cupsArrayAdd(m_ppd->marked, choice);
+    }
+    for (int i = 0; i < m_ppd->num_sizes; ++i) m_ppd->sizes[i].marked = m_sizes[std::size_t(i)];
+  }
+
+  MarksSetAside(const MarksSetAside &) = delete;
+  MarksSetAside &operator=(const MarksSetAside &) = delete;
+
+ private:
+  std::vector<ppd_choice_t *> takeAll() {
+    std::vector<ppd_choice_t *> taken;
+    while (void *first = cupsArrayFirst(m_ppd->marked)) {
+      taken.push_back(static_cast<ppd_choice_t *>(first));
+      taken.back()->marked = 0;
+      cupsArrayRemove(m_ppd->marked, first);
+    }
+    return taken;
+  }
+
+  ppd_file_t *m_ppd;
+  std::vector<ppd_choice_t *> m_choices;
+  std::vector<char> m_sizes;
+};
+
+// Marks as a filter does that is given these options.
+void markAsAJobDoes(ppd_file_t *ppd, const QList<OptionChoice> &jobOptions) {
+  cups_option_t *options = nullptr;
+  int count = 0;
+  for (const OptionChoice &option : jobOptions) {
+    count = cupsAddOption(option.option.toUtf8().constData(), option.choice.toUtf8().constData(),
+                          count, &options);
+  }
+  cupsMarkOptions(ppd, count, options);
+  cupsFreeOptions(count, options);
+}
+
+bool isCustomValue(const QString &value) {
+  return value.startsWith(QLatin1String("Custom."), Qt::CaseInsensitive) || value.startsWith(u'{');
+}
+
+// What the job's options give an option's custom choice: by its keyword, or among the parts of a
+// word.
+QString customValueIn(const QList<OptionChoice> &jobOptions, const QString &option) {
+  QString ofAWord;
+  for (const OptionChoice &asked : jobOptions) {
+    if (asked.option.compare(option, Qt::CaseInsensitive) == 0) return asked.choice;
+    for (const QString &part : asked.choice.split(u',')) {
+      if (isCustomValue(part)) ofAWord = part;
+    }
+  }
+  return ofAWord;
 }
 
 }  // namespace
@@ -65,6 +135,30 @@ QString Marks::choiceName(const ppd_choice_t *choice) const {
 QString Marks::marked(const QString &option) const {
   const ppd_choice_t *choice = findMarked(m_ppd, option.toUtf8().constData());
   return choice == nullptr ? QString() : choiceName(choice);
+}
+
+QList<OptionChoice> Marks::meaningOf(const QList<OptionChoice> &jobOptions) const {
+  QList<OptionChoice> meaning;
+  if (m_ppd == nullptr || jobOptions.isEmpty()) return meaning;
+  {
+    const MarksSetAside aside(m_ppd);
+    markAsAJobDoes(m_ppd, jobOptions);
+    for (const ppd_option_t *option : allOptions(m_ppd)) {
+      const ppd_choice_t *choice = findMarked(m_ppd, option->keyword);
+      if (choice != nullptr) meaning.append({keyword(option), QString::fromUtf8(choice->choice)});
+    }
+  }
+  for (OptionChoice &meant : meaning) {
+    if (meant.choice != QLatin1String(customChoice)) continue;
+    // The value that stood there went with the word's.
+    const QString standing = marked(meant.option);
+    if (isCustomValue(standing)) {
+      ppdMarkOption(m_ppd, meant.option.toUtf8().constData(), standing.toUtf8().constData());
+    }
+    const QString value = customValueIn(jobOptions, meant.option);
+    if (!value.isNull()) meant.choice = value;
+  }
+  return meaning;
 }
 
 MarksSnapshot Marks::snapshot() const {

@@ -54,6 +54,12 @@ class Marks {
   /// Every marked choice that is not the option's default in the PPD.
   QList<OptionChoice> differingFromDefaults() const;
 
+  /// The choices that libcups marks for a job's options: PPD keywords, and the print server's words
+  /// for what a PPD has under names of its own ("media", "sides", "print-quality"). Where both name
+  /// one option the keyword wins, and of two words of one name the later. Options that stand for no
+  /// choice give nothing. The marks stay as they are. Spelled as the PPD spells them, in its order.
+  QList<OptionChoice> meaningOf(const QList<OptionChoice> &jobOptions) const;
+
   MarksSnapshot snapshot() const;
   void restore(const MarksSnapshot &snapshot);
 

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "host/session/BookletSettings.h"
-#include "host/session/JobOptions.h"
+#include "host/session/JobWords.h"
 #include "host/session/Wording.h"
 #include "platform/system/Log.h"
 
@@ -56,8 +56,12 @@ PrintSession::~PrintSession() {
 Status PrintSession::markAll(const SessionSetup &setup) {
   Marks &marks = m_picks.marks();
   marks.markDefaults();
-  for (const OptionChoice &option : setup.queueOptions) marks.mark(option.option, option.choice);
+  markQueueOptions();
   const TicketValues values = m_ticket->values();
+  // A choice by its own name counts before a word that speaks of the same.
+  for (const OptionChoice &meant : JobWords::of(marks, {}, values).choices()) {
+    marks.mark(meant.option, meant.choice);
+  }
   for (auto entry = values.begin(); entry != values.end(); ++entry) {
     marks.mark(entry.key(), textReading(entry.value()));
   }
@@ -146,44 +150,6 @@ QList<QPair<QString, QString>> PrintSession::summary() const {
     }
   }
   return lines;
-}
-
-bool PrintSession::printerCollates() const {
-  return ppdFindOption(marks().ppd(), collateOption) != nullptr;
-}
-
-JobSettings PrintSession::jobSettings() const {
-  JobSettings settings = m_jobSettings;
-  if (!printerCollates()) return settings;
-  const QString marked = marks().marked(QString::fromLatin1(collateOption));
-  settings.collate = marked.compare(QLatin1String("False"), Qt::CaseInsensitive) != 0;
-  return settings;
-}
-
-void PrintSession::setJobSettings(const JobSettings &settings) {
-  const bool collateChanges = settings.collate != jobSettings().collate;
-  perform([&] {
-    m_jobSettings = settings;
-    if (!printerCollates() || !collateChanges) return;
-    pick(QString::fromLatin1(collateOption),
-         settings.collate ? QStringLiteral("True") : QStringLiteral("False"));
-  });
-}
-
-Result<bool> PrintSession::takeJobOption(const QString &name, const QString &value) {
-  Result<bool> taken = m_askedOptions.take(name, value);
-  if (taken) m_jobSettings = m_askedOptions.settings;
-  return taken;
-}
-
-QMap<QString, QString> PrintSession::jobOptions() const {
-  QMap<QString, QString> options =
-      jobOptionsFor(marks(), m_queueOptions, m_ticket->values(), pagesPerSheet());
-  JobSettings settings = m_jobSettings;
-  // The printer's own option, among the marks, says it already.
-  if (printerCollates()) settings.collate = true;
-  options.insert(toOptions(settings, m_askedOptions));
-  return options;
 }
 
 bool PrintSession::choiceAnnounced(const QString &option, const QString &choice) {

@@ -76,9 +76,14 @@ class PrintSession final : public QObject, private PanelListener {
   JobSettings jobSettings() const;
   void setJobSettings(const JobSettings &settings);
 
-  /// Reads an option of the command line that is about job settings: false where it is none, a
-  /// Usage failure where its value makes no sense.
+  /// Reads an option of the command line that is about job settings: false where it is none, or the
+  /// PPD has an option for it; a Usage failure where its value makes no sense.
   Result<bool> takeJobOption(const QString &name, const QString &value);
+
+  /// Picks what a print server's word ("sides") stands for in the PPD, read together with the
+  /// job's other options: one that names the PPD's option itself wins. Nothing where it stands for
+  /// nothing. The ticket is the word's place.
+  void pickWord(const OptionChoice &word, const QList<OptionChoice> &beside);
 
   /// Takes back the last step that changed something, and has the panels show it.
   void undo();
@@ -95,7 +100,8 @@ class PrintSession final : public QObject, private PanelListener {
   /// What a printer without PPD offers; empty where there is a PPD.
   const QList<SettingOffer> &offers() const { return m_offers; }
 
-  /// The queue's and the user's options that the session began with.
+  /// The queue's and the user's options that the session began with, and under the PPD's keywords
+  /// what the words among them stand for.
   const QList<OptionChoice> &queueOptions() const { return m_queueOptions; }
 
   const std::vector<std::unique_ptr<HostedPanel>> &panels() const { return m_panels; }
@@ -107,9 +113,16 @@ class PrintSession final : public QObject, private PanelListener {
   const QList<QPair<QString, QString>> &openingSummary() const { return m_openingSummary; }
 
   /// What a job must say: every marked choice that is not the PPD's default or not the queue's,
-  /// every ticket key, and in the words of the print server the pages per sheet and the job
-  /// settings.
+  /// every ticket key, and in the words of the print server the pages per sheet, the job settings,
+  /// and what was asked for in such words and still stands.
   QMap<QString, QString> jobOptions() const;
+
+  /// Those of the queue's options that must not go with the job: words for which something else is
+  /// marked by now.
+  QStringList overruledOptions() const;
+
+  /// The ticket without the words for which something else is marked by now.
+  TicketValues ticketToKeep() const;
 
   /// Every announced choice in order; null where it was empty.
   const QList<QPair<QString, QString>> &announced() const { return m_announced; }
@@ -138,9 +151,11 @@ class PrintSession final : public QObject, private PanelListener {
   void panelResized() override;
 
   Status markAll(const SessionSetup &setup);
+  void markQueueOptions();
   void makePanels();
   void closePanels();
   bool apply(const QString &option, const QString &choice);
+  void pickUnrecorded(const OptionChoice &choice);
   bool printerCollates() const;
   void notice(const Resolution &resolution);
   void endSoon();

@@ -17,6 +17,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QThread>
@@ -231,6 +232,15 @@ QMap<QString, QString> PrivateCups::jobAttributes(int jobId) const {
   const auto attributes = attributesOf(response);
   ippDelete(response);
   httpClose(http);
+  return attributes;
+}
+
+QMap<QString, QString> PrivateCups::comparableJobAttributes(int jobId) const {
+  static const QRegularExpression own(
+      QStringLiteral("^(job-id|job-uri|job-uuid|job-more-info|job-printer-up-time|"
+                     "(date-)?time-at-.*)$"));
+  auto attributes = jobAttributes(jobId);
+  attributes.removeIf([](const auto &attribute) { return own.match(attribute.key()).hasMatch(); });
   return attributes;
 }
 

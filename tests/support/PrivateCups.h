@@ -60,6 +60,9 @@ class PrivateCups {
   /// A job's attributes as the server gives them, in the text form of libcups.
   QMap<QString, QString> jobAttributes(int jobId) const;
 
+  /// The same without what no two jobs share: their numbers and the moments they were made.
+  QMap<QString, QString> comparableJobAttributes(int jobId) const;
+
   /// Waits until the job has ended; its last state ("completed", "canceled", ...).
   QString waitForJob(int jobId) const;
 

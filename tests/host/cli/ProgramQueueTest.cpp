@@ -65,6 +65,25 @@ TEST_F(ProgramQueue, TakesAJobWithWhatThePanelChose) {
       << cups->log().toStdString();
 }
 
+TEST_F(ProgramQueue, ShowsWhatTheUsersWordsStandFor) {
+  ASSERT_EQ(cups->run("lpoptions", {"-p", "office", "-o", "output-bin=upper"}).exitStatus, 0);
+  const ProgramRun session = run({"--headless", "--inspect", "-o", "media=A3"});
+  ASSERT_EQ(session.status, 0) << session.errors.constData();
+  const QJsonObject marks = session.json().value("marks").toObject();
+  EXPECT_EQ(marks.value("OutputBin"), "Upper");
+  EXPECT_EQ(marks.value("PageSize"), "A3");
+}
+
+TEST_F(ProgramQueue, GetsNoWordThatSomethingPickedContradicts) {
+  ASSERT_EQ(cups->run("lpoptions", {"-p", "office", "-o", "output-bin=upper"}).exitStatus, 0);
+  const ProgramRun job =
+      run({"--headless", "--print", "-o", "media=A3", "--do", "paperDestPopup=Booklet", document});
+  ASSERT_EQ(job.status, 0) << job.errors.constData();
+  EXPECT_FALSE(cups->jobAttributes(1).contains("output-bin"));
+  EXPECT_EQ(cups->jobAttributes(1).value("OutputBin"), "Booklet");
+  EXPECT_EQ(cups->jobAttributes(1).value("media"), "A3");
+}
+
 TEST_F(ProgramQueue, KeepsTheJobsNumberToItselfWhereAskedTo) {
   EXPECT_EQ(run({"--headless", "--print", "-s", document}).output, "");
 }

@@ -98,14 +98,6 @@ std::vector<Wish> wishes() {
   return all;
 }
 
-/// What no two jobs share: their numbers and the moments they were made.
-bool differsBetweenAnyTwoJobs(const QString &attribute) {
-  static const QRegularExpression own(
-      QStringLiteral("^(job-id|job-uri|job-uuid|job-more-info|job-printer-up-time|"
-                     "(date-)?time-at-.*)$"));
-  return own.match(attribute).hasMatch();
-}
-
 class LpParity : public ::testing::TestWithParam<Wish> {
  protected:
   void SetUp() override {
@@ -118,14 +110,6 @@ class LpParity : public ::testing::TestWithParam<Wish> {
               {QStringLiteral("-p"), QStringLiteral("office/draft"), QStringLiteral("-o"),
                QStringLiteral("OVKTonerSaving=True")});
     writeContents(document, postScriptDocument(2));
-  }
-
-  Options attributesOfJob(int id) const {
-    Options attributes;
-    const auto all = cups->jobAttributes(id);
-    for (auto one = all.cbegin(); one != all.cend(); ++one)
-      if (!differsBetweenAnyTwoJobs(one.key())) attributes.insert(one.key(), one.value());
-    return attributes;
   }
 
   int printWithLp(const QStringList &wished) const {
@@ -149,9 +133,9 @@ TEST_P(LpParity, MakesAJobWithTheSameAttributes) {
   JobControl control;
   const auto outcome = submitToQueue(request, control);
   ASSERT_TRUE(outcome) << outcome.failure().line().toStdString();
-  const auto expected = attributesOfJob(byLp);
+  const auto expected = cups->comparableJobAttributes(byLp);
   ASSERT_GT(expected.size(), 10);
-  EXPECT_EQ(attributesOfJob(outcome.value().jobId), expected);
+  EXPECT_EQ(cups->comparableJobAttributes(outcome.value().jobId), expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(CommandLines, LpParity, ::testing::ValuesIn(wishes()),
