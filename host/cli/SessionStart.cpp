@@ -14,8 +14,13 @@ namespace {
 
 const QString pagesPerSheetOption = QStringLiteral("number-up");
 
-Status gatherPrinter(const CommandLine &line, SessionSetup *setup) {
-  if (line.ppd.isNull()) return setUpForQueue(serverAccess(line), line.destination, setup);
+Status gatherPrinter(const CommandLine &line, const std::atomic<bool> *cancelled,
+                     SessionSetup *setup) {
+  if (line.ppd.isNull()) {
+    ServerAccess access = serverAccess(line);
+    access.cancelled = cancelled;
+    return setUpForQueue(access, line.destination, setup);
+  }
   setup->destination = line.destination;
   Result<std::shared_ptr<PrinterDescription>> printer = PrinterDescription::open(line.ppd);
   if (!printer) return printer.failure();
@@ -105,13 +110,20 @@ Status addPlugins(const CommandLine &line, PrintSession &session) {
 
 }  // namespace
 
-Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line) {
+Result<SessionSetup> gatherSetup(const CommandLine &line, const std::atomic<bool> *cancelled) {
   SessionSetup setup;
-  if (const Status gathered = gatherPrinter(line, &setup); !gathered) return gathered.failure();
+  if (const Status gathered = gatherPrinter(line, cancelled, &setup); !gathered) {
+    return gathered.failure();
+  }
   if (const Status gathered = gatherTicket(line, &setup); !gathered) return gathered.failure();
   setup.marks = line.marks;
   setup.panelsMayResize = line.resize;
-  Result<std::unique_ptr<PrintSession>> begun = PrintSession::begin(std::move(setup));
+  return setup;
+}
+
+Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line,
+                                                   const SessionSetup &setup) {
+  Result<std::unique_ptr<PrintSession>> begun = PrintSession::begin(setup);
   if (!begun) return begun;
   std::unique_ptr<PrintSession> session = begun.take();
   if (const Status applied = applyPresetAsAsked(line, *session); !applied) return applied.failure();
@@ -120,6 +132,12 @@ Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line) {
   if (const Status added = addPlugins(line, *session); !added) return added.failure();
   session->openPanels();
   return session;
+}
+
+Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line) {
+  const Result<SessionSetup> setup = gatherSetup(line);
+  if (!setup) return setup.failure();
+  return startSession(line, setup.value());
 }
 
 }  // namespace orvek

@@ -2,6 +2,7 @@
 // From a command line to a running session: printer, ticket, marks, options, plug-ins, panels.
 #pragma once
 
+#include <atomic>
 #include <memory>
 
 #include "host/cli/CommandLine.h"
@@ -9,8 +10,17 @@
 
 namespace orvek {
 
-/// Begins the session that the command line describes and opens its panels. Installed plug-ins that
-/// are broken are reported and left out; one that the command line names is a failure.
+/// What the command line's session begins with: asks the print server, reads PPD and ticket. May
+/// run on a thread of its own; ends soon after `cancelled` (null: never) was set.
+Result<SessionSetup> gatherSetup(const CommandLine &line,
+                                 const std::atomic<bool> *cancelled = nullptr);
+
+/// Begins a session with that and opens its panels. Installed plug-ins that are broken are reported
+/// and left out; one that the command line names is a failure.
+Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line,
+                                                   const SessionSetup &setup);
+
+/// Both, one after the other.
 Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line);
 
 }  // namespace orvek

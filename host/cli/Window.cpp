@@ -41,9 +41,8 @@ Status tellOutcome(const CommandLine &line, const PrintDialog &dialog) {
   return writeToStandardOutput(words.toUtf8() + '\n');
 }
 
-// A session on a printer chosen in the window; what was entered goes along by itself.
-Result<std::unique_ptr<PrintSession>> openPrinter(const CommandLine &line,
-                                                  const QString &destination, const QString &ppd) {
+// For a session on a printer chosen in the window: what was entered there goes along by itself.
+CommandLine lineFor(const CommandLine &line, const QString &destination, const QString &ppd) {
   CommandLine other = line;
   other.destination = destination;
   other.ppd = ppd;
@@ -51,7 +50,7 @@ Result<std::unique_ptr<PrintSession>> openPrinter(const CommandLine &line,
   other.preset = QString();
   other.options.clear();
   other.marks.clear();
-  return startSession(other);
+  return other;
 }
 
 struct Opened {
@@ -76,10 +75,15 @@ DialogSetup dialogSetupFor(const CommandLine &line, const PrintSession &session)
   if (line.output.isNull()) setup.destination = session.destination();
   setup.documentName = line.title.isNull() ? namesOf(line.files) : line.title;
   if (line.files.size() == 1) setup.document.path = line.files.first();
-  setup.openPrinter = [&line](const QString &destination) {
-    return openPrinter(line, destination, QString());
+  setup.askPrinter = [&line](const QString &destination, const std::atomic<bool> &cancelled) {
+    return gatherSetup(lineFor(line, destination, QString()), &cancelled);
   };
-  setup.openDescription = [&line](const QString &ppd) { return openPrinter(line, QString(), ppd); };
+  setup.readDescription = [&line](const QString &ppd, const std::atomic<bool> &cancelled) {
+    return gatherSetup(lineFor(line, QString(), ppd), &cancelled);
+  };
+  setup.beginSession = [&line](const SessionSetup &other) {
+    return startSession(lineFor(line, QString(), QString()), other);
+  };
   setup.presets = std::make_shared<PresetStore>();
   setup.server.server = line.server;
   setup.server.user = line.user;

@@ -134,7 +134,8 @@ void PrintDialog::updateControls() {
   m_notices->setEnabled(!isPrinting);
   m_printers->setEnabled(!isPrinting);
   if (m_presets != nullptr) m_presets->setEnabled(!isPrinting);
-  m_jobBar->setState({.canPrint = !isForFile || m_session->printer() != nullptr,
+  const bool hasPrinter = !isForFile || m_session->printer() != nullptr;
+  m_jobBar->setState({.canPrint = hasPrinter && m_asked.isNull(),
                       .asksForFile = isForFile && !hasFile,
                       .isPrinting = isPrinting,
                       .isCancelling = isPrinting && m_isCancelling});

@@ -33,8 +33,10 @@ class SessionView;
 
 /// What a window is made for, besides the session.
 struct DialogSetup {
-  using OpenPrinter =
-      std::function<Result<std::unique_ptr<PrintSession>>(const QString &destinationOrPath)>;
+  /// Gives what a session on another printer begins with. Is called on a thread of its own, and
+  /// ends soon after `cancelled` was set.
+  using AskPrinter = std::function<Result<SessionSetup>(const QString &destinationOrPath,
+                                                        const std::atomic<bool> &cancelled)>;
 
   QString documentName;   ///< for people
   DocumentInfo document;  ///< what is known of it; more may come with setDocument
@@ -46,8 +48,12 @@ struct DialogSetup {
   /// that says nothing.
   std::function<JobRequest(const PrintSession &)> jobRequest;
 
-  OpenPrinter openPrinter;               ///< a session on another queue, its panels open
-  OpenPrinter openDescription;           ///< the same for the PPD file of this path
+  AskPrinter askPrinter;       ///< asks for a queue
+  AskPrinter readDescription;  ///< reads the PPD file of this path
+
+  /// Begins a session with what was asked for, its panels open.
+  std::function<Result<std::unique_ptr<PrintSession>>(const SessionSetup &)> beginSession;
+
   std::shared_ptr<PresetStore> presets;  ///< null: no presets
 };
 
@@ -99,8 +105,9 @@ class PrintDialog final : public QDialog {
   // Other printers, presets
   void choosePrinter(const QString &destination);
   void chooseDescription();
-  void moveTo(const DialogSetup::OpenPrinter &open, const QString &what,
-              const QString &destination);
+  void ask(const DialogSetup::AskPrinter &asked, const QString &what, const QString &destination);
+  void stopAsking();
+  void moveTo(const Result<SessionSetup> &setup, const QString &destination);
   void takeSession(std::unique_ptr<PrintSession> session, const QString &destination);
   void applyPicked(const Preset &preset);
   void showMisfits(const QString &opening, const QList<PresetMisfit> &misfits);
@@ -131,7 +138,9 @@ class PrintDialog final : public QDialog {
   SessionView *m_view = nullptr;
   JobBar *m_jobBar = nullptr;
   JobRunner *m_runner = nullptr;
-  BackgroundTask m_reading;  // the last: it ends before what it reports to
+  QString m_asked;           // the printer being asked for; null: none
+  BackgroundTask m_reading;  // the last two: they end before what they report to
+  BackgroundTask m_asking;
 };
 
 }  // namespace orvek

@@ -62,7 +62,7 @@ bool PrintDialog::acceptsWarnings() {
 }
 
 void PrintDialog::print() {
-  if (m_runner->isRunning()) return;
+  if (m_runner->isRunning() || !m_asked.isNull()) return;
   JobRequest request = gatherRequest();
   if (!acceptsWarnings() || !completeRequest(&request)) return;
   m_notices->fallSilent();
@@ -75,6 +75,7 @@ void PrintDialog::print() {
 
 void PrintDialog::reject() {
   if (!m_runner->isRunning()) {
+    stopAsking();
     QDialog::reject();
     return;
   }

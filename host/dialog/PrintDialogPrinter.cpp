@@ -3,7 +3,7 @@
 // same way.
 
 #include <QFileDialog>
-#include <QGuiApplication>
+#include <QFileInfo>
 #include <QLayout>
 #include <utility>
 
@@ -14,29 +14,53 @@
 namespace orvek {
 
 void PrintDialog::choosePrinter(const QString &destination) {
-  if (destination.isEmpty()) {
-    m_setup.destination = QString();
+  if (!m_asked.isNull() && destination == m_asked) return;
+  stopAsking();
+  if (destination.isEmpty()) m_setup.destination = QString();
+  if (destination == m_setup.destination) {
     showHeader();
     return;
   }
-  moveTo(m_setup.openPrinter, destination, destination);
+  m_printers->showAsked(destination, tr("Asking %1…").arg(destination));
+  ask(m_setup.askPrinter, destination, destination);
 }
 
 void PrintDialog::chooseDescription() {
   const QString path = QFileDialog::getOpenFileName(this, tr("Open a Printer Description"), {},
                                                     tr("Printer descriptions (*.ppd *.ppd.gz)"));
-  m_printers->show(m_setup.destination);
-  if (!path.isEmpty()) moveTo(m_setup.openDescription, path, {});
+  if (path.isEmpty()) return;
+  stopAsking();
+  m_printers->showAsked(m_setup.destination, tr("Reading %1…").arg(QFileInfo(path).fileName()));
+  ask(m_setup.readDescription, path, {});
 }
 
-void PrintDialog::moveTo(const DialogSetup::OpenPrinter &open, const QString &what,
-                         const QString &destination) {
-  m_printers->show(m_setup.destination);
-  if (!open) return;
-  QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-  Result<std::unique_ptr<PrintSession>> opened = open(what);
-  QGuiApplication::restoreOverrideCursor();
+// A server may take its time: the window stays as it is, on the old printer, until there is an
+// answer. Whoever picks another one meanwhile drops it.
+void PrintDialog::ask(const DialogSetup::AskPrinter &asked, const QString &what,
+                      const QString &destination) {
+  if (!asked) {
+    showHeader();
+    return;
+  }
+  m_asked = what;
+  updateControls();
+  m_asking.start(
+      this,
+      [asked, what](const BackgroundTask::Cancelled &cancelled) { return asked(what, cancelled); },
+      [this, destination](const Result<SessionSetup> &setup) { moveTo(setup, destination); });
+}
+
+void PrintDialog::stopAsking() {
+  m_asking.cancel();
+  m_asked = QString();
+}
+
+void PrintDialog::moveTo(const Result<SessionSetup> &setup, const QString &destination) {
+  stopAsking();
+  auto opened = setup ? m_setup.beginSession(setup.value())
+                      : Result<std::unique_ptr<PrintSession>>(setup.failure());
   if (!opened) {
+    showHeader();
     showProblem(opened.failure());
     return;
   }

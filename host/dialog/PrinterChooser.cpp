@@ -60,11 +60,12 @@ PrinterChooser::PrinterChooser(ServerAccess access, QWidget *parent)
 
 void PrinterChooser::pick() {
   if (m_menu->currentData(kindRole).toBool()) {
+    fill(m_destination);  // a way to a printer is none itself
     Q_EMIT descriptionAsked();
     return;
   }
   const QString destination = m_menu->currentData().toString();
-  if (destination != m_destination) Q_EMIT chosen(destination);
+  if (destination != m_destination || !m_asking.isNull()) Q_EMIT chosen(destination);
 }
 
 void PrinterChooser::refresh() {
@@ -86,6 +87,11 @@ void PrinterChooser::take(const Answer &answer) {
 }
 
 void PrinterChooser::show(const QString &destination) {
+  showAsked(destination, QString());
+}
+
+void PrinterChooser::showAsked(const QString &destination, const QString &words) {
+  m_asking = words;
   fill(destination);
 }
 
@@ -143,6 +149,7 @@ void PrinterChooser::showDetail() {
   for (const Printer &printer : m_printers) {
     if (printer.destination() == m_destination && m_problem.isNull()) detail = detailOf(printer);
   }
+  if (!m_asking.isNull()) detail = m_asking;
   m_detail->setWholeText(detail);
   m_menu->setAccessibleDescription(detail);
 }

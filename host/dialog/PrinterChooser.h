@@ -26,6 +26,9 @@ class PrinterChooser final : public QWidget {
   /// Shows a destination ("NAME/INSTANCE"; empty: a file) without a word to anyone.
   void show(const QString &destination);
 
+  /// The same, with these words in place of its state: until the next show() it is being asked for.
+  void showAsked(const QString &destination, const QString &words);
+
   /// What a file is printed for.
   void setFileModel(const QString &model);
 
@@ -36,7 +39,7 @@ class PrinterChooser final : public QWidget {
   QComboBox *menu() const { return m_menu; }
 
  Q_SIGNALS:
-  /// The user picked another one.
+  /// The user picked another one, or any while one is being asked for.
   void chosen(const QString &destination);
 
   /// The user wants a printer description from a file.
@@ -58,6 +61,7 @@ class PrinterChooser final : public QWidget {
   QList<Printer> m_printers;
   QString m_problem;  // why there is no list; null: there is one, or nobody asked yet
   QString m_destination;
+  QString m_asking;  // in words; null: nothing is being asked for
   QString m_fileModel;
   bool m_fileIsPossible = true;
   QComboBox *m_menu;

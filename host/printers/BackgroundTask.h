@@ -8,29 +8,36 @@
 #include <memory>
 #include <thread>
 #include <utility>
+#include <vector>
 
 namespace orvek {
 
-/// One piece of work at a time on a thread of its own. Destroying it cancels the work and waits for
-/// it, which takes as long as the work needs to notice. Use it from the thread of its owner only.
+/// One piece of work that counts at a time, each on a thread of its own. Destroying it cancels the
+/// work and waits for it, which takes as long as the work needs to notice. Use it from the thread
+/// of its owner only.
 class BackgroundTask {
  public:
   using Cancelled = std::atomic<bool>;
 
   BackgroundTask() = default;
-  ~BackgroundTask() { cancelAndWait(); }
+  ~BackgroundTask() {
+    cancel();
+    for (Run &run : m_runs) run.thread.join();
+  }
   BackgroundTask(const BackgroundTask &) = delete;
   BackgroundTask &operator=(const BackgroundTask &) = delete;
 
   /// Runs `work(const Cancelled &)` on the thread, then `done(result)` in `context`'s event loop;
   /// not where the task was cancelled meanwhile. `context` has to outlive the task: be its owner.
-  /// Earlier work is cancelled first.
+  /// Earlier work is cancelled, but not waited for.
   template <typename Work, typename Done>
   void start(QObject *context, Work work, Done done) {
-    cancelAndWait();
-    m_cancelled = std::make_shared<Cancelled>(false);
-    m_thread = std::thread([cancelled = m_cancelled, context, work = std::move(work),
-                            done = std::move(done)]() mutable {
+    cancel();
+    forgetEnded();
+    Run run;
+    m_cancelled = run.cancelled;
+    run.thread = std::thread([cancelled = run.cancelled, ended = run.ended, context,
+                              work = std::move(work), done = std::move(done)]() mutable {
       auto result = work(*cancelled);
       QMetaObject::invokeMethod(
           context,
@@ -39,7 +46,9 @@ class BackgroundTask {
             if (!*cancelled) done(std::move(result));
           },
           Qt::QueuedConnection);
+      *ended = true;
     });
+    m_runs.push_back(std::move(run));
   }
 
   /// Asks the work to end; its result is dropped.
@@ -48,13 +57,22 @@ class BackgroundTask {
   }
 
  private:
-  void cancelAndWait() {
-    cancel();
-    if (m_thread.joinable()) m_thread.join();
+  struct Run {
+    std::shared_ptr<Cancelled> cancelled = std::make_shared<Cancelled>(false);
+    std::shared_ptr<std::atomic<bool>> ended = std::make_shared<std::atomic<bool>>(false);
+    std::thread thread;
+  };
+
+  void forgetEnded() {
+    std::erase_if(m_runs, [](Run &run) {
+      if (!*run.ended) return false;
+      run.thread.join();
+      return true;
+    });
   }
 
-  std::shared_ptr<Cancelled> m_cancelled;
-  std::thread m_thread;
+  std::shared_ptr<Cancelled> m_cancelled;  // of the last run
+  std::vector<Run> m_runs;
 };
 
 }  // namespace orvek

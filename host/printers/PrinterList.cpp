@@ -84,6 +84,16 @@ bool serverAnswered() {
   return status < IPP_STATUS_REDIRECTION_OTHER_SITE || status == IPP_STATUS_ERROR_NOT_FOUND;
 }
 
+/// Where a question about one queue fails, libcups asks again over a connection of its own, which
+/// waits as long as the server likes. So a server has to show first that it answers at all.
+Status checkAnswers(const CupsConnection &connection) {
+  ipp_t *request = ippNewRequest(IPP_OP_CUPS_GET_DEFAULT);
+  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+               "printer-name");
+  ippDelete(cupsDoRequest(connection.http(), request, "/"));
+  return connection.isBroken() ? connection.lastFailure(connection.serverName()) : Status();
+}
+
 Failure noSuchPrinter(const CupsConnection &connection, const QString &destination) {
   return {FailureKind::Io, destination,
           QStringLiteral("no such printer on %1; \"orvek-print --list-printers\" lists them")
@@ -146,6 +156,7 @@ Result<Printer> findPrinter(const ServerAccess &access, const QString &destinati
 }
 
 Result<Printer> findPrinter(const CupsConnection &connection, const QString &destination) {
+  if (const Status answers = checkAnswers(connection); !answers) return answers.failure();
   const qsizetype slash = destination.lastIndexOf(u'/');
   const QByteArray name = (slash < 0 ? destination : destination.left(slash)).toUtf8();
   const QByteArray instance = slash < 0 ? QByteArray() : destination.mid(slash + 1).toUtf8();

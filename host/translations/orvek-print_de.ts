@@ -4,7 +4,7 @@
 <context>
     <name>orvek::Availability</name>
     <message>
-        <source>needs the %1, which this printer doesn't have</source>
+        <source>needs the %1, which this printer doesn&apos;t have</source>
         <translation>braucht %1, was dieser Drucker nicht hat</translation>
     </message>
     <message>
@@ -43,7 +43,7 @@
         <translation>Keine Seite des Dokuments wird gedruckt.</translation>
     </message>
     <message>
-        <source>The document's page count is not known; a sample of %1 pages is shown</source>
+        <source>The document&apos;s page count is not known; a sample of %1 pages is shown</source>
         <translation>Seitenzahl des Dokuments unbekannt; Beispiel mit %1 Seiten</translation>
     </message>
     <message>
@@ -323,7 +323,7 @@
         <translation>Optionen</translation>
     </message>
     <message>
-        <source>Return opens an option's choices, Delete sets it back</source>
+        <source>Return opens an option&apos;s choices, Delete sets it back</source>
         <translation>Eingabe öffnet die Auswahl einer Option, Entf setzt sie zurück</translation>
     </message>
 </context>
@@ -419,15 +419,15 @@
 <context>
     <name>orvek::PresetFit</name>
     <message>
-        <source>this printer has no option "%1"</source>
+        <source>this printer has no option &quot;%1&quot;</source>
         <translation>dieser Drucker hat keine Option „%1“</translation>
     </message>
     <message>
-        <source>"%1" is installed equipment, which a preset does not change</source>
+        <source>&quot;%1&quot; is installed equipment, which a preset does not change</source>
         <translation>„%1“ ist eingebaute Ausstattung; eine Voreinstellung ändert sie nicht</translation>
     </message>
     <message>
-        <source>"%1" of this printer has no choice "%2"</source>
+        <source>&quot;%1&quot; of this printer has no choice &quot;%2&quot;</source>
         <translation>„%1“ hat bei diesem Drucker keine Auswahl „%2“</translation>
     </message>
 </context>
@@ -500,6 +500,14 @@
         <source>Printer descriptions (*.ppd *.ppd.gz)</source>
         <translation>Druckerbeschreibungen (*.ppd *.ppd.gz)</translation>
     </message>
+    <message>
+        <source>Asking %1…</source>
+        <translation>%1 wird gefragt …</translation>
+    </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>%1 wird gelesen …</translation>
+    </message>
 </context>
 <context>
     <name>orvek::Printer</name>
@@ -512,11 +520,11 @@
         <translation>Eine Abdeckung ist offen</translation>
     </message>
     <message>
-        <source>The printer's filter can be changed by others and is not run</source>
+        <source>The printer&apos;s filter can be changed by others and is not run</source>
         <translation>Der Filter des Druckers kann von anderen geändert werden und läuft nicht</translation>
     </message>
     <message>
-        <source>The printer's filter is missing</source>
+        <source>The printer&apos;s filter is missing</source>
         <translation>Der Filter des Druckers fehlt</translation>
     </message>
     <message>
@@ -592,7 +600,7 @@
         <translation>Der Drucker ist ausgeschaltet</translation>
     </message>
     <message>
-        <source>The printer's memory is full</source>
+        <source>The printer&apos;s memory is full</source>
         <translation>Der Speicher des Druckers ist voll</translation>
     </message>
     <message>
@@ -782,11 +790,11 @@
 <context>
     <name>orvek::Wording</name>
     <message>
-        <source>%1 was set to %2: it can't be combined with %3</source>
+        <source>%1 was set to %2: it can&apos;t be combined with %3</source>
         <translation>%1 wurde auf „%2“ gestellt: nicht vereinbar mit „%3“</translation>
     </message>
     <message>
-        <source>%1 was not set to %2: it can't be combined with %3</source>
+        <source>%1 was not set to %2: it can&apos;t be combined with %3</source>
         <translation>%1 wurde nicht auf „%2“ gestellt: nicht vereinbar mit „%3“</translation>
     </message>
 </context>

@@ -4,7 +4,7 @@
 <context>
     <name>orvek::Availability</name>
     <message>
-        <source>needs the %1, which this printer doesn't have</source>
+        <source>needs the %1, which this printer doesn&apos;t have</source>
         <translation>nécessite %1, que cette imprimante n’a pas</translation>
     </message>
     <message>
@@ -43,7 +43,7 @@
         <translation>Aucune page du document n’est imprimée.</translation>
     </message>
     <message>
-        <source>The document's page count is not known; a sample of %1 pages is shown</source>
+        <source>The document&apos;s page count is not known; a sample of %1 pages is shown</source>
         <translation>Nombre de pages inconnu ; exemple de %1 pages</translation>
     </message>
     <message>
@@ -323,7 +323,7 @@
         <translation>Options</translation>
     </message>
     <message>
-        <source>Return opens an option's choices, Delete sets it back</source>
+        <source>Return opens an option&apos;s choices, Delete sets it back</source>
         <translation>Entrée ouvre les choix d’une option, Suppr la rétablit</translation>
     </message>
 </context>
@@ -419,15 +419,15 @@
 <context>
     <name>orvek::PresetFit</name>
     <message>
-        <source>this printer has no option "%1"</source>
+        <source>this printer has no option &quot;%1&quot;</source>
         <translation>cette imprimante n’a pas d’option « %1 »</translation>
     </message>
     <message>
-        <source>"%1" is installed equipment, which a preset does not change</source>
+        <source>&quot;%1&quot; is installed equipment, which a preset does not change</source>
         <translation>« %1 » est un équipement installé, qu’un préréglage ne change pas</translation>
     </message>
     <message>
-        <source>"%1" of this printer has no choice "%2"</source>
+        <source>&quot;%1&quot; of this printer has no choice &quot;%2&quot;</source>
         <translation>« %1 » n’a pas de choix « %2 » sur cette imprimante</translation>
     </message>
 </context>
@@ -500,6 +500,14 @@
         <source>Printer descriptions (*.ppd *.ppd.gz)</source>
         <translation>Descriptions d’imprimante (*.ppd *.ppd.gz)</translation>
     </message>
+    <message>
+        <source>Asking %1…</source>
+        <translation>Interrogation de %1…</translation>
+    </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>Lecture de %1…</translation>
+    </message>
 </context>
 <context>
     <name>orvek::Printer</name>
@@ -512,11 +520,11 @@
         <translation>Un capot est ouvert</translation>
     </message>
     <message>
-        <source>The printer's filter can be changed by others and is not run</source>
+        <source>The printer&apos;s filter can be changed by others and is not run</source>
         <translation>Le filtre de l’imprimante est modifiable par d’autres et n’est pas exécuté</translation>
     </message>
     <message>
-        <source>The printer's filter is missing</source>
+        <source>The printer&apos;s filter is missing</source>
         <translation>Le filtre de l’imprimante manque</translation>
     </message>
     <message>
@@ -592,7 +600,7 @@
         <translation>L’imprimante est éteinte</translation>
     </message>
     <message>
-        <source>The printer's memory is full</source>
+        <source>The printer&apos;s memory is full</source>
         <translation>La mémoire de l’imprimante est pleine</translation>
     </message>
     <message>
@@ -782,11 +790,11 @@
 <context>
     <name>orvek::Wording</name>
     <message>
-        <source>%1 was set to %2: it can't be combined with %3</source>
+        <source>%1 was set to %2: it can&apos;t be combined with %3</source>
         <translation>%1 : passé à « %2 », incompatible avec « %3 »</translation>
     </message>
     <message>
-        <source>%1 was not set to %2: it can't be combined with %3</source>
+        <source>%1 was not set to %2: it can&apos;t be combined with %3</source>
         <translation>%1 : « %2 » refusé, incompatible avec « %3 »</translation>
     </message>
 </context>

@@ -4,7 +4,7 @@
 <context>
     <name>orvek::Availability</name>
     <message>
-        <source>needs the %1, which this printer doesn't have</source>
+        <source>needs the %1, which this printer doesn&apos;t have</source>
         <translation>%1 が必要ですが、このプリンターにはありません</translation>
     </message>
     <message>
@@ -43,7 +43,7 @@
         <translation>印刷されるページがありません。</translation>
     </message>
     <message>
-        <source>The document's page count is not known; a sample of %1 pages is shown</source>
+        <source>The document&apos;s page count is not known; a sample of %1 pages is shown</source>
         <translation>文書のページ数が不明なため、%1 ページの例を示します</translation>
     </message>
     <message>
@@ -323,7 +323,7 @@
         <translation>オプション</translation>
     </message>
     <message>
-        <source>Return opens an option's choices, Delete sets it back</source>
+        <source>Return opens an option&apos;s choices, Delete sets it back</source>
         <translation>Enter で選択肢を開き、Delete で既定に戻します</translation>
     </message>
 </context>
@@ -419,15 +419,15 @@
 <context>
     <name>orvek::PresetFit</name>
     <message>
-        <source>this printer has no option "%1"</source>
+        <source>this printer has no option &quot;%1&quot;</source>
         <translation>このプリンターにオプション「%1」はありません</translation>
     </message>
     <message>
-        <source>"%1" is installed equipment, which a preset does not change</source>
+        <source>&quot;%1&quot; is installed equipment, which a preset does not change</source>
         <translation>「%1」は装備品のため、プリセットでは変更されません</translation>
     </message>
     <message>
-        <source>"%1" of this printer has no choice "%2"</source>
+        <source>&quot;%1&quot; of this printer has no choice &quot;%2&quot;</source>
         <translation>このプリンターの「%1」に選択肢「%2」はありません</translation>
     </message>
 </context>
@@ -500,6 +500,14 @@
         <source>Printer descriptions (*.ppd *.ppd.gz)</source>
         <translation>プリンター記述 (*.ppd *.ppd.gz)</translation>
     </message>
+    <message>
+        <source>Asking %1…</source>
+        <translation>%1 に問い合わせ中…</translation>
+    </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>%1 を読み込み中…</translation>
+    </message>
 </context>
 <context>
     <name>orvek::Printer</name>
@@ -512,11 +520,11 @@
         <translation>カバーが開いています</translation>
     </message>
     <message>
-        <source>The printer's filter can be changed by others and is not run</source>
+        <source>The printer&apos;s filter can be changed by others and is not run</source>
         <translation>フィルターが他の人に変更可能なため実行されません</translation>
     </message>
     <message>
-        <source>The printer's filter is missing</source>
+        <source>The printer&apos;s filter is missing</source>
         <translation>フィルターがありません</translation>
     </message>
     <message>
@@ -592,7 +600,7 @@
         <translation>プリンターの電源が切れています</translation>
     </message>
     <message>
-        <source>The printer's memory is full</source>
+        <source>The printer&apos;s memory is full</source>
         <translation>プリンターのメモリーがいっぱいです</translation>
     </message>
     <message>
@@ -782,11 +790,11 @@
 <context>
     <name>orvek::Wording</name>
     <message>
-        <source>%1 was set to %2: it can't be combined with %3</source>
+        <source>%1 was set to %2: it can&apos;t be combined with %3</source>
         <translation>%1 を「%2」に変更しました: 「%3」とは併用できません</translation>
     </message>
     <message>
-        <source>%1 was not set to %2: it can't be combined with %3</source>
+        <source>%1 was not set to %2: it can&apos;t be combined with %3</source>
         <translation>%1 は「%2」にできません: 「%3」とは併用できません</translation>
     </message>
 </context>

@@ -38,10 +38,20 @@ class DialogTest : public ::testing::Test {
 
   static Result<std::unique_ptr<PrintSession>> openSession(const QString &ppd,
                                                            SessionSetup setup = {}) {
+    auto gathered = setupFor(ppd, std::move(setup));
+    if (!gathered) return gathered.failure();
+    return beginSession(gathered.value());
+  }
+
+  static Result<SessionSetup> setupFor(const QString &ppd, SessionSetup setup = {}) {
     auto description = PrinterDescription::open(ppd);
     if (!description) return description.failure();
     setup.printer = description.take();
-    auto begun = PrintSession::begin(std::move(setup));
+    return setup;
+  }
+
+  static Result<std::unique_ptr<PrintSession>> beginSession(const SessionSetup &setup) {
+    auto begun = PrintSession::begin(setup);
     if (!begun) return begun;
     auto plugin = loadPlugin(QStringLiteral(ORVEK_BUNDLE_DIR));
     if (!plugin) return plugin.failure();

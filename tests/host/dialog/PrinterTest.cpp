@@ -1,10 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
 // Choosing among the queues of a private print server, and what becomes of what was entered.
 
-#include <QLabel>
-#include <QStandardItemModel>
+#include <arpa/inet.h>
+#include <sys/socket.h>
+#include <unistd.h>
 
-#include "host/printers/QueuePPD.h"
+#include <QElapsedTimer>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QStandardItemModel>
+#include <QTimer>
+
+#include "host/printers/QueueSetup.h"
 #include "tests/host/dialog/DialogKit.h"
 #include "tests/support/PrivateCups.h"
 
@@ -14,6 +22,31 @@ using orvek::testing::PrivateCups;
 namespace {
 
 const QString printers = QStringLiteral(ORVEK_SOURCE_DIR "/printers/");
+
+// Takes every connection, and never says a word.
+class SilentServer {
+ public:
+  SilentServer() {
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof address;
+    auto *plain = reinterpret_cast<sockaddr *>(&address);
+    EXPECT_EQ(::bind(m_socket, plain, size), 0);
+    EXPECT_EQ(::listen(m_socket, SOMAXCONN), 0);
+    EXPECT_EQ(::getsockname(m_socket, plain, &size), 0);
+    m_name = QStringLiteral("127.0.0.1:%1").arg(ntohs(address.sin_port));
+  }
+  ~SilentServer() { ::close(m_socket); }
+  SilentServer(const SilentServer &) = delete;
+  SilentServer &operator=(const SilentServer &) = delete;
+
+  const QString &name() const { return m_name; }
+
+ private:
+  int m_socket = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+  QString m_name;
+};
 
 class PrinterChoice : public DialogTest {
  protected:
@@ -26,18 +59,41 @@ class PrinterChoice : public DialogTest {
     server->addQueue(QStringLiteral("small"), printers + "Orvek-2120.ppd");
     prepare = [this](DialogSetup &setup) {
       setup.server.server = server->socket();
-      setup.openPrinter = [this](const QString &queue) { return openQueue(queue); };
+      setup.askPrinter = [this](const QString &queue, const std::atomic<bool> &cancelled) {
+        return askServer(queue, cancelled);
+      };
+      setup.beginSession = [this](const SessionSetup &other) {
+        begun << other.destination;
+        return beginSession(other);
+      };
+      setup.readDescription = [](const QString &path, const std::atomic<bool> &) {
+        return setupFor(path);
+      };
       setup.presets = std::make_shared<PresetStore>(folder.filePath(QStringLiteral("presets")));
     };
   }
 
-  Result<std::unique_ptr<PrintSession>> openQueue(const QString &queue) {
+  // Runs on a thread of its own, as every question to a server does.
+  Result<SessionSetup> askServer(const QString &queue, const std::atomic<bool> &cancelled) const {
     ServerAccess access;
-    access.server = server->socket();
-    Result<QString> path = QueuePPD(folder.filePath(QStringLiteral("ppd"))).fetch(access, queue);
-    if (!path) return path.failure();
-    return openSession(path.value());
+    access.server = queue == silentQueue ? silentServer.name() : server->socket();
+    access.cancelled = &cancelled;
+    access.patience = patience;
+    SessionSetup setup;
+    if (Status asked = setUpForQueue(access, queue, &setup); !asked) return asked.failure();
+    return setup;
   }
+
+  // A question to a server takes as long as the server does.
+  void pickPrinter(const QString &name) {
+    clickItem("printerMenu", name);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !isAsking(); }, jobTimeout));
+  }
+
+  bool canPrint() const { return find<QPushButton>("printButton")->isEnabled(); }
+  QString shownPrinter() const { return find<QComboBox>("printerMenu")->currentText(); }
+
+  bool isAsking() const { return detail().startsWith(QStringLiteral("Asking")); }
 
   void list() {
     auto *chooser = dialog->findChild<PrinterChooser *>();
@@ -49,12 +105,16 @@ class PrinterChoice : public DialogTest {
   QString detail() const { return find<QLabel>("printerDetail")->accessibleName(); }
 
   std::unique_ptr<PrivateCups> server;
+  SilentServer silentServer;
+  QString silentQueue;  ///< the one that it is asked for
+  QStringList begun;    ///< the destinations of the sessions that the window asked for
+  std::chrono::milliseconds patience = kServerPatience;
 };
 
 TEST_F(PrinterChoice, ShowsStateAndLocationOfAQueue) {
   open();
   list();
-  clickItem("printerMenu", QStringLiteral("big"));
+  pickPrinter(QStringLiteral("big"));
   EXPECT_TRUE(detail().contains(QStringLiteral("Second floor"))) << detail().toStdString();
   EXPECT_TRUE(detail().contains(QStringLiteral("Idle"))) << detail().toStdString();
 }
@@ -62,7 +122,7 @@ TEST_F(PrinterChoice, ShowsStateAndLocationOfAQueue) {
 TEST_F(PrinterChoice, SendsPicksToTheQueueAndTellsTheJobsNumber) {
   open();
   list();
-  clickItem("printerMenu", QStringLiteral("big"));
+  pickPrinter(QStringLiteral("big"));
   clickItem("foldingPopup", QStringLiteral("Saddle fold"));
   QSignalSpy finished(dialog.get(), &QDialog::finished);
   click("printButton");
@@ -82,7 +142,7 @@ TEST_F(PrinterChoice, TakesAlongWhatFitsAndSaysWhatDoesNot) {
   settings.copies = 3;
   session->setJobSettings(settings);
   clickItem("foldingPopup", QStringLiteral("Saddle fold"));
-  clickItem("printerMenu", QStringLiteral("small"));
+  pickPrinter(QStringLiteral("small"));
   ASSERT_NE(&dialog->session(), session.get());
   EXPECT_EQ(dialog->session().jobSettings().copies, 3);
   EXPECT_EQ(dialog->session().marks().marked(QStringLiteral("OVKFolding")), QString());
@@ -95,7 +155,7 @@ TEST_F(PrinterChoice, KeepsEverythingWhenTheServerHasStopped) {
   list();
   clickItem("foldingPopup", QStringLiteral("Saddle fold"));
   server->stop();
-  clickItem("printerMenu", QStringLiteral("small"));
+  pickPrinter(QStringLiteral("small"));
   EXPECT_EQ(&dialog->session(), session.get());
   EXPECT_EQ(session->marks().marked(QStringLiteral("OVKFolding")), QStringLiteral("Saddle"));
   EXPECT_TRUE(notices().isVisible());
@@ -122,9 +182,104 @@ TEST_F(PrinterChoice, WithoutAPrinterSaysWhatToDo) {
   EXPECT_FALSE(find<QPushButton>("printButton")->isEnabled());
   EXPECT_TRUE(detail().contains(QStringLiteral("printer description"))) << detail().toStdString();
   list();
-  clickItem("printerMenu", QStringLiteral("big"));
+  pickPrinter(QStringLiteral("big"));
   EXPECT_TRUE(find<QPushButton>("printButton")->isEnabled());
   EXPECT_NE(find<QComboBox>("foldingPopup"), nullptr);
+}
+
+TEST_F(PrinterChoice, AsksInTheBackgroundAndSaysSo) {
+  open();
+  list();
+  server->pause();
+  clickItem("printerMenu", QStringLiteral("small"));
+  EXPECT_EQ(detail(), QStringLiteral("Asking small…"));
+  EXPECT_EQ(shownPrinter(), QStringLiteral("small"));
+  EXPECT_FALSE(canPrint());
+  dialog->print();
+  EXPECT_FALSE(find<QWidget>("pages")->isHidden() || !find<QWidget>("pages")->isEnabled());
+  clickItem("punchPopup", QStringLiteral("2 holes (metric)"));
+  EXPECT_NE(session->marks().marked(QStringLiteral("OVKPunching")), QStringLiteral("None"));
+  EXPECT_TRUE(isAsking());
+  server->resume();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !isAsking(); }, jobTimeout));
+  EXPECT_NE(&dialog->session(), session.get());
+  EXPECT_TRUE(canPrint());
+}
+
+TEST_F(PrinterChoice, GoesToTheLastPickOnly) {
+  open();
+  list();
+  server->pause();
+  clickItem("printerMenu", QStringLiteral("small"));
+  clickItem("printerMenu", QStringLiteral("big"));
+  EXPECT_EQ(detail(), QStringLiteral("Asking big…"));
+  server->resume();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !isAsking(); }, jobTimeout));
+  EXPECT_EQ(shownPrinter(), QStringLiteral("big"));
+  dialog.reset();  // every answer is in
+  EXPECT_EQ(begun, QStringList(QStringLiteral("big")));
+}
+
+TEST_F(PrinterChoice, ComesBackToTheFormerPrinterWhileAnotherIsAsked) {
+  open();
+  list();
+  pickPrinter(QStringLiteral("big"));
+  const PrintSession *before = &dialog->session();
+  silentQueue = QStringLiteral("small");
+  clickItem("printerMenu", QStringLiteral("small"));
+  ASSERT_TRUE(isAsking());
+  clickItem("printerMenu", QStringLiteral("big"));
+  EXPECT_FALSE(isAsking());
+  EXPECT_EQ(&dialog->session(), before);
+  EXPECT_TRUE(canPrint());
+}
+
+TEST_F(PrinterChoice, StaysWithWhatWasEnteredWhenAServerNeverAnswers) {
+  patience = std::chrono::seconds(1);
+  open();
+  list();
+  clickItem("foldingPopup", QStringLiteral("Saddle fold"));
+  silentQueue = QStringLiteral("small");
+  pickPrinter(QStringLiteral("small"));
+  EXPECT_EQ(&dialog->session(), session.get());
+  EXPECT_EQ(session->marks().marked(QStringLiteral("OVKFolding")), QStringLiteral("Saddle"));
+  EXPECT_TRUE(shownPrinter().startsWith(QStringLiteral("File"))) << shownPrinter().toStdString();
+  ASSERT_TRUE(notices().isVisible());
+  EXPECT_TRUE(notices().sentences().first().contains(QStringLiteral("stopped answering")))
+      << notices().sentences().first().toStdString();
+  EXPECT_TRUE(canPrint());
+}
+
+TEST_F(PrinterChoice, MayBeClosedWhileAPrinterIsAsked) {
+  constexpr int soon = 3000;  // milliseconds; far less than a server's patience
+  open();
+  list();
+  silentQueue = QStringLiteral("small");
+  clickItem("printerMenu", QStringLiteral("small"));
+  ASSERT_TRUE(isAsking());
+  QElapsedTimer clock;
+  clock.start();
+  click("cancelButton");
+  EXPECT_FALSE(dialog->isVisible());
+  dialog.reset();
+  EXPECT_LT(clock.elapsed(), soon);
+  EXPECT_TRUE(begun.isEmpty());
+}
+
+TEST_F(PrinterChoice, OpensAPrinterDescription) {
+  open();
+  QTimer answer;
+  QObject::connect(&answer, &QTimer::timeout, qApp, [&answer] {
+    auto *question = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+    if (question == nullptr) return;  // the menu is still open
+    answer.stop();
+    question->findChild<QLineEdit *>()->setText(printers + "Orvek-2120.ppd");
+    QTest::keyClick(question->findChild<QLineEdit *>(), Qt::Key_Return);
+  });
+  answer.start(50);
+  clickItem("printerMenu", QStringLiteral("Open Printer Description…"));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return &dialog->session() != session.get(); }, jobTimeout));
+  EXPECT_EQ(shownPrinter(), QStringLiteral("File (Orvek 2120 PostScript)"));
 }
 
 }  // namespace

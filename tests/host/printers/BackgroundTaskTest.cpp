@@ -55,6 +55,25 @@ TEST(BackgroundTask, DropsEarlierWorkForNewWork) {
   EXPECT_EQ(earlier, 0);
 }
 
+TEST(BackgroundTask, DoesNotWaitForEarlierWorkThatIsSlowToNotice) {
+  std::atomic<bool> mayEnd = false;
+  QObject owner;
+  BackgroundTask task;
+  int result = 0;
+  task.start(
+      &owner,
+      [&mayEnd](const BackgroundTask::Cancelled &) {
+        while (!mayEnd) QThread::msleep(1);
+        return 1;
+      },
+      [&](int value) { result = value; });
+  task.start(&owner, seven, [&](int value) { result = value; });
+  EXPECT_TRUE(QTest::qWaitFor([&] { return result == 7; }));
+  mayEnd = true;
+  QTest::qWait(1);
+  EXPECT_EQ(result, 7);
+}
+
 TEST(BackgroundTask, MayBeDestroyedWhileItRuns) {
   QObject owner;
   bool heard = false;

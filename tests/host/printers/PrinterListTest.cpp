@@ -160,6 +160,21 @@ TEST_F(PrinterList, GivesUpOnAServerThatHangs) {
       << printers.failure().line().toStdString();
 }
 
+TEST_F(PrinterList, GivesUpOnAServerThatHangsWhenAskedForOneQueue) {
+  constexpr int kLongest = 8000;
+  cups->pause();
+  QElapsedTimer clock;
+  clock.start();
+  const auto printer =
+      findPrinter({cups->hostAndPort(), QString(), nullptr, 1s}, QStringLiteral("gone"));
+  const qint64 elapsed = clock.elapsed();
+  cups->resume();
+  ASSERT_FALSE(printer);
+  EXPECT_LT(elapsed, kLongest);
+  EXPECT_TRUE(printer.failure().why.contains(QStringLiteral("stopped answering")))
+      << printer.failure().line().toStdString();
+}
+
 TEST_F(PrinterList, EndsItsWaitWhenCancelled) {
   constexpr int kLongest = 3000;
   const std::atomic<bool> cancelled = true;
