@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -81,6 +82,19 @@ void SessionView::setDocument(const DocumentInfo &document) {
   m_document = document;
   delete std::exchange(m_preview, nullptr);
   updatePreview();
+}
+
+// After the first paint: which lines of a session that began with a ticket are changed ones takes a
+// second set of panels to tell, and nobody waits for the window because of that.
+void SessionView::paintEvent(QPaintEvent *event) {
+  QWidget::paintEvent(event);
+  if (std::exchange(m_isPainted, true) || m_session.defaultSummary()) return;
+  QTimer::singleShot(0, this, &SessionView::learnDefaults);
+}
+
+void SessionView::learnDefaults() {
+  m_session.learnDefaultSummary();
+  followSession();
 }
 
 void SessionView::followSession() {

@@ -26,14 +26,19 @@ class SessionView final : public QWidget {
 
   void setDocument(const DocumentInfo &document);
 
+ protected:
+  void paintEvent(QPaintEvent *event) override;
+
  private:
   void addPages();
   void addPanelPages();
   QLayout *buildAside();
   void followSession();
+  void learnDefaults();
   void updatePreview();
 
   PrintSession &m_session;
+  bool m_isPainted = false;
   DocumentInfo m_document;
   QTabWidget *m_pages;
   SummaryView *m_summary;

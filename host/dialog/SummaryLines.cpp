@@ -4,6 +4,7 @@
 #include "host/dialog/SummaryLines.h"
 
 #include <QCoreApplication>
+#include <QSet>
 #include <algorithm>
 
 #include "host/session/Constraints.h"
@@ -71,22 +72,43 @@ QList<SummaryLine> jobLines(const PrintSession &session) {
   return lines;
 }
 
-bool differs(const QMap<QString, QString> &baseline, const SummaryLine &line) {
-  const auto before = baseline.find(line.title);
-  return before != baseline.end() && before.value() != line.value;
+// The titles of the options that panels took over: what of those changed, the marks say.
+QSet<QString> optionTitles(const PrintSession &session) {
+  QSet<QString> titles;
+  if (!session.printer()) return titles;
+  for (const auto &hosted : session.panels()) {
+    for (const QString &option : hosted->claimedOptions()) {
+      titles.insert(optionText(session.printer()->ppd(), option));
+    }
+  }
+  return titles;
+}
+
+// What is not known yet counts as unchanged.
+QMap<QString, QString> defaultsOf(const PrintSession &session) {
+  QMap<QString, QString> defaults;
+  const QSet<QString> options = optionTitles(session);
+  for (const auto &[title, value] : session.defaultSummary().value_or(SummaryText())) {
+    if (!options.contains(title)) defaults.insert(title, value);
+  }
+  return defaults;
+}
+
+bool differs(const QMap<QString, QString> &defaults, const SummaryLine &line) {
+  const auto standard = defaults.find(line.title);
+  return standard != defaults.end() && standard.value() != line.value;
 }
 
 }  // namespace
 
 QList<SummaryLine> summaryLines(const PrintSession &session) {
-  QMap<QString, QString> baseline;
-  for (const auto &[title, value] : session.openingSummary()) baseline.insert(title, value);
+  const QMap<QString, QString> defaults = defaultsOf(session);
   QStringList order;
   QMap<QString, QString> changed = changedOptions(session, &order);
   QList<SummaryLine> lines;
   for (const auto &[title, value] : session.summary()) {
     SummaryLine line{title, value, changed.contains(title)};
-    line.changed = line.changed || differs(baseline, line);
+    line.changed = line.changed || differs(defaults, line);
     changed.remove(title);
     lines << line;
   }

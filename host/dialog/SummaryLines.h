@@ -21,7 +21,8 @@ struct SummaryLine {
 
 /// Changed settings first: the panels' lines, then whatever else differs from the PPD's defaults;
 /// then the panels' other lines. A panel's line counts as changed where it speaks of an option
-/// whose choice is not the default, or where it is not what it was when the panels were opened.
+/// whose choice is not the default; one about something else where it is not what the panel says of
+/// a job that nobody changed, as far as the session knows that.
 /// Installed equipment is no setting of a job and is left out.
 QList<SummaryLine> summaryLines(const PrintSession &session);
 

@@ -24,6 +24,12 @@ void HostedPanel::open() {
   m_claimedOptions = m_panel->supportedPPDOptionKeys();
 }
 
+void HostedPanel::start() {
+  open();
+  m_panel->restoreValuesAndReturnError(nullptr);
+  m_panel->willShow();
+}
+
 void HostedPanel::loadView() {
   m_view = m_panel->panelView();
   if (m_container) m_container->hold(m_view);

@@ -23,6 +23,9 @@ class HostedPanel {
   /// Asks for the view, the name, the kind and the claimed options, in this order.
   void open();
 
+  /// The same, then has the panel restore itself and tells it that it is about to show.
+  void start();
+
   /// Asks for the view (again) and gives it its place.
   void loadView();
 

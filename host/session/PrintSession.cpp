@@ -39,7 +39,9 @@ PrintSession::PrintSession(const SessionSetup &setup)
       m_queueOptions(setup.queueOptions),
       m_offers(setup.offers),
       m_panelsMayResize(setup.panelsMayResize) {
-  setLogListener([this](const QString &line) { m_log << line; });
+  setLogListener([this](const QString &line) {
+    if (!m_isLearning) m_log << line;
+  });
   for (auto entry = setup.ticket.begin(); entry != setup.ticket.end(); ++entry) {
     m_ticket->setValue(entry.key(), entry.value());
   }
@@ -76,8 +78,24 @@ void PrintSession::addPlugin(std::shared_ptr<LoadedPlugin> plugin) {
 }
 
 void PrintSession::openPanels() {
+  const bool isUntouched = !hasOtherTicketKeys();
   perform([this] { makePanels(); });
-  m_openingSummary = summary();
+  if (isUntouched) m_defaultSummary = summary();
+}
+
+// Keys of the PPD are choices, and a choice is compared with the PPD's own default.
+bool PrintSession::hasOtherTicketKeys() const {
+  const QStringList keys = m_ticket->values().keys();
+  return std::any_of(keys.begin(), keys.end(), [this](const QString &key) {
+    return ppdFindOption(marks().ppd(), key.toUtf8().constData()) == nullptr;
+  });
+}
+
+void PrintSession::learnDefaultSummary() {
+  if (m_defaultSummary) return;
+  m_isLearning = true;
+  m_defaultSummary = orvek::defaultSummary(m_plugins, m_picks.marks(), m_panelsMayResize);
+  m_isLearning = false;
 }
 
 void PrintSession::reopenPanels() {
@@ -95,10 +113,7 @@ void PrintSession::makePanels() {
     for (const auto &panel :
          plugin->factory->PDEPanelsForType_withHostInfo(type, m_callbacks.back())) {
       if (!panel) continue;
-      HostedPanel &hosted = *m_panels.emplace_back(std::make_unique<HostedPanel>(panel));
-      hosted.open();
-      hosted.panel().restoreValuesAndReturnError(nullptr);
-      hosted.panel().willShow();
+      m_panels.emplace_back(std::make_unique<HostedPanel>(panel))->start();
     }
   }
 }
@@ -141,15 +156,8 @@ void PrintSession::undo() {
   perform([this] { m_changedOptions << m_picks.undo(); });
 }
 
-QList<QPair<QString, QString>> PrintSession::summary() const {
-  QList<QPair<QString, QString>> lines;
-  for (const auto &hosted : m_panels) {
-    const QMap<QString, QString> info = hosted->panel().summaryInfo();
-    for (auto line = info.begin(); line != info.end(); ++line) {
-      lines.append({line.key(), line.value()});
-    }
-  }
-  return lines;
+SummaryText PrintSession::summary() const {
+  return summaryOf(m_panels);
 }
 
 bool PrintSession::choiceAnnounced(const QString &option, const QString &choice) {

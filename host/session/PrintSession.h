@@ -16,8 +16,10 @@
 #include <QStringList>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
+#include "host/session/DefaultSummary.h"
 #include "host/session/HostedPanel.h"
 #include "host/session/JobSettings.h"
 #include "host/session/Picks.h"
@@ -107,10 +109,14 @@ class PrintSession final : public QObject, private PanelListener {
   const std::vector<std::unique_ptr<HostedPanel>> &panels() const { return m_panels; }
 
   /// Title and value of each line of each panel's summary.
-  QList<QPair<QString, QString>> summary() const;
+  SummaryText summary() const;
 
-  /// The summary as it was when panels were last opened, before anything was done to them.
-  const QList<QPair<QString, QString>> &openingSummary() const { return m_openingSummary; }
+  /// What the summary says of a job that nobody changed; nothing while it is not known. A session
+  /// that began without a ticket knows it from its own panels.
+  const std::optional<SummaryText> &defaultSummary() const { return m_defaultSummary; }
+
+  /// Finds it out where it is not known, which costs what opening the panels costs.
+  void learnDefaultSummary();
 
   /// What a job must say: every marked choice that is not the PPD's default or not the queue's,
   /// every ticket key, and in the words of the print server the pages per sheet, the job settings,
@@ -152,6 +158,7 @@ class PrintSession final : public QObject, private PanelListener {
 
   Status markAll(const SessionSetup &setup);
   void markQueueOptions();
+  bool hasOtherTicketKeys() const;
   void makePanels();
   void closePanels();
   bool apply(const QString &option, const QString &choice);
@@ -177,7 +184,8 @@ class PrintSession final : public QObject, private PanelListener {
   std::vector<std::shared_ptr<PluginCallback>> m_callbacks;
   std::vector<std::unique_ptr<HostedPanel>> m_panels;
 
-  QList<QPair<QString, QString>> m_openingSummary;
+  std::optional<SummaryText> m_defaultSummary;
+  bool m_isLearning = false;  // what panels log meanwhile is not the job's
   QList<QPair<QString, QString>> m_announced;
   int m_resizeCount = 0;
   QStringList m_log;

@@ -243,6 +243,30 @@ TEST(PrintSession, KeepsEveryLineOfTheLogAsItWasGiven) {
   EXPECT_EQ(recorded.session->log(), QStringList{"100% sure\n"});
 }
 
+TEST(PrintSession, KnowsTheDefaultSummaryFromItsOwnPanelsWhereTheTicketIsEmpty) {
+  const RecordedSession recorded;
+  ASSERT_TRUE(recorded.session->defaultSummary());
+  EXPECT_EQ(*recorded.session->defaultSummary(), recorded.session->summary());
+}
+
+TEST(PrintSession, LearnsTheDefaultSummaryFromPanelsThatLeaveNoTrace) {
+  SessionSetup setup;
+  setup.ticket = {{"OVKFolding", "Saddle"}, {"OVKGutter", "36"}};
+  RecordedSession recorded(setup);
+  PrintSession &session = *recorded.session;
+  ASSERT_FALSE(session.defaultSummary());
+  const MarksSnapshot marks = session.marks().snapshot();
+  const TicketValues ticket = session.ticket().values();
+  const auto announced = session.announced();
+  session.learnDefaultSummary();
+  ASSERT_TRUE(session.defaultSummary());
+  const SummaryText unfolded{{"Folding", "None"}};
+  EXPECT_EQ(*session.defaultSummary(), unfolded);
+  EXPECT_EQ(session.marks().snapshot(), marks);
+  EXPECT_EQ(session.ticket().values(), ticket);
+  EXPECT_EQ(session.announced(), announced);
+}
+
 TEST(PrintSession, LivesWithoutAPpd) {
   const auto session = PrintSession::begin(SessionSetup{}).take();
   session->openPanels();

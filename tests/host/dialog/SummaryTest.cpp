@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: Apache-2.0
+// What the summary says of settings, and which of them it calls changed.
+
+#include <QSet>
+
+#include "tests/host/dialog/DialogKit.h"
+
+using namespace orvek;
+
+namespace {
+
+class Summary : public DialogTest {
+ protected:
+  // The titles of the lines that are shown as changed, as a reader sees them: bold.
+  QSet<QString> changed() const {
+    QSet<QString> titles;
+    for (int row = 0; row < summary().topLevelItemCount(); ++row) {
+      const QTreeWidgetItem *line = summary().topLevelItem(row);
+      if (line->font(0).bold()) titles << line->text(0);
+    }
+    return titles;
+  }
+};
+
+TEST_F(Summary, CallsNothingChangedInAJobThatNobodyChanged) {
+  open();
+  EXPECT_TRUE(changed().isEmpty());
+  EXPECT_FALSE(summaryValue(QStringLiteral("Folding")).isNull());
+}
+
+TEST_F(Summary, CallsThePanelsOwnSettingsOfATicketChanged) {
+  SessionSetup setup;
+  setup.ticket = {{QStringLiteral("OVKEnableBooklet"), QStringLiteral("True")},
+                  {QStringLiteral("OVKGutter"), QStringLiteral("36")}};
+  open(QStringLiteral("Orvek-6180"), setup);
+  const QSet<QString> wanted{QStringLiteral("Print as booklet"), QStringLiteral("Gutter (pt)")};
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !changed().isEmpty(); }));
+  EXPECT_EQ(changed(), wanted) << changed().values().join(QStringLiteral(", ")).toStdString();
+  EXPECT_EQ(session->ticket().value(QStringLiteral("OVKGutter")).toString(), QStringLiteral("36"));
+}
+
+TEST_F(Summary, ComparesAChoiceWithThePrintersOwnDefault) {
+  SessionSetup setup;
+  setup.queueOptions = {{QStringLiteral("OVKFolding"), QStringLiteral("Saddle")}};
+  open(QStringLiteral("Orvek-6180"), setup);
+  EXPECT_TRUE(changed().contains(QStringLiteral("Folding")));
+  clickItem("foldingPopup", QStringLiteral("Off"));
+  EXPECT_FALSE(changed().contains(QStringLiteral("Folding")));
+}
+
+}  // namespace
