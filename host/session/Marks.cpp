@@ -5,6 +5,9 @@
 
 #include <cups/cups.h>
 
+#include <QSet>
+#include <algorithm>
+#include <iterator>
 #include <vector>
 
 namespace orvek {
@@ -24,13 +27,40 @@ QString keyword(const ppd_option_t *option) {
   return QString::fromUtf8(option->keyword);
 }
 
-// Walked before anything is looked up: a look-up moves the position that the walk goes on from.
-QList<ppd_option_t *> allOptions(ppd_file_t *ppd) {
-  QList<ppd_option_t *> options;
-  for (ppd_option_t *option = ppdFirstOption(ppd); option != nullptr; option = ppdNextOption(ppd)) {
-    options.append(option);
+// libcups offers no walk over the marks, but keeps them in this public list. Walking the options
+// instead, and looking up the mark of each, takes longer than all else in a pick where a PPD has
+// thousands of them.
+QList<ppd_choice_t *> markedChoices(const ppd_file_t *ppd) {
+  QList<ppd_choice_t *> choices;
+  if (ppd == nullptr) return choices;
+  choices.reserve(cupsArrayCount(ppd->marked));
+  for (void *entry = cupsArrayFirst(ppd->marked); entry != nullptr;
+       entry = cupsArrayNext(ppd->marked)) {
+    choices.append(static_cast<ppd_choice_t *>(entry));
   }
-  return options;
+  return choices;
+}
+
+bool isCustom(const ppd_choice_t *choice) {
+  return qstrcmp(choice->choice, customChoice) == 0;
+}
+
+QList<ppd_choice_t *> without(const QList<ppd_choice_t *> &choices,
+                              const QList<ppd_choice_t *> &others) {
+  const QSet<ppd_choice_t *> left(others.begin(), others.end());
+  QList<ppd_choice_t *> rest;
+  std::copy_if(choices.begin(), choices.end(), std::back_inserter(rest),
+               [&](ppd_choice_t *choice) { return !left.contains(choice); });
+  return rest;
+}
+
+// libcups' list of marks goes by keyword with regard to case, its list of options without.
+QList<ppd_choice_t *> inOrder(QList<ppd_choice_t *> choices) {
+  std::stable_sort(choices.begin(), choices.end(),
+                   [](const ppd_choice_t *one, const ppd_choice_t *other) {
+                     return qstricmp(one->option->keyword, other->option->keyword) < 0;
+                   });
+  return choices;
 }
 
 // Takes all marks away for its lifetime. libcups has no call for that, but keeps its marks in
@@ -122,7 +152,12 @@ bool Marks::mark(const QString &option, const QString &choice) {
   const std::optional<OptionChoice> wanted = spelled(option, choice);
   if (!wanted) return false;
   ppdMarkOption(m_ppd, wanted->option.toUtf8().constData(), wanted->choice.toUtf8().constData());
-  m_customValues.insert(wanted->option, wanted->choice);
+  const ppd_choice_t *now = findMarked(m_ppd, wanted->option.toUtf8().constData());
+  if (now != nullptr && isCustom(now)) {
+    m_customValues.insert(wanted->option, wanted->choice);
+  } else {
+    m_customValues.remove(wanted->option);
+  }
   return true;
 }
 
@@ -143,9 +178,8 @@ QList<OptionChoice> Marks::meaningOf(const QList<OptionChoice> &jobOptions) cons
   {
     const MarksSetAside aside(m_ppd);
     markAsAJobDoes(m_ppd, jobOptions);
-    for (const ppd_option_t *option : allOptions(m_ppd)) {
-      const ppd_choice_t *choice = findMarked(m_ppd, option->keyword);
-      if (choice != nullptr) meaning.append({keyword(option), QString::fromUtf8(choice->choice)});
+    for (const ppd_choice_t *choice : inOrder(markedChoices(m_ppd))) {
+      meaning.append({keyword(choice->option), QString::fromUtf8(choice->choice)});
     }
   }
   for (OptionChoice &meant : meaning) {
@@ -161,55 +195,73 @@ QList<OptionChoice> Marks::meaningOf(const QList<OptionChoice> &jobOptions) cons
   return meaning;
 }
 
-MarksSnapshot Marks::snapshot() const {
-  MarksSnapshot all;
-  for (const ppd_option_t *option : allOptions(m_ppd)) {
-    const ppd_choice_t *choice = findMarked(m_ppd, option->keyword);
-    all.append({keyword(option), choice == nullptr ? QString() : choiceName(choice)});
+QList<OptionChoice> Marks::named(const QList<ppd_choice_t *> &choices) const {
+  QList<OptionChoice> list;
+  list.reserve(choices.size());
+  for (const ppd_choice_t *choice : inOrder(choices)) {
+    list.append({keyword(choice->option), choiceName(choice)});
   }
-  return all;
+  return list;
 }
 
 QList<OptionChoice> Marks::all() const {
-  QList<OptionChoice> marked = snapshot();
-  marked.removeIf([](const OptionChoice &mark) { return mark.choice.isNull(); });
-  return marked;
+  return named(markedChoices(m_ppd));
 }
 
 QList<OptionChoice> Marks::conflicts() const {
   ppdConflicts(m_ppd);
-  QList<OptionChoice> conflicting = snapshot();
-  conflicting.removeIf(
-      [this](const OptionChoice &mark) { return findOption(m_ppd, mark.option)->conflicted == 0; });
-  return conflicting;
+  QList<ppd_choice_t *> choices = markedChoices(m_ppd);
+  choices.removeIf([](const ppd_choice_t *choice) { return choice->option->conflicted == 0; });
+  return named(choices);
 }
 
 QList<OptionChoice> Marks::differingFromDefaults() const {
-  QList<OptionChoice> differing = all();
-  differing.removeIf([this](const OptionChoice &mark) {
-    const QString standard = QString::fromUtf8(findOption(m_ppd, mark.option)->defchoice);
-    return mark.choice.compare(standard, Qt::CaseInsensitive) == 0;
+  QList<ppd_choice_t *> choices = markedChoices(m_ppd);
+  choices.removeIf([this](const ppd_choice_t *choice) {
+    const char *standard = choice->option->defchoice;
+    return !isCustom(choice)
+               ? qstricmp(choice->choice, standard) == 0
+               : choiceName(choice).compare(QString::fromUtf8(standard), Qt::CaseInsensitive) == 0;
   });
-  return differing;
+  return named(choices);
 }
 
-void Marks::unmark(const QString &option) {
-  // libcups has no call that takes a mark away, but keeps its marks in this public list.
-  while (ppd_choice_t *choice = findMarked(m_ppd, option.toUtf8().constData())) {
-    choice->marked = 0;
-    if (cupsArrayRemove(m_ppd->marked, choice) == 0) return;
-  }
+// libcups has no call that takes a mark away either.
+void Marks::unmark(ppd_choice_t *choice) {
+  choice->marked = 0;
+  cupsArrayRemove(m_ppd->marked, choice);
+}
+
+MarksSnapshot Marks::snapshot() const {
+  MarksSnapshot snapshot;
+  snapshot.m_choices = markedChoices(m_ppd);
+  snapshot.m_customValues = m_customValues;
+  return snapshot;
 }
 
 void Marks::restore(const MarksSnapshot &snapshot) {
-  for (const OptionChoice &mark : snapshot) {
-    if (!mark.choice.isNull() && marked(mark.option) != mark.choice)
-      this->mark(mark.option, mark.choice);
+  for (const ppd_choice_t *choice : snapshot.m_choices) {
+    const QString option = keyword(choice->option);
+    const QString custom = snapshot.m_customValues.value(option);
+    if (choice->marked != 0 && m_customValues.value(option) == custom) continue;
+    mark(option, custom.isNull() ? QString::fromUtf8(choice->choice) : custom);
   }
   // Last, since marking one option can take the mark of another.
-  for (const OptionChoice &mark : snapshot) {
-    if (mark.choice.isNull()) unmark(mark.option);
+  for (ppd_choice_t *choice : without(markedChoices(m_ppd), snapshot.m_choices)) unmark(choice);
+}
+
+QStringList Marks::differingFrom(const MarksSnapshot &snapshot) const {
+  QStringList options;
+  for (const QList<ppd_choice_t *> &choices : {without(markedChoices(m_ppd), snapshot.m_choices),
+                                               without(snapshot.m_choices, markedChoices(m_ppd))}) {
+    for (const ppd_choice_t *choice : choices) options << keyword(choice->option);
   }
+  for (auto custom = m_customValues.begin(); custom != m_customValues.end(); ++custom) {
+    if (snapshot.m_customValues.value(custom.key()) != custom.value()) options << custom.key();
+  }
+  options.removeDuplicates();
+  options.sort(Qt::CaseInsensitive);
+  return options;
 }
 
 }  // namespace orvek

@@ -6,6 +6,7 @@
 #include <QList>
 #include <QMap>
 #include <QString>
+#include <QStringList>
 #include <optional>
 
 #include "platform/printing/PPD.h"
@@ -20,8 +21,18 @@ struct OptionChoice {
   bool operator==(const OptionChoice &) const = default;
 };
 
-/// All marks of a PPD at one moment, in the PPD's order; an option without mark has a null choice.
-using MarksSnapshot = QList<OptionChoice>;
+/// All marks of a PPD at one moment. Belongs to that PPD and must not outlive it; compares equal to
+/// another one of the same PPD where the same choices are marked, with the same custom values.
+class MarksSnapshot {
+ public:
+  bool operator==(const MarksSnapshot &) const = default;
+
+ private:
+  friend class Marks;
+
+  QList<ppd_choice_t *> m_choices;        // in the order of the PPD's own list of marks
+  QMap<QString, QString> m_customValues;  // as in Marks
+};
 
 /// The marks of one PPD. Keywords are compared without regard to case and handed out as the PPD
 /// spells them; a custom value ("Custom.200x300") as it was given.
@@ -63,9 +74,13 @@ class Marks {
   MarksSnapshot snapshot() const;
   void restore(const MarksSnapshot &snapshot);
 
+  /// The options whose mark is another one than in the snapshot, in the PPD's order.
+  QStringList differingFrom(const MarksSnapshot &snapshot) const;
+
  private:
   QString choiceName(const ppd_choice_t *choice) const;
-  void unmark(const QString &option);
+  QList<OptionChoice> named(const QList<ppd_choice_t *> &choices) const;
+  void unmark(ppd_choice_t *choice);
 
   ppd_file_t *m_ppd;
   QMap<QString, QString> m_customValues;  // option to what its "Custom" choice stands for

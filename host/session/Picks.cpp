@@ -52,11 +52,7 @@ QStringList Picks::undo() {
   if (!m_step) return {};
   const Step step = *std::exchange(m_step, std::nullopt);
   m_stepIsOpen = false;
-  QStringList options;
-  const MarksSnapshot now = m_marks.snapshot();
-  for (qsizetype i = 0; i < now.size(); ++i) {
-    if (now[i] != step.marks[i]) options << now[i].option;
-  }
+  QStringList options = m_marks.differingFrom(step.marks);
   m_marks.restore(step.marks);
   for (auto entry = step.ticket.begin(); entry != step.ticket.end(); ++entry) {
     m_ticket->setValue(entry.key(), entry.value());
