@@ -25,9 +25,6 @@ DocumentHeader::DocumentHeader(QWidget *parent)
       m_name(new ElidedLabel(Qt::ElideMiddle, this)),
       m_detail(new QLabel(this)) {
   m_picture->hide();
-  QFont bold = m_name->font();
-  bold.setBold(true);
-  m_name->setFont(bold);
   m_detail->setTextFormat(Qt::PlainText);
   m_name->setMinimumWidth(leastNameWidth);
   auto *grid = new QGridLayout(this);

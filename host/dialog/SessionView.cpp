@@ -35,6 +35,7 @@ SessionView::SessionView(PrintSession &session, const DocumentInfo &document, QW
       m_summary(new SummaryView(this)) {
   m_pages->setObjectName(QStringLiteral("pages"));
   m_pages->setAccessibleName(tr("Settings"));
+  m_pages->setDocumentMode(true);
   addPages();
   auto *row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);

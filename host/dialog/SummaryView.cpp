@@ -4,6 +4,7 @@
 #include "host/dialog/SummaryView.h"
 
 #include <QHeaderView>
+#include <QPainter>
 #include <QStyledItemDelegate>
 
 namespace orvek {
@@ -14,28 +15,45 @@ constexpr int preferredHeight = 236;
 constexpr int leastWidth = 240;
 constexpr int leastHeight = 120;
 constexpr int rowPadding = 2;
+constexpr int cellMargin = 3;
 constexpr double titleShare = 0.56;
 
-// Rows with air around their text.
+constexpr int cellFlags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
+
+// Rows with air around their text. Measures and draws the text itself: the style lays every cell
+// out several times, for icons, check boxes and selections that this list has not, and that is
+// a good part of the time that the window takes to open.
 class RowDelegate final : public QStyledItemDelegate {
  public:
   explicit RowDelegate(QTreeView *view) : QStyledItemDelegate(view), m_view(view) {}
 
   QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override {
-    // A tree view asks without a room, and would get the height of a single line.
-    QStyleOptionViewItem inner(option);
-    inner.rect = QRect(0, 0, m_view->columnWidth(index.column()), QWIDGETSIZE_MAX);
-    return QStyledItemDelegate::sizeHint(inner, index) + QSize(0, 2 * rowPadding);
+    const QFontMetrics metrics(fontOf(index, option));
+    const QString text = index.data().toString();
+    const int width = m_view->columnWidth(index.column()) - 2 * cellMargin;
+    const int height =
+        metrics.horizontalAdvance(text) <= width
+            ? metrics.height()
+            : metrics.boundingRect(0, 0, width, QWIDGETSIZE_MAX, cellFlags, text).height();
+    return {m_view->columnWidth(index.column()), height + 2 * rowPadding};
   }
 
   void paint(QPainter *painter, const QStyleOptionViewItem &option,
              const QModelIndex &index) const override {
-    QStyleOptionViewItem inner(option);
-    inner.rect.adjust(0, rowPadding, 0, -rowPadding);
-    QStyledItemDelegate::paint(painter, inner, index);
+    const auto group = option.state.testFlag(QStyle::State_Enabled) ? QPalette::Active
+                                                                    : QPalette::Disabled;
+    painter->setFont(fontOf(index, option));
+    painter->setPen(option.palette.color(group, QPalette::Text));
+    painter->drawText(option.rect.adjusted(cellMargin, rowPadding, -cellMargin, -rowPadding),
+                      cellFlags, index.data().toString());
   }
 
  private:
+  static QFont fontOf(const QModelIndex &index, const QStyleOptionViewItem &option) {
+    const QVariant own = index.data(Qt::FontRole);
+    return own.isValid() ? own.value<QFont>() : option.font;
+  }
+
   QTreeView *m_view;
 };
 
