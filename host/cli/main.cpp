@@ -26,6 +26,12 @@ bool needsNoWindow(const CommandLine &line) {
          !line.savePreset.isNull();
 }
 
+// Without a picture nobody sees letters, and looking through the machine's fonts would take longer
+// than all the rest of the run; the minimal platform has none.
+const char *platformWithoutDisplay(const CommandLine &line) {
+  return line.screenshot.isNull() ? "minimal" : "offscreen";
+}
+
 Status run(const CommandLine &line) {
   if (line.listPrinters) return listPrintersAsAsked(line);
   if (line.listPresets) return listPresets();
@@ -47,7 +53,7 @@ int start(const CommandLine &line, char **argv) {
   if (!needsNoWindow(line)) {
     if (const Status checked = checkDisplay(); !checked) return report(checked.failure());
   }
-  if (needsNoWindow(line)) qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (needsNoWindow(line)) qputenv("QT_QPA_PLATFORM", platformWithoutDisplay(line));
   shapeToolkitMessages();
   // The options are the program's own; the toolkit must not look for its among them.
   int toolkitArgc = 1;

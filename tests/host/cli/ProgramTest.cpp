@@ -57,6 +57,15 @@ TEST(Program, SaysNothingWhereNothingIsAsked) {
   EXPECT_TRUE(run.errorLines().isEmpty());
 }
 
+// Fontconfig complains of a missing configuration wherever it is asked.
+TEST(Program, LooksForFontsOnlyWhereAPictureIsWanted) {
+  const QTemporaryDir dir;
+  const Surroundings withoutFonts{.environment = {"FONTCONFIG_FILE=/nonexistent/fonts.conf"}};
+  EXPECT_FALSE(runHeadless({"--inspect", "--summary"}, withoutFonts).errors.contains("Fontconfig"));
+  const QStringList picture{"--screenshot", dir.filePath("window.png")};
+  EXPECT_TRUE(runHeadless(picture, withoutFonts).errors.contains("Fontconfig"));
+}
+
 TEST(Program, ShowsThePanelAsItOpened) {
   const QJsonObject state = inspected({});
   const QJsonObject panel = state.value("panel").toObject();
