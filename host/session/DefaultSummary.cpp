@@ -27,7 +27,8 @@ class Marker final : public PanelListener {
   Marks &m_marks;
 };
 
-void markUntouchedJob(Marks &marks, const MarksSnapshot &now) {
+void markUntouchedJob(Marks &marks) {
+  const QList<OptionChoice> now = marks.all();
   marks.markDefaults();
   for (const OptionChoice &mark : now) {
     if (isInstalledEquipment(marks.ppd(), mark.option)) marks.mark(mark.option, mark.choice);
@@ -59,7 +60,7 @@ SummaryText summaryOf(const std::vector<std::unique_ptr<HostedPanel>> &panels) {
 SummaryText defaultSummary(const std::vector<std::shared_ptr<LoadedPlugin>> &plugins, Marks &marks,
                            bool panelsMayResize) {
   const MarksSnapshot before = marks.snapshot();
-  markUntouchedJob(marks, before);
+  markUntouchedJob(marks);
   Marker marker(marks);
   PrintSessionHandle session;
   const PanelLoan loan{marks.ppd(), &session, std::make_shared<Ticket>()};
