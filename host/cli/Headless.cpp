@@ -12,6 +12,7 @@
 #include "host/cli/PrintJob.h"
 #include "host/cli/Screenshot.h"
 #include "host/cli/SessionStart.h"
+#include "host/cli/TerminalPassword.h"
 
 namespace orvek {
 namespace {
@@ -64,14 +65,15 @@ Status saveAndWrite(const CommandLine &line, PrintSession &session) {
 }
 
 Status runHeadless(const CommandLine &line) {
-  Result<std::unique_ptr<PrintSession>> started = startSession(line);
+  const auto passwords = std::make_shared<PasswordSource>(askOnTerminal);
+  Result<std::unique_ptr<PrintSession>> started = startSession(line, passwords);
   if (!started) return started.failure();
   PrintSession &session = *started.value();
   if (Status done = runActions(line, session); !done) return done;
   const Status written = saveAndWrite(line, session);
   for (const QString &sentence : session.notices()) tell(sentence);
   if (!written) return written;
-  if (Status printed = printAsAsked(line, session); !printed) return printed;
+  if (Status printed = printAsAsked(line, session, passwords); !printed) return printed;
   return printState(line, session);
 }
 

@@ -40,7 +40,8 @@ void tellWarnings(const PrintSession &session, const JobRequest &request) {
 
 }  // namespace
 
-JobRequest jobRequestFor(const CommandLine &line, const PrintSession &session) {
+JobRequest jobRequestFor(const CommandLine &line, const PrintSession &session,
+                         const std::shared_ptr<PasswordSource> &passwords) {
   JobRequest request;
   request.files = line.files;
   request.title = line.title;
@@ -53,12 +54,14 @@ JobRequest jobRequestFor(const CommandLine &line, const PrintSession &session) {
   request.queue = session.destination().section(QLatin1Char('/'), 0, 0);
   request.instance = session.destination().section(QLatin1Char('/'), 1);
   request.server = line.server;
+  request.passwords = passwords;
   return request;
 }
 
-Status printAsAsked(const CommandLine &line, const PrintSession &session) {
+Status printAsAsked(const CommandLine &line, const PrintSession &session,
+                    const std::shared_ptr<PasswordSource> &passwords) {
   if (line.output.isNull() && !line.print) return {};
-  const JobRequest request = jobRequestFor(line, session);
+  const JobRequest request = jobRequestFor(line, session, passwords);
   tellWarnings(session, request);
   if (!line.output.isNull()) {
     if (Status printed = printIntoFile(request); !printed) return printed;

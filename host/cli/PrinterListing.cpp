@@ -4,6 +4,7 @@
 #include "host/cli/PrinterListing.h"
 
 #include "host/cli/Console.h"
+#include "host/cli/TerminalPassword.h"
 #include "host/printers/PrinterList.h"
 
 namespace orvek {
@@ -22,12 +23,14 @@ QString field(const QString &text) {
 
 }  // namespace
 
-ServerAccess serverAccess(const CommandLine &line) {
-  return {line.server, line.user, nullptr};
+ServerAccess serverAccess(const CommandLine &line,
+                          const std::shared_ptr<PasswordSource> &passwords) {
+  return {line.server, line.user, nullptr, kServerPatience, passwords};
 }
 
 Status listPrintersAsAsked(const CommandLine &line) {
-  const Result<QList<Printer>> printers = listPrinters(serverAccess(line));
+  const auto passwords = std::make_shared<PasswordSource>(askOnTerminal);
+  const Result<QList<Printer>> printers = listPrinters(serverAccess(line, passwords));
   if (!printers) return printers.failure();
   QString text;
   for (const Printer &printer : printers.value()) {

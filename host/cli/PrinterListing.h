@@ -8,7 +8,8 @@
 namespace orvek {
 
 /// The print server and user that the command line names.
-ServerAccess serverAccess(const CommandLine &line);
+ServerAccess serverAccess(const CommandLine &line,
+                          const std::shared_ptr<PasswordSource> &passwords);
 
 /// Prints one line for each destination, its fields separated by tabs: what -d takes, its state in
 /// words, its location, and "default" for that one.

@@ -14,10 +14,10 @@ namespace {
 
 const QString pagesPerSheetOption = QStringLiteral("number-up");
 
-Status gatherPrinter(const CommandLine &line, const std::atomic<bool> *cancelled,
-                     SessionSetup *setup) {
+Status gatherPrinter(const CommandLine &line, const std::shared_ptr<PasswordSource> &passwords,
+                     const std::atomic<bool> *cancelled, SessionSetup *setup) {
   if (line.ppd.isNull()) {
-    ServerAccess access = serverAccess(line);
+    ServerAccess access = serverAccess(line, passwords);
     access.cancelled = cancelled;
     return setUpForQueue(access, line.destination, setup);
   }
@@ -110,9 +110,11 @@ Status addPlugins(const CommandLine &line, PrintSession &session) {
 
 }  // namespace
 
-Result<SessionSetup> gatherSetup(const CommandLine &line, const std::atomic<bool> *cancelled) {
+Result<SessionSetup> gatherSetup(const CommandLine &line,
+                                 const std::shared_ptr<PasswordSource> &passwords,
+                                 const std::atomic<bool> *cancelled) {
   SessionSetup setup;
-  if (const Status gathered = gatherPrinter(line, cancelled, &setup); !gathered) {
+  if (const Status gathered = gatherPrinter(line, passwords, cancelled, &setup); !gathered) {
     return gathered.failure();
   }
   if (const Status gathered = gatherTicket(line, &setup); !gathered) return gathered.failure();
@@ -134,8 +136,9 @@ Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line,
   return session;
 }
 
-Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line) {
-  const Result<SessionSetup> setup = gatherSetup(line);
+Result<std::unique_ptr<PrintSession>> startSession(
+    const CommandLine &line, const std::shared_ptr<PasswordSource> &passwords) {
+  const Result<SessionSetup> setup = gatherSetup(line, passwords);
   if (!setup) return setup.failure();
   return startSession(line, setup.value());
 }

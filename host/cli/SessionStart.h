@@ -6,13 +6,16 @@
 #include <memory>
 
 #include "host/cli/CommandLine.h"
+#include "host/printers/Passwords.h"
 #include "host/session/PrintSession.h"
 
 namespace orvek {
 
 /// What the command line's session begins with: asks the print server, reads PPD and ticket. May
-/// run on a thread of its own; ends soon after `cancelled` (null: never) was set.
+/// run on a thread of its own; ends soon after `cancelled` (null: never) was set. `passwords`
+/// answers a print server that wants one; null: nobody does.
 Result<SessionSetup> gatherSetup(const CommandLine &line,
+                                 const std::shared_ptr<PasswordSource> &passwords = {},
                                  const std::atomic<bool> *cancelled = nullptr);
 
 /// Begins a session with that and opens its panels. Installed plug-ins that are broken are reported
@@ -21,6 +24,7 @@ Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line,
                                                    const SessionSetup &setup);
 
 /// Both, one after the other.
-Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line);
+Result<std::unique_ptr<PrintSession>> startSession(
+    const CommandLine &line, const std::shared_ptr<PasswordSource> &passwords = {});
 
 }  // namespace orvek

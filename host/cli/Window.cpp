@@ -11,6 +11,7 @@
 #include "host/cli/Headless.h"
 #include "host/cli/PrintJob.h"
 #include "host/cli/SessionStart.h"
+#include "host/dialog/PasswordDialog.h"
 #include "host/jobs/Document.h"
 #include "host/jobs/QueueJob.h"
 
@@ -25,13 +26,6 @@ QString namesOf(const QStringList &files) {
   const QString first = nameOf(files.isEmpty() ? QStringLiteral("-") : files.first());
   if (files.size() < 2) return first;
   return PrintDialog::tr("%1 and %2 more").arg(first).arg(files.size() - 1);
-}
-
-Status checkDocuments(const QStringList &files) {
-  for (const QString &file : files) {
-    if (Status checked = checkDocument(file); !checked) return checked;
-  }
-  return {};
 }
 
 // As lp does: a job on a queue has a number, one into a file has none.
@@ -59,8 +53,9 @@ struct Opened {
 };
 
 // Where no server answers, the window is where the user can do something about it.
-Result<Opened> openSession(const CommandLine &line) {
-  Result<std::unique_ptr<PrintSession>> started = startSession(line);
+Result<Opened> openSession(const CommandLine &line,
+                           const std::shared_ptr<PasswordSource> &passwords) {
+  Result<std::unique_ptr<PrintSession>> started = startSession(line, passwords);
   if (started) return Opened{started.take(), {}};
   if (!line.ppd.isNull() || started.failure().kind != FailureKind::Io) return started.failure();
   Result<std::unique_ptr<PrintSession>> empty = PrintSession::begin({});
@@ -70,16 +65,18 @@ Result<Opened> openSession(const CommandLine &line) {
 
 }  // namespace
 
-DialogSetup dialogSetupFor(const CommandLine &line, const PrintSession &session) {
+DialogSetup dialogSetupFor(const CommandLine &line, const PrintSession &session,
+                           const std::shared_ptr<PasswordSource> &passwords) {
   DialogSetup setup;
   if (line.output.isNull()) setup.destination = session.destination();
   setup.documentName = line.title.isNull() ? namesOf(line.files) : line.title;
   if (line.files.size() == 1) setup.document.path = line.files.first();
-  setup.askPrinter = [&line](const QString &destination, const std::atomic<bool> &cancelled) {
-    return gatherSetup(lineFor(line, destination, QString()), &cancelled);
+  setup.askPrinter = [&line, passwords](const QString &destination,
+                                        const std::atomic<bool> &cancelled) {
+    return gatherSetup(lineFor(line, destination, QString()), passwords, &cancelled);
   };
   setup.readDescription = [&line](const QString &ppd, const std::atomic<bool> &cancelled) {
-    return gatherSetup(lineFor(line, QString(), ppd), &cancelled);
+    return gatherSetup(lineFor(line, QString(), ppd), {}, &cancelled);
   };
   setup.beginSession = [&line](const SessionSetup &other) {
     return startSession(lineFor(line, QString(), QString()), other);
@@ -87,17 +84,26 @@ DialogSetup dialogSetupFor(const CommandLine &line, const PrintSession &session)
   setup.presets = std::make_shared<PresetStore>();
   setup.server.server = line.server;
   setup.server.user = line.user;
-  setup.jobRequest = [&line](const PrintSession &now) { return jobRequestFor(line, now); };
+  // The list of printers comes up unasked; it must not ask anybody.
+  if (passwords) setup.server.passwords = passwords->withoutAsking();
+  setup.jobRequest = [&line, passwords](const PrintSession &now) {
+    return jobRequestFor(line, now, passwords);
+  };
   return setup;
 }
 
 Status runWindow(const CommandLine &line) {
-  if (Status checked = checkDocuments(line.files); !checked) return checked;
-  Result<Opened> opened = openSession(line);
+  if (Status checked = checkAllDocuments(line.files); !checked) return checked;
+  PasswordWindow passwordWindow;
+  const auto passwords = std::make_shared<PasswordSource>(
+      [&passwordWindow](const auto &question, const auto *cancelled) {
+        return passwordWindow.ask(question, cancelled);
+      });
+  Result<Opened> opened = openSession(line, passwords);
   if (!opened) return opened.failure();
   PrintSession &session = *opened.value().session;
   if (Status done = runActions(line, session); !done) return done;
-  PrintDialog dialog(session, dialogSetupFor(line, session));
+  PrintDialog dialog(session, dialogSetupFor(line, session, passwords));
   if (opened.value().problem) dialog.showProblem(*opened.value().problem);
   QTimer::singleShot(0, &dialog, &PrintDialog::lookAround);
   dialog.exec();

@@ -25,18 +25,18 @@ Failure unreadable(const QString &file, const QString &why) {
   return {FailureKind::Io, documentName(file), why};
 }
 
-}  // namespace
-
-QString documentName(const QString &file) {
-  return file == kStandardInput ? QStringLiteral("standard input") : file;
-}
-
 Status checkDocument(const QString &file) {
   if (file == kStandardInput) return {};
   if (QFileInfo(file).isDir()) return unreadable(file, QStringLiteral("is a folder"));
   QFile document(file);
   if (!document.open(QIODevice::ReadOnly)) return unreadable(file, document.errorString());
   return {};
+}
+
+}  // namespace
+
+QString documentName(const QString &file) {
+  return file == kStandardInput ? QStringLiteral("standard input") : file;
 }
 
 Status checkAllDocuments(const QStringList &files) {

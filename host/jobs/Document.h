@@ -11,11 +11,8 @@
 
 namespace orvek {
 
-/// Whether a document can be read: it exists, is no folder, and may be opened. Standard input ("-")
-/// always can.
-Status checkDocument(const QString &file);
-
-/// The same for all documents of a job; standard input may be among them once.
+/// Whether a job's documents can be read: they exist, are no folders, and may be opened. Standard
+/// input ("-") always can, and may be among them once.
 Status checkAllDocuments(const QStringList &files);
 
 /// The name that messages use for a document.

@@ -32,6 +32,8 @@ struct JobRequest {
   QString server;    ///< to a queue: HOST[:PORT] or a socket's path; null: the server in force
   std::chrono::milliseconds patience =
       kServerPatience;  ///< to a queue: how long its server may keep silent
+  std::shared_ptr<PasswordSource>
+      passwords;  ///< to a queue: asked on the job's thread; null: nobody can be asked
 };
 
 /// How far a job is. Sizes are bytes.

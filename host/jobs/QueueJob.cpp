@@ -120,7 +120,7 @@ Status createJob(Submission &job, const QString &title) {
 }
 
 ServerAccess accessOf(const JobRequest &request, const std::atomic<bool> *cancelled) {
-  return {request.server, request.user, cancelled, request.patience};
+  return {request.server, request.user, cancelled, request.patience, request.passwords};
 }
 
 QMap<QString, QString> savedOptions(const Printer &printer, const JobRequest &request) {
@@ -155,7 +155,9 @@ Result<JobOutcome> submitToQueue(const JobRequest &request, JobControl &control)
   if (Status sent = sendAll(job, files); !sent) {
     // The connection may be in the middle of a document; only a new one can be used to cancel.
     connection.value().reset();
-    (void)cancelJob(accessOf(request, nullptr), queue, job.jobId);
+    ServerAccess quietly = accessOf(request, nullptr);
+    if (quietly.passwords) quietly.passwords = quietly.passwords->withoutAsking();
+    (void)cancelJob(quietly, queue, job.jobId);
     return sent.failure();
   }
   return JobOutcome{job.jobId, queue, job.progress.documents, job.progress.bytes};

@@ -5,6 +5,7 @@
 
 #include <cerrno>
 #include <cstring>
+#include <utility>
 
 namespace orvek {
 namespace {
@@ -14,8 +15,7 @@ constexpr double kAskEverySeconds = 0.25;
 /// Asked more than this after the last time, a new wait has begun: bytes went over in between.
 constexpr qint64 kNewStallMilliseconds = 1000;
 
-/// Nobody is there to answer: without this libcups would read a password from the terminal, also
-/// under a window. Whoever needs one is told so.
+/// Without this libcups would read a password from the terminal, also under a window.
 const char *noPassword(const char *, http_t *, const char *, const char *, void *) {
   return nullptr;
 }
@@ -36,17 +36,19 @@ QString nameOfServer() {
 
 }  // namespace
 
-CupsConnection::CupsConnection(const ServerAccess &access) : m_access(access) {}
+CupsConnection::CupsConnection(const ServerAccess &access)
+    : m_access(access), m_passwords(access.passwords) {}
 
 CupsConnection::~CupsConnection() {
+  cupsSetPasswordCB2(noPassword, nullptr);
   httpClose(m_http);
 }
 
 Result<std::unique_ptr<CupsConnection>> CupsConnection::open(const ServerAccess &access) {
   cupsSetServer(orNull(bytesOrNull(access.server)));
   cupsSetUser(orNull(bytesOrNull(access.user)));
-  cupsSetPasswordCB2(noPassword, nullptr);
   std::unique_ptr<CupsConnection> connection(new CupsConnection(access));
+  cupsSetPasswordCB2(password, connection.get());
   connection->m_serverName = nameOfServer();
   constexpr int kBlocking = 1;
   connection->m_http = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(),
@@ -69,6 +71,22 @@ bool CupsConnection::isBroken() const {
   return isCancelled() || m_gaveUp || httpError(m_http) != 0;
 }
 
+const char *CupsConnection::password(const char *, http_t *http, const char *, const char *,
+                                     void *connection) {
+  return static_cast<CupsConnection *>(connection)->nextPassword(http);
+}
+
+const char *CupsConnection::nextPassword(const http_t *asking) {
+  // For a PPD libcups may open a connection of its own, which begins without a password.
+  if (std::exchange(m_asking, asking) != asking) m_passwords.beginAnew();
+  const auto answer =
+      m_passwords.next(m_serverName, QString::fromUtf8(cupsUser()), m_access.cancelled);
+  if (!answer) return nullptr;
+  cupsSetUser(orNull(bytesOrNull(answer->user)));
+  m_password = answer->password.toUtf8();
+  return m_password.constData();
+}
+
 int CupsConnection::keepWaiting(http_t *, void *connection) {
   return static_cast<CupsConnection *>(connection)->mayWaitLonger() ? 1 : 0;
 }
@@ -83,6 +101,7 @@ bool CupsConnection::mayWaitLonger() {
 
 Failure CupsConnection::lastFailure(const QString &what) const {
   if (isCancelled()) return {FailureKind::Io, what, QStringLiteral("cancelled")};
+  if (lacksPassword()) return *m_passwords.failure();
   if (m_gaveUp)
     return {FailureKind::Io, m_serverName,
             QStringLiteral("the print server stopped answering; try again once it is up")};

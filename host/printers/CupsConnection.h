@@ -13,6 +13,7 @@
 #include <QString>
 #include <memory>
 
+#include "host/printers/Passwords.h"
 #include "host/printers/ServerAccess.h"
 #include "platform/system/Result.h"
 
@@ -40,20 +41,30 @@ class CupsConnection {
   /// call.
   bool isBroken() const;
 
+  /// Whether the server wants a password that nobody gave. libcups may still report the answer to
+  /// another question.
+  bool lacksPassword() const { return m_passwords.failure().has_value(); }
+
   /// The failure of the libcups call just made, in words; `what` is what the call was about.
   Failure lastFailure(const QString &what) const;
 
  private:
   explicit CupsConnection(const ServerAccess &access);
   static int keepWaiting(http_t *http, void *connection);
+  static const char *password(const char *prompt, http_t *http, const char *method,
+                              const char *resource, void *connection);
   bool mayWaitLonger();
+  const char *nextPassword(const http_t *asking);
 
   ServerAccess m_access;
   QString m_serverName;
   http_t *m_http = nullptr;
-  QElapsedTimer m_stall;      ///< since the server stopped taking or giving bytes
-  QElapsedTimer m_lastAsked;  ///< since libcups last asked whether to wait
-  bool m_gaveUp = false;      ///< waited too long, once and for all
+  PasswordRounds m_passwords;
+  const http_t *m_asking = nullptr;  ///< libcups' connection that wanted the last password
+  QByteArray m_password;             ///< lent to libcups, which copies it
+  QElapsedTimer m_stall;             ///< since the server stopped taking or giving bytes
+  QElapsedTimer m_lastAsked;         ///< since libcups last asked whether to wait
+  bool m_gaveUp = false;             ///< waited too long, once and for all
 };
 
 }  // namespace orvek

@@ -79,8 +79,9 @@ QMap<QString, QString> stateMessages(http_t *http) {
 }
 
 /// Whether no queue at all is an answer: libcups gives the same for a server that refuses.
-bool serverAnswered() {
+bool serverAnswered(const CupsConnection &connection) {
   const ipp_status_t status = cupsLastError();
+  if (connection.lacksPassword()) return false;
   return status < IPP_STATUS_REDIRECTION_OTHER_SITE || status == IPP_STATUS_ERROR_NOT_FOUND;
 }
 
@@ -137,7 +138,7 @@ Result<QList<Printer>> listPrinters(const ServerAccess &access) {
   auto connection = CupsConnection::open(access);
   if (!connection) return connection.failure();
   const Destinations destinations(connection.value()->http());
-  if (destinations.count() == 0 && !serverAnswered())
+  if (destinations.count() == 0 && !serverAnswered(*connection.value()))
     return connection.value()->lastFailure(connection.value()->serverName());
   const auto messages = stateMessages(connection.value()->http());
   QList<Printer> printers;
@@ -164,7 +165,7 @@ Result<Printer> findPrinter(const CupsConnection &connection, const QString &des
       cupsGetNamedDest(connection.http(), name.isEmpty() ? nullptr : name.constData(),
                        instance.isEmpty() ? nullptr : instance.constData());
   if (!found) {
-    if (!serverAnswered()) return connection.lastFailure(connection.serverName());
+    if (!serverAnswered(connection)) return connection.lastFailure(connection.serverName());
     return destination.isEmpty() ? noDefault(connection) : noSuchPrinter(connection, destination);
   }
   Printer printer = printerFrom(*found);

@@ -89,7 +89,7 @@ Result<QString> QueuePPD::fetch(const CupsConnection &connection, const QString 
   Status kept;
   if (status == HTTP_STATUS_OK) kept = keep(fetchedPath, path, date);
   if (!fetchedPath.isEmpty()) QFile::remove(fetchedPath);
-  if (connection.isBroken()) return connection.lastFailure(queue);
+  if (connection.isBroken() || connection.lacksPassword()) return connection.lastFailure(queue);
   if (status == HTTP_STATUS_NOT_FOUND) return withoutPPD(connection, queue);
   if (status != HTTP_STATUS_OK && status != HTTP_STATUS_NOT_MODIFIED)
     return connection.lastFailure(queue);

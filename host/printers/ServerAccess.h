@@ -5,8 +5,11 @@
 #include <QString>
 #include <atomic>
 #include <chrono>
+#include <memory>
 
 namespace orvek {
+
+class PasswordSource;
 
 /// How long a server may neither take nor give a byte before it counts as hanging.
 inline constexpr std::chrono::milliseconds kServerPatience{10000};
@@ -18,6 +21,7 @@ struct ServerAccess {
   QString user;
   const std::atomic<bool> *cancelled = nullptr;  ///< borrowed; set, it ends every wait
   std::chrono::milliseconds patience = kServerPatience;
+  std::shared_ptr<PasswordSource> passwords = {};  ///< null: nobody can be asked for a password
 };
 
 }  // namespace orvek

@@ -362,6 +362,41 @@
     </message>
 </context>
 <context>
+    <name>orvek::PasswordDialog</name>
+    <message>
+        <source>the print server asks for a password, and none was given</source>
+        <translation>der Druckserver verlangt ein Passwort, und keines wurde angegeben</translation>
+    </message>
+    <message>
+        <source>The print server %1 asks for a name and a password.</source>
+        <translation>Der Druckserver %1 verlangt einen Namen und ein Passwort.</translation>
+    </message>
+    <message>
+        <source>The print server did not accept that name and password.</source>
+        <translation>Der Druckserver hat diesen Namen mit diesem Passwort nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Passwort:</translation>
+    </message>
+    <message>
+        <source>&amp;Sign In</source>
+        <translation>&amp;Anmelden</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>orvek::PresetChooser</name>
     <message>
         <source>Preset</source>

@@ -362,6 +362,41 @@
     </message>
 </context>
 <context>
+    <name>orvek::PasswordDialog</name>
+    <message>
+        <source>the print server asks for a password, and none was given</source>
+        <translation>le serveur d’impression demande un mot de passe, et aucun n’a été donné</translation>
+    </message>
+    <message>
+        <source>The print server %1 asks for a name and a password.</source>
+        <translation>Le serveur d’impression %1 demande un nom et un mot de passe.</translation>
+    </message>
+    <message>
+        <source>The print server did not accept that name and password.</source>
+        <translation>Le serveur d’impression n’a pas accepté ce nom et ce mot de passe.</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nom :</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Mot de passe :</translation>
+    </message>
+    <message>
+        <source>&amp;Sign In</source>
+        <translation>&amp;Se connecter</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
     <name>orvek::PresetChooser</name>
     <message>
         <source>Preset</source>

@@ -362,6 +362,41 @@
     </message>
 </context>
 <context>
+    <name>orvek::PasswordDialog</name>
+    <message>
+        <source>the print server asks for a password, and none was given</source>
+        <translation>プリントサーバーがパスワードを求めていますが、入力されませんでした</translation>
+    </message>
+    <message>
+        <source>The print server %1 asks for a name and a password.</source>
+        <translation>プリントサーバー %1 が名前とパスワードを求めています。</translation>
+    </message>
+    <message>
+        <source>The print server did not accept that name and password.</source>
+        <translation>プリントサーバーはこの名前とパスワードを受け付けませんでした。</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>名前(&amp;N):</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>パスワード(&amp;P):</translation>
+    </message>
+    <message>
+        <source>&amp;Sign In</source>
+        <translation>サインイン(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
     <name>orvek::PresetChooser</name>
     <message>
         <source>Preset</source>

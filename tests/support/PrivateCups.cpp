@@ -45,18 +45,6 @@ QString program(const QString &name) {
   return QStandardPaths::findExecutable(name, kFolders);
 }
 
-int freePort() {
-  const int listener = ::socket(AF_INET, SOCK_STREAM, 0);
-  sockaddr_in address{};
-  address.sin_family = AF_INET;
-  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-  socklen_t size = sizeof address;
-  EXPECT_EQ(::bind(listener, reinterpret_cast<sockaddr *>(&address), size), 0);
-  ::getsockname(listener, reinterpret_cast<sockaddr *>(&address), &size);
-  ::close(listener);
-  return ntohs(address.sin_port);
-}
-
 /// Filters and backends don't run as root; the server changes to this user for them.
 QByteArray unprivilegedUser() {
   return ::geteuid() == 0 ? QByteArray("User lp\nGroup lp\n") : QByteArray();
@@ -110,6 +98,18 @@ QMap<QString, QString> attributesOf(ipp_t *response) {
 }
 
 }  // namespace
+
+int freePort() {
+  const int listener = ::socket(AF_INET, SOCK_STREAM, 0);
+  sockaddr_in address{};
+  address.sin_family = AF_INET;
+  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  socklen_t size = sizeof address;
+  EXPECT_EQ(::bind(listener, reinterpret_cast<sockaddr *>(&address), size), 0);
+  ::getsockname(listener, reinterpret_cast<sockaddr *>(&address), &size);
+  ::close(listener);
+  return ntohs(address.sin_port);
+}
 
 QString PrivateCups::obstacle() {
   for (const char *name : {"cupsd", "lpadmin", "lp"})

@@ -17,6 +17,9 @@ struct Ran {
   QString errors;
 };
 
+/// A port of the loopback that nobody listens on.
+int freePort();
+
 /// How a private server differs from the usual one.
 struct PrivateCupsSetup {
   QByteArray policy;    ///< lines for the default policy; empty: everybody may do everything

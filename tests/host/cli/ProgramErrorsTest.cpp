@@ -119,5 +119,11 @@ TEST_F(ProgramErrors, AReportStaysOneLineWhateverTheNameHolds) {
   expectFailure(runHeadless({"--ticket", "/no\nwhere\r.json"}), 1, "/no where");
 }
 
+TEST_F(ProgramErrors, RefuseStandardInputTwiceInAWindowToo) {
+  expectFailure(runProgram({"--ppd", testPpd("finisher.ppd"), "-", "-"},
+                           {{"QT_QPA_PLATFORM=offscreen"}, {}, {}}),
+                2, "standard input: can be printed once only");
+}
+
 }  // namespace
 }  // namespace orvek::test

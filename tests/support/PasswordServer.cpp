@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: Apache-2.0
+// Configures nginx as the door to the scheduler's socket.
+
+#include "tests/support/PasswordServer.h"
+
+#include <arpa/inet.h>
+#include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <QElapsedTimer>
+#include <QStandardPaths>
+#include <QThread>
+
+#include "tests/support/CapturingFilter.h"
+
+namespace orvek::testing {
+namespace {
+
+constexpr int kPatience = 10000;
+constexpr int kPause = 20;
+
+QString nginx() {
+  return QStandardPaths::findExecutable(QStringLiteral("nginx"),
+                                        {QStringLiteral("/usr/sbin"), QStringLiteral("/usr/bin"),
+                                         QStringLiteral("/sbin"), QStringLiteral("/bin")});
+}
+
+QByteArray configuration(const PrivateCups &cups, int port, Guarded guarded) {
+  const QByteArray behind =
+      "proxy_pass http://unix:" + cups.socket().toUtf8() +
+      ";\nproxy_http_version 1.1; proxy_request_buffering off; proxy_set_header Host $http_host;\n"
+      // The scheduler has no such user; who may come in is decided here.
+      "proxy_set_header Authorization \"\";\n";
+  const QByteArray door = "auth_basic printing; auth_basic_user_file users;\n";
+  const QByteArray open = "location / {" + behind + "}\n";
+  return "pid nginx.pid; error_log error.log; user root; daemon off; events {}\n"
+         "http { access_log off; client_body_temp_path t1; proxy_temp_path t2;\n"
+         "fastcgi_temp_path t3; uwsgi_temp_path t4; scgi_temp_path t5; client_max_body_size 0;\n"
+         "server { listen 127.0.0.1:" +
+         QByteArray::number(port) + ";\n" + (guarded == Guarded::Queues ? open : QByteArray()) +
+         "location " + (guarded == Guarded::Queues ? "/printers/" : "/") + " {" + door + behind +
+         "} } }\n";
+}
+
+bool answers(int port) {
+  const int client = ::socket(AF_INET, SOCK_STREAM, 0);
+  sockaddr_in address{};
+  address.sin_family = AF_INET;
+  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  address.sin_port = htons(static_cast<in_port_t>(port));
+  const bool isOpen =
+      ::connect(client, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0;
+  ::close(client);
+  return isOpen;
+}
+
+}  // namespace
+
+QString PasswordServer::obstacle() {
+  return nginx().isEmpty() ? QStringLiteral("nginx is not installed") : QString();
+}
+
+PasswordServer::PasswordServer(const PrivateCups &cups, Guarded guarded) : m_port(freePort()) {
+  writeContents(m_folder.filePath(QStringLiteral("users")), "anna:{PLAIN}secret\n");
+  writeContents(m_folder.filePath(QStringLiteral("nginx.conf")),
+                configuration(cups, m_port, guarded));
+  m_server.start(nginx(), {QStringLiteral("-p"), m_folder.path(), QStringLiteral("-c"),
+                           m_folder.filePath(QStringLiteral("nginx.conf"))});
+  QElapsedTimer clock;
+  for (clock.start(); clock.elapsed() < kPatience; QThread::msleep(kPause)) {
+    if (answers(m_port)) return;
+  }
+  ADD_FAILURE() << "the web server does not answer: "
+                << m_server.readAllStandardError().toStdString();
+}
+
+PasswordServer::~PasswordServer() {
+  m_server.terminate();
+  if (!m_server.waitForFinished(kPatience)) m_server.kill();
+  m_server.waitForFinished(kPatience);
+}
+
+}  // namespace orvek::testing
