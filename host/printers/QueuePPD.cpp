@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Fetches with libcups, keeps a copy under the date that the server gave it.
+// Keeps a copy under the date that the server gave it.
 
 #include "host/printers/QueuePPD.h"
 
@@ -10,9 +10,8 @@
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QStandardPaths>
-#include <QUrl>
-#include <array>
 
+#include "host/printers/PPDDownload.h"
 #include "host/printers/PrinterList.h"
 
 namespace orvek {
@@ -40,19 +39,17 @@ time_t keptDate(const QString &path) {
              : 0;
 }
 
-Status keep(const QString &fetched, const QString &path, time_t date) {
-  QFile source(fetched);
-  if (!source.open(QIODevice::ReadOnly))
-    return Failure{FailureKind::Io, fetched, source.errorString()};
-  const QByteArray ppd = source.readAll();
+Status keep(const PPDAnswer &fetched, const QString &path) {
   QDir().mkpath(QFileInfo(path).path());
   QSaveFile kept(path);
-  if (!kept.open(QIODevice::WriteOnly) || kept.write(ppd) != ppd.size() || !kept.commit())
+  if (!kept.open(QIODevice::WriteOnly) || kept.write(fetched.ppd) != fetched.ppd.size() ||
+      !kept.commit())
     return Failure{FailureKind::Io, path, kept.errorString()};
   QFile dated(path);
   // Undated, it would only be fetched again the next time.
   if (dated.open(QIODevice::ReadWrite))
-    dated.setFileTime(QDateTime::fromSecsSinceEpoch(date), QFileDevice::FileModificationTime);
+    dated.setFileTime(QDateTime::fromSecsSinceEpoch(fetched.date),
+                      QFileDevice::FileModificationTime);
   return {};
 }
 
@@ -80,19 +77,16 @@ Result<QString> QueuePPD::fetch(const ServerAccess &access, const QString &queue
 
 Result<QString> QueuePPD::fetch(const CupsConnection &connection, const QString &queue) const {
   const QString path = keptPath(m_folder, connection.serverName(), queue);
-  time_t date = keptDate(path);
-  // libcups names a temporary file here; for a server on this machine it is a link to its own PPD.
-  std::array<char, 1024> fetched{};
-  const http_status_t status = cupsGetPPD3(connection.http(), queue.toUtf8().constData(), &date,
-                                           fetched.data(), fetched.size());
-  const QString fetchedPath = QFile::decodeName(fetched.data());
-  Status kept;
-  if (status == HTTP_STATUS_OK) kept = keep(fetchedPath, path, date);
-  if (!fetchedPath.isEmpty()) QFile::remove(fetchedPath);
+  const PPDAnswer answer = downloadPPD(connection.http(), queue, keptDate(path));
   if (connection.isBroken() || connection.lacksPassword()) return connection.lastFailure(queue);
-  if (status == HTTP_STATUS_NOT_FOUND) return withoutPPD(connection, queue);
-  if (status != HTTP_STATUS_OK && status != HTTP_STATUS_NOT_MODIFIED)
-    return connection.lastFailure(queue);
+  if (answer.status == HTTP_STATUS_NOT_MODIFIED) return path;
+  if (answer.status == HTTP_STATUS_NOT_FOUND) return withoutPPD(connection, queue);
+  if (answer.status != HTTP_STATUS_OK) {
+    return Failure{FailureKind::Io, queue,
+                   QStringLiteral("the print server does not give its printer description (%1)")
+                       .arg(QString::fromUtf8(httpStatus(answer.status)))};
+  }
+  const Status kept = keep(answer, path);
   return kept ? Result<QString>(path) : Result<QString>(kept.failure());
 }
 

@@ -11,13 +11,13 @@
 #include <cstdlib>
 
 #include "tests/host/cli/Program.h"
-#include "tests/support/PasswordServer.h"
+#include "tests/support/FrontServer.h"
 
 namespace orvek::test {
 namespace {
 
+using orvek::testing::FrontServer;
 using orvek::testing::Guarded;
-using orvek::testing::PasswordServer;
 using orvek::testing::PrivateCups;
 
 const QString document = QStringLiteral(ORVEK_SOURCE_DIR "/samples/Finishing-Sample.ps");
@@ -62,14 +62,14 @@ class Terminal {
 class ProgramPassword : public ::testing::Test {
  protected:
   void SetUp() override {
-    const QString obstacle = PrivateCups::obstacle() + PasswordServer::obstacle();
+    const QString obstacle = PrivateCups::obstacle() + FrontServer::obstacle();
     if (!obstacle.isEmpty()) GTEST_SKIP() << obstacle.toStdString();
     cups = std::make_unique<PrivateCups>();
     ASSERT_EQ(cups->addQueue("office", testPpd("finisher.ppd")).exitStatus, 0);
     guard(Guarded::Everything);
   }
 
-  void guard(Guarded guarded) { server = std::make_unique<PasswordServer>(*cups, guarded); }
+  void guard(Guarded guarded) { server = std::make_unique<FrontServer>(*cups, guarded); }
 
   /// A run as user anna; without a terminal where there is none to control it.
   ProgramRun run(const QStringList &more, Terminal *terminal = nullptr) {
@@ -104,7 +104,7 @@ class ProgramPassword : public ::testing::Test {
   static constexpr int moment = 20;
   QTemporaryDir cache;
   std::unique_ptr<PrivateCups> cups;
-  std::unique_ptr<PasswordServer> server;
+  std::unique_ptr<FrontServer> server;
 };
 
 TEST_F(ProgramPassword, IsMissedInOneLineWithoutATerminal) {

@@ -7,11 +7,11 @@
 #include <QLineEdit>
 
 #include "tests/host/dialog/DialogKit.h"
-#include "tests/support/PasswordServer.h"
+#include "tests/support/FrontServer.h"
 
 using namespace orvek;
+using orvek::testing::FrontServer;
 using orvek::testing::Guarded;
-using orvek::testing::PasswordServer;
 using orvek::testing::PrivateCups;
 
 namespace {
@@ -21,12 +21,12 @@ const QString queue = QStringLiteral("office");
 class WindowPassword : public DialogTest {
  protected:
   void SetUp() override {
-    const QString obstacle = PrivateCups::obstacle() + PasswordServer::obstacle();
+    const QString obstacle = PrivateCups::obstacle() + FrontServer::obstacle();
     if (!obstacle.isEmpty()) GTEST_SKIP() << obstacle.toStdString();
     cups = std::make_unique<PrivateCups>();
     const QString ppd = QStringLiteral(ORVEK_SOURCE_DIR "/printers/Orvek-6180.ppd");
     ASSERT_EQ(cups->addQueue(queue, ppd).exitStatus, 0);
-    server = std::make_unique<PasswordServer>(*cups, Guarded::Everything);
+    server = std::make_unique<FrontServer>(*cups, Guarded::Everything);
     prepare = [this](DialogSetup &setup) {
       setup.destination = queue;
       setup.jobRequest = [this](const PrintSession &now) {
@@ -60,7 +60,7 @@ class WindowPassword : public DialogTest {
   }
 
   std::unique_ptr<PrivateCups> cups;
-  std::unique_ptr<PasswordServer> server;
+  std::unique_ptr<FrontServer> server;
   PasswordWindow window;
   std::shared_ptr<PasswordSource> passwords = std::make_shared<PasswordSource>(
       [this](const auto &asked, const auto *cancelled) { return window.ask(asked, cancelled); });

@@ -4,7 +4,10 @@
 
 #include "host/printers/QueuePPD.h"
 
+#include <arpa/inet.h>
 #include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <unistd.h>
 
 #include <QDateTime>
 #include <QElapsedTimer>
@@ -14,6 +17,7 @@
 #include "host/printers/QueueAttributes.h"
 #include "host/printers/SettingTitles.h"
 #include "tests/support/CapturingFilter.h"
+#include "tests/support/FrontServer.h"
 #include "tests/support/PrivateCups.h"
 
 namespace orvek {
@@ -21,6 +25,8 @@ namespace {
 
 using namespace std::chrono_literals;
 using orvek::testing::contentsOf;
+using orvek::testing::FrontServer;
+using orvek::testing::Guarded;
 using orvek::testing::orvekPPD;
 using orvek::testing::PrivateCups;
 using orvek::testing::writeContents;
@@ -125,6 +131,68 @@ TEST_F(QueuePPDTest, GivesUpOnAServerThatHangs) {
   EXPECT_LT(elapsed, kLongest);
   EXPECT_TRUE(path.failure().why.contains(QStringLiteral("stopped answering")))
       << path.failure().line().toStdString();
+}
+
+/// Takes connections, as far as its queue goes, and never says a word.
+class SilentListener {
+ public:
+  SilentListener() : m_socket(::socket(AF_INET, SOCK_STREAM, 0)), m_port(testing::freePort()) {
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    address.sin_port = htons(static_cast<in_port_t>(m_port));
+    constexpr int kLongestQueue = 8;
+    EXPECT_EQ(::bind(m_socket, reinterpret_cast<sockaddr *>(&address), sizeof address), 0);
+    EXPECT_EQ(::listen(m_socket, kLongestQueue), 0);
+  }
+  ~SilentListener() { ::close(m_socket); }
+  SilentListener(const SilentListener &) = delete;
+  SilentListener &operator=(const SilentListener &) = delete;
+
+  QString hostAndPort() const { return QStringLiteral("127.0.0.1:%1").arg(m_port); }
+
+ private:
+  int m_socket;
+  int m_port;
+};
+
+constexpr qint64 kFewSeconds = 8000;
+
+TEST_F(QueuePPDTest, GivesUpOnAServerThatNeverSaysAWord) {
+  const SilentListener silent;
+  QElapsedTimer clock;
+  clock.start();
+  const auto path = QueuePPD(cache.path()).fetch({silent.hostAndPort(), {}, nullptr, 1s}, kQueue);
+  EXPECT_LT(clock.elapsed(), kFewSeconds);
+  ASSERT_FALSE(path);
+  EXPECT_EQ(path.failure().line(),
+            silent.hostAndPort() +
+                QStringLiteral(": the print server stopped answering; try again once it is up"));
+}
+
+// Servers are known by more than one name, and not every name can be reached from everywhere.
+TEST_F(QueuePPDTest, ComesFromTheServerThatWasAskedWhateverItSaysItsNameIs) {
+  if (!FrontServer::obstacle().isEmpty()) GTEST_SKIP() << FrontServer::obstacle().toStdString();
+  const SilentListener silent;
+  const FrontServer front(*cups, Guarded::Nothing, silent.hostAndPort());
+  QElapsedTimer clock;
+  clock.start();
+  const auto path = QueuePPD(cache.path()).fetch({front.hostAndPort(), {}, nullptr, 1s}, kQueue);
+  EXPECT_LT(clock.elapsed(), kFewSeconds);
+  ASSERT_TRUE(path) << path.failure().line().toStdString();
+  EXPECT_TRUE(contentsOf(path.value()).contains("*ModelName: \"Orvek 6180\""));
+}
+
+TEST_F(QueuePPDTest, OfAClassIsThatOfItsPrinter) {
+  cups->run(QStringLiteral("lpadmin"),
+            {QStringLiteral("-p"), kQueue, QStringLiteral("-c"), QStringLiteral("floor")});
+  EXPECT_TRUE(contentsOf(fetched(QStringLiteral("floor"))).contains("*ModelName: \"Orvek 6180\""));
+}
+
+TEST_F(QueuePPDTest, MayHaveANameOfManySigns) {
+  const QString name = QStringLiteral("b%41&c=d+e");
+  cups->addQueue(name, orvekPPD(QStringLiteral("4150")));
+  EXPECT_TRUE(contentsOf(fetched(name)).contains("*ModelName: \"Orvek 4150\""));
 }
 
 QByteArray optionGroup(int number) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Configures nginx as the door to the scheduler's socket.
 
-#include "tests/support/PasswordServer.h"
+#include "tests/support/FrontServer.h"
 
 #include <arpa/inet.h>
 #include <gtest/gtest.h>
@@ -26,21 +26,31 @@ QString nginx() {
                                          QStringLiteral("/sbin"), QStringLiteral("/bin")});
 }
 
-QByteArray configuration(const PrivateCups &cups, int port, Guarded guarded) {
+QByteArray locations(Guarded guarded, const QByteArray &behind) {
+  const QByteArray door = "auth_basic printing; auth_basic_user_file users;\n";
+  switch (guarded) {
+    case Guarded::Everything:
+      return "location / {" + door + behind + "}\n";
+    case Guarded::Queues:
+      return "location / {" + behind + "}\nlocation /printers/ {" + door + behind + "}\n";
+    case Guarded::Nothing:
+      return "location / {" + behind + "}\n";
+  }
+  return {};
+}
+
+QByteArray configuration(const PrivateCups &cups, int port, Guarded guarded, const QString &name) {
+  const QByteArray host = name.isEmpty() ? QByteArray("$http_host") : name.toUtf8();
   const QByteArray behind =
       "proxy_pass http://unix:" + cups.socket().toUtf8() +
-      ";\nproxy_http_version 1.1; proxy_request_buffering off; proxy_set_header Host $http_host;\n"
+      ";\nproxy_http_version 1.1; proxy_request_buffering off; proxy_set_header Host " + host +
       // The scheduler has no such user; who may come in is decided here.
-      "proxy_set_header Authorization \"\";\n";
-  const QByteArray door = "auth_basic printing; auth_basic_user_file users;\n";
-  const QByteArray open = "location / {" + behind + "}\n";
+      ";\nproxy_set_header Authorization \"\";\n";
   return "pid nginx.pid; error_log error.log; user root; daemon off; events {}\n"
          "http { access_log off; client_body_temp_path t1; proxy_temp_path t2;\n"
          "fastcgi_temp_path t3; uwsgi_temp_path t4; scgi_temp_path t5; client_max_body_size 0;\n"
          "server { listen 127.0.0.1:" +
-         QByteArray::number(port) + ";\n" + (guarded == Guarded::Queues ? open : QByteArray()) +
-         "location " + (guarded == Guarded::Queues ? "/printers/" : "/") + " {" + door + behind +
-         "} } }\n";
+         QByteArray::number(port) + ";\n" + locations(guarded, behind) + "} }\n";
 }
 
 bool answers(int port) {
@@ -57,14 +67,15 @@ bool answers(int port) {
 
 }  // namespace
 
-QString PasswordServer::obstacle() {
+QString FrontServer::obstacle() {
   return nginx().isEmpty() ? QStringLiteral("nginx is not installed") : QString();
 }
 
-PasswordServer::PasswordServer(const PrivateCups &cups, Guarded guarded) : m_port(freePort()) {
+FrontServer::FrontServer(const PrivateCups &cups, Guarded guarded, const QString &name)
+    : m_port(freePort()) {
   writeContents(m_folder.filePath(QStringLiteral("users")), "anna:{PLAIN}secret\n");
   writeContents(m_folder.filePath(QStringLiteral("nginx.conf")),
-                configuration(cups, m_port, guarded));
+                configuration(cups, m_port, guarded, name));
   m_server.start(nginx(), {QStringLiteral("-p"), m_folder.path(), QStringLiteral("-c"),
                            m_folder.filePath(QStringLiteral("nginx.conf"))});
   QElapsedTimer clock;
@@ -75,7 +86,7 @@ PasswordServer::PasswordServer(const PrivateCups &cups, Guarded guarded) : m_por
                 << m_server.readAllStandardError().toStdString();
 }
 
-PasswordServer::~PasswordServer() {
+FrontServer::~FrontServer() {
   m_server.terminate();
   if (!m_server.waitForFinished(kPatience)) m_server.kill();
   m_server.waitForFinished(kPatience);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// A private print server behind a web server that lets nobody in without a password.
+// A private print server behind a web server, as one that wants a password or goes by another name.
 #pragma once
 
 #include <QProcess>
@@ -10,16 +10,17 @@
 
 namespace orvek::testing {
 
-/// What is behind the password: all, or all but the list of queues.
-enum class Guarded { Everything, Queues };
+/// What is behind the password: all, all but the list of queues, or nothing.
+enum class Guarded { Everything, Queues, Nothing };
 
 /// Runs as long as it lives. User "anna" has the password "secret".
-class PasswordServer {
+class FrontServer {
  public:
-  PasswordServer(const PrivateCups &cups, Guarded guarded);
-  ~PasswordServer();
-  PasswordServer(const PasswordServer &) = delete;
-  PasswordServer &operator=(const PasswordServer &) = delete;
+  /// The print server takes `name` for the host that it is asked under; empty: the right one.
+  FrontServer(const PrivateCups &cups, Guarded guarded, const QString &name = {});
+  ~FrontServer();
+  FrontServer(const FrontServer &) = delete;
+  FrontServer &operator=(const FrontServer &) = delete;
 
   /// Why there can be none on this machine; empty where there can.
   static QString obstacle();

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: Apache-2.0
+// Gets a PPD file over a connection that is open. libcups' own call for that connects to other
+// hosts without any limit on the wait, so this asks in its place.
+#pragma once
+
+#include "host/printers/CupsConnection.h"
+
+namespace orvek {
+
+/// A server's answer.
+struct PPDAnswer {
+  http_status_t status = HTTP_STATUS_ERROR;  ///< OK; NOT_MODIFIED; NOT_FOUND; why not
+  QByteArray ppd;                            ///< where OK
+  time_t date = 0;                           ///< where OK: when it was changed last
+};
+
+/// The PPD of `queue`, or of a class' first printer that has one, unless it has not changed since
+/// `date` (0: in any case). Waits as the connection's limits have it, and gives passwords as it
+/// does.
+PPDAnswer downloadPPD(http_t *http, const QString &queue, time_t date);
+
+}  // namespace orvek
