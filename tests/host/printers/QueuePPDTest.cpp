@@ -190,7 +190,7 @@ TEST_F(QueuePPDTest, OfAClassIsThatOfItsPrinter) {
 }
 
 TEST_F(QueuePPDTest, MayHaveANameOfManySigns) {
-  const QString name = QStringLiteral("b%41&c=d+e");
+  const QString name = QStringLiteral("b&c=d+e");
   cups->addQueue(name, orvekPPD(QStringLiteral("4150")));
   EXPECT_TRUE(contentsOf(fetched(name)).contains("*ModelName: \"Orvek 4150\""));
 }
