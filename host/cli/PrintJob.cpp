@@ -33,8 +33,14 @@ Status printOnQueue(const CommandLine &line, const JobRequest &request) {
 }
 
 // Only one document's pages are sure to end up in one set.
+int pagesOfOneSet(const PrintSession &session, const JobRequest &request) {
+  const bool count = request.files.size() == 1 &&
+                     warningsDependOnPages(session.marks(), session.ticket().values());
+  return count ? documentInfo(request.files.first()).pages : 0;
+}
+
 void tellWarnings(const PrintSession &session, const JobRequest &request) {
-  const int pages = request.files.size() == 1 ? documentInfo(request.files.first()).pages : 0;
+  const int pages = pagesOfOneSet(session, request);
   for (const QString &warning : jobWarnings(session, pages)) tell(warning);
 }
 

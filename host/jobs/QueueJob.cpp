@@ -5,6 +5,7 @@
 
 #include <QFileInfo>
 
+#include "host/jobs/CreateJob.h"
 #include "host/jobs/CupsOptions.h"
 #include "host/jobs/Document.h"
 #include "host/jobs/DocumentReader.h"
@@ -113,9 +114,8 @@ Status sendAll(Submission &job, const QStringList &files) {
   return {};
 }
 
-Status createJob(Submission &job, const QString &title) {
-  job.jobId = cupsCreateJob(job.connection.http(), job.queue.constData(),
-                            title.toUtf8().constData(), job.options.count(), job.options.array());
+Status createJob(Submission &job, const Printer &printer, const QString &title) {
+  job.jobId = createJobOn(job.connection.http(), printer, title, job.options);
   return job.jobId > 0 ? Status() : Status(lastFailure(job, QString::fromUtf8(job.queue)));
 }
 
@@ -151,7 +151,8 @@ Result<JobOutcome> submitToQueue(const JobRequest &request, JobControl &control)
   options.addMissing(savedOptions(printer.value(), request));
   const QString queue = printer.value().name;
   Submission job{control, *connection.value(), queue.toUtf8(), options, begin.take(), 0, {}};
-  if (Status created = createJob(job, effectiveTitle(request)); !created) return created.failure();
+  if (Status created = createJob(job, printer.value(), effectiveTitle(request)); !created)
+    return created.failure();
   if (Status sent = sendAll(job, files); !sent) {
     // The connection may be in the middle of a document; only a new one can be used to cancel.
     connection.value().reset();

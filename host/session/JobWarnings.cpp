@@ -61,7 +61,7 @@ int sheetsOf(const Marks &marks, const TicketValues &ticket, int pages) {
 }
 
 QString tooManySheets(const Marks &marks, const TicketValues &ticket, int pages) {
-  if (!bookletSettings(ticket).enabled && !isSaddleFolded(marks)) return {};
+  if (!warningsDependOnPages(marks, ticket)) return {};
   const int sheets = sheetsOf(marks, ticket, pages);
   const int most = maximumBookletSheets(marks.ppd());
   if (sheets <= most) return {};
@@ -77,6 +77,10 @@ int maximumBookletSheets(ppd_file_t *ppd) {
       ppd == nullptr ? nullptr : ppdFindAttr(ppd, maximumSheetsAttribute, nullptr);
   const int sheets = attribute == nullptr ? 0 : leadingInteger(QString::fromUtf8(attribute->value));
   return sheets > 0 ? sheets : usualMaximumSheets;
+}
+
+bool warningsDependOnPages(const Marks &marks, const TicketValues &ticket) {
+  return bookletSettings(ticket).enabled || isSaddleFolded(marks);
 }
 
 QStringList jobWarnings(const Marks &marks, const TicketValues &ticket, const JobSettings &settings,

@@ -23,6 +23,10 @@ QStringList jobWarnings(const Marks &marks, const TicketValues &ticket, const Jo
 /// The same for a session as it stands.
 QStringList jobWarnings(const PrintSession &session, int pages);
 
+/// Whether jobWarnings() needs to know the page count: where sheets are folded. Counting the pages
+/// of a PDF takes longer than sending it.
+bool warningsDependOnPages(const Marks &marks, const TicketValues &ticket);
+
 /// How many sheets the printer folds into one booklet: *OVKBookletMaximumSheets of its PPD, or what
 /// booklet makers commonly do.
 int maximumBookletSheets(ppd_file_t *ppd);

@@ -50,6 +50,19 @@ TEST_F(JobWarnings, NameStaplesInCopiesThatAreNotCollated) {
   EXPECT_EQ(jobWarnings(*session, 8), QStringList());
 }
 
+TEST_F(JobWarnings, DependOnThePageCountOnlyWhereSheetsAreFolded) {
+  const auto depend = [this] {
+    return warningsDependOnPages(session->marks(), session->ticket().values());
+  };
+  EXPECT_FALSE(depend());
+  session->pick("OVKFolding", "Saddle");
+  EXPECT_TRUE(depend());
+  session->pick("OVKFolding", "None");
+  EXPECT_FALSE(depend());
+  session->ticket().setValue("OVKEnableBooklet", "True");
+  EXPECT_TRUE(depend());
+}
+
 TEST_F(JobWarnings, NameABookletOfMoreSheetsThanThePrinterFolds) {
   session->ticket().setValue("OVKEnableBooklet", "True");
   EXPECT_EQ(jobWarnings(*session, 60), QStringList());
