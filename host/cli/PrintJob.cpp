@@ -55,6 +55,7 @@ JobRequest jobRequestFor(const CommandLine &line, const PrintSession &session,
   request.priority = line.priority.value_or(0);
   request.options = session.jobOptions();
   request.overruled = session.overruledOptions();
+  request.texts = session.optionsWithCustomValues();
   request.ppdFile = session.printer() ? session.printer()->path() : QString();
   request.outputFile = line.output;
   request.queue = session.destination().section(QLatin1Char('/'), 0, 0);

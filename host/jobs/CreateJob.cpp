@@ -34,7 +34,21 @@ int jobIn(ipp_t *response) {
   return number == nullptr ? 0 : ippGetInteger(number, 0);
 }
 
-ipp_t *requestFor(const QByteArray &uri, const QByteArray &title, const CupsOptions &options) {
+// The options are encoded first as libcups does it; then what it took for a collection is replaced.
+void addTexts(ipp_t *request, const CupsOptions &options, const QStringList &texts) {
+  for (const QString &text : texts) {
+    const QByteArray name = text.toUtf8();
+    const char *value = options.value(name.constData());
+    if (value == nullptr) continue;
+    if (ipp_attribute_t *encoded = ippFindAttribute(request, name.constData(), IPP_TAG_ZERO)) {
+      ippDeleteAttribute(request, encoded);
+    }
+    ippAddString(request, IPP_TAG_JOB, IPP_TAG_NAME, name.constData(), nullptr, value);
+  }
+}
+
+ipp_t *requestFor(const QByteArray &uri, const QByteArray &title, const CupsOptions &options,
+                  const QStringList &texts) {
   ipp_t *request = ippNewRequest(IPP_OP_CREATE_JOB);
   ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri.constData());
   ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
@@ -42,6 +56,7 @@ ipp_t *requestFor(const QByteArray &uri, const QByteArray &title, const CupsOpti
   ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr, title.constData());
   for (const ipp_tag_t group : {IPP_TAG_OPERATION, IPP_TAG_JOB, IPP_TAG_SUBSCRIPTION}) {
     cupsEncodeOptions2(request, options.count(), options.array(), group);
+    if (group == IPP_TAG_JOB) addTexts(request, options, texts);
   }
   return request;
 }
@@ -49,7 +64,7 @@ ipp_t *requestFor(const QByteArray &uri, const QByteArray &title, const CupsOpti
 }  // namespace
 
 int createJobOn(http_t *http, const Printer &printer, const QString &title,
-                const CupsOptions &options) {
+                const CupsOptions &options, const QStringList &texts) {
   const QByteArray name = title.toUtf8();
   const QByteArray uri = printer.options.value(QLatin1String(queueAddress)).toUtf8();
   const QByteArray path = pathOf(uri);
@@ -59,7 +74,7 @@ int createJobOn(http_t *http, const Printer &printer, const QString &title,
     return cupsCreateJob(http, printer.name.toUtf8().constData(), name.constData(), options.count(),
                          options.array());
   }
-  ipp_t *response = cupsDoRequest(http, requestFor(uri, name, options), path.constData());
+  ipp_t *response = cupsDoRequest(http, requestFor(uri, name, options, texts), path.constData());
   const int job = jobIn(response);
   ippDelete(response);
   return cupsLastError() <= IPP_STATUS_OK_EVENTS_COMPLETE ? job : 0;

@@ -22,6 +22,7 @@ struct JobRequest {
   QString pageRanges;  ///< "1-3,7"; null: all
   QMap<QString, QString>
       options;            ///< keyword or attribute to its value, neither quoted nor escaped
+  QStringList texts;      ///< to a queue: options whose value is text even in braces
   QStringList overruled;  ///< to a queue: options saved for it that must not go with the job
 
   QString ppdFile;     ///< into a file: the printer description

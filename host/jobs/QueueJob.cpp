@@ -114,8 +114,9 @@ Status sendAll(Submission &job, const QStringList &files) {
   return {};
 }
 
-Status createJob(Submission &job, const Printer &printer, const QString &title) {
-  job.jobId = createJobOn(job.connection.http(), printer, title, job.options);
+Status createJob(Submission &job, const Printer &printer, const JobRequest &request) {
+  job.jobId = createJobOn(job.connection.http(), printer, effectiveTitle(request), job.options,
+                          request.texts);
   return job.jobId > 0 ? Status() : Status(lastFailure(job, QString::fromUtf8(job.queue)));
 }
 
@@ -151,8 +152,7 @@ Result<JobOutcome> submitToQueue(const JobRequest &request, JobControl &control)
   options.addMissing(savedOptions(printer.value(), request));
   const QString queue = printer.value().name;
   Submission job{control, *connection.value(), queue.toUtf8(), options, begin.take(), 0, {}};
-  if (Status created = createJob(job, printer.value(), effectiveTitle(request)); !created)
-    return created.failure();
+  if (Status created = createJob(job, printer.value(), request); !created) return created.failure();
   if (Status sent = sendAll(job, files); !sent) {
     // The connection may be in the middle of a document; only a new one can be used to cancel.
     connection.value().reset();

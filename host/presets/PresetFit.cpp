@@ -5,6 +5,8 @@
 
 #include <QCoreApplication>
 
+#include "host/session/CustomValue.h"
+
 namespace orvek {
 namespace {
 
@@ -36,8 +38,20 @@ QString nameOf(const ppd_option_t &option) {
 
 /// "Custom.WIDTHxHEIGHT" is a choice of its own beside the one called "Custom".
 QString spelledChoice(const ppd_choice_t &found, const QString &choice) {
-  const bool isCustom = choice.startsWith(QStringLiteral("Custom."), Qt::CaseInsensitive);
-  return isCustom ? choice : QString::fromUtf8(found.choice);
+  return hasCustomValues(choice) ? choice : QString::fromUtf8(found.choice);
+}
+
+/// Another printer has other limits. Null where the choice keeps to them.
+QString customProblem(ppd_file_t *ppd, const OptionChoice &choice) {
+  const QList<CustomParameter> parameters = customParameters(ppd, choice.option);
+  const CustomValues values = customValues(parameters, choice.choice);
+  for (const CustomParameter &parameter : parameters) {
+    const auto value = values.constFind(parameter.name);
+    if (value == values.constEnd()) continue;
+    const QString problem = customValueProblem(parameter, *value);
+    if (!problem.isNull()) return problem;
+  }
+  return {};
 }
 
 void fitOption(const QString &keyword, const QString &choice, ppd_file_t *ppd, PresetFit &fit) {
@@ -53,6 +67,8 @@ void fitOption(const QString &keyword, const QString &choice, ppd_file_t *ppd, P
   if (!found)
     return misfit(
         Text::tr("\"%1\" of this printer has no choice \"%2\"").arg(nameOf(*option), choice));
+  if (const QString problem = customProblem(ppd, {keyword, choice}); !problem.isNull())
+    return misfit(Text::tr("\"%1\" of this printer takes %2").arg(nameOf(*option), problem));
   fit.options.insert(QString::fromUtf8(option->keyword), spelledChoice(*found, choice));
 }
 

@@ -35,11 +35,16 @@ class CupsOptions {
   cups_option_t *m_options = nullptr;
 };
 
+// Constraints know a custom choice by this spelling only, whatever its values are.
+QByteArray constrainedName(const QString &choice) {
+  return choice.startsWith(QLatin1Char('{')) ? QByteArray("Custom.values") : choice.toUtf8();
+}
+
 std::optional<QList<OptionChoice>> resolutionOf(const Marks &marks, const OptionChoice &pick) {
   CupsOptions changed;
-  const int resolved =
-      cupsResolveConflicts(marks.ppd(), pick.option.toUtf8().constData(),
-                           pick.choice.toUtf8().constData(), &changed.m_count, &changed.m_options);
+  const int resolved = cupsResolveConflicts(marks.ppd(), pick.option.toUtf8().constData(),
+                                            constrainedName(pick.choice).constData(),
+                                            &changed.m_count, &changed.m_options);
   if (resolved == 0) return std::nullopt;
   return changed.list();
 }
@@ -118,7 +123,7 @@ void undo(Marks &marks, const MarksSnapshot &before, const QList<OptionChoice> &
 QList<OptionChoice> conflictsOf(const Marks &marks, const OptionChoice &pick) {
   CupsOptions found;
   found.m_count = cupsGetConflicts(marks.ppd(), pick.option.toUtf8().constData(),
-                                   pick.choice.toUtf8().constData(), &found.m_options);
+                                   constrainedName(pick.choice).constData(), &found.m_options);
   return found.list();
 }
 

@@ -151,6 +151,10 @@ std::optional<OptionChoice> Marks::spelled(const QString &option, const QString 
 bool Marks::mark(const QString &option, const QString &choice) {
   const std::optional<OptionChoice> wanted = spelled(option, choice);
   if (!wanted) return false;
+  // libcups would mark it beside the others. A job can say one choice only (of a list libcups marks
+  // none), so more than one would be marked here and never be printed.
+  ppd_choice_t *other = findMarked(m_ppd, wanted->option.toUtf8().constData());
+  if (other != nullptr && other->option->ui == PPD_UI_PICKMANY) unmark(other);
   ppdMarkOption(m_ppd, wanted->option.toUtf8().constData(), wanted->choice.toUtf8().constData());
   const ppd_choice_t *now = findMarked(m_ppd, wanted->option.toUtf8().constData());
   if (now != nullptr && isCustom(now)) {

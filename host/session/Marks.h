@@ -35,7 +35,8 @@ class MarksSnapshot {
 };
 
 /// The marks of one PPD. Keywords are compared without regard to case and handed out as the PPD
-/// spells them; a custom value ("Custom.200x300") as it was given.
+/// spells them; a custom value ("Custom.200x300", "{Angle=90 ...}") as it was given. One choice of
+/// an option is marked at a time, also where the PPD allows several ("PickMany").
 class Marks {
  public:
   /// Borrows the PPD, which must outlive this object.

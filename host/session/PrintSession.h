@@ -127,6 +127,9 @@ class PrintSession final : public QObject, private PanelListener {
   /// marked by now.
   QStringList overruledOptions() const;
 
+  /// The options whose marked choice is custom: its values look like a collection to libcups.
+  QStringList optionsWithCustomValues() const;
+
   /// The ticket without the words for which something else is marked by now.
   TicketValues ticketToKeep() const;
 

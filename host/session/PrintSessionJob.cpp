@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "host/session/CustomValue.h"
 #include "host/session/JobOptions.h"
 #include "host/session/JobWords.h"
 #include "host/session/PrintSession.h"
@@ -80,6 +81,14 @@ void PrintSession::pickUnrecorded(const OptionChoice &choice) {
 
 TicketValues PrintSession::ticketToKeep() const {
   return withoutUntrueWords(marks(), m_ticket->values());
+}
+
+QStringList PrintSession::optionsWithCustomValues() const {
+  QStringList options;
+  for (const OptionChoice &mark : marks().all()) {
+    if (hasCustomValues(mark.choice)) options << mark.option;
+  }
+  return options;
 }
 
 QStringList PrintSession::overruledOptions() const {

@@ -5,6 +5,8 @@
 
 #include <QCoreApplication>
 
+#include "host/session/CustomValue.h"
+
 namespace orvek {
 namespace {
 
@@ -40,7 +42,9 @@ QString choiceText(ppd_file_t *ppd, const OptionChoice &choice) {
   if (option == nullptr || choice.choice.isEmpty()) return choice.choice;
   const ppd_choice_t *found = ppdFindChoice(option, choice.choice.toUtf8().constData());
   const QString text = found == nullptr ? QString() : QString::fromUtf8(found->text);
-  return text.isEmpty() ? choice.choice : text;
+  if (text.isEmpty()) return choice.choice;
+  const QString values = customValueText(ppd, choice);
+  return values.isNull() ? text : text + QStringLiteral(": ") + values;
 }
 
 QString namedChoice(ppd_file_t *ppd, const OptionChoice &choice) {

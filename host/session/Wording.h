@@ -12,7 +12,8 @@ namespace orvek {
 /// The option's display text; its keyword where the PPD lacks it.
 QString optionText(ppd_file_t *ppd, const QString &option);
 
-/// The choice's display text; the choice itself where the PPD lacks it; null for none.
+/// The choice's display text, of a custom one with its values; the choice itself where the PPD
+/// lacks it; null for none.
 QString choiceText(ppd_file_t *ppd, const OptionChoice &choice);
 
 /// The choice as it can stand alone in a sentence: "Saddle fold" speaks for itself; "On" and "Not

@@ -6,10 +6,10 @@
 #include <QHash>
 #include <QSet>
 
+#include "host/session/CustomValue.h"
+
 namespace orvek {
 namespace {
-
-constexpr const char *customChoice = "Custom";
 
 using Standards = QHash<QString, QString>;  // option in lower case to choice
 
@@ -31,8 +31,8 @@ QString standardOf(const ppd_option_t &option, const Standards &standards) {
   // What the PPD lacks was not marked either.
   auto &mutableOption = const_cast<ppd_option_t &>(option);  // libcups' look-up takes no const
   const ppd_choice_t *choice = ppdFindChoice(&mutableOption, ofQueue->toUtf8().constData());
-  return choice == nullptr ? QString::fromUtf8(option.defchoice)
-                           : QString::fromUtf8(choice->choice);
+  if (choice == nullptr) return QString::fromUtf8(option.defchoice);
+  return hasCustomValues(*ofQueue) ? *ofQueue : QString::fromUtf8(choice->choice);
 }
 
 void appendGroup(QList<OptionGroup> *groups, const ppd_group_t &group, const QString &text,
@@ -73,12 +73,25 @@ QList<SettingChoice> choicesOf(ppd_file_t *ppd, const QString &option) {
   QList<SettingChoice> choices;
   const ppd_option_t *found = ppdFindOption(ppd, option.toUtf8().constData());
   if (found == nullptr) return choices;
+  const bool asksForValues = !customParameters(ppd, option).isEmpty();
   for (int i = 0; i < found->num_choices; ++i) {
     const ppd_choice_t &choice = found->choices[i];
-    if (qstricmp(choice.choice, customChoice) == 0) continue;
-    choices.append({QString::fromUtf8(choice.choice), textOr(choice.text, choice.choice)});
+    const QString keyword = QString::fromUtf8(choice.choice);
+    QString text = textOr(choice.text, choice.choice);
+    if (isCustomChoice(keyword)) {
+      if (!asksForValues) continue;
+      text += QStringLiteral("…");
+    }
+    choices.append({keyword, text});
   }
   return choices;
+}
+
+bool isSwitch(ppd_file_t *ppd, const QString &option) {
+  ppd_option_t *found = ppdFindOption(ppd, option.toUtf8().constData());
+  constexpr int onAndOff = 2;
+  return found != nullptr && found->ui == PPD_UI_BOOLEAN && found->num_choices == onAndOff &&
+         ppdFindChoice(found, "True") != nullptr && ppdFindChoice(found, "False") != nullptr;
 }
 
 bool isChanged(const Marks &marks, const OptionEntry &entry) {

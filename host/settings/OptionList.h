@@ -28,9 +28,12 @@ struct OptionGroup {
 QList<OptionGroup> optionGroups(ppd_file_t *ppd, const QStringList &leftOut,
                                 const QList<OptionChoice> &queueOptions);
 
-/// The choices of an option for people. A custom choice needs values that nobody asks for here: it
-/// is left out.
+/// The choices of an option for people. A custom choice ends in "…", since it asks for values; one
+/// that asks for none, or for a paper size, is left out.
 QList<SettingChoice> choicesOf(ppd_file_t *ppd, const QString &option);
+
+/// True for an option that is on or off: its choices are "True" and "False".
+bool isSwitch(ppd_file_t *ppd, const QString &option);
 
 /// True where the mark is not the entry's standard.
 bool isChanged(const Marks &marks, const OptionEntry &entry);

@@ -11,6 +11,9 @@
 namespace orvek {
 namespace {
 
+constexpr const char *onChoice = "True";
+constexpr const char *offChoice = "False";
+
 QList<QStringList> searchTexts(const PrintSession &session, const QList<OptionGroup> &groups) {
   QList<QStringList> texts;
   for (const OptionGroup &group : groups) {
@@ -82,6 +85,12 @@ const OptionEntry *OptionsModel::entryAt(const QModelIndex &index) const {
 bool OptionsModel::isChangedAt(const QModelIndex &index) const {
   const OptionEntry *entry = entryAt(index);
   return entry != nullptr && isChanged(m_session.marks(), *entry);
+}
+
+bool OptionsModel::isSwitchAt(const QModelIndex &index) const {
+  const OptionEntry *entry = entryAt(index);
+  return entry != nullptr && index.column() == ChoiceColumn &&
+         isSwitch(m_session.marks().ppd(), entry->keyword);
 }
 
 void OptionsModel::findChanged() {
@@ -167,8 +176,19 @@ QVariant OptionsModel::optionData(const OptionEntry &entry, int column, int role
 QVariant OptionsModel::data(const QModelIndex &index, int role) const {
   if (!index.isValid()) return {};
   const OptionEntry *entry = entryAt(index);
+  if (role == Qt::CheckStateRole && isSwitchAt(index)) {
+    const bool isOn = m_session.marks().marked(entry->keyword) == QLatin1String(onChoice);
+    return isOn ? Qt::Checked : Qt::Unchecked;
+  }
   return entry == nullptr ? groupData(m_shown[index.row()].group, index.column(), role)
                           : optionData(*entry, index.column(), role);
+}
+
+bool OptionsModel::setData(const QModelIndex &index, const QVariant &value, int role) {
+  if (role != Qt::CheckStateRole || !isSwitchAt(index)) return false;
+  const bool isOn = value.toInt() == Qt::Checked;
+  return m_session.pick(entryAt(index)->keyword,
+                        isOn ? QString::fromLatin1(onChoice) : QString::fromLatin1(offChoice));
 }
 
 QVariant OptionsModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -179,6 +199,7 @@ QVariant OptionsModel::headerData(int section, Qt::Orientation orientation, int 
 Qt::ItemFlags OptionsModel::flags(const QModelIndex &index) const {
   if (!index.isValid()) return Qt::NoItemFlags;
   const Qt::ItemFlags usual = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+  if (isSwitchAt(index)) return usual | Qt::ItemIsUserCheckable;
   const bool isChoice = entryAt(index) != nullptr && index.column() == ChoiceColumn;
   return isChoice ? usual | Qt::ItemIsEditable : usual;
 }

@@ -27,6 +27,9 @@ class OptionsModel final : public QAbstractItemModel {
   const OptionEntry *entryAt(const QModelIndex &index) const;
   bool isChangedAt(const QModelIndex &index) const;
 
+  /// True for the choice of an option that is on or off.
+  bool isSwitchAt(const QModelIndex &index) const;
+
   /// All options that are not what they would be by themselves, shown or not, with what that is.
   const QList<OptionChoice> &changed() const { return m_changed; }
 
@@ -35,6 +38,7 @@ class OptionsModel final : public QAbstractItemModel {
   int rowCount(const QModelIndex &parent = {}) const override;
   int columnCount(const QModelIndex &parent = {}) const override;
   QVariant data(const QModelIndex &index, int role) const override;
+  bool setData(const QModelIndex &index, const QVariant &value, int role) override;
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
   Qt::ItemFlags flags(const QModelIndex &index) const override;
 

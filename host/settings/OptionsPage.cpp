@@ -11,6 +11,8 @@
 #include <QVBoxLayout>
 
 #include "host/session/CommonSettings.h"
+#include "host/session/CustomValue.h"
+#include "host/settings/CustomValueForm.h"
 #include "host/settings/Mnemonics.h"
 #include "host/settings/OptionsModel.h"
 #include "host/settings/OptionsView.h"
@@ -33,6 +35,7 @@ OptionsPage::OptionsPage(PrintSession &session, const QStringList &claimedKeys, 
       m_session(session),
       m_model(new OptionsModel(session, groupsFor(session, claimedKeys), this)),
       m_view(new OptionsView(session, m_model, this)),
+      m_custom(new CustomValueForm(this)),
       m_search(new QLineEdit(this)),
       m_onlyChanged(new QCheckBox(tr("Only changed"), this)),
       m_state(new QLabel(this)),
@@ -67,10 +70,12 @@ void OptionsPage::build() {
   column->setSpacing(gap);
   column->addLayout(top);
   column->addWidget(m_view, 1);
+  column->addWidget(m_custom);
   column->addLayout(bottom);
   setTabOrder(m_search, m_onlyChanged);
   setTabOrder(m_onlyChanged, m_view);
-  setTabOrder(m_view, m_setBack);
+  setTabOrder(m_view, m_custom);
+  setTabOrder(m_custom, m_setBack);
   setTabOrder(m_setBack, m_setAllBack);
 }
 
@@ -82,10 +87,18 @@ void OptionsPage::connectParts() {
   connect(m_search, &QLineEdit::textChanged, this, filter);
   connect(m_onlyChanged, &QCheckBox::toggled, this, filter);
   connect(m_view, &OptionsView::currentMoved, this, &OptionsPage::updateControls);
+  connect(m_view, &OptionsView::customAsked, this, &OptionsPage::askForCustomValues);
+  connect(m_custom, &CustomValueForm::choicePicked, this, [this](const QString &choice) {
+    if (const OptionEntry *entry = m_model->entryAt(m_view->currentIndex()); entry != nullptr)
+      m_session.pick(entry->keyword, choice);
+  });
   connect(m_view, &OptionsView::setBackAsked, this, &OptionsPage::setBack);
   connect(m_setBack, &QPushButton::clicked, this, &OptionsPage::setBack);
   connect(m_setAllBack, &QPushButton::clicked, this, &OptionsPage::setAllBack);
-  connect(&m_session, &PrintSession::changed, this, &OptionsPage::updateControls);
+  connect(&m_session, &PrintSession::changed, this, [this] {
+    m_customOption = QString();  // picked by now, or another choice was
+    updateControls();
+  });
 }
 
 void OptionsPage::showEvent(QShowEvent *event) {
@@ -103,6 +116,32 @@ void OptionsPage::updateControls() {
     state = m_model->isFiltered() ? tr("No option found") : tr("This printer has no more options");
   }
   m_state->setText(state);
+  updateCustomValues();
+}
+
+// The fields are those of the current row, where its choice is custom or about to be.
+void OptionsPage::updateCustomValues() {
+  const OptionEntry *entry = m_model->entryAt(m_view->currentIndex());
+  const QString option = entry == nullptr ? QString() : entry->keyword;
+  const QString marked = m_session.marks().marked(option);
+  const bool isCustom = isCustomChoice(marked);
+  if (isCustom || option != m_customOption) m_customOption = QString();
+  const bool isOpen = isCustom || !m_customOption.isNull();
+  const auto parameters =
+      isOpen ? customParameters(m_session.marks().ppd(), option) : QList<CustomParameter>();
+  if (isCustom) m_custom->show(parameters, customValues(parameters, marked));
+  m_custom->setVisible(!parameters.isEmpty());
+  if (isVisible()) assignMnemonics(this);
+}
+
+void OptionsPage::askForCustomValues(const QString &option) {
+  if (!isCustomChoice(m_session.marks().marked(option))) {
+    m_customOption = option;
+    m_custom->show(customParameters(m_session.marks().ppd(), option), {});
+    updateCustomValues();
+    m_custom->offer();
+  }
+  m_custom->startTyping();
 }
 
 void OptionsPage::setBack() {

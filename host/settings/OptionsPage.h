@@ -15,6 +15,7 @@ class QPushButton;
 
 namespace orvek {
 
+class CustomValueForm;
 class OptionsModel;
 class OptionsView;
 
@@ -33,12 +34,16 @@ class OptionsPage final : public QWidget {
   void build();
   void connectParts();
   void updateControls();
+  void updateCustomValues();
+  void askForCustomValues(const QString &option);
   void setBack();
   void setAllBack();
 
   PrintSession &m_session;
   OptionsModel *m_model;
   OptionsView *m_view;
+  CustomValueForm *m_custom;
+  QString m_customOption;  // whose fields are open though another choice is marked; null: none
   QLineEdit *m_search;
   QCheckBox *m_onlyChanged;
   QLabel *m_state;

@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QTimer>
 
+#include "host/session/CustomValue.h"
 #include "host/settings/ChoiceBox.h"
 #include "host/settings/OptionsModel.h"
 
@@ -69,7 +70,8 @@ void ChoiceDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option
                            const QModelIndex &index) const {
   QStyledItemDelegate::paint(painter, option, index);
   if (entryAt(index) == nullptr) return;
-  if (index.column() == OptionsModel::ChoiceColumn) paintArrow(painter, option);
+  const bool isSwitch = index.data(Qt::CheckStateRole).isValid();
+  if (index.column() == OptionsModel::ChoiceColumn && !isSwitch) paintArrow(painter, option);
   const bool isChanged = static_cast<const OptionsModel *>(index.model())->isChangedAt(index);
   if (index.column() == OptionsModel::OptionColumn && isChanged) paintDot(painter, option);
 }
@@ -94,14 +96,20 @@ QWidget *ChoiceDelegate::createEditor(QWidget *parent, const QStyleOptionViewIte
 }
 
 void ChoiceDelegate::pickIn(QWidget *editor, const QString &option, const QString &choice) {
-  m_session.pick(option, choice);
   Q_EMIT closeEditor(editor);
+  if (isCustomChoice(choice)) {
+    Q_EMIT customAsked(option);
+  } else {
+    m_session.pick(option, choice);
+  }
 }
 
 void ChoiceDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const {
   const OptionEntry *entry = entryAt(index);
   auto *box = qobject_cast<ChoiceBox *>(editor);
-  if (entry != nullptr && box != nullptr) box->setChoice(m_session.marks().marked(entry->keyword));
+  if (entry == nullptr || box == nullptr) return;
+  const QString marked = m_session.marks().marked(entry->keyword);
+  box->setChoice(isCustomChoice(marked) ? QStringLiteral("Custom") : marked);
 }
 
 // A pick is made when it is made; an editor that is merely left changes nothing.
@@ -111,9 +119,12 @@ OptionsView::OptionsView(PrintSession &session, OptionsModel *model, QWidget *pa
     : QTreeView(parent), m_options(model) {
   setObjectName(QStringLiteral("options"));
   setAccessibleName(tr("Options"));
-  setAccessibleDescription(tr("Return opens an option's choices, Delete sets it back"));
+  setAccessibleDescription(
+      tr("Return opens an option's choices or switches it, Delete sets it back"));
   setModel(model);
-  setItemDelegate(new ChoiceDelegate(session, this));
+  auto *choices = new ChoiceDelegate(session, this);
+  connect(choices, &ChoiceDelegate::customAsked, this, &OptionsView::customAsked);
+  setItemDelegate(choices);
   setUniformRowHeights(true);
   setAllColumnsShowFocus(true);
   setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -126,6 +137,10 @@ OptionsView::OptionsView(PrintSession &session, OptionsModel *model, QWidget *pa
   header()->setStretchLastSection(true);
   connect(this, &QTreeView::clicked, this, [this](const QModelIndex &index) {
     const bool isGroup = m_options->entryAt(index) == nullptr;
+    if (m_options->isSwitchAt(index)) {
+      setCurrentIndex(index);  // a click on the box alone would not make it so
+      return;
+    }
     if (isGroup || index.column() == OptionsModel::ChoiceColumn) open(index);
   });
   connect(model, &QAbstractItemModel::modelReset, this, &OptionsView::openGroups);
@@ -142,10 +157,14 @@ void OptionsView::openGroups() {
 }
 
 void OptionsView::open(const QModelIndex &index) {
+  const QModelIndex choice = index.siblingAtColumn(OptionsModel::ChoiceColumn);
   if (m_options->entryAt(index) == nullptr) {
     setExpanded(index.siblingAtColumn(0), !isExpanded(index.siblingAtColumn(0)));
+  } else if (m_options->isSwitchAt(choice)) {
+    const bool isOn = choice.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+    m_options->setData(choice, isOn ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
   } else {
-    edit(index.siblingAtColumn(OptionsModel::ChoiceColumn));
+    edit(choice);
   }
 }
 

@@ -12,6 +12,7 @@ namespace orvek {
 class OptionsModel;
 
 /// Draws a choice with an arrow, and edits it in a pop-up whose greyed choices have their reasons.
+/// An option that is on or off has a check box.
 class ChoiceDelegate final : public QStyledItemDelegate {
   Q_OBJECT
 
@@ -26,6 +27,10 @@ class ChoiceDelegate final : public QStyledItemDelegate {
   void setEditorData(QWidget *editor, const QModelIndex &index) const override;
   void setModelData(QWidget *editor, QAbstractItemModel *model,
                     const QModelIndex &index) const override;
+
+ Q_SIGNALS:
+  /// The user picked the custom choice, which asks for values.
+  void customAsked(const QString &option);
 
  private:
   void pickIn(QWidget *editor, const QString &option, const QString &choice);
@@ -51,6 +56,7 @@ class OptionsView final : public QTreeView {
  Q_SIGNALS:
   void currentMoved();
   void setBackAsked();
+  void customAsked(const QString &option);
 
  protected:
   void keyPressEvent(QKeyEvent *event) override;

@@ -86,6 +86,40 @@
     </message>
 </context>
 <context>
+    <name>orvek::CustomValue</name>
+    <message>
+        <source>%1 pt</source>
+        <translation>%1 pt</translation>
+    </message>
+    <message>
+        <source>%1: digits only</source>
+        <translation>%1 : chiffres uniquement</translation>
+    </message>
+    <message>
+        <source>%1: %2 characters</source>
+        <translation>%1 : %2 caractères</translation>
+    </message>
+    <message>
+        <source>%1: %2 to %3 characters</source>
+        <translation>%1 : %2 à %3 caractères</translation>
+    </message>
+    <message>
+        <source>%1: %2 to %3</source>
+        <translation>%1 : %2 à %3</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::CustomValueForm</name>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 à %2</translation>
+    </message>
+</context>
+<context>
     <name>orvek::DocumentHeader</name>
     <message>
         <source>1 page</source>
@@ -323,8 +357,8 @@
         <translation>Options</translation>
     </message>
     <message>
-        <source>Return opens an option&apos;s choices, Delete sets it back</source>
-        <translation>Entrée ouvre les choix d’une option, Suppr la rétablit</translation>
+        <source>Return opens an option&apos;s choices or switches it, Delete sets it back</source>
+        <translation>Entrée ouvre les choix d’une option ou la bascule, Suppr la rétablit</translation>
     </message>
 </context>
 <context>
@@ -464,6 +498,10 @@
     <message>
         <source>&quot;%1&quot; of this printer has no choice &quot;%2&quot;</source>
         <translation>« %1 » n’a pas de choix « %2 » sur cette imprimante</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of this printer takes %2</source>
+        <translation>« %1 » de cette imprimante accepte %2</translation>
     </message>
 </context>
 <context>

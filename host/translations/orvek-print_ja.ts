@@ -86,6 +86,40 @@
     </message>
 </context>
 <context>
+    <name>orvek::CustomValue</name>
+    <message>
+        <source>%1 pt</source>
+        <translation>%1 pt</translation>
+    </message>
+    <message>
+        <source>%1: digits only</source>
+        <translation>%1: 数字のみ</translation>
+    </message>
+    <message>
+        <source>%1: %2 characters</source>
+        <translation>%1: %2 文字</translation>
+    </message>
+    <message>
+        <source>%1: %2 to %3 characters</source>
+        <translation>%1: %2～%3 文字</translation>
+    </message>
+    <message>
+        <source>%1: %2 to %3</source>
+        <translation>%1: %2～%3</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::CustomValueForm</name>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1～%2</translation>
+    </message>
+</context>
+<context>
     <name>orvek::DocumentHeader</name>
     <message>
         <source>1 page</source>
@@ -323,8 +357,8 @@
         <translation>オプション</translation>
     </message>
     <message>
-        <source>Return opens an option&apos;s choices, Delete sets it back</source>
-        <translation>Enter で選択肢を開き、Delete で既定に戻します</translation>
+        <source>Return opens an option&apos;s choices or switches it, Delete sets it back</source>
+        <translation>Enter で選択肢を開くか切り替え、Delete で元に戻します</translation>
     </message>
 </context>
 <context>
@@ -464,6 +498,10 @@
     <message>
         <source>&quot;%1&quot; of this printer has no choice &quot;%2&quot;</source>
         <translation>このプリンターの「%1」に選択肢「%2」はありません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; of this printer takes %2</source>
+        <translation>このプリンターの「%1」に使える値は %2</translation>
     </message>
 </context>
 <context>

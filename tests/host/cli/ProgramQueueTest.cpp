@@ -29,8 +29,8 @@ class ProgramQueue : public ::testing::Test {
     return runProgram(arguments, {{"XDG_CACHE_HOME=" + cache.path()}, {}, {}});
   }
 
-  QByteArray printed() {
-    QFile file(cups->printedBy("office"));
+  QByteArray printed(const QString &queue = QStringLiteral("office")) {
+    QFile file(cups->printedBy(queue));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
   }
 
@@ -82,6 +82,19 @@ TEST_F(ProgramQueue, GetsNoWordThatSomethingPickedContradicts) {
   EXPECT_FALSE(cups->jobAttributes(1).contains("output-bin"));
   EXPECT_EQ(cups->jobAttributes(1).value("OutputBin"), "Booklet");
   EXPECT_EQ(cups->jobAttributes(1).value("media"), "A3");
+}
+
+TEST_F(ProgramQueue, GetsCustomValuesOfSeveralParameters) {
+  cups->addQueue("values", ORVEK_SOURCE_DIR "/tests/host/session/ppd/values.ppd");
+  const ProgramRun job = run({"--headless", "--print", "-d", "values", "-o",
+                              "Mark={Text=\"Top secret\" Angle=45 Size=20.5}", "-o",
+                              "Gamma=Custom.1.5", "-o", "Pin=Custom.0123", document});
+  ASSERT_EQ(job.status, 0) << job.errors.constData();
+  EXPECT_EQ(cups->waitForJob(1), "completed");
+  const QByteArray code = printed("values");
+  EXPECT_TRUE(code.contains("*CustomMark True\n(Top secret)\n45\n20.5\n")) << code.constData();
+  EXPECT_TRUE(code.contains("*CustomGamma True\n1.5\n"));
+  EXPECT_TRUE(code.contains("*CustomPin True\n(0123)\n"));
 }
 
 TEST_F(ProgramQueue, KeepsTheJobsNumberToItselfWhereAskedTo) {

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // The page of all other options under a user's hands, on small printers and on a very large one.
 
-#include "host/settings/OptionsPage.h"
-
 #include <gmock/gmock.h>
 
 #include <QCheckBox>
@@ -10,11 +8,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTreeView>
 
-#include "host/settings/ChoiceBox.h"
 #include "tests/host/settings/LargePpd.h"
-#include "tests/host/settings/SettingsKit.h"
+#include "tests/host/settings/OptionsPageKit.h"
 
 namespace orvek::test {
 namespace {
@@ -23,36 +19,13 @@ const QStringList panelKeys{"OVKStapling", "OVKFolding", "OVKPunching", "OutputB
 constexpr int manyOptions = 5000;
 constexpr int limitMilliseconds = 1000;  // far above what it takes; a list of widgets fails
 
-class OptionsPageTest : public testing::Test {
+class OptionsPageTest : public OptionsPageOnPpd {
  protected:
   void open(const QString &ppd, SessionSetup setup = {}) {
-    page.reset();
-    session = beginSession(ppd, std::move(setup));
-    page = std::make_unique<OptionsPage>(*session, panelKeys);
-    page->resize(600, 450);
-    page->show();
-    page->activateWindow();
-    QCoreApplication::processEvents();
-    view = page->findChild<QTreeView *>("options");
+    OptionsPageOnPpd::open(ppd, panelKeys, std::move(setup));
   }
 
   void SetUp() override { open(orvekPpd("6180")); }
-
-  template <typename Control>
-  Control *find(const char *name) {
-    return page->findChild<Control *>(QLatin1String(name));
-  }
-
-  QModelIndex row(const QString &text) {
-    const QAbstractItemModel *model = view->model();
-    for (int group = 0; group < model->rowCount(); ++group) {
-      const QModelIndex parent = model->index(group, 0);
-      for (int i = 0; i < model->rowCount(parent); ++i) {
-        if (model->index(i, 0, parent).data().toString() == text) return model->index(i, 0, parent);
-      }
-    }
-    return {};
-  }
 
   QStringList shownOptions() {
     QStringList all;
@@ -64,22 +37,6 @@ class OptionsPageTest : public testing::Test {
     }
     return all;
   }
-
-  QString choiceOf(const QString &option) {
-    return row(option).siblingAtColumn(1).data().toString();
-  }
-
-  ChoiceBox *editor() {
-    QCoreApplication::processEvents();
-    QCoreApplication::processEvents();
-    return view->findChild<ChoiceBox *>();
-  }
-
-  QString marked(const char *option) { return session->marks().marked(QLatin1String(option)); }
-
-  std::unique_ptr<PrintSession> session;
-  std::unique_ptr<OptionsPage> page;
-  QTreeView *view = nullptr;
 };
 
 TEST_F(OptionsPageTest, HasWhatNoOtherPageHas) {
@@ -97,42 +54,41 @@ TEST_F(OptionsPageTest, GroupsAsThePpdDoesWithInstalledEquipmentOfItsOwn) {
 }
 
 TEST_F(OptionsPageTest, PicksByMouse) {
-  const QModelIndex choice = row("Toner saving").siblingAtColumn(1);
+  const QModelIndex choice = row("Paper trays").siblingAtColumn(1);
   QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(choice).center());
   ChoiceBox *box = editor();
   ASSERT_NE(box, nullptr);
-  const QModelIndex on = box->model()->index(box->findText("On"), 0);
+  const QModelIndex on = box->model()->index(box->findText("2 trays"), 0);
   QTest::mouseClick(box->view()->viewport(), Qt::LeftButton, {},
                     box->view()->visualRect(on).center());
-  EXPECT_EQ(marked("OVKTonerSaving"), "True");
-  EXPECT_EQ(choiceOf("Toner saving"), "On");
+  EXPECT_EQ(marked("OVKOptionTrays"), "2Trays");
+  EXPECT_EQ(choiceOf("Paper trays"), "2 trays");
 }
 
 TEST_F(OptionsPageTest, PicksByKeyboardAlone) {
   view->setFocus();
-  view->setCurrentIndex(view->model()->index(0, 0));
+  view->setCurrentIndex(row("Punch unit"));
   QTest::keyClick(view, Qt::Key_Down);
-  QTest::keyClick(view, Qt::Key_Down);
-  EXPECT_EQ(view->currentIndex().siblingAtColumn(0).data(), "Toner saving");
+  EXPECT_EQ(view->currentIndex().siblingAtColumn(0).data(), "Paper trays");
   QTest::keyClick(view, Qt::Key_Return);
   ChoiceBox *box = editor();
   ASSERT_NE(box, nullptr);
-  ASSERT_TRUE(pickText(box, "On"));
-  EXPECT_EQ(marked("OVKTonerSaving"), "True");
+  ASSERT_TRUE(pickText(box, "2 trays"));
+  EXPECT_EQ(marked("OVKOptionTrays"), "2Trays");
   QCoreApplication::processEvents();
   EXPECT_TRUE(view->hasFocus());
 }
 
 TEST_F(OptionsPageTest, LeavesAnOptionAloneWhosePopUpIsOnlyClosed) {
   view->setFocus();
-  view->setCurrentIndex(row("Toner saving"));
+  view->setCurrentIndex(row("Paper trays"));
   QTest::keyClick(view, Qt::Key_Space);
   ChoiceBox *box = editor();
   ASSERT_NE(box, nullptr);
   QTest::keyClick(box->view(), Qt::Key_Escape);
   QTest::keyClick(box, Qt::Key_Escape);
   QCoreApplication::processEvents();
-  EXPECT_EQ(marked("OVKTonerSaving"), "False");
+  EXPECT_EQ(marked("OVKOptionTrays"), "4Trays");
   EXPECT_TRUE(session->ticket().values().isEmpty());
 }
 
@@ -276,6 +232,21 @@ TEST_F(OptionsPageTest, OpensSearchesAndFollowsQuicklyWithThousandsOfOptions) {
   EXPECT_LT(opened, limitMilliseconds);
   EXPECT_LT(searched / letters.size(), limitMilliseconds);
   EXPECT_LT(picked, limitMilliseconds);
+}
+
+TEST_F(OptionsPageTest, SwitchesWithABoxByMouseAndKeyboard) {
+  const QModelIndex choice = row("Toner saving").siblingAtColumn(1);
+  ASSERT_EQ(choice.data(Qt::CheckStateRole).toInt(), Qt::Unchecked);
+  const QRect cell = view->visualRect(choice);
+  QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, {cell.left() + 10, cell.center().y()});
+  EXPECT_EQ(marked("OVKTonerSaving"), "True");
+  EXPECT_EQ(choice.data(Qt::CheckStateRole).toInt(), Qt::Checked);
+  view->setFocus();
+  QTest::keyClick(view, Qt::Key_Space);
+  EXPECT_EQ(marked("OVKTonerSaving"), "False");
+  QTest::keyClick(view, Qt::Key_Return);
+  EXPECT_EQ(marked("OVKTonerSaving"), "True");
+  EXPECT_EQ(view->findChild<ChoiceBox *>(), nullptr);
 }
 
 }  // namespace
