@@ -4,12 +4,14 @@
 #include "host/settings/Mnemonics.h"
 
 #include <QAbstractButton>
+#include <QHash>
 #include <QKeySequence>
 #include <QLabel>
 #include <QList>
 #include <QSet>
 #include <QTabBar>
 #include <QWidget>
+#include <utility>
 
 namespace orvek {
 namespace {
@@ -71,36 +73,85 @@ QSet<QChar> lettersAround(QWidget *page) {
   return letters;
 }
 
-bool mayCarry(QChar letter, const QSet<QChar> &taken) {
-  const QChar upper = letter.toUpper();
-  return upper.isLetterOrNumber() && upper.unicode() < 0x250 && !taken.contains(upper);
+bool isLatin(QChar letter) {
+  constexpr char16_t endOfLatin = 0x250;
+  return letter.isLetterOrNumber() && letter.unicode() < endOfLatin;
 }
 
-int freePlace(const QString &plain, const QSet<QChar> &taken) {
+// The letters of a text, those that begin a word first; of a text without any, the alphabet.
+QList<QChar> lettersFor(const QString &plain) {
+  QList<QChar> initials;
+  QList<QChar> others;
   for (int i = 0; i < plain.size(); ++i) {
+    if (!isLatin(plain[i])) continue;
     const bool beginsWord = i == 0 || plain[i - 1].isSpace();
-    if (beginsWord && mayCarry(plain[i], taken)) return i;
+    (beginsWord ? initials : others) << plain[i].toUpper();
   }
-  for (int i = 0; i < plain.size(); ++i) {
-    if (mayCarry(plain[i], taken)) return i;
-  }
-  return -1;
+  if (initials.isEmpty() && others.isEmpty()) return {alphabet.begin(), alphabet.end()};
+  return initials + others;
 }
 
-QString withLetter(const QString &plain, QSet<QChar> *taken) {
-  const int place = freePlace(plain, *taken);
-  if (place >= 0) {
-    taken->insert(plain[place].toUpper());
-    return withoutMnemonic(plain.left(place)) + QLatin1Char('&') +
-           withoutMnemonic(plain.mid(place));
+int placeOf(QChar letter, const QString &plain) {
+  int found = -1;
+  for (int i = 0; i < plain.size(); ++i) {
+    if (plain[i].toUpper() != letter) continue;
+    if (i == 0 || plain[i - 1].isSpace()) return i;
+    if (found < 0) found = i;
   }
-  for (const QChar letter : alphabet) {
-    if (taken->contains(letter)) continue;
-    taken->insert(letter);
-    return withoutMnemonic(plain) + QStringLiteral(" (&") + letter + QLatin1Char(')');
-  }
-  return withoutMnemonic(plain);
+  return found;
 }
+
+QString withLetter(const QString &plain, QChar letter) {
+  if (letter.isNull()) return withoutMnemonic(plain);
+  const int place = placeOf(letter, plain);
+  if (place < 0) return withoutMnemonic(plain) + QStringLiteral(" (&") + letter + QLatin1Char(')');
+  return withoutMnemonic(plain.left(place)) + QLatin1Char('&') + withoutMnemonic(plain.mid(place));
+}
+
+// Hands out letters so that as many texts as possible get one: where all letters of a text are
+// taken, one of their owners moves on to another of its own.
+class LetterTable {
+ public:
+  explicit LetterTable(QSet<QChar> taken) : m_taken(std::move(taken)) {}
+
+  int add(const QString &plain) {
+    m_letters << lettersFor(plain);
+    return static_cast<int>(m_letters.size()) - 1;
+  }
+
+  bool give(int text, QChar letter) {
+    if (letter.isNull() || m_taken.contains(letter) || m_owners.contains(letter)) return false;
+    m_owners.insert(letter, text);
+    return true;
+  }
+
+  void find(int text) {
+    QSet<QChar> tried = m_taken;
+    find(text, &tried);
+  }
+
+  QChar letterOf(int text) const { return m_owners.key(text); }
+
+ private:
+  bool find(int text, QSet<QChar> *tried) {
+    for (const QChar letter : m_letters[text]) {
+      if (give(text, letter)) return true;
+    }
+    for (const QChar letter : m_letters[text]) {
+      if (tried->contains(letter)) continue;
+      tried->insert(letter);
+      const int owner = m_owners.take(letter);
+      m_owners.insert(letter, text);
+      if (find(owner, tried)) return true;
+      m_owners.insert(letter, owner);
+    }
+    return false;
+  }
+
+  QSet<QChar> m_taken;
+  QList<QList<QChar>> m_letters;
+  QHash<QChar, int> m_owners;
+};
 
 }  // namespace
 
@@ -109,18 +160,18 @@ QString withoutMnemonic(const QString &text) {
 }
 
 void assignMnemonics(QWidget *page) {
-  QSet<QChar> taken = lettersAround(page);
-  QList<Carrier> without;
-  for (const Carrier &carrier : carriersIn(page)) {
-    const QChar own = mnemonicOf(carrier.text());
-    if (own.isNull() || taken.contains(own)) {
-      without.append(carrier);
-    } else {
-      taken.insert(own);
-    }
+  const QList<Carrier> carriers = carriersIn(page);
+  LetterTable letters(lettersAround(page));
+  QList<int> without;
+  for (const Carrier &carrier : carriers) {
+    const int text = letters.add(plainText(carrier.text()));
+    if (!letters.give(text, mnemonicOf(carrier.text()))) without << text;
   }
-  for (const Carrier &carrier : without) {
-    carrier.setText(withLetter(plainText(carrier.text()), &taken));
+  for (const int text : without) letters.find(text);
+  for (int text = 0; text < carriers.size(); ++text) {
+    const Carrier &carrier = carriers[text];
+    if (mnemonicOf(carrier.text()) == letters.letterOf(text)) continue;
+    carrier.setText(withLetter(plainText(carrier.text()), letters.letterOf(text)));
   }
 }
 

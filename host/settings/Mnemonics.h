@@ -13,9 +13,10 @@ namespace orvek {
 QString withoutMnemonic(const QString &text);
 
 /// Gives each label with a buddy and each button of the page a letter that no other visible control
-/// of the window has: the first letter of a word where it is free, else any letter of the text,
-/// else one in brackets behind it. Texts keep a letter that they came with where it is free. Safe
-/// to call again.
+/// of the window has: where it can the first letter of a word, else any letter of the text. A text
+/// in another script gets one in brackets behind it. Texts keep a letter that they came with,
+/// unless another would be left without. Only where there are more texts than letters some have
+/// none. Safe to call again.
 void assignMnemonics(QWidget *page);
 
 }  // namespace orvek

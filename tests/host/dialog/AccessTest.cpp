@@ -5,9 +5,12 @@
 #include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QTabWidget>
+#include <QTranslator>
 
+#include "host/translations/Translations.h"
 #include "tests/host/dialog/DialogKit.h"
 
 using namespace orvek;
@@ -60,6 +63,57 @@ TEST_F(Access, EveryControlOfEveryPageHasAName) {
     EXPECT_EQ(nameless().join(QStringLiteral(", ")), QString()) << page;
   }
 }
+
+// Letters of all that can be reached with Alt now: labels, buttons, tabs.
+class AccessIn : public Access, public ::testing::WithParamInterface<const char *> {
+ protected:
+  void SetUp() override {
+    Access::SetUp();
+    const QString file =
+        QStringLiteral(":/translations/orvek-print_%1.qm").arg(QLatin1String(GetParam()));
+    installTranslations();
+    // English is what the program speaks by itself.
+    ASSERT_EQ(translator.load(file), QLatin1String(GetParam()) != QLatin1String("en"));
+    if (!translator.isEmpty()) QCoreApplication::installTranslator(&translator);
+  }
+
+  QStringList texts() const {
+    QStringList all;
+    for (const auto *tabs : dialog->findChildren<QTabBar *>()) {
+      for (int tab = 0; tab < tabs->count(); ++tab) all << tabs->tabText(tab);
+    }
+    for (const auto *label : dialog->findChildren<QLabel *>()) {
+      if (label->buddy() != nullptr && label->isVisible()) all << label->text();
+    }
+    for (const auto *button : dialog->findChildren<QAbstractButton *>()) {
+      if (button->isVisible()) all << button->text();
+    }
+    return all;
+  }
+
+  QTranslator translator;
+};
+
+TEST_P(AccessIn, NoTwoControlsOfAPageHaveOneLetter) {
+  open();
+  click("bookletChckBox");
+  auto *pages = find<QTabWidget>("pages");
+  for (int page = 0; page < pages->count(); ++page) {
+    pages->setCurrentIndex(page);
+    QCoreApplication::processEvents();
+    QMap<QString, QString> owners;
+    for (const QString &text : texts()) {
+      const QString letter = QKeySequence::mnemonic(text).toString();
+      if (letter.isEmpty()) continue;
+      EXPECT_FALSE(owners.contains(letter))
+          << text.toStdString() << " and " << owners.value(letter).toStdString();
+      owners.insert(letter, text);
+    }
+    EXPECT_GE(owners.size(), 3);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, AccessIn, ::testing::Values("en", "de", "fr", "ja"));
 
 TEST_F(Access, TabReachesEveryControlOfThePanel) {
   open();
