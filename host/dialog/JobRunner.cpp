@@ -5,6 +5,7 @@
 
 #include <QLocale>
 #include <QTemporaryFile>
+#include <algorithm>
 
 #include "host/jobs/Document.h"
 
@@ -40,7 +41,8 @@ struct JobRunner::Spool {
   JobRequest withFile(JobRequest request) const {
     request.title = effectiveTitle(request);
     request.files = effectiveFiles(request);
-    if (file) request.files.replaceInStrings(QStringLiteral("^-$"), file->fileName());
+    if (file)
+      std::replace(request.files.begin(), request.files.end(), standardInput, file->fileName());
     return request;
   }
 };
