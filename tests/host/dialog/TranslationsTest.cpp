@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
-// The translations as files: complete, and with every value in its place.
+// The translations as files: every text of the program and no other, complete, and with every value
+// in its place.
 
 #include <gtest/gtest.h>
 
+#include <QDirIterator>
 #include <QFile>
+#include <QProcess>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QXmlStreamReader>
 
 #include "tests/support/Printers.h"
@@ -15,22 +19,60 @@ struct Message {
   QString source;
   QString translation;
   bool isFinished = true;
+  QString context;
 };
 
-QList<Message> messagesOf(const QString &language) {
-  QFile file(QStringLiteral(ORVEK_SOURCE_DIR "/host/translations/orvek-print_%1.ts").arg(language));
+QString fileOf(const QString &language) {
+  return QStringLiteral(ORVEK_SOURCE_DIR "/host/translations/orvek-print_%1.ts").arg(language);
+}
+
+QList<Message> messagesIn(const QString &path) {
+  QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) return {};
   QXmlStreamReader reader(&file);
   QList<Message> messages;
+  QString context;
   while (!reader.atEnd()) {
     if (reader.readNext() != QXmlStreamReader::StartElement) continue;
-    if (reader.name() == u"source") messages.append({reader.readElementText(), {}, true});
+    if (reader.name() == u"name") context = reader.readElementText();
+    if (reader.name() == u"source") messages.append({reader.readElementText(), {}, true, context});
     if (reader.name() == u"translation") {
       messages.last().isFinished = !reader.attributes().hasAttribute(QStringLiteral("type"));
       messages.last().translation = reader.readElementText();
     }
   }
   return messages;
+}
+
+QStringList sourcesOf(const QList<Message> &messages) {
+  QStringList sources;
+  for (const Message &message : messages) sources << message.context + u": " + message.source;
+  sources.sort();
+  return sources;
+}
+
+// Everything that may speak to users.
+QStringList programSources() {
+  QStringList sources;
+  QDirIterator files(QStringLiteral(ORVEK_SOURCE_DIR "/host"),
+                     {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,
+                     QDirIterator::Subdirectories);
+  while (files.hasNext()) sources << files.next();
+  return sources;
+}
+
+// What Qt's tool makes of a translation when it reads the sources again.
+QList<Message> messagesReadAgain(const QString &language) {
+  const QTemporaryDir folder;
+  const QString copy = folder.filePath(QStringLiteral("again.ts"));
+  if (!QFile::copy(fileOf(language), copy)) return {};
+  const QStringList options{QStringLiteral("-silent"),    QStringLiteral("-no-obsolete"),
+                            QStringLiteral("-locations"), QStringLiteral("none"),
+                            QStringLiteral("-I"),         QStringLiteral(ORVEK_SOURCE_DIR)};
+  const int status = QProcess::execute(QStringLiteral(ORVEK_LUPDATE),
+                                       options + programSources() + QStringList{"-ts", copy});
+  EXPECT_EQ(status, 0);
+  return messagesIn(copy);
 }
 
 QStringList placesIn(const QString &text) {
@@ -43,7 +85,7 @@ QStringList placesIn(const QString &text) {
 
 class Translations : public ::testing::TestWithParam<const char *> {
  protected:
-  QList<Message> messages = messagesOf(QLatin1String(GetParam()));
+  QList<Message> messages = messagesIn(fileOf(QLatin1String(GetParam())));
 };
 
 TEST_P(Translations, AreComplete) {
@@ -52,6 +94,10 @@ TEST_P(Translations, AreComplete) {
     EXPECT_TRUE(message.isFinished && !message.translation.isEmpty())
         << message.source.toStdString();
   }
+}
+
+TEST_P(Translations, HaveEveryTextOfTheProgramAndNoOther) {
+  EXPECT_EQ(sourcesOf(messages), sourcesOf(messagesReadAgain(QLatin1String(GetParam()))));
 }
 
 TEST_P(Translations, HaveTheSameValuesInThem) {
