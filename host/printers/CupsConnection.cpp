@@ -10,11 +10,6 @@
 namespace orvek {
 namespace {
 
-constexpr int kConnectMilliseconds = 5000;
-constexpr double kAskEverySeconds = 0.25;
-/// Asked more than this after the last time, a new wait has begun: bytes went over in between.
-constexpr qint64 kNewStallMilliseconds = 1000;
-
 /// Without this libcups would read a password from the terminal, also under a window.
 const char *noPassword(const char *, http_t *, const char *, const char *, void *) {
   return nullptr;
@@ -37,11 +32,10 @@ QString nameOfServer() {
 }  // namespace
 
 CupsConnection::CupsConnection(const ServerAccess &access)
-    : m_access(access), m_passwords(access.passwords) {}
+    : m_access(access), m_limit(access.patience, access.cancelled), m_passwords(access.passwords) {}
 
 CupsConnection::~CupsConnection() {
   cupsSetPasswordCB2(noPassword, nullptr);
-  httpClose(m_http);
 }
 
 Result<std::unique_ptr<CupsConnection>> CupsConnection::open(const ServerAccess &access) {
@@ -50,25 +44,18 @@ Result<std::unique_ptr<CupsConnection>> CupsConnection::open(const ServerAccess 
   std::unique_ptr<CupsConnection> connection(new CupsConnection(access));
   cupsSetPasswordCB2(password, connection.get());
   connection->m_serverName = nameOfServer();
-  constexpr int kBlocking = 1;
-  connection->m_http = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(),
-                                    kBlocking, kConnectMilliseconds, nullptr);
+  connection->m_http = connection->m_limit.connect(cupsServer(), ippPort(), cupsEncryption());
   if (!connection->m_http) {
     const int error = errno;
     return Failure{FailureKind::Io, connection->m_serverName,
                    QStringLiteral("no print server answers there (%1)")
                        .arg(QString::fromLocal8Bit(std::strerror(error)))};
   }
-  httpSetTimeout(connection->m_http, kAskEverySeconds, keepWaiting, connection.get());
   return connection;
 }
 
-bool CupsConnection::isCancelled() const {
-  return m_access.cancelled && *m_access.cancelled;
-}
-
 bool CupsConnection::isBroken() const {
-  return isCancelled() || m_gaveUp || httpError(m_http) != 0;
+  return isCancelled() || m_limit.gaveUp() || httpError(http()) != 0;
 }
 
 const char *CupsConnection::password(const char *, http_t *http, const char *, const char *,
@@ -87,25 +74,22 @@ const char *CupsConnection::nextPassword(const http_t *asking) {
   return m_password.constData();
 }
 
-int CupsConnection::keepWaiting(http_t *, void *connection) {
-  return static_cast<CupsConnection *>(connection)->mayWaitLonger() ? 1 : 0;
+CupsConnection::Unasked::Unasked(const CupsConnection &connection) : m_connection(connection) {
+  cupsSetPasswordCB2(noPassword, nullptr);
 }
 
-bool CupsConnection::mayWaitLonger() {
-  if (isCancelled() || m_gaveUp) return false;
-  if (!m_lastAsked.isValid() || m_lastAsked.elapsed() > kNewStallMilliseconds) m_stall.start();
-  m_lastAsked.start();
-  m_gaveUp = m_stall.elapsed() > m_access.patience.count();
-  return !m_gaveUp;
+CupsConnection::Unasked::~Unasked() {
+  // libcups hands it back as it is; the connection itself is not constant.
+  cupsSetPasswordCB2(password, const_cast<CupsConnection *>(&m_connection));
 }
 
 Failure CupsConnection::lastFailure(const QString &what) const {
   if (isCancelled()) return {FailureKind::Io, what, QStringLiteral("cancelled")};
   if (lacksPassword()) return *m_passwords.failure();
-  if (m_gaveUp)
+  if (m_limit.gaveUp())
     return {FailureKind::Io, m_serverName,
             QStringLiteral("the print server stopped answering; try again once it is up")};
-  if (const int error = httpError(m_http))
+  if (const int error = httpError(http()))
     return {FailureKind::Io, what,
             QStringLiteral("the connection to the print server broke (%1)")
                 .arg(QString::fromLocal8Bit(std::strerror(error)))};

@@ -3,18 +3,12 @@
 // with a failure instead of a hang.
 #pragma once
 
-// The printing interface comes first: it takes the deprecations of libcups' headers off.
-#include "platform/printing/PPD.h"
-// clang-format off
-#include <cups/cups.h>
-// clang-format on
-
-#include <QElapsedTimer>
 #include <QString>
 #include <memory>
 
 #include "host/printers/Passwords.h"
 #include "host/printers/ServerAccess.h"
+#include "host/printers/WaitLimit.h"
 #include "platform/system/Result.h"
 
 namespace orvek {
@@ -30,12 +24,15 @@ class CupsConnection {
   CupsConnection(const CupsConnection &) = delete;
   CupsConnection &operator=(const CupsConnection &) = delete;
 
-  http_t *http() const { return m_http; }
+  http_t *http() const { return m_http.get(); }
 
   /// What to call the server in a message.
   const QString &serverName() const { return m_serverName; }
 
-  bool isCancelled() const;
+  bool isCancelled() const { return m_limit.isCancelled(); }
+
+  /// What cancels it; may be null.
+  const std::atomic<bool> *cancelled() const { return m_access.cancelled; }
 
   /// Whether an answer was given up or lost. libcups may still report the success of an earlier
   /// call.
@@ -48,23 +45,31 @@ class CupsConnection {
   /// The failure of the libcups call just made, in words; `what` is what the call was about.
   Failure lastFailure(const QString &what) const;
 
+  /// While it lives nobody is asked for a password: for questions to others than the server.
+  class Unasked {
+   public:
+    explicit Unasked(const CupsConnection &connection);
+    ~Unasked();
+    Unasked(const Unasked &) = delete;
+    Unasked &operator=(const Unasked &) = delete;
+
+   private:
+    const CupsConnection &m_connection;
+  };
+
  private:
   explicit CupsConnection(const ServerAccess &access);
-  static int keepWaiting(http_t *http, void *connection);
   static const char *password(const char *prompt, http_t *http, const char *method,
                               const char *resource, void *connection);
-  bool mayWaitLonger();
   const char *nextPassword(const http_t *asking);
 
   ServerAccess m_access;
   QString m_serverName;
-  http_t *m_http = nullptr;
+  WaitLimit m_limit;
+  HttpHandle m_http;
   PasswordRounds m_passwords;
   const http_t *m_asking = nullptr;  ///< libcups' connection that wanted the last password
   QByteArray m_password;             ///< lent to libcups, which copies it
-  QElapsedTimer m_stall;             ///< since the server stopped taking or giving bytes
-  QElapsedTimer m_lastAsked;         ///< since libcups last asked whether to wait
-  bool m_gaveUp = false;             ///< waited too long, once and for all
 };
 
 }  // namespace orvek

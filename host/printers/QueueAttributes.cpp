@@ -3,6 +3,8 @@
 
 #include "host/printers/QueueAttributes.h"
 
+#include <QUrl>
+#include <algorithm>
 #include <memory>
 
 #include "host/printers/SettingTitles.h"
@@ -12,6 +14,8 @@ namespace {
 
 const char *const kSettings[] = {"media",     "sides",      "print-color-mode", "print-quality",
                                  "number-up", "output-bin", "finishings"};
+
+constexpr std::chrono::milliseconds kPrinterPatience{2000};
 
 using Destination = std::unique_ptr<cups_dest_t, void (*)(cups_dest_t *)>;
 using Details = std::unique_ptr<cups_dinfo_t, decltype(&cupsFreeDestInfo)>;
@@ -47,11 +51,21 @@ QString titleOr(const char *title, const QByteArray &keyword, const QString &fal
   return title && title != keyword ? QString::fromUtf8(title) : fallback;
 }
 
+// Of a paper's names libcups gives the one without margins where it is left the choice, which is
+// not what a job gets that names the paper alone.
+bool hasBetterTitle(const char *setting, const QByteArray &keyword) {
+  if (qstrcmp(setting, "media") != 0) return false;
+  const pwg_media_t *media = pwgMediaForPWG(keyword.constData());
+  return media && media->ppd;
+}
+
 QString choiceTitle(const Queue &queue, const char *setting, const QString &value) {
   const QByteArray keyword = value.toUtf8();
+  const QString plain = plainChoiceTitle(QString::fromLatin1(setting), value);
+  if (hasBetterTitle(setting, keyword)) return plain;
   const char *title = cupsLocalizeDestValue(queue.http, queue.destination, queue.details, setting,
                                             keyword.constData());
-  return titleOr(title, keyword, plainChoiceTitle(QString::fromLatin1(setting), value));
+  return titleOr(title, keyword, plain);
 }
 
 QString settingTitle(const Queue &queue, const char *setting) {
@@ -74,6 +88,40 @@ SettingOffer readSetting(const Queue &queue, const char *name) {
   return setting;
 }
 
+QList<SettingOffer> readSettings(http_t *http, cups_dest_t *destination, cups_dinfo_t *details) {
+  QList<SettingOffer> settings;
+  for (const char *name : kSettings) {
+    const auto setting = readSetting({http, destination, details}, name);
+    if (setting.choices.size() > 1) settings << setting;
+  }
+  return settings;
+}
+
+bool knowsPaper(const QList<SettingOffer> &settings) {
+  return std::any_of(settings.begin(), settings.end(), [](const SettingOffer &setting) {
+    return setting.attribute == QLatin1String("media");
+  });
+}
+
+/// A server that hands jobs on as they are knows little of the printer, which can be asked itself:
+/// under the name that this machine's server has for it. It may be switched off, and must not keep
+/// anybody waiting then.
+QList<SettingOffer> askPrinterItself(const CupsConnection &connection, cups_dest_t *destination) {
+  const QUrl device(QString::fromUtf8(
+      cupsGetOption("device-uri", destination->num_options, destination->options)));
+  const bool isSecure = device.scheme() == QLatin1String("ipps");
+  if (!isSecure && device.scheme() != QLatin1String("ipp")) return {};
+  if (!httpAddrLocalhost(httpGetAddress(connection.http()))) return {};
+  WaitLimit limit(kPrinterPatience, connection.cancelled());
+  const CupsConnection::Unasked unasked(connection);
+  const HttpHandle printer =
+      limit.connect(device.host().toUtf8().constData(), device.port(IPP_PORT),
+                    isSecure ? HTTP_ENCRYPTION_ALWAYS : HTTP_ENCRYPTION_IF_REQUESTED);
+  if (!printer) return {};
+  const Details details(cupsCopyDestInfo(printer.get(), destination), &cupsFreeDestInfo);
+  return details ? readSettings(printer.get(), destination, details.get()) : QList<SettingOffer>();
+}
+
 }  // namespace
 
 Result<QList<SettingOffer>> readQueueSettings(const CupsConnection &connection,
@@ -84,12 +132,10 @@ Result<QList<SettingOffer>> readQueueSettings(const CupsConnection &connection,
   if (!destination) return connection.lastFailure(queue);
   const Details details(cupsCopyDestInfo(http, destination.get()), &cupsFreeDestInfo);
   if (!details) return connection.lastFailure(queue);
-  QList<SettingOffer> settings;
-  for (const char *name : kSettings) {
-    const auto setting = readSetting({http, destination.get(), details.get()}, name);
-    if (setting.choices.size() > 1) settings << setting;
-  }
-  return settings;
+  const QList<SettingOffer> settings = readSettings(http, destination.get(), details.get());
+  if (knowsPaper(settings)) return settings;
+  const QList<SettingOffer> ofPrinter = askPrinterItself(connection, destination.get());
+  return ofPrinter.isEmpty() ? settings : ofPrinter;
 }
 
 Result<QList<SettingOffer>> readQueueSettings(const ServerAccess &access, const QString &queue) {

@@ -3,10 +3,7 @@
 
 #include "tests/support/FrontServer.h"
 
-#include <arpa/inet.h>
 #include <gtest/gtest.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 #include <QElapsedTimer>
 #include <QStandardPaths>
@@ -53,18 +50,6 @@ QByteArray configuration(const PrivateCups &cups, int port, Guarded guarded, con
          QByteArray::number(port) + ";\n" + locations(guarded, behind) + "} }\n";
 }
 
-bool answers(int port) {
-  const int client = ::socket(AF_INET, SOCK_STREAM, 0);
-  sockaddr_in address{};
-  address.sin_family = AF_INET;
-  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-  address.sin_port = htons(static_cast<in_port_t>(port));
-  const bool isOpen =
-      ::connect(client, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0;
-  ::close(client);
-  return isOpen;
-}
-
 }  // namespace
 
 QString FrontServer::obstacle() {
@@ -80,7 +65,7 @@ FrontServer::FrontServer(const PrivateCups &cups, Guarded guarded, const QString
                            m_folder.filePath(QStringLiteral("nginx.conf"))});
   QElapsedTimer clock;
   for (clock.start(); clock.elapsed() < kPatience; QThread::msleep(kPause)) {
-    if (answers(m_port)) return;
+    if (isListening(m_port)) return;
   }
   ADD_FAILURE() << "the web server does not answer: "
                 << m_server.readAllStandardError().toStdString();

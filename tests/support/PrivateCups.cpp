@@ -21,6 +21,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QThread>
+#include <QUrl>
 #include <array>
 #include <csignal>
 
@@ -109,6 +110,18 @@ int freePort() {
   ::getsockname(listener, reinterpret_cast<sockaddr *>(&address), &size);
   ::close(listener);
   return ntohs(address.sin_port);
+}
+
+bool isListening(int port) {
+  const int client = ::socket(AF_INET, SOCK_STREAM, 0);
+  sockaddr_in address{};
+  address.sin_family = AF_INET;
+  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  address.sin_port = htons(static_cast<in_port_t>(port));
+  const bool isOpen =
+      ::connect(client, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0;
+  ::close(client);
+  return isOpen;
 }
 
 QString PrivateCups::obstacle() {
@@ -219,16 +232,21 @@ Ran PrivateCups::run(const QString &name, const QStringList &arguments,
 }
 
 QMap<QString, QString> PrivateCups::jobAttributes(int jobId) const {
+  constexpr int kNoPort = 0;
+  return attributesOfJob(socket().toUtf8(), kNoPort,
+                         "ipp://localhost/jobs/" + QByteArray::number(jobId));
+}
+
+QMap<QString, QString> attributesOfJob(const QByteArray &host, int port, const QByteArray &jobUri) {
   ipp_t *request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
-  const QByteArray uri = "ipp://localhost/jobs/" + QByteArray::number(jobId);
-  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri.constData());
+  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, jobUri.constData());
   ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
                cupsUser());
   constexpr int kConnectMilliseconds = 5000;
-  const QByteArray server = socket().toUtf8();
-  http_t *http = httpConnect2(server.constData(), 0, nullptr, AF_UNSPEC, HTTP_ENCRYPTION_NEVER, 1,
+  http_t *http = httpConnect2(host.constData(), port, nullptr, AF_UNSPEC, HTTP_ENCRYPTION_NEVER, 1,
                               kConnectMilliseconds, nullptr);
-  ipp_t *response = cupsDoRequest(http, request, "/jobs/");
+  const QByteArray path = QUrl(QString::fromUtf8(jobUri)).path().toUtf8();
+  ipp_t *response = cupsDoRequest(http, request, path.left(path.lastIndexOf('/')).constData());
   const auto attributes = attributesOf(response);
   ippDelete(response);
   httpClose(http);

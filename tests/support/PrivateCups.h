@@ -17,8 +17,15 @@ struct Ran {
   QString errors;
 };
 
+/// What a print server or a printer says of a job, in the text form of libcups; empty where there
+/// is no such job.
+QMap<QString, QString> attributesOfJob(const QByteArray &host, int port, const QByteArray &jobUri);
+
 /// A port of the loopback that nobody listens on.
 int freePort();
+
+/// Whether somebody listens on it.
+bool isListening(int port);
 
 /// How a private server differs from the usual one.
 struct PrivateCupsSetup {

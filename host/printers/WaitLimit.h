@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: Apache-2.0
+// How long a connection of libcups may stand still.
+#pragma once
+
+// The printing interface comes first: it takes the deprecations of libcups' headers off.
+#include "platform/printing/PPD.h"
+// clang-format off
+#include <cups/cups.h>
+// clang-format on
+
+#include <QElapsedTimer>
+#include <atomic>
+#include <chrono>
+#include <memory>
+
+namespace orvek {
+
+struct HttpCloser {
+  void operator()(http_t *http) const { httpClose(http); }
+};
+
+/// Closes with its holder.
+using HttpHandle = std::unique_ptr<http_t, HttpCloser>;
+
+/// Ends every wait of one connection once the other side has neither taken nor given a byte for a
+/// while. Must outlive the connection.
+class WaitLimit {
+ public:
+  /// `cancelled` (may be null) ends every wait, too.
+  WaitLimit(std::chrono::milliseconds patience, const std::atomic<bool> *cancelled)
+      : m_patience(patience), m_cancelled(cancelled) {}
+  WaitLimit(const WaitLimit &) = delete;
+  WaitLimit &operator=(const WaitLimit &) = delete;
+
+  /// Connects within a few seconds; null where nobody answers (errno says why).
+  HttpHandle connect(const char *host, int port, http_encryption_t encryption);
+
+  bool isCancelled() const { return m_cancelled && *m_cancelled; }
+
+  /// Whether it waited too long, once and for all.
+  bool gaveUp() const { return m_gaveUp; }
+
+ private:
+  static int keepWaiting(http_t *http, void *limit);
+  bool mayWaitLonger();
+
+  std::chrono::milliseconds m_patience;
+  const std::atomic<bool> *m_cancelled;
+  QElapsedTimer m_stall;      ///< since the other side stopped taking or giving bytes
+  QElapsedTimer m_lastAsked;  ///< since libcups last asked whether to wait
+  bool m_gaveUp = false;
+};
+
+}  // namespace orvek
