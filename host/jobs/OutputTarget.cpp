@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Files are written beside their place and renamed; everything else is a descriptor that is polled.
+// Files are written apart from their place; everything else is a descriptor that is polled.
 
 #include "host/jobs/OutputTarget.h"
 
@@ -49,9 +49,6 @@ QString systemReason(int error) {
 
 }  // namespace
 
-OutputTarget::OutputTarget(QString path, int stream, std::unique_ptr<QSaveFile> file)
-    : m_path(std::move(path)), m_stream(stream), m_file(std::move(file)) {}
-
 OutputTarget::~OutputTarget() {
   if (m_stream >= 0) ::close(m_stream);
 }
@@ -62,20 +59,20 @@ Failure OutputTarget::failure(const QString &why) const {
 }
 
 Result<std::unique_ptr<OutputTarget>> OutputTarget::open(const QString &path) {
-  std::unique_ptr<OutputTarget> target(new OutputTarget(path, -1, nullptr));
+  std::unique_ptr<OutputTarget> target(new OutputTarget(path));
   if (openStreamNumber(path) >= 0 || !isPlainFileOrAbsent(path)) {
     target->m_stream = openStream(path);
     if (target->m_stream < 0) return target->failure(systemReason(errno));
     return target;
   }
-  target->m_file = std::make_unique<QSaveFile>(path);
-  if (!target->m_file->open(QIODevice::WriteOnly))
-    return target->failure(target->m_file->errorString());
+  auto file = PendingFile::open(path);
+  if (!file) return target->failure(file.failure().why);
+  target->m_file = file.take();
   return target;
 }
 
 Status OutputTarget::writeToFile(const QByteArray &bytes) {
-  // Past QSaveFile's buffer, which would put off a full disk's answer and lose the system's reason.
+  // Unbuffered: a buffer would put off a full disk's answer and lose the system's reason.
   qsizetype done = 0;
   while (done < bytes.size()) {
     const auto left = static_cast<size_t>(bytes.size() - done);
@@ -99,8 +96,9 @@ Result<qsizetype> OutputTarget::writeSomeToStream(const char *bytes, qsizetype c
 }
 
 Status OutputTarget::commit() {
-  if (m_file && !m_file->commit()) return failure(m_file->errorString());
-  return {};
+  if (!m_file) return {};
+  const Status committed = m_file->commit();
+  return committed ? committed : Status(failure(committed.failure().why));
 }
 
 }  // namespace orvek

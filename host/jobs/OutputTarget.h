@@ -3,10 +3,10 @@
 // whole.
 #pragma once
 
-#include <QSaveFile>
 #include <QString>
 #include <memory>
 
+#include "host/jobs/PendingFile.h"
 #include "platform/system/Result.h"
 
 namespace orvek {
@@ -31,7 +31,7 @@ class OutputTarget {
   Status commit();
 
  private:
-  OutputTarget(QString path, int stream, std::unique_ptr<QSaveFile> file);
+  explicit OutputTarget(QString path) : m_path(std::move(path)) {}
   Failure failure(const QString &why) const;
   Status writeToFile(const QByteArray &bytes);
   /// How many bytes a stream took, 0 where it took none in a tenth of a second, or why it never
@@ -40,7 +40,7 @@ class OutputTarget {
 
   QString m_path;
   int m_stream = -1;
-  std::unique_ptr<QSaveFile> m_file;
+  std::unique_ptr<PendingFile> m_file;
 };
 
 template <typename KeepWaiting>

@@ -3,13 +3,16 @@
 
 #include "host/jobs/OutputTarget.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <QDir>
 #include <QTemporaryDir>
 #include <QTemporaryFile>
+#include <csignal>
 
 #include "tests/support/CapturingFilter.h"
 
@@ -46,6 +49,58 @@ TEST_F(OutputTargetTest, KeepsTheOldFileAndLeavesNothingWhenDropped) {
   }
   EXPECT_EQ(contentsOf(path), "old");
   EXPECT_EQ(entries(), QStringList{QStringLiteral("out.ps")});
+}
+
+bool hasFilesWithoutAName(const QString &folder) {
+  const int file = ::open(folder.toLocal8Bit().constData(), O_TMPFILE | O_WRONLY, 0600);
+  if (file < 0) return false;
+  ::close(file);
+  return true;
+}
+
+TEST_F(OutputTargetTest, LeavesNothingBehindWhenTheProgramIsKilled) {
+  if (!hasFilesWithoutAName(folder.path())) GTEST_SKIP() << "every file has a name here";
+  const pid_t child = ::fork();
+  if (child == 0) {
+    auto target = OutputTarget::open(path);
+    const bool isWritten = target && target.value()->write("half", kPatient).ok();
+    ::kill(::getpid(), isWritten ? SIGKILL : SIGTERM);
+  }
+  int status = 0;
+  ASSERT_EQ(::waitpid(child, &status, 0), child);
+  ASSERT_EQ(WTERMSIG(status), SIGKILL);
+  EXPECT_EQ(entries(), QStringList());
+}
+
+mode_t permissionsOf(const QString &file) {
+  struct stat entry {};
+  EXPECT_EQ(::stat(file.toLocal8Bit().constData(), &entry), 0);
+  return entry.st_mode & 0777;
+}
+
+TEST_F(OutputTargetTest, KeepsTheOldFilesPermissionsAndGivesANewOneTheUsualOnes) {
+  const mode_t mask = ::umask(027);
+  for (const char *bytes : {"new", "newer"}) {
+    auto target = OutputTarget::open(path);
+    ASSERT_TRUE(target.value()->write(bytes, kPatient).ok());
+    ASSERT_TRUE(target.value()->commit().ok());
+    EXPECT_EQ(permissionsOf(path), bytes == QByteArray("new") ? 0640U : 0604U);
+    ::chmod(path.toLocal8Bit().constData(), 0604);
+  }
+  ::umask(mask);
+  EXPECT_EQ(entries(), QStringList{QStringLiteral("out.ps")});
+}
+
+TEST_F(OutputTargetTest, WritesWhereALinkLeads) {
+  const QString link = folder.filePath(QStringLiteral("link.ps"));
+  ASSERT_TRUE(QFile::link(path, link));
+  for (const char *bytes : {"new", "newer"}) {
+    auto target = OutputTarget::open(link);
+    ASSERT_TRUE(target.value()->write(bytes, kPatient).ok());
+    ASSERT_TRUE(target.value()->commit().ok());
+    EXPECT_TRUE(QFileInfo(link).isSymLink());
+    EXPECT_EQ(contentsOf(path), bytes);
+  }
 }
 
 TEST_F(OutputTargetTest, NamesAFolderThatIsMissing) {
