@@ -65,7 +65,7 @@ PPDAnswer downloadPPD(http_t *http, const QString &queue, time_t date) {
   std::array<char, HTTP_MAX_URI> coded{};
   httpAssembleURIf(HTTP_URI_CODING_ALL, coded.data(), int(coded.size()), "http", nullptr, "x", 0,
                    "/printers/%s.ppd", queue.toUtf8().constData());
-  const QByteArray resource = QByteArray(coded.data()).mid(qstrlen("http://x"));
+  const QByteArray resource = QByteArray(coded.data()).mid(QByteArrayView("http://x").size());
   http_status_t status = HTTP_STATUS_ERROR;
   for (int round = 0; round < kMostRounds; ++round) {
     status = statusOfGet(http, resource, date);

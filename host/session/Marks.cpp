@@ -97,7 +97,7 @@ class MarksSetAside {
 
   ppd_file_t *m_ppd;
   std::vector<ppd_choice_t *> m_choices;
-  std::vector<char> m_sizes;
+  std::vector<int> m_sizes;
 };
 
 // Marks as a filter does that is given these options.
