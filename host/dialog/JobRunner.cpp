@@ -78,6 +78,7 @@ bool JobRunner::isRunning() const {
 }
 
 QString progressInWords(const JobProgress &progress) {
+  if (progress.pages == 0 && progress.bytes == 0) return JobRunner::tr("Printing…");
   const QString amount = progress.pages > 0 ? JobRunner::tr("page %1").arg(progress.pages)
                                             : QLocale().formattedDataSize(progress.bytes, 1);
   if (progress.documents < 2) return JobRunner::tr("Printing: %1").arg(amount);

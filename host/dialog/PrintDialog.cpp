@@ -132,11 +132,10 @@ void PrintDialog::updateControls() {
   const bool hasFile = isForFile && !requestAsAsked().outputFile.isNull();
   m_view->setEnabled(!isPrinting);
   m_notices->setEnabled(!isPrinting);
-  m_printers->setEnabled(!isPrinting);
-  if (m_presets != nullptr) m_presets->setEnabled(!isPrinting);
+  m_printers->parentWidget()->setEnabled(!isPrinting);  // with its label, and the presets
   const bool hasPrinter = !isForFile || m_session->printer() != nullptr;
   m_jobBar->setState({.canPrint = hasPrinter && m_asked.isNull(),
-                      .asksForFile = isForFile && !hasFile,
+                      .asksForFile = isForFile && !hasFile && m_asked.isNull(),
                       .isPrinting = isPrinting,
                       .isCancelling = isPrinting && m_isCancelling});
 }

@@ -130,6 +130,7 @@ void PrinterChooser::fill(const QString &destination) {
     m_menu->addItem(destination, destination);
   }
   if (!m_problem.isNull()) addNote(tr("No printers: %1").arg(m_problem));
+  m_menu->insertSeparator(m_menu->count());
   m_menu->addItem(tr("Open Printer Description…"));
   m_menu->setItemData(m_menu->count() - 1, true, kindRole);
   m_menu->setCurrentIndex(destination.isEmpty() ? 0 : m_menu->findData(destination));

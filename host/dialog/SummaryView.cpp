@@ -32,7 +32,7 @@ class RowDelegate final : public QStyledItemDelegate {
     const QString text = index.data().toString();
     const int width = m_view->columnWidth(index.column()) - 2 * cellMargin;
     const int height =
-        metrics.horizontalAdvance(text) <= width
+        metrics.horizontalAdvance(text) < width  // rounded: as wide as the cell may be wider
             ? metrics.height()
             : metrics.boundingRect(0, 0, width, QWIDGETSIZE_MAX, cellFlags, text).height();
     return {m_view->columnWidth(index.column()), height + 2 * rowPadding};
@@ -40,8 +40,8 @@ class RowDelegate final : public QStyledItemDelegate {
 
   void paint(QPainter *painter, const QStyleOptionViewItem &option,
              const QModelIndex &index) const override {
-    const auto group = option.state.testFlag(QStyle::State_Enabled) ? QPalette::Active
-                                                                    : QPalette::Disabled;
+    const auto group =
+        option.state.testFlag(QStyle::State_Enabled) ? QPalette::Active : QPalette::Disabled;
     painter->setFont(fontOf(index, option));
     painter->setPen(option.palette.color(group, QPalette::Text));
     painter->drawText(option.rect.adjusted(cellMargin, rowPadding, -cellMargin, -rowPadding),

@@ -67,6 +67,12 @@ void CustomValueForm::show(const QList<CustomParameter> &parameters, const Custo
   m_problem->setVisible(!m_problem->text().isEmpty());
 }
 
+QList<QWidget *> CustomValueForm::fields() const {
+  QList<QWidget *> widgets;
+  for (const Field &field : m_fields) widgets << field.widget;
+  return widgets;
+}
+
 void CustomValueForm::startTyping() {
   if (m_fields.isEmpty()) return;
   QWidget *first = m_fields.first().widget;

@@ -23,6 +23,9 @@ class CustomValueForm final : public QWidget {
   /// number without a value is at its least.
   void show(const QList<CustomParameter> &parameters, const CustomValues &values);
 
+  /// In the order of the parameters.
+  QList<QWidget *> fields() const;
+
   /// The keyboard goes to the first field.
   void startTyping();
 

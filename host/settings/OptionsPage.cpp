@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "host/session/CommonSettings.h"
 #include "host/session/CustomValue.h"
@@ -74,8 +75,7 @@ void OptionsPage::build() {
   column->addLayout(bottom);
   setTabOrder(m_search, m_onlyChanged);
   setTabOrder(m_onlyChanged, m_view);
-  setTabOrder(m_view, m_custom);
-  setTabOrder(m_custom, m_setBack);
+  setTabOrder(m_view, m_setBack);
   setTabOrder(m_setBack, m_setAllBack);
 }
 
@@ -131,6 +131,10 @@ void OptionsPage::updateCustomValues() {
       isOpen ? customParameters(m_session.marks().ppd(), option) : QList<CustomParameter>();
   if (isCustom) m_custom->show(parameters, customValues(parameters, marked));
   m_custom->setVisible(!parameters.isEmpty());
+  // Fields that were made just now stand last in the window's order.
+  QWidget *last = m_view;
+  for (QWidget *field : m_custom->fields()) setTabOrder(std::exchange(last, field), field);
+  setTabOrder(last, m_setBack);
   if (isVisible()) assignMnemonics(this);
 }
 

@@ -21,7 +21,7 @@ constexpr int arrowSize = 10;
 constexpr int dotSize = 8;
 constexpr int fewOptions = 60;
 constexpr int leastWidth = 320;
-constexpr int leastHeight = 160;
+constexpr int leastHeight = 84;
 constexpr double optionShare = 0.55;
 
 const OptionEntry *entryAt(const QModelIndex &index) {
@@ -193,6 +193,8 @@ void OptionsView::keyPressEvent(QKeyEvent *event) {
 void OptionsView::resizeEvent(QResizeEvent *event) {
   setColumnWidth(OptionsModel::OptionColumn, static_cast<int>(viewport()->width() * optionShare));
   QTreeView::resizeEvent(event);
+  // Fields that open below take room from the list, not the row that they belong to.
+  if (event->size().height() < event->oldSize().height()) scrollTo(currentIndex());
 }
 
 void OptionsView::currentChanged(const QModelIndex &current, const QModelIndex &previous) {

@@ -253,6 +253,10 @@
         <source>Printing document %1 of %2: %3</source>
         <translation>Druckt Dokument %1 von %2: %3</translation>
     </message>
+    <message>
+        <source>Printing…</source>
+        <translation>Druckt …</translation>
+    </message>
 </context>
 <context>
     <name>orvek::JobWarnings</name>

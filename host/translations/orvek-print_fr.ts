@@ -253,6 +253,10 @@
         <source>Printing document %1 of %2: %3</source>
         <translation>Impression du document %1 sur %2 : %3</translation>
     </message>
+    <message>
+        <source>Printing…</source>
+        <translation>Impression…</translation>
+    </message>
 </context>
 <context>
     <name>orvek::JobWarnings</name>

@@ -253,6 +253,10 @@
         <source>Printing document %1 of %2: %3</source>
         <translation>文書 %1/%2 を印刷中: %3</translation>
     </message>
+    <message>
+        <source>Printing…</source>
+        <translation>印刷中…</translation>
+    </message>
 </context>
 <context>
     <name>orvek::JobWarnings</name>

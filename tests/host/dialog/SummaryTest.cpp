@@ -48,4 +48,27 @@ TEST_F(Summary, ComparesAChoiceWithThePrintersOwnDefault) {
   EXPECT_FALSE(changed().contains(QStringLiteral("Folding")));
 }
 
+// As a reader sees it: a line that wraps has the room for it.
+TEST_F(Summary, ShowsAValueOfAnyLengthInFull) {
+  SummaryView view;
+  view.resize(view.sizeHint());
+  view.QWidget::show();
+  constexpr int longest = 60;
+  constexpr int padding = 3;
+  QString value;
+  for (int length = 1; length < longest; ++length) {
+    value += length % 5 == 0 ? QLatin1Char(' ') : QLatin1Char('i');
+    view.show({{QStringLiteral("Title"), value, true}});
+    QCoreApplication::processEvents();
+    const QModelIndex index = view.model()->index(0, 1);
+    const QRect cell = view.visualRect(index);
+    const QFontMetrics metrics(view.topLevelItem(0)->font(1));
+    const int needed = metrics
+                           .boundingRect(0, 0, cell.width() - 2 * padding, QWIDGETSIZE_MAX,
+                                         Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, value)
+                           .height();
+    EXPECT_GE(cell.height(), needed) << length;
+  }
+}
+
 }  // namespace

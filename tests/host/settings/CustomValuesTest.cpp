@@ -52,6 +52,7 @@ TEST_F(CustomValuesTest, OpenWithTheRowAndAreMarkedOnceTheyAreWhole) {
   type("customSize", "20.5");
   EXPECT_EQ(marked("Mark"), "{Text=\"Top secret\" Angle=45 Size=20.50}");
   EXPECT_EQ(choiceOf("Watermark"), "Custom: Top secret, 45, 20.5 pt");
+  EXPECT_TRUE(find<QPushButton>("setBack")->hasFocus());
   EXPECT_FALSE(find<QLabel>("customProblem")->isVisible());
 }
 
