@@ -6,7 +6,8 @@
 #include <vector>
 
 #include "Common/SimplePing.h"
-#include "bench/device/Measure.h"
+#include "bench/Measure.h"
+#include "bench/device/Benches.h"
 
 namespace bench {
 namespace {

@@ -8,7 +8,8 @@
 #include <cstdlib>
 #include <vector>
 
-#include "bench/device/Measure.h"
+#include "bench/Measure.h"
+#include "bench/device/Benches.h"
 
 extern char **environ;
 

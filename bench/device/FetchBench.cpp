@@ -8,7 +8,8 @@
 #include <vector>
 
 #include "Common/Utilities.h"
-#include "bench/device/Measure.h"
+#include "bench/Measure.h"
+#include "bench/device/Benches.h"
 
 namespace bench {
 namespace {

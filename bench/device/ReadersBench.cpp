@@ -10,7 +10,8 @@
 #include <cstdlib>
 
 #include "Common/RendezvousUtilities.h"
-#include "bench/device/Measure.h"
+#include "bench/Measure.h"
+#include "bench/device/Benches.h"
 #include "tests/Common/support/Replies.h"
 
 namespace bench {

@@ -76,17 +76,10 @@ bool touchesInstalledEquipment(const Marks &marks, const QList<ChoiceChange> &ch
   });
 }
 
-bool isInvolved(const Marks &marks, const OptionChoice &pick) {
-  const QList<OptionChoice> conflicts = marks.conflicts();
-  return std::any_of(conflicts.begin(), conflicts.end(), [&](const OptionChoice &conflict) {
-    return sameKeyword(conflict.option, pick.option);
-  });
-}
-
 // True where the changes leave the pick marked and free of conflicts; the marks stand as tried.
 bool apply(Marks &marks, const QList<ChoiceChange> &changes, const OptionChoice &pick) {
   for (const ChoiceChange &change : changes) marks.mark(change.option, change.newChoice);
-  return marks.marked(pick.option) == pick.choice && !isInvolved(marks, pick);
+  return marks.marked(pick.option) == pick.choice && !marks.isInConflict(pick.option);
 }
 
 // Other sides are told apart while the conflict still stands.
@@ -96,15 +89,15 @@ void namePartners(const Marks &marks, QList<ChoiceChange> *changes, const Option
   }
 }
 
-bool resolve(Marks &marks, Resolution *result) {
+bool resolve(Marks &marks, const MarksSnapshot &before, Resolution *result) {
   const auto resolution = resolutionOf(marks, result->pick);
   if (!resolution) return false;
   std::optional<QList<ChoiceChange>> changes = changesAmong(marks, *resolution, result->pick);
   if (!changes || touchesInstalledEquipment(marks, *changes)) return false;
   namePartners(marks, &*changes, result->pick);
-  const MarksSnapshot unresolved = marks.snapshot();
   if (!apply(marks, *changes, result->pick)) {
-    marks.restore(unresolved);
+    marks.restore(before);
+    marks.mark(result->pick.option, result->pick.choice);
     return false;
   }
   result->changes = *changes;
@@ -132,7 +125,9 @@ Resolution markAndResolve(Marks &marks, const OptionChoice &pick) {
   const MarksSnapshot before = marks.snapshot();
   marks.mark(pick.option, pick.choice);
   const QList<OptionChoice> conflicts = conflictsOf(marks, pick);
-  if (conflicts.isEmpty() || resolve(marks, &result) || !isInvolved(marks, pick)) return result;
+  if (conflicts.isEmpty() || resolve(marks, before, &result) || !marks.isInConflict(pick.option)) {
+    return result;
+  }
   undo(marks, before, conflicts, &result);
   return result;
 }

@@ -30,15 +30,17 @@ QString keyword(const ppd_option_t *option) {
 // libcups offers no walk over the marks, but keeps them in this public list. Walking the options
 // instead, and looking up the mark of each, takes longer than all else in a pick where a PPD has
 // thousands of them.
-QList<ppd_choice_t *> markedChoices(const ppd_file_t *ppd) {
+QList<ppd_choice_t *> choicesIn(cups_array_t *marked) {
   QList<ppd_choice_t *> choices;
-  if (ppd == nullptr) return choices;
-  choices.reserve(cupsArrayCount(ppd->marked));
-  for (void *entry = cupsArrayFirst(ppd->marked); entry != nullptr;
-       entry = cupsArrayNext(ppd->marked)) {
+  choices.reserve(cupsArrayCount(marked));
+  for (void *entry = cupsArrayFirst(marked); entry != nullptr; entry = cupsArrayNext(marked)) {
     choices.append(static_cast<ppd_choice_t *>(entry));
   }
   return choices;
+}
+
+QList<ppd_choice_t *> markedChoices(const ppd_file_t *ppd) {
+  return ppd == nullptr ? QList<ppd_choice_t *>() : choicesIn(ppd->marked);
 }
 
 bool isCustom(const ppd_choice_t *choice) {
@@ -219,6 +221,12 @@ QList<OptionChoice> Marks::conflicts() const {
   return named(choices);
 }
 
+bool Marks::isInConflict(const QString &option) const {
+  ppdConflicts(m_ppd);
+  const ppd_option_t *found = findOption(m_ppd, option);
+  return found != nullptr && found->conflicted != 0;
+}
+
 QList<OptionChoice> Marks::differingFromDefaults() const {
   QList<ppd_choice_t *> choices = markedChoices(m_ppd);
   choices.removeIf([this](const ppd_choice_t *choice) {
@@ -236,28 +244,38 @@ void Marks::unmark(ppd_choice_t *choice) {
   cupsArrayRemove(m_ppd->marked, choice);
 }
 
+QList<ppd_choice_t *> MarksSnapshot::choices() const {
+  return choicesIn(m_marked.get());
+}
+
+bool MarksSnapshot::operator==(const MarksSnapshot &other) const {
+  return cupsArrayCount(m_marked.get()) == cupsArrayCount(other.m_marked.get()) &&
+         m_customValues == other.m_customValues && choices() == other.choices();
+}
+
 MarksSnapshot Marks::snapshot() const {
   MarksSnapshot snapshot;
-  snapshot.m_choices = markedChoices(m_ppd);
+  if (m_ppd == nullptr) return snapshot;
+  snapshot.m_marked = {cupsArrayDup(m_ppd->marked), cupsArrayDelete};
   snapshot.m_customValues = m_customValues;
   return snapshot;
 }
 
 void Marks::restore(const MarksSnapshot &snapshot) {
-  for (const ppd_choice_t *choice : snapshot.m_choices) {
+  for (const ppd_choice_t *choice : snapshot.choices()) {
     const QString option = keyword(choice->option);
     const QString custom = snapshot.m_customValues.value(option);
     if (choice->marked != 0 && m_customValues.value(option) == custom) continue;
     mark(option, custom.isNull() ? QString::fromUtf8(choice->choice) : custom);
   }
   // Last, since marking one option can take the mark of another.
-  for (ppd_choice_t *choice : without(markedChoices(m_ppd), snapshot.m_choices)) unmark(choice);
+  for (ppd_choice_t *choice : without(markedChoices(m_ppd), snapshot.choices())) unmark(choice);
 }
 
 QStringList Marks::differingFrom(const MarksSnapshot &snapshot) const {
   QStringList options;
-  for (const QList<ppd_choice_t *> &choices : {without(markedChoices(m_ppd), snapshot.m_choices),
-                                               without(snapshot.m_choices, markedChoices(m_ppd))}) {
+  for (const QList<ppd_choice_t *> &choices : {without(markedChoices(m_ppd), snapshot.choices()),
+                                               without(snapshot.choices(), markedChoices(m_ppd))}) {
     for (const ppd_choice_t *choice : choices) options << keyword(choice->option);
   }
   for (auto custom = m_customValues.begin(); custom != m_customValues.end(); ++custom) {

@@ -7,6 +7,7 @@
 #include <QMap>
 #include <QString>
 #include <QStringList>
+#include <memory>
 #include <optional>
 
 #include "platform/printing/PPD.h"
@@ -25,12 +26,16 @@ struct OptionChoice {
 /// another one of the same PPD where the same choices are marked, with the same custom values.
 class MarksSnapshot {
  public:
-  bool operator==(const MarksSnapshot &) const = default;
+  bool operator==(const MarksSnapshot &other) const;
 
  private:
   friend class Marks;
 
-  QList<ppd_choice_t *> m_choices;        // in the order of the PPD's own list of marks
+  QList<ppd_choice_t *> choices() const;
+
+  // A copy of the PPD's own list of marks. Copying that is what a pick can afford where there are
+  // thousands of options; walking it is not.
+  std::shared_ptr<cups_array_t> m_marked;
   QMap<QString, QString> m_customValues;  // as in Marks
 };
 
@@ -62,6 +67,9 @@ class Marks {
   /// Every option that takes part in a constraint now violated, installed equipment included, with
   /// its marked choice.
   QList<OptionChoice> conflicts() const;
+
+  /// Whether the option is among them.
+  bool isInConflict(const QString &option) const;
 
   /// Every marked choice that is not the option's default in the PPD.
   QList<OptionChoice> differingFromDefaults() const;
