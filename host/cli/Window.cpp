@@ -86,6 +86,7 @@ DialogSetup dialogSetupFor(const CommandLine &line, const PrintSession &session,
   setup.server.user = line.user;
   // The list of printers comes up unasked; it must not ask anybody.
   if (passwords) setup.server.passwords = passwords->withoutAsking();
+  setup.outputFile = line.output;
   setup.jobRequest = [&line, passwords](const PrintSession &now) {
     return jobRequestFor(line, now, passwords);
   };

@@ -129,7 +129,7 @@ void PrintDialog::followSession() {
 void PrintDialog::updateControls() {
   const bool isPrinting = m_runner->isRunning();
   const bool isForFile = m_setup.destination.isEmpty();
-  const bool hasFile = isForFile && !requestAsAsked().outputFile.isNull();
+  const bool hasFile = isForFile && !m_setup.outputFile.isNull();
   m_view->setEnabled(!isPrinting);
   m_notices->setEnabled(!isPrinting);
   m_printers->parentWidget()->setEnabled(!isPrinting);  // with its label, and the presets
@@ -138,10 +138,6 @@ void PrintDialog::updateControls() {
                       .asksForFile = isForFile && !hasFile && m_asked.isNull(),
                       .isPrinting = isPrinting,
                       .isCancelling = isPrinting && m_isCancelling});
-}
-
-JobRequest PrintDialog::requestAsAsked() const {
-  return m_setup.jobRequest ? m_setup.jobRequest(*m_session) : JobRequest();
 }
 
 void PrintDialog::showHeader() {

@@ -41,11 +41,11 @@ struct DialogSetup {
   QString documentName;   ///< for people
   DocumentInfo document;  ///< what is known of it; more may come with setDocument
   QString destination;    ///< "NAME/INSTANCE" of the session's queue; empty: into a file
+  QString outputFile;     ///< where a job goes that goes to no queue; null: Print asks for a file
   ServerAccess server;
 
-  /// The job as the session has it. Where it goes is the window's business: to the queue chosen
-  /// there, or into the request's output file; without one, Print asks for a file. Empty: a request
-  /// that says nothing.
+  /// The job as the session has it. Where it goes is the window's business. Empty: a request that
+  /// says nothing.
   std::function<JobRequest(const PrintSession &)> jobRequest;
 
   AskPrinter askPrinter;       ///< asks for a queue
@@ -113,7 +113,6 @@ class PrintDialog final : public QDialog {
   void showMisfits(const QString &opening, const QList<PresetMisfit> &misfits);
 
   // A job's way
-  JobRequest requestAsAsked() const;
   JobRequest gatherRequest();
   bool completeRequest(JobRequest *request);
   bool acceptsWarnings();

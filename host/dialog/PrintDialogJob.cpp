@@ -34,11 +34,11 @@ JobRequest PrintDialog::gatherRequest() {
     for (const auto &hosted : m_session->panels())
       hosted->panel().saveValuesAndReturnError(nullptr);
   });
-  JobRequest request = requestAsAsked();
+  JobRequest request = m_setup.jobRequest ? m_setup.jobRequest(*m_session) : JobRequest();
   const QString &destination = m_setup.destination;
   request.queue = destination.isEmpty() ? QString() : destination.section(instanceMark, 0, 0);
   request.instance = destination.section(instanceMark, 1);
-  if (!destination.isEmpty()) request.outputFile = QString();
+  request.outputFile = destination.isEmpty() ? m_setup.outputFile : QString();
   return request;
 }
 

@@ -64,6 +64,7 @@ class DialogTest : public ::testing::Test {
     DialogSetup dialogSetup;
     dialogSetup.documentName = QStringLiteral("Finishing-Sample.pdf");
     dialogSetup.document.pages = 8;
+    dialogSetup.outputFile = outputFile;
     dialogSetup.jobRequest = [this](const PrintSession &now) { return requestFor(now); };
     if (prepare) prepare(dialogSetup);
     dialog = std::make_unique<PrintDialog>(*session, std::move(dialogSetup));
@@ -77,7 +78,6 @@ class DialogTest : public ::testing::Test {
     request.files = files;
     request.options = now.jobOptions();
     if (now.printer()) request.ppdFile = now.printer()->path();
-    request.outputFile = outputFile;
     return request;
   }
 

@@ -49,13 +49,14 @@ std::unique_ptr<PrintSession> openSession(const QString &ppd) {
 class Shot {
  public:
   explicit Shot(const QString &printer = QStringLiteral("printers/Orvek-6180"),
-                const QString &server = {})
+                const QString &server = {}, const QString &output = {})
       : m_session(openSession(source + '/' + printer + ".ppd")) {
     DialogSetup setup;
     setup.documentName = QStringLiteral("Finishing-Sample.pdf");
     setup.document = documentInfo(source + "/samples/Finishing-Sample.pdf");
     setup.presets = std::make_shared<PresetStore>(m_folder.path());
     setup.server.server = server;
+    setup.outputFile = output;
     setup.askPrinter = [server](const QString &queue, const std::atomic<bool> &cancelled) {
       return ask(server, queue, cancelled);
     };
@@ -94,8 +95,7 @@ class Shot {
     return page(m_dialog->findChild<QTabWidget *>(QStringLiteral("pages"))->count() - 1);
   }
 
-  Shot &print(const QString &into) {
-    m_output = into;
+  Shot &print() {
     m_dialog->print();
     QTest::qWait(settleTime);
     return *this;
@@ -212,12 +212,10 @@ class Shot {
     request.files = QStringList{source + "/samples/Finishing-Sample.pdf"};
     request.options = now.jobOptions();
     request.ppdFile = now.printer()->path();
-    request.outputFile = m_output;
     return request;
   }
 
   QTemporaryDir m_folder;
-  QString m_output;
   std::unique_ptr<PrintSession> m_session;
   std::unique_ptr<PrintDialog> m_dialog;
 };
@@ -256,6 +254,11 @@ void shootPrinters(const std::function<QString(const char *)> &file) {
   server.resume();
 }
 
+// A window whose jobs go into a file.
+Shot into(const char *output) {
+  return Shot(QStringLiteral("printers/Orvek-6180"), {}, QString::fromLatin1(output));
+}
+
 }  // namespace
 
 int main(int argc, char **argv) {
@@ -280,10 +283,10 @@ int main(int argc, char **argv) {
       .pick("punchPopup", QStringLiteral("2Hole"))
       .pick("foldingPopup", QStringLiteral("Saddle"))
       .save(file("notice"));
-  Shot().print(QStringLiteral("/nowhere/out.ps")).save(file("problem"));
+  into("/nowhere/out.ps").print().save(file("problem"));
   Shot(QStringLiteral("printers/Orvek-4150")).save(file("mid-range"));
   Shot(QStringLiteral("printers/Orvek-2120")).save(file("small"));
-  Shot().print(QStringLiteral("/dev/null")).save(file("printing"));
+  into("/dev/null").print().save(file("printing"));
   Shot()
       .mark(QStringLiteral("OVKPunching"), QStringLiteral("2Hole"))
       .otherOptions()
