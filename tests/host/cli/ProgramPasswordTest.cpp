@@ -39,17 +39,19 @@ class Terminal {
   const QByteArray &screen() const { return m_screen; }
   qsizetype linesLeft() const { return m_lines.size(); }
 
-  void work() {
+  /// False where nothing came on the screen for a moment.
+  bool work() {
     constexpr int moment = 20;
     pollfd ready{m_keyboard, POLLIN, 0};
-    if (::poll(&ready, 1, moment) <= 0 || (ready.revents & POLLIN) == 0) return;
+    if (::poll(&ready, 1, moment) <= 0 || (ready.revents & POLLIN) == 0) return false;
     char bytes[256];
     const ssize_t count = ::read(m_keyboard, bytes, sizeof bytes);
-    if (count <= 0) return;
+    if (count <= 0) return false;
     m_screen.append(bytes, count);
-    if (!m_screen.endsWith("? ") || m_lines.isEmpty()) return;
+    if (!m_screen.endsWith("? ") || m_lines.isEmpty()) return true;
     const QByteArray line = m_lines.takeFirst();
     EXPECT_EQ(::write(m_keyboard, line.constData(), std::size_t(line.size())), line.size());
+    return true;
   }
 
  private:
@@ -93,6 +95,9 @@ class ProgramPassword : public ::testing::Test {
     for (clock.start(); clock.elapsed() < longestRun;) {
       if (program.waitForFinished(moment)) break;
       if (terminal != nullptr) terminal->work();
+    }
+    // The program's last words may still be on their way.
+    while (terminal != nullptr && terminal->work()) {
     }
     if (program.state() == QProcess::NotRunning) done.status = program.exitCode();
     done.output = program.readAllStandardOutput();

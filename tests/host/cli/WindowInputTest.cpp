@@ -115,7 +115,9 @@ TEST_F(WindowInput, ArrivesByteForByteAndIsNeverHeldInMemory) {
   ASSERT_TRUE(done) << done.failure().line().toStdString();
   EXPECT_EQ(cups->waitForJob(1), QStringLiteral("completed")) << cups->log().toStdString();
   EXPECT_EQ(digestOfWhatArrived(), digestOfWhatWasFed());
-  if (testing::kMemoryCanBeMeasured) EXPECT_LT(growth, mostMemory);
+  if (testing::kMemoryCanBeMeasured) {
+    EXPECT_LT(growth, mostMemory);
+  }
 }
 
 }  // namespace
