@@ -106,6 +106,8 @@ void PrintSession::reopenPanels() {
 }
 
 void PrintSession::makePanels() {
+  // Panels show what a PPD has; without one theirs would be empty pages.
+  if (!m_printer) return;
   const QVariant type(QString::fromLatin1(printDialogPanelType));
   for (const auto &plugin : m_plugins) {
     const PanelLoan loan{m_picks.marks().ppd(), &m_handle, m_ticket};

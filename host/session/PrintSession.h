@@ -56,8 +56,8 @@ class PrintSession final : public QObject, private PanelListener {
   /// Plug-ins give panels in the order in which they were added.
   void addPlugin(std::shared_ptr<LoadedPlugin> plugin);
 
-  /// Makes the panels, loads their views, has them restore and tells them that they are about to
-  /// show.
+  /// Makes the panels (none without a PPD), loads their views, has them restore and tells them that
+  /// they are about to show.
   void openPanels();
 
   /// Lets all panels go and makes them again on the same PPD and ticket.

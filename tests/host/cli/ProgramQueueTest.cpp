@@ -97,6 +97,14 @@ TEST_F(ProgramQueue, GetsCustomValuesOfSeveralParameters) {
   EXPECT_TRUE(code.contains("*CustomPin True\n(0123)\n"));
 }
 
+TEST_F(ProgramQueue, HasNoPanelWithoutAPpd) {
+  cups->addQueue("raw", {});
+  const ProgramRun run = this->run({"--headless", "-d", "raw", "--inspect"});
+  EXPECT_EQ(run.status, 0) << run.errors.constData();
+  EXPECT_TRUE(run.json().value("panel").isNull());
+  EXPECT_TRUE(run.json().value("controls").toObject().isEmpty());
+}
+
 TEST_F(ProgramQueue, KeepsTheJobsNumberToItselfWhereAskedTo) {
   EXPECT_EQ(run({"--headless", "--print", "-s", document}).output, "");
 }
