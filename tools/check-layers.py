@@ -24,25 +24,44 @@ def includes(text):
             yield number, match.group(1) == '"', match.group(2)
 
 
-def edge_problem(layer, quoted, target, rules):
-    """Why a file of the layer must not include the target; None where it may."""
-    layers = rules["layers"]
+def room_of(folder, rooms):
+    """The deepest folder among the rooms that is this one or lies above it; None where none is."""
+    while folder:
+        if folder in rooms:
+            return folder
+        folder = os.path.dirname(folder)
+    return None
+
+
+def covers(pattern, room):
+    """Whether an entry of a room's list allows that room."""
+    if pattern.endswith("*"):
+        return room.startswith(pattern[:-1])
+    return pattern == room
+
+
+def edge_problem(room, quoted, target, rules):
+    """Why a file of the room must not include the target; None where it may."""
+    rooms = rules["rooms"]
+    houses = {name.split("/")[0] for name in rooms}
     first = target.split("/")[0]
     if not quoted:
-        if first in layers and "/" in target:
+        if first in houses and "/" in target:
             return f"<{target}>: the project's own headers are included in quotes"
-        if target.startswith(rules["installedPrefix"]) and "*" not in layers[layer]:
+        if target.startswith(rules["installedPrefix"]) and "*" not in rooms[room]:
             return f"<{target}>: that is the installed copy, for programs outside the project"
         return None
     if MOC_OUTPUT.match(target):
         return None
-    if "/" not in target or first not in layers:
+    if "/" not in target or first not in houses:
         return f'"{target}": write the path from the project\'s root'
-    allowed = layers[layer]
-    if first == layer or "*" in allowed or first in allowed:
+    entered = room_of(os.path.dirname(target), rooms)
+    if entered is None:
+        return f'"{target}": lies in no room that tools/layers.json names'
+    if entered == room or any(covers(pattern, entered) for pattern in rooms[room]):
         return None
-    may = ", ".join(allowed) or "nothing of ours"
-    return f'"{target}": {layer}/ may include {may}, not {first}/'
+    may = ", ".join(rooms[room]) or "nothing of ours"
+    return f'"{target}": {room}/ may include {may}, not {entered}/'
 
 
 def door_problem(path, target, rules):
@@ -53,12 +72,36 @@ def door_problem(path, target, rules):
     return f'<{target}>: include "{rule["instead"]}" instead'
 
 
-def check_file(path, text, rules):
-    layer = path.split(os.sep)[0]
+def check_file(path, room, text, rules):
     for number, quoted, target in includes(text):
-        problem = edge_problem(layer, quoted, target, rules) or door_problem(path, target, rules)
+        problem = edge_problem(room, quoted, target, rules) or door_problem(path, target, rules)
         if problem:
             yield f"{path}:{number}: {problem}"
+
+
+def circle(rooms):
+    """Rooms whose allowed edges lead back to the first of them; empty where there is no circle."""
+    houses = {room: [r for r in rooms if r != room and any(covers(p, r) for p in rooms[room])]
+              for room in rooms if "*" not in rooms[room]}
+    finished = set()
+
+    def walk(room, way):
+        if room in way:
+            return way[way.index(room):] + [room]
+        if room in finished or room not in houses:
+            return []
+        for further in houses[room]:
+            found = walk(further, way + [room])
+            if found:
+                return found
+        finished.add(room)
+        return []
+
+    for room in houses:
+        found = walk(room, [])
+        if found:
+            return found
+    return []
 
 
 def main():
@@ -70,12 +113,16 @@ def main():
     with open(arguments.rules, encoding="utf-8") as file:
         rules = json.load(file)
     violations, checked = [], 0
+    around = circle(rules["rooms"])
+    if around:
+        violations.append(f"{arguments.rules}: rooms in a circle: {' -> '.join(around)}")
     for path in project_files(arguments.root, SOURCE_SUFFIXES):
-        if path.split(os.sep)[0] not in rules["layers"]:
-            violations.append(f"{path}: lies in no folder that tools/layers.json names")
+        room = room_of(os.path.dirname(path), rules["rooms"])
+        if room is None:
+            violations.append(f"{path}: lies in no room that tools/layers.json names")
             continue
         checked += 1
-        violations += check_file(path, read_text(arguments.root, path) or "", rules)
+        violations += check_file(path, room, read_text(arguments.root, path) or "", rules)
     finish("layers", violations, checked)
 
 

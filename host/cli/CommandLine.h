@@ -9,7 +9,7 @@
 #include <optional>
 
 #include "host/cli/Action.h"
-#include "host/session/Marks.h"
+#include "host/ppd/Marks.h"
 #include "platform/system/Result.h"
 
 namespace orvek {

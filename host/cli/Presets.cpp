@@ -6,7 +6,7 @@
 #include "host/cli/Console.h"
 #include "host/presets/PresetStore.h"
 #include "host/presets/SessionPreset.h"
-#include "host/session/JobWords.h"
+#include "host/ticket/ServerWords.h"
 
 namespace orvek {
 
@@ -16,7 +16,7 @@ Status applyPresetAsAsked(const CommandLine &line, PrintSession &session) {
   if (!preset) return preset.failure();
   QStringList keep = session.ticket().values().keys();
   for (const OptionChoice &meant :
-       JobWords::of(session.marks(), {}, session.ticket().values()).choices()) {
+       ServerWords::of(session.marks(), {}, session.ticket().values()).choices()) {
     keep << meant.option;
   }
   for (const PresetMisfit &misfit : applyPreset(session, preset.value(), keep)) tell(misfit.line());

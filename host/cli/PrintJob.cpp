@@ -4,9 +4,9 @@
 #include "host/cli/PrintJob.h"
 
 #include "host/cli/Console.h"
+#include "host/jobs/DocumentInfo.h"
 #include "host/jobs/FilterChain.h"
 #include "host/jobs/QueueJob.h"
-#include "host/session/DocumentInfo.h"
 #include "host/session/JobWarnings.h"
 
 namespace orvek {

@@ -10,9 +10,9 @@
 namespace orvek {
 namespace {
 
-QString stateOf(const Printer &printer) {
-  if (printer.reasons.isEmpty()) return stateInWords(printer);
-  return stateInWords(printer) + QStringLiteral(" (") + printer.reasons.join(QStringLiteral(", ")) +
+QString stateOf(const Queue &queue) {
+  if (queue.reasons.isEmpty()) return stateInWords(queue);
+  return stateInWords(queue) + QStringLiteral(" (") + queue.reasons.join(QStringLiteral(", ")) +
          QLatin1Char(')');
 }
 
@@ -30,13 +30,12 @@ ServerAccess serverAccess(const CommandLine &line,
 
 Status listPrintersAsAsked(const CommandLine &line) {
   const auto passwords = std::make_shared<PasswordSource>(askOnTerminal);
-  const Result<QList<Printer>> printers = listPrinters(serverAccess(line, passwords));
+  const Result<QList<Queue>> printers = listPrinters(serverAccess(line, passwords));
   if (!printers) return printers.failure();
   QString text;
-  for (const Printer &printer : printers.value()) {
-    QStringList fields{field(printer.destination()), field(stateOf(printer)),
-                       field(printer.location)};
-    if (printer.isDefault) fields << QStringLiteral("default");
+  for (const Queue &queue : printers.value()) {
+    QStringList fields{field(queue.destination()), field(stateOf(queue)), field(queue.location)};
+    if (queue.isDefault) fields << QStringLiteral("default");
     text += fields.join(QLatin1Char('\t')) + QLatin1Char('\n');
   }
   return writeToStandardOutput(text.toUtf8());

@@ -6,8 +6,8 @@
 #include "host/cli/Console.h"
 #include "host/cli/Presets.h"
 #include "host/cli/PrinterListing.h"
-#include "host/printers/QueueSetup.h"
-#include "host/session/PluginFinder.h"
+#include "host/panels/PluginFinder.h"
+#include "host/session/QueueSetup.h"
 
 namespace orvek {
 namespace {

@@ -5,7 +5,7 @@
 #include <QPointer>
 #include <QWidget>
 
-#include "host/session/PanelContainer.h"
+#include "host/panels/PanelContainer.h"
 
 namespace orvek {
 

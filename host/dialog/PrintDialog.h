@@ -17,9 +17,9 @@
 
 #include "host/dialog/PresetChooser.h"
 #include "host/dialog/PrinterChooser.h"
+#include "host/jobs/DocumentInfo.h"
 #include "host/jobs/JobRequest.h"
 #include "host/presets/SessionPreset.h"
-#include "host/session/DocumentInfo.h"
 #include "host/session/PrintSession.h"
 #include "platform/system/Result.h"
 

@@ -20,19 +20,19 @@ constexpr int mostVisibleItems = 16;
 const QString separator = QStringLiteral(" · ");
 
 // "Idle · Second floor · Toner is low"
-QString detailOf(const Printer &printer) {
-  QStringList parts{stateInWords(printer)};
-  if (!printer.location.isEmpty()) parts << printer.location;
-  parts << printer.reasons;
-  if (!printer.stateMessage.isEmpty() && !parts.contains(printer.stateMessage)) {
-    parts << printer.stateMessage;
+QString detailOf(const Queue &queue) {
+  QStringList parts{stateInWords(queue)};
+  if (!queue.location.isEmpty()) parts << queue.location;
+  parts << queue.reasons;
+  if (!queue.stateMessage.isEmpty() && !parts.contains(queue.stateMessage)) {
+    parts << queue.stateMessage;
   }
   return parts.join(separator);
 }
 
-QString titleOf(const Printer &printer) {
-  const QString title = printer.destination();
-  return printer.isDefault ? PrinterChooser::tr("%1 (default)").arg(title) : title;
+QString titleOf(const Queue &queue) {
+  const QString title = queue.destination();
+  return queue.isDefault ? PrinterChooser::tr("%1 (default)").arg(title) : title;
 }
 
 }  // namespace
@@ -118,11 +118,11 @@ void PrinterChooser::fill(const QString &destination) {
   } else {
     addNote(tr("File (needs a printer description)"));
   }
-  for (const Printer &printer : m_printers) {
-    m_menu->addItem(titleOf(printer), printer.destination());
+  for (const Queue &queue : m_printers) {
+    m_menu->addItem(titleOf(queue), queue.destination());
     const int row = m_menu->count() - 1;
-    m_menu->setItemData(row, detailOf(printer), Qt::ToolTipRole);
-    const QString spoken = titleOf(printer) + QStringLiteral(", ") + detailOf(printer);
+    m_menu->setItemData(row, detailOf(queue), Qt::ToolTipRole);
+    const QString spoken = titleOf(queue) + QStringLiteral(", ") + detailOf(queue);
     m_menu->setItemData(row, spoken, Qt::AccessibleTextRole);
   }
   // A queue that the list lacks: not asked for yet, or gone meanwhile.
@@ -147,8 +147,8 @@ void PrinterChooser::showDetail() {
   const QString file = m_fileIsPossible ? tr("Prints into a file")
                                         : tr("Choose a printer, or open a printer description");
   QString detail = m_destination.isEmpty() ? file : m_problem;
-  for (const Printer &printer : m_printers) {
-    if (printer.destination() == m_destination && m_problem.isNull()) detail = detailOf(printer);
+  for (const Queue &queue : m_printers) {
+    if (queue.destination() == m_destination && m_problem.isNull()) detail = detailOf(queue);
   }
   if (!m_asking.isNull()) detail = m_asking;
   m_detail->setWholeText(detail);

@@ -49,7 +49,7 @@ class PrinterChooser final : public QWidget {
   void listed();
 
  private:
-  using Answer = Result<QList<Printer>>;
+  using Answer = Result<QList<Queue>>;
 
   void take(const Answer &answer);
   void fill(const QString &destination);
@@ -58,7 +58,7 @@ class PrinterChooser final : public QWidget {
   void showDetail();
 
   ServerAccess m_access;
-  QList<Printer> m_printers;
+  QList<Queue> m_printers;
   QString m_problem;  // why there is no list; null: there is one, or nobody asked yet
   QString m_destination;
   QString m_asking;  // in words; null: nothing is being asked for

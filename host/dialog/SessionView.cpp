@@ -15,9 +15,9 @@
 #include "host/dialog/PanelPage.h"
 #include "host/dialog/SummaryView.h"
 #include "host/preview/BookletPreview.h"
-#include "host/session/BookletSettings.h"
 #include "host/settings/GeneralPage.h"
 #include "host/settings/OptionsPage.h"
+#include "host/ticket/BookletSettings.h"
 
 namespace orvek {
 namespace {

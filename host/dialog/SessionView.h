@@ -5,7 +5,7 @@
 
 #include <QWidget>
 
-#include "host/session/DocumentInfo.h"
+#include "host/jobs/DocumentInfo.h"
 #include "host/session/PrintSession.h"
 
 class QLayout;

@@ -7,8 +7,8 @@
 #include <QSet>
 #include <algorithm>
 
-#include "host/session/Constraints.h"
-#include "host/session/Wording.h"
+#include "host/ppd/Constraints.h"
+#include "host/ppd/Wording.h"
 
 namespace orvek {
 namespace {

@@ -63,15 +63,15 @@ ipp_t *requestFor(const QByteArray &uri, const QByteArray &title, const CupsOpti
 
 }  // namespace
 
-int createJobOn(http_t *http, const Printer &printer, const QString &title,
-                const CupsOptions &options, const QStringList &texts) {
+int createJobOn(http_t *http, const Queue &queue, const QString &title, const CupsOptions &options,
+                const QStringList &texts) {
   const QByteArray name = title.toUtf8();
-  const QByteArray uri = printer.options.value(QLatin1String(queueAddress)).toUtf8();
+  const QByteArray uri = queue.options.value(QLatin1String(queueAddress)).toUtf8();
   const QByteArray path = pathOf(uri);
   // libcups' own call asks the server for all that the queue can do before it makes the same
   // request, and reads the answer bit by bit; the whole run would take half as long again.
   if (path.isEmpty()) {
-    return cupsCreateJob(http, printer.name.toUtf8().constData(), name.constData(), options.count(),
+    return cupsCreateJob(http, queue.name.toUtf8().constData(), name.constData(), options.count(),
                          options.array());
   }
   ipp_t *response = cupsDoRequest(http, requestFor(uri, name, options, texts), path.constData());

@@ -6,7 +6,7 @@
 #include <QStringList>
 
 #include "host/jobs/CupsOptions.h"
-#include "host/printers/Printer.h"
+#include "host/printers/Queue.h"
 
 namespace orvek {
 
@@ -15,7 +15,7 @@ namespace orvek {
 /// is connected to. The values of the options named in `texts` go over as texts: libcups takes one
 /// in braces for a collection, and a print server hands no collection on to the driver that reads
 /// it.
-int createJobOn(http_t *http, const Printer &printer, const QString &title,
-                const CupsOptions &options, const QStringList &texts);
+int createJobOn(http_t *http, const Queue &queue, const QString &title, const CupsOptions &options,
+                const QStringList &texts);
 
 }  // namespace orvek

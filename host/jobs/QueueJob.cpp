@@ -114,8 +114,8 @@ Status sendAll(Submission &job, const QStringList &files) {
   return {};
 }
 
-Status createJob(Submission &job, const Printer &printer, const JobRequest &request) {
-  job.jobId = createJobOn(job.connection.http(), printer, effectiveTitle(request), job.options,
+Status createJob(Submission &job, const Queue &queue, const JobRequest &request) {
+  job.jobId = createJobOn(job.connection.http(), queue, effectiveTitle(request), job.options,
                           request.texts);
   return job.jobId > 0 ? Status() : Status(lastFailure(job, QString::fromUtf8(job.queue)));
 }
@@ -124,8 +124,8 @@ ServerAccess accessOf(const JobRequest &request, const std::atomic<bool> *cancel
   return {request.server, request.user, cancelled, request.patience, request.passwords};
 }
 
-QMap<QString, QString> savedOptions(const Printer &printer, const JobRequest &request) {
-  QMap<QString, QString> options = printer.options;
+QMap<QString, QString> savedOptions(const Queue &queue, const JobRequest &request) {
+  QMap<QString, QString> options = queue.options;
   options.removeIf([&](const auto &saved) {
     return request.overruled.contains(saved.key(), Qt::CaseInsensitive);
   });

@@ -6,7 +6,7 @@
 #include <QMap>
 #include <QString>
 
-#include "host/session/TicketFile.h"
+#include "host/ticket/TicketFile.h"
 #include "platform/system/Result.h"
 
 namespace orvek {

@@ -5,7 +5,7 @@
 
 #include <QCoreApplication>
 
-#include "host/session/CustomValue.h"
+#include "host/ppd/CustomValue.h"
 
 namespace orvek {
 namespace {

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-#include "host/session/Constraints.h"
+#include "host/ppd/Constraints.h"
 
 namespace orvek {
 namespace {

@@ -6,7 +6,7 @@
 #include <QRectF>
 #include <QSizeF>
 
-#include "host/session/BookletSettings.h"
+#include "host/ticket/BookletSettings.h"
 
 namespace orvek {
 

@@ -5,10 +5,10 @@
 
 #include <QCoreApplication>
 
-#include "host/session/PageRanges.h"
-#include "host/session/Paper.h"
+#include "host/ppd/Paper.h"
+#include "host/ppd/Wording.h"
 #include "host/session/PrintSession.h"
-#include "host/session/Wording.h"
+#include "host/ticket/PageRanges.h"
 
 namespace orvek {
 namespace {

@@ -115,48 +115,48 @@ Failure noDefault(const CupsConnection &connection) {
 
 }  // namespace
 
-Printer printerFrom(const cups_dest_t &destination) {
-  Printer printer;
-  printer.name = QString::fromUtf8(destination.name);
-  printer.instance = QString::fromUtf8(destination.instance);
-  printer.isDefault = destination.is_default != 0;
+Queue queueFrom(const cups_dest_t &destination) {
+  Queue queue;
+  queue.name = QString::fromUtf8(destination.name);
+  queue.instance = QString::fromUtf8(destination.instance);
+  queue.isDefault = destination.is_default != 0;
   for (int i = 0; i < destination.num_options; ++i)
-    printer.options.insert(QString::fromUtf8(destination.options[i].name),
-                           QString::fromUtf8(destination.options[i].value));
-  const auto &options = printer.options;
-  printer.info = textOption(options, "printer-info");
-  printer.location = textOption(options, "printer-location");
-  printer.makeAndModel = textOption(options, "printer-make-and-model");
-  printer.deviceUri = textOption(options, "device-uri");
-  printer.state = stateFrom(textOption(options, "printer-state"));
-  printer.reasons = reasonsFrom(textOption(options, "printer-state-reasons"));
-  printer.acceptsJobs = textOption(options, "printer-is-accepting-jobs") != QStringLiteral("false");
-  return printer;
+    queue.options.insert(QString::fromUtf8(destination.options[i].name),
+                         QString::fromUtf8(destination.options[i].value));
+  const auto &options = queue.options;
+  queue.info = textOption(options, "printer-info");
+  queue.location = textOption(options, "printer-location");
+  queue.makeAndModel = textOption(options, "printer-make-and-model");
+  queue.deviceUri = textOption(options, "device-uri");
+  queue.state = stateFrom(textOption(options, "printer-state"));
+  queue.reasons = reasonsFrom(textOption(options, "printer-state-reasons"));
+  queue.acceptsJobs = textOption(options, "printer-is-accepting-jobs") != QStringLiteral("false");
+  return queue;
 }
 
-Result<QList<Printer>> listPrinters(const ServerAccess &access) {
+Result<QList<Queue>> listPrinters(const ServerAccess &access) {
   auto connection = CupsConnection::open(access);
   if (!connection) return connection.failure();
   const Destinations destinations(connection.value()->http());
   if (destinations.count() == 0 && !serverAnswered(*connection.value()))
     return connection.value()->lastFailure(connection.value()->serverName());
   const auto messages = stateMessages(connection.value()->http());
-  QList<Printer> printers;
+  QList<Queue> printers;
   printers.reserve(destinations.count());
   for (const cups_dest_t &destination : destinations) {
-    printers << printerFrom(destination);
+    printers << queueFrom(destination);
     printers.last().stateMessage = messages.value(printers.last().name);
   }
   return printers;
 }
 
-Result<Printer> findPrinter(const ServerAccess &access, const QString &destination) {
+Result<Queue> findPrinter(const ServerAccess &access, const QString &destination) {
   auto connection = CupsConnection::open(access);
   if (!connection) return connection.failure();
   return findPrinter(*connection.value(), destination);
 }
 
-Result<Printer> findPrinter(const CupsConnection &connection, const QString &destination) {
+Result<Queue> findPrinter(const CupsConnection &connection, const QString &destination) {
   if (const Status answers = checkAnswers(connection); !answers) return answers.failure();
   const qsizetype slash = destination.lastIndexOf(u'/');
   const QByteArray name = (slash < 0 ? destination : destination.left(slash)).toUtf8();
@@ -168,9 +168,9 @@ Result<Printer> findPrinter(const CupsConnection &connection, const QString &des
     if (!serverAnswered(connection)) return connection.lastFailure(connection.serverName());
     return destination.isEmpty() ? noDefault(connection) : noSuchPrinter(connection, destination);
   }
-  Printer printer = printerFrom(*found);
+  Queue queue = queueFrom(*found);
   cupsFreeDests(1, found);
-  return printer;
+  return queue;
 }
 
 }  // namespace orvek

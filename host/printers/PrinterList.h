@@ -6,24 +6,24 @@
 #include <QList>
 
 #include "host/printers/CupsConnection.h"
-#include "host/printers/Printer.h"
+#include "host/printers/Queue.h"
 
 namespace orvek {
 
 /// Every destination of the server in force with its instances, by name. An empty list is no
 /// failure. Fails where the server does not answer or refuses.
-Result<QList<Printer>> listPrinters(const ServerAccess &access);
+Result<QList<Queue>> listPrinters(const ServerAccess &access);
 
 /// One destination, with the options saved for it. `destination` is "NAME" or "NAME/INSTANCE";
 /// empty, it is the default: LPDEST, PRINTER (unless that is "lp"), the user's saved default, the
 /// machine's, the server's. Fails where there is none, and says which variable names one that does
 /// not exist.
-Result<Printer> findPrinter(const ServerAccess &access, const QString &destination);
+Result<Queue> findPrinter(const ServerAccess &access, const QString &destination);
 
 /// The same over a connection that is open already.
-Result<Printer> findPrinter(const CupsConnection &connection, const QString &destination);
+Result<Queue> findPrinter(const CupsConnection &connection, const QString &destination);
 
 /// A destination as libcups gives it.
-Printer printerFrom(const cups_dest_t &destination);
+Queue queueFrom(const cups_dest_t &destination);
 
 }  // namespace orvek

@@ -5,7 +5,7 @@
 #include <QList>
 
 #include "host/printers/CupsConnection.h"
-#include "host/session/SettingOffer.h"
+#include "host/printers/SettingOffer.h"
 
 namespace orvek {
 

@@ -3,9 +3,9 @@
 
 #include "host/session/Availability.h"
 
-#include "host/session/ConstraintPartners.h"
-#include "host/session/Constraints.h"
-#include "host/session/Wording.h"
+#include "host/ppd/ConstraintPartners.h"
+#include "host/ppd/Constraints.h"
+#include "host/ppd/Wording.h"
 
 namespace orvek {
 namespace {

@@ -7,8 +7,8 @@
 #include <array>
 #include <vector>
 
+#include "host/ppd/Wording.h"
 #include "host/session/PrintSession.h"
-#include "host/session/Wording.h"
 
 namespace orvek {
 namespace {

@@ -8,7 +8,7 @@
 #include <QStringList>
 #include <optional>
 
-#include "host/session/SettingOffer.h"
+#include "host/printers/SettingOffer.h"
 
 namespace orvek {
 

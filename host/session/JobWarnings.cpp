@@ -7,10 +7,10 @@
 #include <algorithm>
 #include <array>
 
-#include "host/session/BookletSettings.h"
-#include "host/session/PageRanges.h"
+#include "host/ppd/Wording.h"
 #include "host/session/PrintSession.h"
-#include "host/session/Wording.h"
+#include "host/ticket/BookletSettings.h"
+#include "host/ticket/PageRanges.h"
 #include "platform/printing/PrintSettings.h"
 
 namespace orvek {

@@ -5,9 +5,9 @@
 
 #include <QStringList>
 
-#include "host/session/JobSettings.h"
-#include "host/session/Marks.h"
-#include "host/session/TicketFile.h"
+#include "host/ppd/Marks.h"
+#include "host/ticket/JobSettings.h"
+#include "host/ticket/TicketFile.h"
 
 namespace orvek {
 

@@ -10,8 +10,8 @@
 #include <memory>
 #include <optional>
 
-#include "host/session/Constraints.h"
-#include "host/session/Marks.h"
+#include "host/ppd/Constraints.h"
+#include "host/ppd/Marks.h"
 #include "platform/printing/PrintSettings.h"
 
 namespace orvek {

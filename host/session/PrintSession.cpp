@@ -6,9 +6,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "host/session/BookletSettings.h"
-#include "host/session/JobWords.h"
-#include "host/session/Wording.h"
+#include "host/ppd/Wording.h"
+#include "host/ticket/BookletSettings.h"
+#include "host/ticket/ServerWords.h"
 #include "platform/system/Log.h"
 
 namespace orvek {
@@ -61,7 +61,7 @@ Status PrintSession::markAll(const SessionSetup &setup) {
   markQueueOptions();
   const TicketValues values = m_ticket->values();
   // A choice by its own name counts before a word that speaks of the same.
-  for (const OptionChoice &meant : JobWords::of(marks, {}, values).choices()) {
+  for (const OptionChoice &meant : ServerWords::of(marks, {}, values).choices()) {
     marks.mark(meant.option, meant.choice);
   }
   for (auto entry = values.begin(); entry != values.end(); ++entry) {

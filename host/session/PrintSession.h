@@ -19,15 +19,15 @@
 #include <optional>
 #include <vector>
 
-#include "host/session/DefaultSummary.h"
-#include "host/session/HostedPanel.h"
-#include "host/session/JobSettings.h"
+#include "host/panels/DefaultSummary.h"
+#include "host/panels/HostedPanel.h"
+#include "host/panels/PluginCallback.h"
+#include "host/panels/PluginLoader.h"
+#include "host/ppd/PrinterDescription.h"
+#include "host/printers/SettingOffer.h"
 #include "host/session/Picks.h"
-#include "host/session/PluginCallback.h"
-#include "host/session/PluginLoader.h"
-#include "host/session/PrinterDescription.h"
-#include "host/session/SettingOffer.h"
-#include "host/session/TicketFile.h"
+#include "host/ticket/JobSettings.h"
+#include "host/ticket/TicketFile.h"
 #include "platform/printing/PrintSession.h"
 
 namespace orvek {

@@ -3,10 +3,10 @@
 
 #include <algorithm>
 
-#include "host/session/CustomValue.h"
-#include "host/session/JobOptions.h"
-#include "host/session/JobWords.h"
+#include "host/ppd/CustomValue.h"
 #include "host/session/PrintSession.h"
+#include "host/ticket/JobOptions.h"
+#include "host/ticket/ServerWords.h"
 
 namespace orvek {
 namespace {
@@ -63,10 +63,10 @@ Result<bool> PrintSession::takeJobOption(const QString &name, const QString &val
 }
 
 void PrintSession::pickWord(const OptionChoice &word, const QList<OptionChoice> &beside) {
-  const QList<JobWord> words = JobWords(marks(), {word}).words();
+  const QList<ServerWord> words = ServerWords(marks(), {word}).words();
   if (words.isEmpty()) return;
   perform([&] {
-    for (const OptionChoice &meant : JobWords(marks(), beside).choices()) {
+    for (const OptionChoice &meant : ServerWords(marks(), beside).choices()) {
       const bool isMeant = words.first().options.contains(meant.option);
       if (isMeant && !isNamedAmong(beside, meant.option)) pickUnrecorded(meant);
     }

@@ -6,8 +6,8 @@
 #include <QAbstractListModel>
 #include <QList>
 
+#include "host/printers/SettingOffer.h"
 #include "host/session/Availability.h"
-#include "host/session/SettingOffer.h"
 
 namespace orvek {
 

@@ -5,7 +5,7 @@
 
 #include <QWidget>
 
-#include "host/session/Paper.h"
+#include "host/ppd/Paper.h"
 
 class QDoubleSpinBox;
 

@@ -6,7 +6,7 @@
 #include <QList>
 #include <QWidget>
 
-#include "host/session/CustomValue.h"
+#include "host/ppd/CustomValue.h"
 
 class QFormLayout;
 class QLabel;

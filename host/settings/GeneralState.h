@@ -7,9 +7,9 @@
 #include <QSizeF>
 #include <optional>
 
+#include "host/ppd/Paper.h"
 #include "host/session/CommonSettings.h"
-#include "host/session/JobSettings.h"
-#include "host/session/Paper.h"
+#include "host/ticket/JobSettings.h"
 
 namespace orvek {
 

@@ -6,7 +6,7 @@
 #include <QHash>
 #include <QSet>
 
-#include "host/session/CustomValue.h"
+#include "host/ppd/CustomValue.h"
 
 namespace orvek {
 namespace {

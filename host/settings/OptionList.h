@@ -7,8 +7,8 @@
 #include <QString>
 #include <QStringList>
 
-#include "host/session/Marks.h"
-#include "host/session/SettingOffer.h"
+#include "host/ppd/Marks.h"
+#include "host/printers/SettingOffer.h"
 
 namespace orvek {
 

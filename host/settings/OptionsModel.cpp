@@ -6,7 +6,7 @@
 #include <QFont>
 #include <utility>
 
-#include "host/session/Wording.h"
+#include "host/ppd/Wording.h"
 
 namespace orvek {
 namespace {

@@ -11,8 +11,8 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "host/ppd/CustomValue.h"
 #include "host/session/CommonSettings.h"
-#include "host/session/CustomValue.h"
 #include "host/settings/CustomValueForm.h"
 #include "host/settings/Mnemonics.h"
 #include "host/settings/OptionsModel.h"

@@ -9,7 +9,7 @@
 #include <QPainter>
 #include <QTimer>
 
-#include "host/session/CustomValue.h"
+#include "host/ppd/CustomValue.h"
 #include "host/settings/ChoiceBox.h"
 #include "host/settings/OptionsModel.h"
 

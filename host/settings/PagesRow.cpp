@@ -9,7 +9,7 @@
 #include <QLineEdit>
 #include <QRadioButton>
 
-#include "host/session/PageRanges.h"
+#include "host/ticket/PageRanges.h"
 
 namespace orvek {
 namespace {

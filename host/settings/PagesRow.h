@@ -4,7 +4,7 @@
 
 #include <QWidget>
 
-#include "host/session/JobSettings.h"
+#include "host/ticket/JobSettings.h"
 
 class QLabel;
 class QLineEdit;

@@ -587,7 +587,7 @@
     </message>
 </context>
 <context>
-    <name>orvek::Printer</name>
+    <name>orvek::Queue</name>
     <message>
         <source>Connecting to the printer</source>
         <translation>Connexion à l’imprimante</translation>

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: Apache-2.0
 """check-layers.py allows the house's arrows and no other."""
 
+import os
 import unittest
 
 from madeuptree import MadeUpTree
@@ -8,59 +9,121 @@ from madeuptree import MadeUpTree
 CHECKER = "check-layers.py"
 
 
+HOST_ROOMS = [
+    "ppd", "ticket", "panels", "printers", "jobs", "session", "presets", "settings", "preview", "dialog", "cli",
+]
+PLATFORM_ROOMS = ["system", "xml", "network", "printing", "ui", "plugin"]
+
+
 class Layers(MadeUpTree):
     def include(self, path, target):
         self.source(path, f"#include {target}")
 
+    def refused(self, room, target):
+        self.include(f"{room}/A.cpp", f'"{target}/X.h"')
+        self.assert_one_violation(CHECKER, f'{room}/A.cpp:3: "{target}/X.h": {room}/ may')
+        self.include(f"{room}/A.cpp", "<vector>")
+
     def test_every_arrow_of_the_house_is_allowed(self):
-        for layer, target in [
-            ("host", "platform"),
+        for room, target in [
             ("plugin", "panel"),
-            ("plugin", "platform"),
+            ("plugin", "platform/plugin"),
             ("panel", "Common"),
-            ("panel", "platform"),
-            ("Common", "platform"),
+            ("panel", "platform/ui"),
+            ("Common", "platform/network"),
             ("device", "Common"),
-            ("device", "platform"),
+            ("device", "platform/xml"),
+            ("host/cli", "host/dialog"),
+            ("host/dialog", "host/session"),
+            ("host/session", "host/ppd"),
+            ("host/session", "host/ticket"),
+            ("host/session", "host/panels"),
+            ("host/session", "host/printers"),
+            ("host/ticket", "host/ppd"),
+            ("host/jobs", "host/printers"),
+            ("host/ppd", "platform/printing"),
         ]:
-            self.include(f"{layer}/{target}.cpp", f'"{target}/X.h"')
+            self.include(f"{room}/{target.replace('/', '-')}.cpp", f'"{target}/X.h"')
         self.assert_clean(CHECKER)
 
-    def test_a_folder_may_include_itself(self):
-        for layer in ["host", "plugin", "panel", "Common", "device", "platform"]:
-            self.include(f"{layer}/sub/A.cpp", f'"{layer}/other/B.h"')
+    def test_a_room_may_include_itself_and_what_lies_deeper_in_it(self):
+        for room in ["plugin", "panel", "Common", "device", "host/ppd", "platform/ui"]:
+            self.include(f"{room}/sub/A.cpp", f'"{room}/other/B.h"')
         self.assert_clean(CHECKER)
 
     def test_tests_benchmarks_and_fuzzers_may_include_everything(self):
-        for layer in ["tests", "bench", "fuzz"]:
-            for target in ["host", "plugin", "panel", "Common", "device", "platform", "tests"]:
-                self.include(f"{layer}/{target}.cpp", f'"{target}/X.h"')
+        for room in ["tests", "bench", "fuzz"]:
+            for target in ["host/cli", "plugin", "panel", "Common", "device", "platform/ui", "tests"]:
+                self.include(f"{room}/{target.replace('/', '-')}.cpp", f'"{target}/X.h"')
         self.assert_clean(CHECKER)
 
-    def test_every_other_arrow_is_refused(self):
-        for layer, target in [
-            ("host", "plugin"),
-            ("host", "panel"),
-            ("host", "Common"),
-            ("host", "device"),
+    def test_arrows_between_houses_that_are_none_are_refused(self):
+        for room, target in [
+            ("host/session", "plugin"),
+            ("host/session", "panel"),
+            ("host/cli", "Common"),
+            ("host/cli", "device"),
             ("Common", "panel"),
-            ("Common", "host"),
-            ("panel", "host"),
+            ("Common", "host/ppd"),
+            ("panel", "host/session"),
             ("panel", "plugin"),
             ("plugin", "Common"),
-            ("plugin", "host"),
+            ("plugin", "host/panels"),
             ("device", "panel"),
-            ("device", "host"),
-            ("platform", "Common"),
-            ("platform", "host"),
-            ("platform", "tests"),
-            ("host", "tests"),
+            ("device", "host/jobs"),
+            ("platform/ui", "Common"),
+            ("platform/plugin", "host/panels"),
+            ("platform/system", "tests"),
+            ("host/jobs", "tests"),
         ]:
-            with self.subTest(layer=layer, target=target):
-                self.include("host/A.cpp", "<vector>")
-                self.include(f"{layer}/A.cpp", f'"{target}/X.h"')
-                self.assert_one_violation(CHECKER, f"{layer}/A.cpp:3: \"{target}/X.h\": {layer}/ may")
-                self.include(f"{layer}/A.cpp", "<vector>")
+            with self.subTest(room=room, target=target):
+                self.refused(room, target)
+
+    def test_inside_the_host_views_stand_above_the_session_and_nothing_points_up(self):
+        for room, target in [
+            ("host/ppd", "host/ticket"),
+            ("host/ppd", "host/session"),
+            ("host/ticket", "host/session"),
+            ("host/panels", "host/ticket"),
+            ("host/panels", "host/session"),
+            ("host/printers", "host/session"),
+            ("host/printers", "host/panels"),
+            ("host/jobs", "host/session"),
+            ("host/session", "host/jobs"),
+            ("host/session", "host/presets"),
+            ("host/presets", "host/settings"),
+            ("host/settings", "host/dialog"),
+            ("host/preview", "host/dialog"),
+            ("host/dialog", "host/cli"),
+        ]:
+            with self.subTest(room=room, target=target):
+                self.refused(room, target)
+
+    def test_inside_the_platform_only_the_stated_arrows_are_allowed(self):
+        allowed = {"plugin": ["printing", "system", "ui"], "ui": ["system"], "printing": ["system"],
+                   "network": ["system"], "xml": ["system"], "system": []}
+        for room in PLATFORM_ROOMS:
+            for target in PLATFORM_ROOMS:
+                if target == room or target in allowed[room]:
+                    continue
+                with self.subTest(room=room, target=target):
+                    self.refused(f"platform/{room}", f"platform/{target}")
+
+    def test_a_room_that_nobody_named_is_refused(self):
+        self.include("host/attic/A.cpp", "<vector>")
+        self.assert_one_violation(CHECKER, "host/attic/A.cpp: lies in no room")
+        self.include("host/attic/A.cpp", '"host/ppd/X.h"')
+        self.assert_one_violation(CHECKER, "host/attic/A.cpp: lies in no room")
+
+    def test_a_header_in_no_room_is_refused(self):
+        self.include("host/ppd/A.cpp", '"host/attic/X.h"')
+        self.assert_one_violation(CHECKER, 'host/ppd/A.cpp:3: "host/attic/X.h": lies in no room')
+
+    def test_rules_that_run_in_a_circle_are_refused(self):
+        self.write("rules.json", '{"rooms": {"a": ["b"], "b": ["c"], "c": ["a"]}, "onlyIn": {},'
+                                 ' "installedPrefix": "orvek/"}')
+        rules = os.path.join(self.root, "rules.json")
+        self.assert_one_violation(CHECKER, f"{rules}: rooms in a circle: a -> b -> c -> a", "--rules", rules)
 
     def test_the_ppd_interface_has_one_door(self):
         self.include("platform/printing/PPD.h", "<cups/ppd.h>")
@@ -69,7 +132,7 @@ class Layers(MadeUpTree):
         self.assert_one_violation(CHECKER, "tests/host/A.cpp:3: <cups/ppd.h>: include \"platform/")
 
     def test_other_headers_of_libcups_are_open_to_all(self):
-        self.include("host/A.cpp", "<cups/cups.h>")
+        self.include("host/ppd/A.cpp", "<cups/cups.h>")
         self.assert_clean(CHECKER)
 
     def test_a_path_that_does_not_start_at_the_root_is_refused(self):
@@ -79,26 +142,26 @@ class Layers(MadeUpTree):
                 self.assert_one_violation(CHECKER, "platform/ui/A.cpp:3: ")
 
     def test_angle_brackets_are_no_way_around(self):
-        self.include("host/A.cpp", "<panel/OrvekFinishing.h>")
-        self.assert_one_violation(CHECKER, "host/A.cpp:3: <panel/OrvekFinishing.h>")
+        self.include("host/ppd/A.cpp", "<panel/OrvekFinishing.h>")
+        self.assert_one_violation(CHECKER, "host/ppd/A.cpp:3: <panel/OrvekFinishing.h>")
 
     def test_the_installed_headers_are_for_programs_outside(self):
         self.include("tests/install/A.cpp", "<orvek/Common/Utilities.h>")
         self.assert_clean(CHECKER)
-        self.include("host/A.cpp", "<orvek/Common/Utilities.h>")
-        self.assert_one_violation(CHECKER, "host/A.cpp:3: <orvek/")
+        self.include("host/ppd/A.cpp", "<orvek/Common/Utilities.h>")
+        self.assert_one_violation(CHECKER, "host/ppd/A.cpp:3: <orvek/")
 
     def test_output_of_the_meta_object_compiler_is_allowed(self):
-        self.include("host/A.cpp", '"A.moc"')
+        self.include("host/ppd/A.cpp", '"A.moc"')
         self.assert_clean(CHECKER)
 
     def test_white_space_does_not_hide_an_include(self):
-        self.source("host/A.cpp", '  #  include   "panel/X.h"')
-        self.assert_one_violation(CHECKER, "host/A.cpp:3: ")
+        self.source("host/ppd/A.cpp", '  #  include   "panel/X.h"')
+        self.assert_one_violation(CHECKER, "host/ppd/A.cpp:3: ")
 
     def test_a_source_outside_the_known_folders_is_refused(self):
         self.include("new/A.cpp", "<vector>")
-        self.assert_one_violation(CHECKER, "new/A.cpp: lies in no folder")
+        self.assert_one_violation(CHECKER, "new/A.cpp: lies in no room")
 
     def test_build_folders_are_passed_over(self):
         self.include("build-old/host/A.cpp", '"panel/X.h"')

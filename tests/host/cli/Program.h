@@ -61,7 +61,7 @@ inline ProgramRun runProgram(const QStringList &arguments, const Surroundings &s
 }
 
 inline QString testPpd(const char *name) {
-  return QStringLiteral(ORVEK_SOURCE_DIR "/tests/host/session/ppd/") + QLatin1String(name);
+  return QStringLiteral(ORVEK_SOURCE_DIR "/tests/host/ppd/files/") + QLatin1String(name);
 }
 
 /// A headless run on a test printer with more arguments.

@@ -85,7 +85,7 @@ TEST_F(ProgramQueue, GetsNoWordThatSomethingPickedContradicts) {
 }
 
 TEST_F(ProgramQueue, GetsCustomValuesOfSeveralParameters) {
-  cups->addQueue("values", ORVEK_SOURCE_DIR "/tests/host/session/ppd/values.ppd");
+  cups->addQueue("values", ORVEK_SOURCE_DIR "/tests/host/ppd/files/values.ppd");
   const ProgramRun job = run({"--headless", "--print", "-d", "values", "-o",
                               "Mark={Text=\"Top secret\" Angle=45 Size=20.5}", "-o",
                               "Gamma=Custom.1.5", "-o", "Pin=Custom.0123", document});

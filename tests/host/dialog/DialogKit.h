@@ -17,7 +17,7 @@
 #include "host/dialog/NoticeBar.h"
 #include "host/dialog/PrintDialog.h"
 #include "host/dialog/SummaryView.h"
-#include "host/session/PluginLoader.h"
+#include "host/panels/PluginLoader.h"
 #include "host/session/PrintSession.h"
 #include "tests/support/Printers.h"
 

@@ -20,9 +20,9 @@
 #include <functional>
 
 #include "host/dialog/PrintDialog.h"
-#include "host/printers/QueueSetup.h"
-#include "host/session/PluginLoader.h"
-#include "host/session/Wording.h"
+#include "host/panels/PluginLoader.h"
+#include "host/ppd/Wording.h"
+#include "host/session/QueueSetup.h"
 #include "host/translations/Translations.h"
 #include "tests/support/PrivateCups.h"
 
@@ -292,7 +292,7 @@ int main(int argc, char **argv) {
       .otherOptions()
       .openChoices(punchUnit(), 0)
       .saveWithPopUps(file("reason"));
-  Shot(QStringLiteral("tests/host/session/ppd/values"))
+  Shot(QStringLiteral("tests/host/ppd/files/values"))
       .otherOptions()
       .openChoices(QStringLiteral("Watermark"))
       .pickLastChoice()

@@ -9,8 +9,8 @@
 
 #include "host/jobs/QueueJob.h"
 #include "host/printers/QueuePPD.h"
-#include "host/printers/QueueSetup.h"
 #include "host/session/CommonSettings.h"
+#include "host/session/QueueSetup.h"
 #include "tests/support/IppPrinter.h"
 #include "tests/support/PrivateCups.h"
 

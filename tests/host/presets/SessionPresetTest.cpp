@@ -11,7 +11,7 @@ namespace {
 std::unique_ptr<PrintSession> sessionOn(const QString &ppd, QList<OptionChoice> marks = {}) {
   SessionSetup setup;
   setup.printer =
-      PrinterDescription::open(QStringLiteral(ORVEK_SOURCE_DIR "/tests/host/session/ppd/") + ppd)
+      PrinterDescription::open(QStringLiteral(ORVEK_SOURCE_DIR "/tests/host/ppd/files/") + ppd)
           .take();
   setup.marks = std::move(marks);
   return PrintSession::begin(std::move(setup)).take();

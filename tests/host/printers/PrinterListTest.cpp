@@ -54,14 +54,14 @@ TEST_F(PrinterList, ListsQueuesByNameWithWhatPeopleKnowThemBy) {
   const auto printers = listPrinters({});
   ASSERT_TRUE(printers) << printers.failure().line().toStdString();
   ASSERT_EQ(printers.value().size(), 2);
-  const Printer &printer = printers.value()[0];
-  EXPECT_EQ(printer.name, kFirst);
-  EXPECT_EQ(printer.info, QStringLiteral("Büro first"));
-  EXPECT_EQ(printer.location, QStringLiteral("Room 1"));
-  EXPECT_EQ(printer.makeAndModel, QStringLiteral("Orvek 6180 PostScript"));
-  EXPECT_EQ(printer.state, PrinterState::Idle);
-  EXPECT_TRUE(printer.acceptsJobs);
-  EXPECT_EQ(stateInWords(printer), QStringLiteral("Idle"));
+  const Queue &queue = printers.value()[0];
+  EXPECT_EQ(queue.name, kFirst);
+  EXPECT_EQ(queue.info, QStringLiteral("Büro first"));
+  EXPECT_EQ(queue.location, QStringLiteral("Room 1"));
+  EXPECT_EQ(queue.makeAndModel, QStringLiteral("Orvek 6180 PostScript"));
+  EXPECT_EQ(queue.state, PrinterState::Idle);
+  EXPECT_TRUE(queue.acceptsJobs);
+  EXPECT_EQ(stateInWords(queue), QStringLiteral("Idle"));
 }
 
 TEST_F(PrinterList, SaysWhyAPrinterIsStopped) {
@@ -70,10 +70,10 @@ TEST_F(PrinterList, SaysWhyAPrinterIsStopped) {
             {QStringLiteral("-r"), QStringLiteral("Being moved"), kFirst});
   const auto printers = listPrinters({});
   ASSERT_TRUE(printers);
-  const Printer &printer = printers.value()[0];
-  EXPECT_EQ(stateInWords(printer), QStringLiteral("Stopped, takes no jobs"));
-  EXPECT_EQ(printer.reasons, QStringList{QStringLiteral("Paused")});
-  EXPECT_EQ(printer.stateMessage, QStringLiteral("Being moved"));
+  const Queue &queue = printers.value()[0];
+  EXPECT_EQ(stateInWords(queue), QStringLiteral("Stopped, takes no jobs"));
+  EXPECT_EQ(queue.reasons, QStringList{QStringLiteral("Paused")});
+  EXPECT_EQ(queue.stateMessage, QStringLiteral("Being moved"));
   EXPECT_TRUE(printers.value()[1].stateMessage.isNull());
 }
 

@@ -275,5 +275,16 @@ TEST(PrintSession, LivesWithoutAPpd) {
   EXPECT_TRUE(session->summary().isEmpty());
 }
 
+TEST(CustomValues, TravelWithAJobAndComeBackOnUndo) {
+  SessionSetup setup;
+  setup.printer = openTestPpd(QStringLiteral("values.ppd"));
+  const auto session = PrintSession::begin(setup).take();
+  session->pick("Gamma", "Custom.1.5");
+  session->pick("Gamma", "Custom.2");
+  EXPECT_EQ(session->jobOptions().value("Gamma"), "Custom.2");
+  session->undo();
+  EXPECT_EQ(session->marks().marked("Gamma"), "Custom.1.5");
+}
+
 }  // namespace
 }  // namespace orvek::test

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// What the tests of a session share: the test printers, and a plug-in whose panel writes down every
-// call.
+// What the tests of a session share: a plug-in whose panel writes down every call.
 #pragma once
 
 #include <QStringList>
@@ -8,17 +7,9 @@
 #include <memory>
 
 #include "host/session/PrintSession.h"
+#include "tests/host/ppd/TestPrinters.h"
 
 namespace orvek::test {
-
-/// Path of a PPD of tests/host/session/ppd.
-inline QString testPpd(const QString &name) {
-  return QStringLiteral(ORVEK_SOURCE_DIR "/tests/host/session/ppd/") + name;
-}
-
-inline std::shared_ptr<PrinterDescription> openTestPpd(const QString &name) {
-  return PrinterDescription::open(testPpd(name)).take();
-}
 
 /// A panel that claims two options, re-announces the ticket's choices on restore as panels do, and
 /// keeps a record of the calls that reached it.

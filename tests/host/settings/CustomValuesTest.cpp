@@ -11,7 +11,7 @@
 namespace orvek::test {
 namespace {
 
-const QString valuesPpd = QStringLiteral(ORVEK_SOURCE_DIR "/tests/host/session/ppd/values.ppd");
+const QString valuesPpd = QStringLiteral(ORVEK_SOURCE_DIR "/tests/host/ppd/files/values.ppd");
 
 class CustomValuesTest : public OptionsPageOnPpd {
  protected:

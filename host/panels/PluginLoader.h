@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: Apache-2.0
+// Loads plug-in bundles: checks what they say of themselves, then their code, then makes the
+// factory.
+#pragma once
+
+#include <QList>
+#include <QStringList>
+#include <memory>
+
+#include "host/panels/PluginInfo.h"
+#include "platform/plugin/PDEPlugin.h"
+
+namespace orvek {
+
+/// A loaded bundle with its factory, ready to make panels. Its code stays loaded for good: panels
+/// may have left types and strings behind that outlive them.
+struct LoadedPlugin {
+  PluginInfo info;
+  std::unique_ptr<PDEPlugin> factory;
+};
+
+/// Loads one bundle and hands the bundle to its factory. Invalid failures name bundle and file.
+Result<LoadedPlugin> loadPlugin(const QString &bundlePath);
+
+/// What came of looking for installed plug-ins: the sound ones, and what is wrong with the others.
+struct PluginHarvest {
+  QList<std::shared_ptr<LoadedPlugin>> plugins;
+  QList<Failure> failures;
+};
+
+/// Loads each bundle that loads; of several with one identifier the first.
+PluginHarvest loadPlugins(const QStringList &bundlePaths);
+
+}  // namespace orvek

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: Apache-2.0
+// Asks a print server for all that a session begins with.
+
+#include "host/session/QueueSetup.h"
+
+#include "host/printers/PrinterList.h"
+#include "host/printers/QueueAttributes.h"
+#include "host/printers/QueuePPD.h"
+
+namespace orvek {
+namespace {
+
+QList<OptionChoice> savedOptions(const Queue &queue) {
+  QList<OptionChoice> options;
+  for (auto entry = queue.options.begin(); entry != queue.options.end(); ++entry) {
+    options.append({entry.key(), entry.value()});
+  }
+  return options;
+}
+
+Status describe(const CupsConnection &connection, const QString &queue, SessionSetup *setup) {
+  const Result<QString> path = QueuePPD().fetch(connection, queue);
+  if (!path) return path.failure();
+  if (path.value().isNull()) return {};
+  Result<std::shared_ptr<PrinterDescription>> printer = PrinterDescription::open(path.value());
+  if (!printer) return printer.failure();
+  setup->printer = printer.take();
+  return {};
+}
+
+// A queue that says nothing of itself still prints.
+QList<SettingOffer> offersOf(const CupsConnection &connection, const QString &queue) {
+  Result<QList<SettingOffer>> offers = readQueueSettings(connection, queue);
+  return offers ? offers.take() : QList<SettingOffer>();
+}
+
+}  // namespace
+
+Status setUpForQueue(const ServerAccess &access, const QString &destination, SessionSetup *setup) {
+  const Result<std::unique_ptr<CupsConnection>> connection = CupsConnection::open(access);
+  if (!connection) return connection.failure();
+  const Result<Queue> queue = findPrinter(*connection.value(), destination);
+  if (!queue) return queue.failure();
+  if (Status described = describe(*connection.value(), queue.value().name, setup); !described) {
+    return described;
+  }
+  if (!setup->printer) setup->offers = offersOf(*connection.value(), queue.value().name);
+  setup->queueOptions = savedOptions(queue.value());
+  setup->destination = queue.value().destination();
+  return {};
+}
+
+}  // namespace orvek

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: Apache-2.0
+// Reads, sorts and joins page ranges.
+
+#include "host/ticket/PageRanges.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+#include <QStringList>
+#include <algorithm>
+#include <limits>
+
+namespace orvek {
+namespace {
+
+constexpr int lastPossiblePage = std::numeric_limits<int>::max();
+
+struct Words {
+  Q_DECLARE_TR_FUNCTIONS(orvek::PageRanges)
+};
+
+struct Range {
+  int first = 1;
+  int last = lastPossiblePage;
+};
+
+// What keyboards and word processors of other scripts put between numbers.
+QString plainSigns(QString text) {
+  for (const QChar dash :
+       {QChar(0x2010), QChar(0x2013), QChar(0x2014), QChar(0x301C), QChar(0xFF0D), QChar(0xFF5E)}) {
+    text.replace(dash, QLatin1Char('-'));
+  }
+  for (const QChar comma : {QChar(0x3001), QChar(0xFF0C), QChar(0xFF1B), QChar(';')}) {
+    text.replace(comma, QLatin1Char(','));
+  }
+  for (QChar &sign : text) {
+    if (sign.digitValue() >= 0) sign = QLatin1Char(static_cast<char>('0' + sign.digitValue()));
+  }
+  return text;
+}
+
+int pageNumber(const QString &digits, int absent) {
+  if (digits.isEmpty()) return absent;
+  bool fits = false;
+  const int number = digits.toInt(&fits);
+  return fits ? number : lastPossiblePage;
+}
+
+std::optional<Range> readRange(const QString &text) {
+  static const QRegularExpression pattern(
+      QStringLiteral("\\A\\s*([0-9]*)\\s*(-?)\\s*([0-9]*)\\s*\\z"));
+  const QRegularExpressionMatch match = pattern.match(text);
+  const QString first = match.captured(1);
+  const QString last = match.captured(3);
+  if (!match.hasMatch() || (first.isEmpty() && last.isEmpty())) return std::nullopt;
+  Range range{pageNumber(first, 1), pageNumber(last, lastPossiblePage)};
+  if (match.captured(2).isEmpty()) {
+    if (!last.isEmpty()) return std::nullopt;  // "1 3"
+    range.last = range.first;
+  }
+  if (range.first < 1 || range.last < range.first) return std::nullopt;
+  return range;
+}
+
+Failure noRange(const QString &text) {
+  return {FailureKind::Usage, text.trimmed().isEmpty() ? QStringLiteral("\",\"") : text.trimmed(),
+          Words::tr("not a page range; write for example 1-3,7")};
+}
+
+void sortAndJoin(QList<Range> *ranges) {
+  std::sort(ranges->begin(), ranges->end(),
+            [](const Range &one, const Range &other) { return one.first < other.first; });
+  QList<Range> joined;
+  for (const Range &range : *ranges) {
+    if (!joined.isEmpty() && range.first <= joined.last().last) {
+      joined.last().last = std::max(joined.last().last, range.last);
+    } else {
+      joined.append(range);
+    }
+  }
+  *ranges = joined;
+}
+
+QString written(const Range &range) {
+  const QString first = QString::number(range.first);
+  if (range.first == range.last) return first;
+  const QString last = range.last == lastPossiblePage ? QString() : QString::number(range.last);
+  return first + QLatin1Char('-') + last;
+}
+
+}  // namespace
+
+Result<QString> normalizedPageRanges(const QString &text) {
+  if (text.trimmed().isEmpty()) return QString();
+  QList<Range> ranges;
+  for (const QString &part : plainSigns(text).split(QLatin1Char(','))) {
+    const std::optional<Range> range = readRange(part);
+    if (!range) return noRange(part);
+    ranges.append(*range);
+  }
+  sortAndJoin(&ranges);
+  QStringList words;
+  for (const Range &range : ranges) words << written(range);
+  return words.join(QLatin1Char(','));
+}
+
+QList<int> pagesInRanges(const QString &pageRanges, int pageCount) {
+  QList<Range> ranges;
+  for (const QString &part : pageRanges.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
+    if (const std::optional<Range> range = readRange(part)) ranges.append(*range);
+  }
+  if (ranges.isEmpty()) ranges.append(Range());
+  QList<int> pages;
+  for (const Range &range : ranges) {
+    for (int page = range.first; page <= std::min(range.last, pageCount); ++page) pages << page;
+  }
+  return pages;
+}
+
+}  // namespace orvek

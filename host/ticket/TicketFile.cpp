@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: Apache-2.0
+// Reads and writes tickets with Qt's JSON and atomic files.
+
+#include "host/ticket/TicketFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QSaveFile>
+#include <cmath>
+#include <limits>
+
+namespace orvek {
+namespace {
+
+Failure invalid(const QString &what, const QString &why) {
+  return {FailureKind::Invalid, what, why};
+}
+
+Failure notJson(const QByteArray &json, const QString &name, const QJsonParseError &error) {
+  const auto line = json.left(error.offset).count('\n') + 1;
+  return invalid(name + QLatin1Char(':') + QString::number(line),
+                 QStringLiteral("not a ticket: JSON expected (%1)").arg(error.errorString()));
+}
+
+QString kindOf(const QJsonValue &value) {
+  switch (value.type()) {
+    case QJsonValue::Null:
+      return QStringLiteral("null");
+    case QJsonValue::Bool:
+      return QStringLiteral("true or false");
+    case QJsonValue::Array:
+      return QStringLiteral("a list");
+    case QJsonValue::Object:
+      return QStringLiteral("an object");
+    default:
+      return QStringLiteral("a number with a fraction");
+  }
+}
+
+qint64 nearest64(double value) {
+  // 2^63 is the first double that no longer fits.
+  constexpr double limit = 9223372036854775808.0;
+  if (value >= limit) return std::numeric_limits<qint64>::max();
+  if (value < -limit) return std::numeric_limits<qint64>::min();
+  return static_cast<qint64>(value);
+}
+
+// Invalid where the value is neither text nor integer.
+QVariant ticketValue(const QJsonValue &value) {
+  if (value.isString()) return value.toString();
+  if (!value.isDouble()) return {};
+  const QVariant number = value.toVariant();
+  if (number.metaType().id() == QMetaType::LongLong) return number;
+  const double real = value.toDouble();
+  return std::trunc(real) == real ? QVariant(nearest64(real)) : QVariant();
+}
+
+// Pipes and devices have no folder entry to replace.
+bool isReplaceable(const QString &path) {
+  const QFileInfo info(path);
+  return !info.exists() || info.isFile();
+}
+
+template <typename File>
+bool writeAll(File &file, const QByteArray &bytes) {
+  return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
+}
+
+}  // namespace
+
+Result<TicketValues> parseTicket(const QByteArray &json, const QString &name) {
+  QJsonParseError error;
+  const QJsonDocument document = QJsonDocument::fromJson(json, &error);
+  if (error.error != QJsonParseError::NoError) return notJson(json, name, error);
+  if (!document.isObject()) {
+    return invalid(name, QStringLiteral("not a ticket: one JSON object expected"));
+  }
+  TicketValues values;
+  const QJsonObject object = document.object();
+  for (auto entry = object.begin(); entry != object.end(); ++entry) {
+    const QVariant value = ticketValue(entry.value());
+    if (!value.isValid()) {
+      return invalid(name, QStringLiteral("key \"%1\" must be text or an integer, not %2")
+                               .arg(entry.key(), kindOf(entry.value())));
+    }
+    values.insert(entry.key(), value);
+  }
+  return values;
+}
+
+Result<TicketValues> readTicket(const QString &path) {
+  QFile file(path);
+  if (QFileInfo(path).isDir()) {
+    return Failure{FailureKind::Io, path, QStringLiteral("is a folder, not a ticket")};
+  }
+  if (!file.open(QIODevice::ReadOnly)) return Failure{FailureKind::Io, path, file.errorString()};
+  const QByteArray json = file.readAll();
+  if (file.error() != QFileDevice::NoError) {
+    return Failure{FailureKind::Io, path, file.errorString()};
+  }
+  return parseTicket(json, path);
+}
+
+Status writeTicket(const QString &path, const TicketValues &values) {
+  const QByteArray json = QJsonDocument(ticketToJson(values)).toJson(QJsonDocument::Indented);
+  if (isReplaceable(path)) {
+    QSaveFile file(path);
+    if (writeAll(file, json) && file.commit()) return {};
+    return Failure{FailureKind::Io, path, file.errorString()};
+  }
+  QFile device(path);
+  if (writeAll(device, json)) return {};
+  return Failure{FailureKind::Io, path, device.errorString()};
+}
+
+QJsonObject ticketToJson(const TicketValues &values) {
+  QJsonObject object;
+  for (auto entry = values.begin(); entry != values.end(); ++entry) {
+    const bool isText = entry->metaType().id() == QMetaType::QString;
+    object.insert(entry.key(),
+                  isText ? QJsonValue(entry->toString()) : QJsonValue(entry->toLongLong()));
+  }
+  return object;
+}
+
+}  // namespace orvek

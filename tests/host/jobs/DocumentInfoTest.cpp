@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: Apache-2.0
+// Page counts and page sizes of real files, and of broken ones.
+
+#include "host/jobs/DocumentInfo.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QImage>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include "tests/support/Printers.h"
+
+namespace orvek {
+namespace {
+
+class DocumentInfoTest : public testing::Test {
+ protected:
+  QString write(const QString &name, const QByteArray &content) {
+    QFile file(folder.filePath(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+    return file.fileName();
+  }
+
+  QTemporaryDir folder;
+};
+
+QString sample(const QString &name) {
+  return QStringLiteral(ORVEK_SOURCE_DIR "/samples/") + name;
+}
+
+bool hasPdfTool() {
+  return !QStandardPaths::findExecutable(QStringLiteral("pdfinfo")).isEmpty();
+}
+
+TEST_F(DocumentInfoTest, CountsThePagesOfAPdf) {
+  if (!hasPdfTool()) GTEST_SKIP() << "pdfinfo (poppler-utils) is not installed";
+  const DocumentInfo info = documentInfo(sample("Finishing-Sample.pdf"));
+  EXPECT_EQ(info.name, "Finishing-Sample.pdf");
+  EXPECT_EQ(info.pages, 8);
+  EXPECT_FALSE(info.pageSizePoints.isEmpty());
+}
+
+TEST_F(DocumentInfoTest, TurnsThePageAsThePdfSays) {
+  if (!hasPdfTool()) GTEST_SKIP() << "pdfinfo (poppler-utils) is not installed";
+  const QByteArray pdf =
+      "%PDF-1.4\n1 0 obj<</Type/Catalog/Pages 2 0 R>>endobj\n"
+      "2 0 obj<</Type/Pages/Kids[3 0 R]/Count 1>>endobj\n"
+      "3 0 obj<</Type/Page/Parent 2 0 R/MediaBox[0 0 300 500]/Rotate 90>>endobj\n"
+      "trailer<</Root 1 0 R>>\n";
+  const DocumentInfo info = documentInfo(write("turned.pdf", pdf));
+  EXPECT_EQ(info.pages, 1);
+  EXPECT_EQ(info.pageSizePoints, QSizeF(500, 300));
+}
+
+TEST_F(DocumentInfoTest, ReadsTheCommentsOfPostScript) {
+  const QString path = write("a.ps", "%!PS-Adobe-3.0\n%%Pages: 12\n%%BoundingBox: 0 0 612 792\n");
+  EXPECT_EQ(documentInfo(path).pages, 12);
+  EXPECT_EQ(documentInfo(path).pageSizePoints, QSizeF(612, 792));
+}
+
+TEST_F(DocumentInfoTest, ReadsACountThatStandsAtTheEndOfALongFile) {
+  const QByteArray body(200000, '\n');
+  const QString path =
+      write("b.ps", "%!PS-Adobe-3.0\r\n%%Pages: (atend)\r\n" + body + "%%Trailer\r%%Pages: 3\r");
+  EXPECT_EQ(documentInfo(path).pages, 3);
+}
+
+TEST_F(DocumentInfoTest, DoesNotBelieveInMillionsOfPages) {
+  EXPECT_EQ(documentInfo(write("a.ps", "%!PS\n%%Pages: 1000000\n")).pages, 1000000);
+  EXPECT_EQ(documentInfo(write("b.ps", "%!PS\n%%Pages: 2000000000\n")).pages, 0);
+  EXPECT_EQ(documentInfo(write("c.ps", "%!PS\n%%Pages: 99999999999999\n")).pages, 0);
+}
+
+TEST_F(DocumentInfoTest, CountsAPictureAsOnePage) {
+  const QString path = folder.filePath("a.png");
+  ASSERT_TRUE(QImage(4, 4, QImage::Format_RGB32).save(path));
+  EXPECT_EQ(documentInfo(path).pages, 1);
+}
+
+TEST_F(DocumentInfoTest, KnowsNothingOfTextAndStandardInput) {
+  EXPECT_EQ(documentInfo(write("a.txt", "words\n")).pages, 0);
+  EXPECT_EQ(documentInfo("-").name, "(stdin)");
+  EXPECT_EQ(documentInfo(QString()).path, "-");
+}
+
+TEST_F(DocumentInfoTest, KnowsNothingOfWhatCanNotBeRead) {
+  EXPECT_EQ(documentInfo(folder.filePath("missing.pdf")).pages, 0);
+  EXPECT_EQ(documentInfo(folder.filePath("missing.pdf")).name, "missing.pdf");
+  EXPECT_EQ(documentInfo(folder.path()).pages, 0);
+  EXPECT_EQ(documentInfo(write("empty.pdf", "")).pages, 0);
+}
+
+TEST_F(DocumentInfoTest, DoesNotWaitForAPipe) {
+  const QString path = folder.filePath("pipe");
+  ASSERT_EQ(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+  EXPECT_EQ(documentInfo(path).pages, 0);
+}
+
+TEST_F(DocumentInfoTest, SurvivesAPdfCutAtAnyPlace) {
+  if (!hasPdfTool()) GTEST_SKIP() << "pdfinfo (poppler-utils) is not installed";
+  QFile file(sample("Finishing-Sample.pdf"));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QByteArray whole = file.readAll();
+  QElapsedTimer clock;
+  clock.start();
+  for (int part = 1; part < 8; ++part) {
+    const QString path = write("cut.pdf", whole.left(whole.size() * part / 8));
+    EXPECT_LE(documentInfo(path).pages, 8);
+  }
+  EXPECT_LT(clock.elapsed(), 7 * 3000);
+}
+
+TEST_F(DocumentInfoTest, TakesANameThatLooksLikeAnOption) {
+  if (!hasPdfTool()) GTEST_SKIP() << "pdfinfo (poppler-utils) is not installed";
+  ASSERT_TRUE(QFile::copy(sample("Finishing-Sample.pdf"), folder.filePath("-opw x.pdf")));
+  EXPECT_EQ(documentInfo(folder.filePath("-opw x.pdf")).pages, 8);
+}
+
+}  // namespace
+}  // namespace orvek

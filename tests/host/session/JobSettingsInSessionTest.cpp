@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: Apache-2.0
+// Job settings where a session keeps them.
+
+#include <gtest/gtest.h>
+
+#include <QSignalSpy>
+
+#include "tests/host/session/SessionKit.h"
+
+namespace orvek::test {
+namespace {
+
+using Options = QMap<QString, QString>;
+
+std::unique_ptr<PrintSession> sessionOn(const QString &ppd) {
+  SessionSetup setup;
+  if (!ppd.isNull()) setup.printer = PrinterDescription::open(ppd).take();
+  return PrintSession::begin(setup).take();
+}
+
+QString orvek6180() {
+  return QStringLiteral(ORVEK_SOURCE_DIR "/printers/Orvek-6180.ppd");
+}
+
+TEST(JobSettings, TravelWithTheSessionAndTellThatTheyChanged) {
+  const auto session = sessionOn(QString());
+  QSignalSpy changed(session.get(), &PrintSession::changed);
+  JobSettings settings;
+  settings.copies = 5;
+  settings.collate = false;
+  session->setJobSettings(settings);
+  EXPECT_EQ(changed.size(), 1);
+  EXPECT_EQ(session->jobSettings(), settings);
+  EXPECT_EQ(session->jobOptions(), (Options{{"copies", "5"}, {"Collate", "False"}}));
+}
+
+TEST(JobSettings, PickThePrintersOwnOptionForCollation) {
+  const auto session = sessionOn(orvek6180());
+  JobSettings settings = session->jobSettings();
+  EXPECT_TRUE(settings.collate);
+  settings.collate = false;
+  session->setJobSettings(settings);
+  EXPECT_EQ(session->marks().marked("Collate"), "False");
+  EXPECT_EQ(session->jobOptions(), (Options{{"Collate", "False"}}));
+}
+
+TEST(JobSettings, FollowThePrintersOwnOptionForCollation) {
+  const auto session = sessionOn(orvek6180());
+  session->pick("Collate", "False");
+  EXPECT_FALSE(session->jobSettings().collate);
+  session->undo();
+  EXPECT_TRUE(session->jobSettings().collate);
+}
+
+TEST(JobSettings, BeginAsACommandLineAsks) {
+  const auto session = sessionOn(orvek6180());
+  EXPECT_TRUE(session->takeJobOption("page-ranges", "2-4").value());
+  EXPECT_FALSE(session->takeJobOption("PageSize", "A4").value());
+  EXPECT_EQ(session->jobSettings().pageRanges, "2-4");
+  EXPECT_EQ(session->jobOptions(), (Options{{"page-ranges", "2-4"}}));
+}
+
+}  // namespace
+}  // namespace orvek::test
