@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
-// Every name the panel shares with PPDs, tickets, strings and bundles, each written once.
+// Every name the panel shares with PPDs, tickets, strings and bundles, each written once. Those
+// that hosts know as well stand in the contract: its keys of the booklet come with this header.
 #pragma once
 
 #include <QLatin1String>
+
+#include "platform/plugin/BookletKeys.h"
 
 namespace orvek {
 
@@ -20,19 +23,8 @@ inline constexpr const char *offsetBinKeyword = "OVKOptionOffsetBin";
 inline constexpr const char *punchUnitKeyword = "OVKOptionPunch";
 inline constexpr const char *hasBookletAttribute = "OVKHasBooklet";
 
-/// Ticket keys of the booklet controls, and those of others that the panel reads or writes.
-inline constexpr QLatin1String enableBookletKey{"OVKEnableBooklet"};
-inline constexpr QLatin1String rightToLeftKey{"OVKRightToLeft"};
-inline constexpr QLatin1String pageBordersKey{"OVKPrintPageBorders"};
-inline constexpr QLatin1String gutterKey{"OVKGutter"};
-inline constexpr QLatin1String creepKey{"OVKCreep"};
-inline constexpr QLatin1String targetPaperSizeKey{"OVKTargetPaperSize"};
+/// The calling application's name in the ticket.
 inline constexpr QLatin1String appNameKey{"OVKAppName"};
-inline constexpr QLatin1String layoutNUpKey{"com.apple.print.PrintSettings.PMLayoutNUp"};
-
-/// Flags in tickets.
-inline constexpr QLatin1String trueValue{"True"};
-inline constexpr QLatin1String falseValue{"False"};
 
 /// Keys of the bundle's string table.
 inline constexpr QLatin1String panelNameString{"_PDE_Finishing_Options"};

@@ -16,16 +16,12 @@ using namespace orvek;
 
 namespace {
 
-constexpr int defaultGutter = 24;
-constexpr int defaultCreep = 0;
-
 QVariant readTicket(PMPrintSettings settings, QLatin1String key) {
   QVariant value;
   PMPrintSettingsGetValue(settings, key, &value);
   return value;
 }
 
-// Anything present but "False" switches on: other writers' "1" or "yes" mean what they say.
 void readFlag(PMPrintSettings settings, QLatin1String key, QCheckBox *box) {
   const QVariant value = readTicket(settings, key);
   setState(box, value.isValid() && textReading(value) != falseValue ? stateOn : stateOff);
@@ -78,8 +74,8 @@ void OrvekFinishing::loadBookletControlsFromTicket() {
   readFlag(settings, enableBookletKey, bookletChckBox);
   readFlag(settings, rightToLeftKey, rToLChckBox);
   readFlag(settings, pageBordersKey, pageBroderChckBox);
-  readNumber(settings, gutterKey, defaultGutter, gutterSlider, gutterTxtBox);
-  readNumber(settings, creepKey, defaultCreep, creepSlider, creepTxtBox);
+  readNumber(settings, gutterKey, gutterRange.absent, gutterSlider, gutterTxtBox);
+  readNumber(settings, creepKey, creepRange.absent, creepSlider, creepTxtBox);
   readPaperSize(settings, paperSizePopup);
 }
 

@@ -3,6 +3,7 @@
 
 #include <QTest>
 
+#include "platform/plugin/BookletKeys.h"
 #include "tests/panel/PanelFixture.h"
 
 using namespace orvek;
@@ -160,6 +161,17 @@ TEST_F(Booklet, ANumberAboveTheRangeSnapsToTheMaximum) {
   const QString most = QString::number(slider("gutterSlider")->maximum());
   EXPECT_EQ(stringValue(field("gutterTxtBox")), most);
   EXPECT_EQ(ticketText("OVKGutter"), most);
+}
+
+TEST_F(Booklet, TheSlidersReachAsFarAsTheContractSays) {
+  open(fullPrinter());
+  EXPECT_EQ(slider("gutterSlider")->minimum(), gutterRange.least);
+  EXPECT_EQ(slider("gutterSlider")->maximum(), gutterRange.most);
+  EXPECT_EQ(intValue(slider("gutterSlider")), gutterRange.absent);
+  EXPECT_EQ(slider("creepSlider")->minimum(), creepRange.least);
+  EXPECT_EQ(slider("creepSlider")->maximum(), creepRange.most);
+  EXPECT_EQ(intValue(slider("creepSlider")), creepRange.absent);
+  EXPECT_EQ(indexOfSelectedItem(popUp("paperSizePopup")), jobsOwnPaper);
 }
 
 TEST_F(Booklet, WithoutTicketTheControlsStillWork) {
