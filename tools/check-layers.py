@@ -10,6 +10,7 @@ import json
 import os
 import re
 
+from layers import circle, covers, room_of
 from sources import SOURCE_SUFFIXES, finish, project_files, read_text
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]')
@@ -22,22 +23,6 @@ def includes(text):
         match = INCLUDE.match(line)
         if match:
             yield number, match.group(1) == '"', match.group(2)
-
-
-def room_of(folder, rooms):
-    """The deepest folder among the rooms that is this one or lies above it; None where none is."""
-    while folder:
-        if folder in rooms:
-            return folder
-        folder = os.path.dirname(folder)
-    return None
-
-
-def covers(pattern, room):
-    """Whether an entry of a room's list allows that room."""
-    if pattern.endswith("*"):
-        return room.startswith(pattern[:-1])
-    return pattern == room
 
 
 def edge_problem(room, quoted, target, rules):
@@ -77,31 +62,6 @@ def check_file(path, room, text, rules):
         problem = edge_problem(room, quoted, target, rules) or door_problem(path, target, rules)
         if problem:
             yield f"{path}:{number}: {problem}"
-
-
-def circle(rooms):
-    """Rooms whose allowed edges lead back to the first of them; empty where there is no circle."""
-    houses = {room: [r for r in rooms if r != room and any(covers(p, r) for p in rooms[room])]
-              for room in rooms if "*" not in rooms[room]}
-    finished = set()
-
-    def walk(room, way):
-        if room in way:
-            return way[way.index(room):] + [room]
-        if room in finished or room not in houses:
-            return []
-        for further in houses[room]:
-            found = walk(further, way + [room])
-            if found:
-                return found
-        finished.add(room)
-        return []
-
-    for room in houses:
-        found = walk(room, [])
-        if found:
-            return found
-    return []
 
 
 def main():
