@@ -2,13 +2,13 @@
 // The one-shot multicast query. Replies come by unicast to the query's own port, since that is not
 // the multicast DNS port (RFC 6762, section 6.7).
 
-#include <arpa/inet.h>
 #include <arpa/nameser.h>
 #include <poll.h>
 #include <resolv.h>
 #include <strings.h>
 #include <sys/socket.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <chrono>
@@ -17,7 +17,6 @@
 
 #include "Common/RendezvousUtilities.h"
 #include "platform/network/FileDescriptor.h"
-#include "platform/network/HostAddress.h"
 #include "platform/network/MulticastInterfaces.h"
 #include "platform/system/Gestalt.h"
 
@@ -67,6 +66,14 @@ const char *lastLabel(const char *name) {
 bool isLocal(const char *name) {
   const char *label = lastLabel(name);
   return label != nullptr && (strcasecmp(label, "local") == 0 || strcasecmp(label, "local.") == 0);
+}
+
+/// Through the ordinary resolver. That one tells how long a reply was even where the answer holds
+/// less of it, as those that come by connection may be; nobody may read what was not written.
+int askResolver(const Question &question, Bytes answer) {
+  const auto size = static_cast<int>(answer.size());
+  return std::min(res_query(question.name, question.rrClass, question.rrType, answer.data(), size),
+                  size);
 }
 
 /// The query as bytes in `buffer`; its length, or -1.
@@ -156,19 +163,8 @@ int mDNS_res_query(const char *name, int rrClass, int rrType, unsigned char *ans
     errno = EINVAL;
     return -1;
   }
-  if (orvek::systemResolvesMulticast() || !orvek::isLocal(name)) {
-    return res_query(name, rrClass, rrType, answer, answerSize);
-  }
-  return orvek::askByMulticast({name, rrClass, rrType},
-                               {answer, static_cast<std::size_t>(answerSize)});
-}
-
-QString ResolveToIP(const QString &host) {
-  const QByteArray name = host.toLatin1();
-  if (QString::fromLatin1(name) != host) return host;
-  const auto address = orvek::firstIPv4Address(host.isNull() ? nullptr : name.constData());
-  if (!address) return host;
-  std::array<char, INET_ADDRSTRLEN> text{};
-  inet_ntop(AF_INET, &*address, text.data(), text.size());
-  return QString::fromLatin1(text.data());
+  const orvek::Question question{name, rrClass, rrType};
+  const orvek::Bytes bytes(answer, static_cast<std::size_t>(answerSize));
+  const bool ordinary = orvek::systemResolvesMulticast() || !orvek::isLocal(name);
+  return ordinary ? orvek::askResolver(question, bytes) : orvek::askByMulticast(question, bytes);
 }

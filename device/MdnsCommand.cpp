@@ -3,7 +3,6 @@
 
 #include <strings.h>
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstring>
@@ -59,7 +58,7 @@ int mdnsCommand(int count, char **words, Output output) {
   std::vector<unsigned char> reply(largestReply);
   const int length = mDNS_res_query(words[1], classIN, *type, reply.data(), largestReply);
   if (length < 0) return complain(Negative, words[1], "no answer");
-  reply.resize(static_cast<std::size_t>(std::min(length, largestReply)));
+  reply.resize(static_cast<std::size_t>(length));
   const std::vector<std::string> lines = describeAnswers(reply);
   for (const std::string &line : lines) std::fprintf(output.file, "%s\n", line.c_str());
   return lines.empty() ? complain(Negative, words[1], "the reply holds no answer") : Done;

@@ -52,17 +52,6 @@ class MulticastQuery : public testing::Test {
                           static_cast<int>(answer.size()));
   }
 
-  /// Leads the ordinary resolver to a name server of the test's.
-  static void useNameServer(unsigned short port) {
-    res_init();
-    _res.nscount = 1;
-    _res.nsaddr_list[0].sin_family = AF_INET;
-    _res.nsaddr_list[0].sin_port = port;
-    _res.nsaddr_list[0].sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    _res.retrans = 1;
-    _res.retry = 1;
-  }
-
   std::array<unsigned char, 1500> answer{};
 };
 
@@ -93,12 +82,9 @@ TEST_F(MulticastQuery, IsTakenForALastLabelOfLocalInAnyCase) {
 TEST_F(MulticastQuery, LeavesOtherNamesToTheOrdinaryResolver) {
   Responder responder(Place::PrinterByMulticast, properAnswer);
   Responder nameServer(Place::OwnHostByName, [](const Bytes &query, int) {
-    Bytes reply = serviceReplyTo(query, name({"t"}));
-    reply[0] = query[0];
-    reply[1] = query[1];
-    return std::vector<Bytes>{reply};
+    return std::vector<Bytes>{withIdentifierOf(query, serviceReplyTo(query, name({"t"})))};
   });
-  useNameServer(nameServer.port());
+  resolveThrough(nameServer);
   for (const char *queryName : {"local", "local.", "a.example", "a.local.example.", "a.locals"}) {
     EXPECT_GT(ask(queryName), 0) << queryName;
   }
@@ -109,7 +95,7 @@ TEST_F(MulticastQuery, LeavesOtherNamesToTheOrdinaryResolver) {
 TEST_F(MulticastQuery, LeavesAllNamesToTheResolverOfASystemFrom1023On) {
   Responder responder(Place::PrinterByMulticast, properAnswer);
   Responder nameServer(Place::OwnHostByName, silence);
-  useNameServer(nameServer.port());
+  resolveThrough(nameServer);
   orvek::setGestaltForTesting(gestaltSystemVersion, 0x1023);
   EXPECT_EQ(ask(service), -1);
   EXPECT_TRUE(responder.queries().empty());
@@ -158,6 +144,20 @@ TEST_F(MulticastQuery, TakesNoLongerForAStreamOfOtherReplies) {
 TEST_F(MulticastQuery, CutsAReplyToTheAnswersSize) {
   Responder responder(Place::PrinterByMulticast, properAnswer);
   EXPECT_EQ(mDNS_res_query(service, classIN, typeSRV, answer.data(), 45), 45);
+}
+
+TEST_F(MulticastQuery, ReportsNoMoreThanTheAnswerHoldsOfALongerReplyByConnection) {
+  Responder nameServer(Place::OwnHostByName, [](const Bytes &query, int) {
+    Bytes reply = withIdentifierOf(query, serviceReplyTo(query, name({"t"})));
+    reply.resize(1870);
+    return std::vector<Bytes>{reply};
+  });
+  resolveThrough(nameServer);
+  EXPECT_EQ(ask("a._ipp._tcp.local.example"), static_cast<int>(answer.size()));
+  EXPECT_EQ(nameServer.queries().size(), 2U);
+  std::array<unsigned char, 1870> large{};
+  EXPECT_EQ(mDNS_res_query("a.example", classIN, typeSRV, large.data(), 1870), 1870);
+  EXPECT_EQ(mDNS_res_query("a.example", classIN, typeSRV, large.data(), 1869), 1869);
 }
 
 TEST_F(MulticastQuery, LeavesNoDescriptorBehind) {
