@@ -2,12 +2,17 @@
 // The address of a printer's built-in web server, from its device URI. A service name in there is
 // resolved through its SRV record.
 
+#include <arpa/inet.h>
+
 #include <QUrl>
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <string_view>
 
 #include "Common/RendezvousUtilities.h"
+#include "Common/ReplyCursor.h"
 #include "Common/Utilities.h"
 #include "platform/printing/Printer.h"
 
@@ -24,12 +29,16 @@ constexpr int longestServiceName = 255;
 using Reply = std::array<unsigned char, replySize>;
 using Target = std::array<char, orvek::decodedNameSize>;
 
-/// What no decoded name begins with before a record of another type left it alone.
-constexpr char untouched = '\xFF';
-
 int number16(const Reply &reply, int offset) {
   return (reply[static_cast<std::size_t>(offset)] << 8) |
          reply[static_cast<std::size_t>(offset) + 1];
+}
+
+/// Whether the record, which decode_srv has read, is of the one type that it writes a target of.
+bool isServiceRecord(const unsigned char *record, const Reply &reply, int length) {
+  if (decode_name(&record, reply.data(), length, nullptr) != 0) return false;
+  const orvek::ReplyCursor header(reply.data(), length, record);
+  return header.holds(2) && header.number16(0) == typeSRV;
 }
 
 /// Decodes the target of the first answer; false where there is none or it can't be read.
@@ -39,10 +48,10 @@ bool readFirstTarget(const Reply &reply, int length, Target *target) {
     if (skip_question(&cursor, reply.data(), length) != 0) return false;
   }
   if (number16(reply, answerCountOffset) == 0) return false;
-  target->front() = untouched;
+  const unsigned char *record = cursor;
   unsigned short port = 0;
   if (decode_srv(&cursor, reply.data(), length, target->data(), &port) != 0) return false;
-  return target->front() != untouched;
+  return isServiceRecord(record, reply, length);
 }
 
 bool isASCII(const char *text) {
@@ -77,24 +86,64 @@ void CheckForLocalHost(QString *host) {
   *host = QString::fromLatin1(target.data());
 }
 
-/// The host as it stands in a URL: an IPv6 address goes into brackets, its zone escaped.
+/// An IPv6 address as it stands in a URL: in brackets, its zone escaped. Null for other texts.
+QString bracketed(const QString &address) {
+  const qsizetype zone = address.indexOf(QLatin1Char('%'));
+  in6_addr parsed{};
+  if (inet_pton(AF_INET6, address.left(zone).toLatin1().constData(), &parsed) != 1) return {};
+  QString escaped = address;
+  escaped.replace(QLatin1String("%"), QLatin1String("%25"));
+  return QLatin1Char('[') + escaped + QLatin1Char(']');
+}
+
+bool isHexDigit(QChar c) {
+  return (c >= u'0' && c <= u'9') || (c.toLower() >= u'a' && c.toLower() <= u'f');
+}
+
+/// Whether a URL may hold the character at `at`: those of RFC 3986 other than brackets, and what
+/// can be seen beyond ASCII.
+bool mayStandInURL(const QString &text, qsizetype at) {
+  constexpr std::string_view punctuation = "-._~!$&'()*+,;=/?#@";
+  const QChar c = text[at];
+  if (c.unicode() >= 0x80) return c.isSurrogate() || (c.isPrint() && !c.isSpace());
+  if (c == u'%') {
+    return at + 2 < text.size() && isHexDigit(text[at + 1]) && isHexDigit(text[at + 2]);
+  }
+  return c.isLetterOrNumber() || punctuation.find(c.toLatin1()) != std::string_view::npos;
+}
+
+bool endsAuthority(QChar c) {
+  return c == u'/' || c == u'?' || c == u'#';
+}
+
+/// `host` as it stands in a URL, letter for letter; null where it can't.
 QString hostInURL(const QString &host) {
-  if (!host.contains(QLatin1Char(':'))) return host;
-  QString address = host;
-  address.replace(QLatin1String("%"), QLatin1String("%25"));
-  return QLatin1Char('[') + address + QLatin1Char(']');
+  if (host.contains(QLatin1Char(':'))) return bracketed(host);
+  for (qsizetype at = 0; at < host.size(); ++at) {
+    if (!mayStandInURL(host, at)) return {};
+  }
+  // A slash, say, that the device URI had escaped ends the host, of which something has to be
+  // there.
+  const auto end = std::find_if(host.begin(), host.end(), endsAuthority);
+  return end == host.begin() || *(end - 1) == u'@' ? QString() : host;
 }
 
 }  // namespace
 
 // A handle is passed by value, as the platform's handles are.
 // NOLINTNEXTLINE(performance-unnecessary-value-param)
-QUrl GetPrinterURL(PMPrinter printer) {
+QString GetPrinterURLText(PMPrinter printer) {
   std::optional<orvek::DeviceURI> deviceURI;
   PMPrinterCopyDeviceURI(printer, &deviceURI);
   if (!deviceURI || deviceURI->host.isNull()) return {};
   QString host = deviceURI->host;
   CheckForLocalHost(&host);
-  const QUrl url(QLatin1String("http://") + hostInURL(host), QUrl::StrictMode);
+  const QString shown = hostInURL(host);
+  return shown.isNull() ? QString() : QLatin1String("http://") + shown;
+}
+
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
+QUrl GetPrinterURL(PMPrinter printer) {
+  const QUrl url(GetPrinterURLText(printer), QUrl::StrictMode);
   return url.isValid() && !url.host().isEmpty() ? url : QUrl();
 }

@@ -32,17 +32,23 @@ int MyCheckPDEContextCUPS(ppd_file_t *ppd);
 
 // 2. Reaching the printer ------------------------------------------------------------------------
 
-/// The address of the printer's built-in web server: "http://" and the host of its device URI, on
-/// the default port. A host that is a DNS-SD service name (it holds "._tcp.local.") is first
-/// resolved to the target of its SRV record, which keeps its final dot; that takes up to about 3
-/// seconds. Where it does not resolve the name stays the host. An empty URL for a null printer, a
-/// device without a network host (usb, file ...), and a host that makes no valid URL. A target that
-/// is not ASCII stops the process with an assertion.
+/// The address of the printer's built-in web server: the text "http://" and the host of its device
+/// URI, letter for letter, on the default port. A host that is a DNS-SD service name (it holds
+/// "._tcp.local.") is first resolved to the target of its SRV record, which keeps its final dot;
+/// that takes up to about 3 seconds. Where it does not resolve the name stays the host. An IPv6
+/// address stands in brackets. Null for a null printer, a device without a network host (usb, file
+/// ...), and a host that may not stand in a URL: one with blanks or brackets, say. A target that is
+/// not ASCII stops the process with an assertion.
+QString GetPrinterURLText(PMPrinter printer);
+
+/// The same address as a URL, which normalises its host: in small letters, international names by
+/// their IDNA rules, "192.168.1" as the address that it abbreviates. Empty also for texts that have
+/// no such form ("host-", "a..b").
 QUrl GetPrinterURL(PMPrinter printer);
 
 /// Whether the URL's host answers one ICMP echo request within about a second. False for an empty
-/// URL or one without a host; nothing is sent then.
-bool PrinterIsReachable(const QUrl &printer);
+/// URL or one without a host; nothing is sent then. With C linkage, as everything about echoes.
+extern "C" bool PrinterIsReachable(const QUrl &printer);
 
 // 3. Documents from the printer ------------------------------------------------------------------
 

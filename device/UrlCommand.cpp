@@ -8,9 +8,9 @@ namespace orvek::device {
 
 int urlCommand(int count, char **words, Output output) {
   if (count != 2) return misuse(words[0], "give one device URI");
-  const QUrl url = GetPrinterURL(PMPrinterCreateWithDeviceURI(QString::fromUtf8(words[1])));
-  if (url.isEmpty()) return complain(Negative, words[1], "this device has no web address");
-  std::fprintf(output.file, "%s\n", url.toEncoded().constData());
+  const QString url = GetPrinterURLText(PMPrinterCreateWithDeviceURI(QString::fromUtf8(words[1])));
+  if (url.isNull()) return complain(Negative, words[1], "this device has no web address");
+  std::fprintf(output.file, "%s\n", url.toUtf8().constData());
   return Done;
 }
 

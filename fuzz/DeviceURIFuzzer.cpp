@@ -10,7 +10,10 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
       QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
   const auto uri = orvek::parseDeviceURI(text);
   if (!uri || uri->host.contains(QLatin1String("._tcp.local."))) return 0;
-  const QUrl url = GetPrinterURL(PMPrinterCreateWithDeviceURI(text));
-  if (!url.isEmpty() && url.scheme() != QLatin1String("http")) std::abort();
+  const PMPrinter printer = PMPrinterCreateWithDeviceURI(text);
+  const QString address = GetPrinterURLText(printer);
+  const QUrl url = GetPrinterURL(printer);
+  if (!address.isNull() && !address.startsWith(QLatin1String("http://"))) std::abort();
+  if (!url.isEmpty() && (address.isNull() || url.scheme() != QLatin1String("http"))) std::abort();
   return 0;
 }

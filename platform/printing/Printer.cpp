@@ -5,6 +5,7 @@
 
 #include <cups/http.h>
 
+#include <QRegularExpression>
 #include <QSet>
 #include <array>
 
@@ -13,13 +14,23 @@ namespace {
 
 using Field = std::array<char, HTTP_MAX_URI>;
 
-/// Devices whose "host" is a maker's name, a path or a bus.
+/// The devices that libcups reaches over a network. The "host" of any other is a maker's name, a
+/// path or a bus.
 bool schemeHasHost(const QString &scheme) {
-  static const QSet<QString> local{QStringLiteral("usb"),      QStringLiteral("file"),
-                                   QStringLiteral("parallel"), QStringLiteral("serial"),
-                                   QStringLiteral("scsi"),     QStringLiteral("bluetooth"),
-                                   QStringLiteral("hp"),       QStringLiteral("hpfax")};
-  return !local.contains(scheme.toLower());
+  static const QSet<QString> network{
+      QStringLiteral("ipp"),   QStringLiteral("ipps"),   QStringLiteral("http"),
+      QStringLiteral("https"), QStringLiteral("socket"), QStringLiteral("lpd"),
+      QStringLiteral("dnssd"), QStringLiteral("smb"),    QStringLiteral("snmp")};
+  return network.contains(scheme.toLower());
+}
+
+/// The device URI inside of one for the backend that tries again: "beh:/1/3/5/URI", three numbers
+/// before it. Any other text as it is.
+QString withoutRetries(const QString &text) {
+  static const QRegularExpression wrapper(QStringLiteral("^beh:/\\d+/\\d+/\\d+/"),
+                                          QRegularExpression::CaseInsensitiveOption);
+  QString inner = text;
+  return inner.remove(wrapper);
 }
 
 /// libcups refuses bytes beyond ASCII and blanks that some tools leave unescaped in service names.
@@ -52,8 +63,8 @@ std::optional<DeviceURI> parseDeviceURI(const QString &text) {
   Field resource{};
   int port = 0;
   const http_uri_status_t status = httpSeparateURI(
-      HTTP_URI_CODING_ALL, escaped(text).constData(), scheme.data(), scheme.size(), user.data(),
-      user.size(), host.data(), host.size(), &port, resource.data(), resource.size());
+      HTTP_URI_CODING_ALL, escaped(withoutRetries(text)).constData(), scheme.data(), scheme.size(),
+      user.data(), user.size(), host.data(), host.size(), &port, resource.data(), resource.size());
   if (status < HTTP_URI_STATUS_OK) return std::nullopt;
   DeviceURI result{text, {}};
   if (host[0] != '\0' && schemeHasHost(QString::fromUtf8(scheme.data()))) {

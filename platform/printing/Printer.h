@@ -15,8 +15,9 @@ struct DeviceURI {
   QString text;
 
   /// The host, percent escapes decoded and without the brackets of an IPv6 address; a service name
-  /// is fully qualified, with its final dot. Null for devices without a network host (usb, file,
-  /// parallel, serial ...) and for a URI that names none.
+  /// is fully qualified, with its final dot. Null for a URI that names none, and for any device but
+  /// those that libcups reaches over a network (ipp, ipps, http, https, socket, lpd, dnssd, smb,
+  /// snmp; also inside of "beh:/1/3/5/").
   QString host;
 };
 

@@ -99,6 +99,8 @@ TEST_F(Device, PrintsAPrintersWebAddress) {
   const Outcome found = run("url socket://10.0.0.7:9100");
   EXPECT_EQ(found.status, 0);
   EXPECT_EQ(found.output, "http://10.0.0.7\n");
+  EXPECT_EQ(run("url ipp://MyPrinter.Example.COM/").output, "http://MyPrinter.Example.COM\n");
+  EXPECT_EQ(run("url ipp://192.168.1/").output, "http://192.168.1\n");
   const Outcome none = run("url 'usb://Orvek/6180?serial=1'");
   EXPECT_EQ(none.status, 1);
   EXPECT_EQ(none.output, "");

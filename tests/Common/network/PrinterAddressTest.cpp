@@ -21,8 +21,11 @@ using Place = Responder::Place;
 constexpr const char *serviceURI = "dnssd://Orvek._ipp._tcp.local./?uuid=1234";
 
 QString addressOf(const char *deviceURI) {
-  const QUrl url = GetPrinterURL(PMPrinterCreateWithDeviceURI(QString::fromUtf8(deviceURI)));
-  return url.isEmpty() ? QString() : url.toString();
+  return GetPrinterURLText(PMPrinterCreateWithDeviceURI(QString::fromUtf8(deviceURI)));
+}
+
+QByteArray encodedURLOf(const char *deviceURI) {
+  return GetPrinterURL(PMPrinterCreateWithDeviceURI(QString::fromUtf8(deviceURI))).toEncoded();
 }
 
 QString address(const char *text) {
@@ -49,6 +52,9 @@ TEST(PrinterAddress, IsThePlainHostOfAnAddressOrANameWithoutAnyTraffic) {
 
 TEST(PrinterAddress, PutsAnIPv6AddressIntoBrackets) {
   EXPECT_EQ(addressOf("ipp://[2001:db8::7]:631/ipp"), address("http://[2001:db8::7]"));
+  EXPECT_EQ(addressOf("ipp://[2001:DB8:0::7]/"), address("http://[2001:DB8:0::7]"));
+  EXPECT_EQ(addressOf("ipp://[v1.fe80::1+eth0]/"), address("http://[fe80::1%25eth0]"));
+  EXPECT_EQ(encodedURLOf("ipp://[2001:DB8::7]/"), "http://[2001:db8::7]");
 }
 
 TEST(PrinterAddress, IsAbsentForDevicesWithoutANetworkHost) {
@@ -56,7 +62,32 @@ TEST(PrinterAddress, IsAbsentForDevicesWithoutANetworkHost) {
                           "serial:/dev/ttyS0?baud=9600", "ipp:///ipp", "no uri", ""}) {
     EXPECT_TRUE(addressOf(uri).isNull()) << uri;
   }
+  EXPECT_TRUE(GetPrinterURLText(nullptr).isNull());
   EXPECT_TRUE(GetPrinterURL(nullptr).isEmpty());
+}
+
+TEST(PrinterAddress, KeepsTheLettersOfItsHost) {
+  for (const char *host : {"MyPrinter.Example.COM", "192.168.1", "host-", "a..b", "under_score",
+                           "B\xC3\xBCro.Example", "R&D"}) {
+    EXPECT_EQ(addressOf(("ipp://" + std::string(host) + "/ipp").c_str()).toStdString(),
+              "http://" + std::string(host));
+  }
+}
+
+TEST(PrinterAddress, IsNormalisedAsAURL) {
+  EXPECT_EQ(encodedURLOf("ipp://MyPrinter.Example.COM/"), "http://myprinter.example.com");
+  EXPECT_EQ(encodedURLOf("ipp://192.168.1/"), "http://192.168.0.1");
+  EXPECT_EQ(encodedURLOf("ipp://B%C3%BCro/"), "http://xn--bro-hoa");
+  EXPECT_EQ(encodedURLOf("ipp://host-/"), "");
+}
+
+TEST(PrinterAddress, IsAbsentForHostsThatMayNotStandInAURL) {
+  for (const char *uri : {"ipp://a%20b/", "ipp://a%5Bb%5D/", "ipp://a%3Cb/", "ipp://a%25/",
+                          "ipp://a%25zz/", "ipp://a%5Cb/", "ipp://a%3Ab/", "ipp://%2Fa/",
+                          "ipp://a%40%2Fb/", "ipp://a%C2%85b/", "ipp://a%E2%80%83b/"}) {
+    EXPECT_TRUE(addressOf(uri).isNull()) << uri << " " << addressOf(uri).toStdString();
+    EXPECT_EQ(encodedURLOf(uri), "") << uri;
+  }
 }
 
 TEST(PrinterAddress, IsTheServicesTargetWithItsFinalDotAndWithoutItsPort) {
@@ -83,7 +114,7 @@ TEST(PrinterAddress, StaysTheServiceNameWhereTheReplyHasNoAnswer) {
   NEEDS_OWN_NETWORK();
   EXPECT_EQ(addressWithAnswer(
                 [](const Bytes &query, int) { return std::vector<Bytes>{replyTo(query, 0, {})}; }),
-            address("http://orvek._ipp._tcp.local."));
+            address("http://Orvek._ipp._tcp.local."));
 }
 
 TEST(PrinterAddress, StaysTheServiceNameWhereTheFirstAnswerIsOfAnotherType) {
@@ -96,7 +127,7 @@ TEST(PrinterAddress, StaysTheServiceNameWhereTheFirstAnswerIsOfAnotherType) {
                           join(pointer(headerSize), recordHeader(typeTXT, text.size()), text,
                                pointer(headerSize), recordHeader(typeSRV, data.size()), data))};
             }),
-            address("http://orvek._ipp._tcp.local."));
+            address("http://Orvek._ipp._tcp.local."));
 }
 
 TEST(PrinterAddress, StaysTheServiceNameWhereTheQuestionCantBeSkipped) {
@@ -108,7 +139,7 @@ TEST(PrinterAddress, StaysTheServiceNameWhereTheQuestionCantBeSkipped) {
               return std::vector<Bytes>{join(header(1, 1), pointer(headerSize + 6),
                                              number16(typeSRV), number16(1), question)};
             }),
-            address("http://orvek._ipp._tcp.local."));
+            address("http://Orvek._ipp._tcp.local."));
 }
 
 TEST(PrinterAddress, StaysTheServiceNameWhereTheAnswerIsCutOff) {
@@ -116,7 +147,7 @@ TEST(PrinterAddress, StaysTheServiceNameWhereTheAnswerIsCutOff) {
   EXPECT_EQ(addressWithAnswer([](const Bytes &query, int) {
               return std::vector<Bytes>{replyTo(query, 1, pointer(headerSize))};
             }),
-            address("http://orvek._ipp._tcp.local."));
+            address("http://Orvek._ipp._tcp.local."));
 }
 
 TEST(PrinterAddress, IsAbsentForAnUnresolvedServiceNameThatMakesNoURL) {
@@ -134,6 +165,30 @@ TEST(PrinterAddress, AsksNothingForANameThatIsTooLongOrNotLatin) {
   addressOf(("dnssd://" + std::string(245, 'a') + "._tcp.local./").c_str());
   addressOf("dnssd://%E3%83%97%E3%83%AA._ipp._tcp.local./");
   EXPECT_TRUE(responder.queries().empty());
+}
+
+TEST(PrinterAddress, ReadsNothingBehindTheAnswerOfALongerReplyByConnection) {
+  NEEDS_OWN_NETWORK();
+  Responder nameServer(Place::OwnHostByName, [](const Bytes &query, int) {
+    // Questions for the root name up to the end of the reply, which lies behind the answer's.
+    constexpr int questions = (1870 - headerSize) / 5;
+    Bytes reply = withIdentifierOf(query, header(questions, 1));
+    for (int i = 0; i < questions; ++i) reply = join(reply, Bytes{0, 0, 33, 0, 1});
+    reply.resize(1870);
+    return std::vector<Bytes>{reply};
+  });
+  resolveThrough(nameServer);
+  EXPECT_EQ(addressOf("dnssd://Orvek._ipp._tcp.local.example/"),
+            address("http://Orvek._ipp._tcp.local.example."));
+  EXPECT_EQ(nameServer.queries().size(), 2U);
+}
+
+TEST(PrinterAddressDeathTest, StopsForATargetThatBeginsWithTheLargestByte) {
+  NEEDS_OWN_NETWORK();
+  EXPECT_DEATH(addressWithAnswer([](const Bytes &query, int) {
+                 return std::vector<Bytes>{serviceReplyTo(query, name({"\xFFprinter"}))};
+               }),
+               "\\*host != NULL");
 }
 
 TEST(PrinterAddressDeathTest, StopsForATargetThatIsNotASCII) {

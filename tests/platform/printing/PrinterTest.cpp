@@ -40,9 +40,23 @@ TEST(DeviceURI, MayHoldUnescapedTextBeyondASCII) {
 TEST(DeviceURI, OfALocalDeviceHasNoHost) {
   for (const char *uri :
        {"usb://Orvek/6180?serial=1", "file:///dev/null", "file:/dev/null", "parallel:/dev/lp0",
-        "serial:/dev/ttyS0?baud=9600", "hp:/usb/Some_Printer?serial=1"}) {
+        "serial:/dev/ttyS0?baud=9600", "hp:/usb/Some_Printer?serial=1", "hpfax://maker/model",
+        "cups-brf://somewhere/", "beh:/1/3/5/usb://Orvek/6180"}) {
     EXPECT_EQ(hostOf(uri), "none") << uri;
   }
+}
+
+TEST(DeviceURI, OfEveryNetworkDeviceHasAHost) {
+  for (const char *scheme :
+       {"ipp", "ipps", "http", "https", "socket", "lpd", "dnssd", "smb", "snmp", "IPP"}) {
+    EXPECT_EQ(hostOf((std::string(scheme) + "://Host/").c_str()), "Host") << scheme;
+  }
+}
+
+TEST(DeviceURI, IsFoundInsideOfTheOneThatTriesAgain) {
+  EXPECT_EQ(hostOf("beh:/1/3/5/socket://printer:9100"), "printer");
+  EXPECT_EQ(hostOf("beh:/1/3/5/dnssd://A%20B._ipp._tcp.local/"), "A B._ipp._tcp.local.");
+  EXPECT_EQ(hostOf("beh:/1/3/socket://printer"), "none");
 }
 
 TEST(DeviceURI, IsNotMadeOfAnything) {
