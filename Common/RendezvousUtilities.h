@@ -27,10 +27,10 @@ extern struct sockaddr_in mDNS_addr;
 /// Asks for the records of `rrType` and `rrClass` (RFC 1035, section 3.2) of `name`. A name whose
 /// last label is "local" in any case, with or without a final dot, is asked for by multicast on
 /// each interface that is up, multicast-capable and not point-to-point, three times a second apart;
-/// any other name through the system's resolver (all names on system 10.2.3 and later). Gives the
-/// length of the reply, of which `answer` holds at most `answerSize` bytes, or -1 with errno set:
-/// ETIMEDOUT where no reply came within about 3 seconds, EINVAL for a null name or answer or a size
-/// below 1.
+/// any other name through the system's resolver (all names on system 10.2.3 and later). Gives how
+/// many bytes of the reply `answer` holds, `answerSize` at most: what would not fit is cut off. Or
+/// -1 with errno set: ETIMEDOUT where no reply came within about 3 seconds, EINVAL for a null name
+/// or answer or a size below 1.
 int mDNS_res_query(const char *name, int rrClass, int rrType, unsigned char *answer,
                    int answerSize);
 
@@ -64,7 +64,15 @@ int decode_srv(const unsigned char **cursor, const unsigned char *start, int len
 int decode_txt(const unsigned char **cursor, const unsigned char *start, int length,
                unsigned char *buffer, unsigned int *size);
 
-}  // extern "C"
-
+// Clang notes that C has no strings like these; callers declare the function in C++.
+#ifdef __clang__
+#pragma clang diagnostic push
+#pragma clang diagnostic ignored "-Wreturn-type-c-linkage"
+#endif
 /// The first IPv4 address of `host` in dotted-decimal, or `host` itself where it does not resolve.
 QString ResolveToIP(const QString &host);
+#ifdef __clang__
+#pragma clang diagnostic pop
+#endif
+
+}  // extern "C"
