@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
+#include <utility>
 
 #include "Common/RendezvousUtilities.h"
 #include "Common/ReplyCursor.h"
@@ -142,8 +143,7 @@ QString GetPrinterURLText(PMPrinter printer) {
   return shown.isNull() ? QString() : QLatin1String("http://") + shown;
 }
 
-// NOLINTNEXTLINE(performance-unnecessary-value-param)
 QUrl GetPrinterURL(PMPrinter printer) {
-  const QUrl url(GetPrinterURLText(printer), QUrl::StrictMode);
+  const QUrl url(GetPrinterURLText(std::move(printer)), QUrl::StrictMode);
   return url.isValid() && !url.host().isEmpty() ? url : QUrl();
 }
