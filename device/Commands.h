@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// The commands of orvek-device. Each gets its words as main() does, its own name first, and gives
-// the exit status.
+// The commands of orvek-device, each in a module of its own.
 #pragma once
 
 #include <cstdio>
@@ -20,12 +19,6 @@ struct Output {
   std::FILE *file;
 };
 
-int urlCommand(int count, char **words, Output output);
-int pingCommand(int count, char **words, Output output);
-int mdnsCommand(int count, char **words, Output output);
-int fetchCommand(int count, char **words, Output output);
-int xmlCommand(int count, char **words, Output output);
-
 /// Writes "orvek-device: WHAT: WHY" (or "orvek-device: WHY" for a null `what`) to the standard
 /// error and gives `status`.
 int complain(ExitStatus status, const char *what, const char *why);
@@ -34,3 +27,7 @@ int complain(ExitStatus status, const char *what, const char *why);
 int misuse(const char *what, const char *why);
 
 }  // namespace orvek::device
+
+/// What each module defines: its command. Gets its words as main() does, its own name first, and
+/// gives the exit status.
+extern "C" int orvekDeviceCommand(int count, char **words, orvek::device::Output output);

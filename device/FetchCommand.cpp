@@ -70,7 +70,10 @@ int readArguments(int count, char **words, FetchArguments *arguments) {
 
 }  // namespace
 
-int fetchCommand(int count, char **words, Output output) {
+}  // namespace orvek::device
+
+int orvekDeviceCommand(int count, char **words, orvek::device::Output output) {
+  using namespace orvek::device;
   FetchArguments arguments;
   if (const int status = readArguments(count, words, &arguments)) return status;
   const QByteArray document =
@@ -81,5 +84,3 @@ int fetchCommand(int count, char **words, Output output) {
   }
   return Done;
 }
-
-}  // namespace orvek::device

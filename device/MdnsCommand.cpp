@@ -51,7 +51,10 @@ std::optional<int> typeNumber(const char *text) {
 
 }  // namespace
 
-int mdnsCommand(int count, char **words, Output output) {
+}  // namespace orvek::device
+
+int orvekDeviceCommand(int count, char **words, orvek::device::Output output) {
+  using namespace orvek::device;
   if (count != 3) return misuse(words[0], "give a name and a type");
   const std::optional<int> type = typeNumber(words[2]);
   if (!type) return misuse(words[2], "this is no type: give SRV, TXT, A, PTR, ANY or a number");
@@ -63,5 +66,3 @@ int mdnsCommand(int count, char **words, Output output) {
   for (const std::string &line : lines) std::fprintf(output.file, "%s\n", line.c_str());
   return lines.empty() ? complain(Negative, words[1], "the reply holds no answer") : Done;
 }
-
-}  // namespace orvek::device

@@ -102,12 +102,13 @@ int report(const char *host, int result) {
 
 }  // namespace
 
-int pingCommand(int count, char **words, Output /*output*/) {
+}  // namespace orvek::device
+
+int orvekDeviceCommand(int count, char **words, orvek::device::Output /*output*/) {
+  using namespace orvek::device;
   PingArguments arguments;
   if (const int status = readArguments(count, words, &arguments)) return status;
   const int result = SimplePing(arguments.host, arguments.requests, arguments.limitMilliseconds,
                                 arguments.stopAfterFirstReceive ? 1 : 0);
   return report(arguments.host, result);
 }
-
-}  // namespace orvek::device

@@ -18,13 +18,16 @@ bool openFile(const char *path, QFile *file) {
 
 }  // namespace
 
-int xmlCommand(int count, char **words, Output output) {
+}  // namespace orvek::device
+
+int orvekDeviceCommand(int count, char **words, orvek::device::Output output) {
+  using namespace orvek::device;
   if (count != 3) return misuse(words[0], "give a file and an element's name");
   QFile file;
   if (!openFile(words[1], &file)) {
     return complain(Negative, words[1], file.errorString().toUtf8().constData());
   }
-  const auto document = parseXML(file.readAll(), QString::fromLocal8Bit(words[1]));
+  const auto document = orvek::parseXML(file.readAll(), QString::fromLocal8Bit(words[1]));
   if (!document) {
     return complain(NotWellFormed, nullptr, document.failure().line().toUtf8().constData());
   }
@@ -33,5 +36,3 @@ int xmlCommand(int count, char **words, Output output) {
   std::fprintf(output.file, "%s\n", value.toUtf8().constData());
   return Done;
 }
-
-}  // namespace orvek::device

@@ -8,6 +8,7 @@
 #include <cstring>
 #include <string_view>
 
+#include "device/CommandModule.h"
 #include "device/Commands.h"
 
 namespace orvek::device {
@@ -36,16 +37,7 @@ constexpr const char *helpText =
     "Exit status: 0 done or reachable; 1 none, or not reachable; 2 bad argument, or unknown\n"
     "host; 3 not well-formed XML.\n";
 
-struct Command {
-  std::string_view name;
-  int (*run)(int count, char **words, Output output);
-};
-
-constexpr std::array<Command, 5> commands{{{"url", urlCommand},
-                                           {"ping", pingCommand},
-                                           {"mdns", mdnsCommand},
-                                           {"fetch", fetchCommand},
-                                           {"xml", xmlCommand}}};
+constexpr std::array<const char *, 5> commands{"url", "ping", "mdns", "fetch", "xml"};
 
 /// Takes the standard output for results and leads everybody else's to the standard error.
 Output takeStandardOutput() {
@@ -70,25 +62,13 @@ int dispatch(int count, char **words, Output output) {
     std::fputs("orvek-device " ORVEK_VERSION "\n", output.file);
     return Done;
   }
-  for (const Command &command : commands) {
-    if (command.name == name) return command.run(count - 1, words + 1, output);
+  for (const char *command : commands) {
+    if (command == name) return runCommandModule(command, count - 1, words + 1, output);
   }
   return misuse(words[1], "there is no such command");
 }
 
 }  // namespace
-
-int complain(ExitStatus status, const char *what, const char *why) {
-  std::fprintf(stderr, "orvek-device: %s%s%s\n", what == nullptr ? "" : what,
-               what == nullptr ? "" : ": ", why);
-  return status;
-}
-
-int misuse(const char *what, const char *why) {
-  std::fprintf(stderr, "orvek-device: %s%s%s (see orvek-device --help)\n",
-               what == nullptr ? "" : what, what == nullptr ? "" : ": ", why);
-  return BadArgument;
-}
 
 }  // namespace orvek::device
 

@@ -8,6 +8,8 @@
 #include <QTemporaryDir>
 #include <algorithm>
 #include <fstream>
+#include <map>
+#include <set>
 #include <sstream>
 
 #include "tests/Common/support/HttpServer.h"
@@ -40,10 +42,13 @@ class Device : public testing::Test {
   }
 
   /// Runs it with `words`, as a shell reads them.
-  Outcome run(const std::string &words) const {
+  Outcome run(const std::string &words, const std::string &environment = {}) const {
+    return runProgram(environment + ORVEK_DEVICE, words);
+  }
+
+  Outcome runProgram(const std::string &program, const std::string &words) const {
     const int status = std::system(
-        (ORVEK_DEVICE " " + words + " >" + path("out") + " 2>" + path("err") + " </dev/null")
-            .c_str());
+        (program + " " + words + " >" + path("out") + " 2>" + path("err") + " </dev/null").c_str());
     return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, contents(path("out")),
             contents(path("err"))};
   }
@@ -93,6 +98,52 @@ TEST_F(Device, RefusesBadCommandLinesInOneLine) {
                             "xml a"}) {
     expectMisuse(words);
   }
+}
+
+/// The libraries of which a command's loading costs most, as far as a run with `words` loads them.
+std::set<std::string> costlyLibrariesIn(const std::string &loaderLog) {
+  std::set<std::string> found;
+  for (const char *library : {"libQt6Core", "libcups", "libcurl", "libpugixml"}) {
+    if (loaderLog.find(std::string("/") + library + ".so") != std::string::npos) {
+      found.insert(library);
+    }
+  }
+  return found;
+}
+
+TEST_F(Device, LoadsOnlyTheLibrariesThatACommandNeeds) {
+  write("a.xml", "<a/>");
+  const std::map<std::string, std::set<std::string>> needed{
+      {"--help", {}},
+      {"ping 127.0.0.1", {}},
+      {"mdns nosuch.invalid A", {}},
+      {"url socket://10.0.0.7", {"libQt6Core", "libcups"}},
+      {"fetch http://127.0.0.1:1/", {"libQt6Core", "libcurl"}},
+      {"xml " + path("a.xml") + " a", {"libQt6Core", "libpugixml"}}};
+  for (const auto &[words, libraries] : needed) {
+    const std::string loaderLog = run(words, "LD_DEBUG=files ").errors;
+    ASSERT_NE(loaderLog.find("/libc.so"), std::string::npos) << words;
+    EXPECT_EQ(costlyLibrariesIn(loaderLog), libraries) << words;
+  }
+}
+
+TEST_F(Device, FindsItsCommandsWhereverTheWholeIsMovedTo) {
+  const std::string place = path("moved");
+  const std::string program = ORVEK_DEVICE;
+  const std::string tree = program.substr(0, program.rfind("/bin/"));
+  const std::string modules = tree + "/" ORVEK_LIBDIR "/orvek-device";
+  ASSERT_EQ(std::system(("mkdir -p " + place + "/bin " + place + "/" ORVEK_LIBDIR " && cp " +
+                         program + " " + place + "/bin && cp -R " + modules + " " + place +
+                         "/" ORVEK_LIBDIR " && ln -s moved/bin/orvek-device " + path("link"))
+                            .c_str()),
+            0);
+  EXPECT_EQ(runProgram(path("link"), "url socket://h").output, "http://h\n");
+  ASSERT_EQ(unlink((place + "/" ORVEK_LIBDIR "/orvek-device/url.so").c_str()), 0);
+  const Outcome missing = runProgram(place + "/bin/orvek-device", "url socket://h");
+  EXPECT_EQ(missing.status, 1);
+  EXPECT_EQ(missing.output, "");
+  EXPECT_TRUE(missing.errors.starts_with("orvek-device: url: ")) << missing.errors;
+  EXPECT_EQ(std::count(missing.errors.begin(), missing.errors.end(), '\n'), 1);
 }
 
 TEST_F(Device, PrintsAPrintersWebAddress) {
