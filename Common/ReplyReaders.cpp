@@ -38,7 +38,7 @@ constexpr const char *shortRecordMessage =
     "decode error, packet too short for type, class, ttl, and length";
 constexpr const char *shortDataMessage = "decode error, packet too short for reported rr length";
 
-int fail(const char *message, int result) {
+[[gnu::noinline]] int fail(const char *message, int result) {
   std::puts(message);
   return result;
 }
@@ -50,21 +50,55 @@ class NameText {
     if (m_output != nullptr) *m_output = '\0';
   }
 
-  /// Appends the label whose text is the `length` bytes behind the cursor, and its dot; false where
-  /// they would not fit.
-  bool append(const ReplyCursor &label, ReplyCursor::Offset length) {
-    constexpr int dotAndEnd = 2;
-    if (m_length + length + dotAndEnd > decodedNameSize) return false;
-    if (m_output != nullptr) {
-      label.copy(1, length, m_output + m_length);
-      m_output[m_length + length] = '.';
-      m_output[m_length + length + 1] = '\0';
+  /// Appends the labels that take `size` bytes from `labels` on, each with its dot; false where
+  /// they would not fit. The common ones go at once: no label is worth a call for itself.
+  bool append(const ReplyCursor &labels, ReplyCursor::Offset size) {
+    if (size == 0) return true;
+    const bool plain = labels.textLength(0, size) == size;
+    if (!plain || m_length + size >= decodedNameSize) {
+      m_length = appendOneByOne(labels, size, m_output, m_length);
+      return m_length <= decodedNameSize;
     }
-    m_length += length + 1;
+    if (m_output != nullptr) writeAll(labels, size, m_output + m_length);
+    m_length += size;
     return true;
   }
 
  private:
+  static constexpr ReplyCursor::Offset tooLong = decodedNameSize + 1;
+
+  static void writeAll(const ReplyCursor &labels, ReplyCursor::Offset size, char *text) {
+    labels.copy(1, size - 1, text);
+    ReplyCursor at = labels;
+    for (ReplyCursor::Offset end = at.byte(); end < size; end += at.byte() + 1) {
+      text[end] = '.';
+      at.moveTo(labels.offset() + end + 1);
+    }
+    text[size] = '\0';
+  }
+
+  /// Gives the length of the text then. A zero byte inside a label ends the label's text, as it
+  /// would end the decoded name. What is rare must not slow down what is common: this stays a call.
+  [[gnu::noinline]] static ReplyCursor::Offset appendOneByOne(ReplyCursor labels,
+                                                              ReplyCursor::Offset size,
+                                                              char *output,
+                                                              ReplyCursor::Offset length) {
+    const ReplyCursor::Offset end = labels.offset() + size;
+    while (labels.offset() < end) {
+      const ReplyCursor::Offset text = labels.textLength(1, labels.byte());
+      constexpr int dotAndEnd = 2;
+      if (length + text + dotAndEnd > decodedNameSize) return tooLong;
+      if (output != nullptr) {
+        labels.copy(1, text, output + length);
+        output[length + text] = '.';
+        output[length + text + 1] = '\0';
+      }
+      length += text + 1;
+      labels.advance(labels.byte() + 1);
+    }
+    return length;
+  }
+
   char *m_output;
   ReplyCursor::Offset m_length = 0;
 };
@@ -76,24 +110,32 @@ class NameDecoder {
 
   int decode() {
     ReplyCursor::Offset loopMark = m_at.offset();
-    while (m_at.inside() && m_at.byte() != 0) {
-      const bool isPointer = (m_at.byte() & pointerMask) == pointerMask;
-      const int result = isPointer ? follow(&loopMark) : takeLabel();
+    for (;;) {
+      const ReplyCursor labels = m_at;
+      const bool ended = passLabels();
+      const bool taken = m_text.append(labels, m_at.offset() - labels.offset());
+      if (!ended || !taken) return fail(pastEndMessage, pastEnd);
+      if (m_at.byte() == 0) break;
+      const int result = follow(&loopMark);
       if (result != 0) return result;
     }
-    if (!m_at.inside()) return fail(pastEndMessage, pastEnd);
     if (m_pointers == 0) m_end->moveTo(m_at.offset() + 1);
     return 0;
   }
 
  private:
-  int takeLabel() {
-    const ReplyCursor::Offset length = m_at.byte();
-    if (!m_at.holds(length + 1)) return fail(pastEndMessage, pastEnd);
-    // A zero byte inside a label ends the label's text, as it would end the decoded name.
-    if (!m_text.append(m_at, m_at.textLength(1, length))) return fail(pastEndMessage, pastEnd);
-    m_at.advance(length + 1);
-    return 0;
+  /// Moves past the labels here; false where the reply ends before a pointer or the name's end.
+  bool passLabels() {
+    while (m_at.inside()) {
+      const ReplyCursor::Offset length = m_at.byte();
+      if (length == 0 || (length & pointerMask) == pointerMask) return true;
+      ReplyCursor text = m_at;
+      text.advance(1);
+      if (!text.holds(length)) return false;
+      text.advance(length);
+      m_at = text;
+    }
+    return false;
   }
 
   int follow(ReplyCursor::Offset *loopMark) {
