@@ -6,6 +6,7 @@ namespace bench {
 
 void readers();
 void checksum();
+void largePages();
 void fetch(const char *plainBase, const char *secureBase);
 void echo(const char *program);
 

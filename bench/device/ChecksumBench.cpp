@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
-// The checksum against the plain loops and against just moving the bytes.
+// The checksum against the plain loops and against just moving the bytes. What its four sums buy
+// over the simple form, one sum 64 bits at a time: an echo packet takes 0.7 to 0.9 of its time,
+// 1500 bytes a third, and 64 KiB stay below three times memcpy's, of which the simple form takes
+// eight.
 
 #include <cstdint>
 #include <cstring>
@@ -62,7 +65,8 @@ void compareAt(std::size_t size, double wideGoal, double moveGoal) {
          "ns", goal);
   };
   against("plain 16-bit loop", repeat([&] { keep(plainLoop(bytes.data(), size)); }), 0);
-  against("plain 64-bit loop", repeat([&] { keep(wideLoop(bytes.data(), size)); }), wideGoal);
+  against("the simple form, 64 bits", repeat([&] { keep(wideLoop(bytes.data(), size)); }),
+          wideGoal);
   against("memcpy", repeat([&] {
             std::memcpy(target.data(), bytes.data(), size);
             keep(target);

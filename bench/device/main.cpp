@@ -12,6 +12,7 @@ int main(int count, char **words) {
   bench::head();
   bench::readers();
   bench::checksum();
+  bench::largePages();
   bench::fetch(words[2], words[3]);
   bench::echo(words[1]);
   return 0;
