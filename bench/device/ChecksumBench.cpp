@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The checksum against the plain loops and against just moving the bytes. What its four sums buy
-// over the simple form, one sum 64 bits at a time: an echo packet takes 0.7 to 0.9 of its time,
-// 1500 bytes a third, and 64 KiB stay below three times memcpy's, of which the simple form takes
-// eight.
+// over the simple form, one sum 64 bits at a time: an echo packet takes 0.95 of its time, 1500
+// bytes a third, and 64 KiB stay below three times memcpy, of which the simple form takes five.
 
 #include <cstdint>
 #include <cstring>

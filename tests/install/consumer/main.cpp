@@ -63,6 +63,7 @@ void checkUtilities() {
   check(ResolveToIP(QStringLiteral("127.0.0.1")) == QStringLiteral("127.0.0.1"), "ResolveToIP");
   check(!PrinterIsReachable(QUrl()), "PrinterIsReachable");
   const PMPrinter printer = PMPrinterCreateWithDeviceURI(QStringLiteral("socket://10.0.0.7"));
+  check(GetPrinterURLText(printer) == QStringLiteral("http://10.0.0.7"), "GetPrinterURLText");
   check(GetPrinterURL(printer) == QUrl(QStringLiteral("http://10.0.0.7")), "GetPrinterURL");
   check(GetURLWithAuthentication(QUrl(), {}, {}).isEmpty(), "GetURLWithAuthentication");
   check(GetURLWithAuthentication_SSL(QUrl(), {}, {}).isEmpty(), "GetURLWithAuthentication_SSL");
