@@ -49,7 +49,8 @@ void OrvekFinishing::fillTargetPaperSizePopup() {
   addItem(paperSizePopup, {localizedString(pluginBundle.get(), fitCurrentJobString)});
   // The last size is custom paper, which a booklet can't be scaled to.
   for (int i = 0; i < paperSizeOption->num_choices - 1; ++i) {
-    addItem(paperSizePopup, {userTitle(recordAt(paperSizeChoices.get(), std::size_t(i)))});
+    const PDEChoice *size = recordAt(paperSizeChoices.get(), std::size_t(i));
+    addItem(paperSizePopup, {userTitle(size), nullptr, ppdTitle(size)});
   }
 }
 

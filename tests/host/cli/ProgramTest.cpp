@@ -134,6 +134,18 @@ TEST(Program, FindsAnItemByIndexKeywordOrTitle) {
   EXPECT_EQ(marked(inspected({"--do", "staplingPopup=2 Staples"}), "OVKStapling"), "Dual");
 }
 
+TEST(Program, FindsATargetPaperByItsKeyword) {
+  const QStringList booklet{"--do", "bookletChckBox=on", "--do"};
+  const QJsonObject byKeyword = inspected(booklet + QStringList{"paperSizePopup=Letter"});
+  const QJsonObject menu = control(byKeyword, "paperSizePopup");
+  const int picked = menu.value("selected").toInt();
+  ASSERT_GT(picked, 0);
+  EXPECT_EQ(inTicket(byKeyword, "OVKTargetPaperSize"), QString::number(picked));
+  const QString title = menu.value("items").toArray()[picked].toObject().value("title").toString();
+  EXPECT_NE(title, "Letter");
+  EXPECT_EQ(inspected(booklet + QStringList{"paperSizePopup=" + title}), byKeyword);
+}
+
 TEST(Program, ActsOnBoxesSlidersAndFieldsAsAUserDoes) {
   const QJsonObject state = inspected({"--do", "bookletChckBox=on", "--do", "rToLChckBox=mixed",
                                        "--do", "gutterSlider=500", "--do", "creepTxtBox=-7x"});
