@@ -40,9 +40,8 @@ class Sources(MadeUpTree):
         for text in [
             "see /ho" + "me/jane/notes",
             "TO" + "DO: later",
-            "as Part" + " 3 says",
-            "the sp" + "ec says so",
-            "see iss" + "ue #12",
+            "written to /t" + "mp/out",
+            "X" + "XX: why?",
             "<<<<<" + "<< HEAD",
         ]:
             with self.subTest(text=text):
