@@ -77,8 +77,7 @@ class OrvekFinishing : public QObject, public PDEPanel, public PDEInspection {
   /// An index into a choice list that stands for "no current choice": the all-ones word.
   static constexpr std::size_t noCurrentChoice = ~std::size_t{0};
 
-  // --- 1. Life in the host (Lifecycle.cpp)
-  // ---------------------------------------------------------
+  // 1. Life in the host: Lifecycle.cpp
 
   /// Makes the panel: takes a counted reference to callback and bundle (either may be null), looks
   /// up the five options it takes charge of, and notes the calling application in the ticket.
@@ -112,8 +111,7 @@ class OrvekFinishing : public QObject, public PDEPanel, public PDEInspection {
   /// Points the four finishing pop-ups at the current selections.
   void updateUI();
 
-  // --- 2. Choices and marks (Choices.cpp)
-  // ----------------------------------------------------------
+  // 2. Choices and marks: Choices.cpp
 
   /// One record per choice, in the PPD's order; null for an absent option.
   static std::unique_ptr<PDEChoiceList> arrayFromPPDOption(ppd_option_t *option);
@@ -128,8 +126,7 @@ class OrvekFinishing : public QObject, public PDEPanel, public PDEInspection {
   /// The record of the pop-up's selected item (null: none), announced to the host on every call.
   const PDEChoice *selectionForPopUp_withKey(QComboBox *popUp, const char *keyword);
 
-  // --- 3. Ticket (Ticket.cpp)
-  // ----------------------------------------------------------------------
+  // 3. Ticket: Ticket.cpp
 
   /// Writes the six booklet keys from the controls. Nothing without booklet maker or ticket.
   void syncToTicket();
@@ -138,14 +135,12 @@ class OrvekFinishing : public QObject, public PDEPanel, public PDEInspection {
   /// gives way to several pages per sheet.
   void reloadControlsWithPresets();
 
-  // --- 4. Summary (Summary.cpp)
-  // --------------------------------------------------------------------
+  // 4. Summary: Summary.cpp
 
   /// What the controls show: title to text. Lines without title or value are left out.
   QMap<QString, QString> summaryInfo() override;
 
-  // --- 5. Construction (Construction.cpp)
-  // ----------------------------------------------------------
+  // 5. Construction: Construction.cpp
 
   /// Fills menus and labels from the PPD. kPMInvalidPDEContext, and nothing filled, for a PPD of
   /// another maker's driver.
@@ -159,11 +154,10 @@ class OrvekFinishing : public QObject, public PDEPanel, public PDEInspection {
   /// absent option.
   static void setLocalizedStringForLabel_fromPPDOption(QLabel *label, const ppd_option_t *option);
 
-  // --- 6. Changes (Changes.cpp)
-  // -------------------------------------------------------------------- Actions take the sending
-  // control. Stapling and folding exclude each other: a real choice of one sets the other to its
-  // first.
+  // 6. Changes: Changes.cpp
 
+  /// What the controls' actions call; each takes the sending control. Stapling and folding exclude
+  /// each other: a real choice of one sets the other to its first.
   Q_INVOKABLE void changeStaplingOption(QWidget *sender);
   Q_INVOKABLE void changeFoldingOption(QWidget *sender);
   Q_INVOKABLE void changePunchOption(QWidget *sender);
@@ -178,13 +172,14 @@ class OrvekFinishing : public QObject, public PDEPanel, public PDEInspection {
   /// Enables the hole-punch items that the installed unit can make. Once, when the menu is filled.
   void validateHolePunchMenuItems();
 
-  // --- 7. Booklet (Booklet.cpp)
-  // -------------------------------------------------------------------- Each handler writes its
-  // ticket key at once, and none without a ticket.
+  // 7. Booklet: Booklet.cpp
 
-  /// Fills the target paper sizes: the current job's, then all but the last of the PPD's.
+  /// Fills the target paper sizes: the current job's, then all but the last of the PPD's, known to
+  /// scripts by their keywords.
   void fillTargetPaperSizePopup();
 
+  /// What the controls' actions call. Each writes its ticket key at once, and nothing without a
+  /// ticket.
   Q_INVOKABLE void changePaperSizeOption(QWidget *sender);
   Q_INVOKABLE void enableBookletChange(QWidget *sender);
   Q_INVOKABLE void rToLChange(QWidget *sender);
@@ -195,21 +190,20 @@ class OrvekFinishing : public QObject, public PDEPanel, public PDEInspection {
   /// The text of `field` changed under the user's hands.
   Q_INVOKABLE void controlTextDidChange(QWidget *field);
 
-  // --- 8. Stapling preview (StaplingPreview.cpp)
-  // ---------------------------------------------------
+  // 8. Stapling preview: StaplingPreview.cpp
 
   /// Shows the picture of the finished sheet for the current stapling and folding.
   void updateStaplingImage();
 
-  // --- 9. Inspection (Inspection.cpp)
-  // --------------------------------------------------------------
+  // 9. Inspection: Inspection.cpp
 
   QList<QPair<QString, QWidget *>> inspectedControls() const override;
   QList<QPair<QString, QString>> inspectedSelections() const override;
   QString inspectedModelNumber() const override { return modelNumber; }
 
  private:
-  friend struct OrvekFinishingAccess;  // lets tests stand in states that no printer reaches
+  // Lets tests stand in states that no printer reaches.
+  friend struct OrvekFinishingAccess;
 
   OrvekFinishing(std::shared_ptr<PDEPluginCallback> callback,
                  std::shared_ptr<orvek::Bundle> bundle);
@@ -219,7 +213,8 @@ class OrvekFinishing : public QObject, public PDEPanel, public PDEInspection {
   // Of section 3
   void loadBookletControlsFromTicket();
   void writeTicket(QLatin1String key, const QString &value);
-  void writeFlag(QLatin1String key, const QCheckBox *box);  // any state but off is "True"
+  // Any state but off is "True".
+  void writeFlag(QLatin1String key, const QCheckBox *box);
   void writeNumber(QLatin1String key, int number);
   // Of section 4
   void addFinishingLine(QMap<QString, QString> &lines, const PDEChoiceList *choices,
@@ -236,12 +231,12 @@ class OrvekFinishing : public QObject, public PDEPanel, public PDEInspection {
   QString imageKey() const;
   QString imageFileName() const;
 
-  // ----- The fields, in the order and under the names that every source of the panel knows
-  // ---------
+  // The fields, in the order and under the names that every source of the panel knows.
 
-  // Host objects. PPD, session and ticket are lent by the host.
+  // Host objects. PPD, session and ticket are lent by the host; the name is null until first asked
+  // for.
   std::shared_ptr<PDEPluginCallback> pdePluginCallbackObject;
-  QString thePDEName;  // null until first asked for
+  QString thePDEName;
   std::shared_ptr<orvek::Bundle> pluginBundle;
   ppd_file_t *ppd = nullptr;
   PMPrintSession session = nullptr;
@@ -274,19 +269,23 @@ class OrvekFinishing : public QObject, public PDEPanel, public PDEInspection {
   QSlider *gutterSlider = nullptr;
   QSlider *creepSlider = nullptr;
 
-  // Flags
-  bool useConstraintHandling = false;  // true from creation on; every pick is announced
-  bool canResizeView = false;          // the host answers panelViewDidResize
-  bool hasBooklet = false;             // the PPD says OVKHasBooklet
-  bool initialized = false;            // menus filled
-  bool uiInitialized = false;          // rows arranged
+  // Every pick is announced: true from creation on.
+  bool useConstraintHandling = false;
+  // The host answers panelViewDidResize.
+  bool canResizeView = false;
+  // The PPD says OVKHasBooklet.
+  bool hasBooklet = false;
+  // Menus filled; rows arranged.
+  bool initialized = false;
+  bool uiInitialized = false;
 
-  // Model and sizes
-  QString modelNumber;  // null until the menus were filled
+  // Null until the menus were filled.
+  QString modelNumber;
+  // In points: of the basic view, and of the view with the booklet section below it.
   QSizeF basicSize{0, 0};
   QSizeF advancedSize{0, 0};
 
-  // The six options, lent by the PPD
+  // The six options, lent by the PPD.
   ppd_option_t *staplingOption = nullptr;
   ppd_option_t *foldingOption = nullptr;
   ppd_option_t *punchOption = nullptr;
@@ -294,15 +293,16 @@ class OrvekFinishing : public QObject, public PDEPanel, public PDEInspection {
   ppd_option_t *paperSizeOption = nullptr;
   ppd_option_t *offsetCollatedSetOtion = nullptr;
 
-  // The six selections: records of the lists below, never counted
+  // The six selections: records of the lists below, never counted. The paper size is never set, and
+  // the summary copes.
   const PDEChoice *staplingSelection = nullptr;
   const PDEChoice *foldingSelection = nullptr;
   const PDEChoice *punchSelection = nullptr;
   const PDEChoice *paperDestSelection = nullptr;
-  const PDEChoice *paperSizeSelection = nullptr;  // never set; the summary copes
+  const PDEChoice *paperSizeSelection = nullptr;
   const PDEChoice *offsetCollatedSetSelection = nullptr;
 
-  // The six lists
+  // The six lists, absent where their option is.
   std::unique_ptr<PDEChoiceList> staplingChoices;
   std::unique_ptr<PDEChoiceList> foldingChoices;
   std::unique_ptr<PDEChoiceList> punchChoices;

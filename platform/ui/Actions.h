@@ -11,9 +11,10 @@ class QWidget;
 
 namespace orvek {
 
-/// Dynamic properties of an interface resource.
-inline constexpr const char *actionProperty = "action";      ///< e.g. "changeFoldingOption:"
-inline constexpr const char *delegateProperty = "delegate";  ///< "owner": told of changes of text
+/// Dynamic properties of an interface resource: the operation that a control sends, for example
+/// "changeFoldingOption:", and, as "owner", who is told of changes of a field's text.
+inline constexpr const char *actionProperty = "action";
+inline constexpr const char *delegateProperty = "delegate";
 
 /// The C++ method for an operation's name: the last colon dropped, the others as "_".
 QString methodName(const QString &operation);

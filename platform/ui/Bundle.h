@@ -43,10 +43,12 @@ class Bundle : public std::enable_shared_from_this<Bundle> {
   void readStrings() const;
 
   QString m_path;
-  QStringList m_folders;  // absolute, in the order of look-up
+  // Absolute, in the order of look-up.
+  QStringList m_folders;
   std::optional<QJsonObject> m_info;
   QString m_infoProblem;
-  mutable std::optional<QHash<QString, QString>> m_strings;  // read when first asked for
+  // Read when first asked for.
+  mutable std::optional<QHash<QString, QString>> m_strings;
 };
 
 /// The null-safe vocabulary: an absent bundle has no texts (null), no resources (null), no
