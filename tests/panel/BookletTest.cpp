@@ -38,9 +38,15 @@ TEST_F(Booklet, OneSizeGivesOnlyTheCurrentJob) {
   EXPECT_EQ(paperSizes(), QStringList{fitCurrentJob()});
 }
 
-TEST_F(Booklet, PaperItemsCarryNoRecord) {
-  open(fullPrinter());
+TEST_F(Booklet, PaperItemsCarryNoRecordButTheirKeyword) {
+  OptionText sizes = pageSizeOption();
+  sizes.choices[3].text = QStringLiteral("US Letter");
+  open(fullPrinter().option(sizes));
   EXPECT_EQ(representedObject(popUp("paperSizePopup"), 1), nullptr);
+  EXPECT_TRUE(itemIdentifier(popUp("paperSizePopup"), 0).isNull());
+  EXPECT_EQ(itemIdentifier(popUp("paperSizePopup"), 1), QStringLiteral("A3"));
+  EXPECT_EQ(itemIdentifier(popUp("paperSizePopup"), 4), QStringLiteral("Letter"));
+  EXPECT_EQ(itemTitle(popUp("paperSizePopup"), 4), QStringLiteral("US Letter"));
 }
 
 TEST_F(Booklet, WithoutPageSizeMenuAndLabelAreHidden) {
@@ -91,6 +97,17 @@ TEST_F(Booklet, AMixedBoxChangesNoSizeButTellsTheHostAndWritesTrue) {
   EXPECT_EQ(frameSize(view("pdeView")), size);
   EXPECT_EQ(std::static_pointer_cast<ResizingHost>(host)->resized, before + 1);
   EXPECT_EQ(ticketText("OVKEnableBooklet"), QStringLiteral("True"));
+}
+
+TEST_F(Booklet, TheTicketFollowsTheBoxWhoeverSendsItsAction) {
+  open(fullPrinter());
+  show();
+  setState(box("bookletChckBox"), stateOn);
+  setState(box("rToLChckBox"), stateOff);
+  panel->enableBookletChange(box("rToLChckBox"));
+  EXPECT_EQ(ticketText("OVKEnableBooklet"), QStringLiteral("True"));
+  // The size follows the sender all the same.
+  EXPECT_TRUE(isHidden(view("bookletView")));
 }
 
 TEST_F(Booklet, OnAFixedHostTheBoxChangesOnlyTheTicket) {

@@ -64,6 +64,15 @@ TEST_F(Changes, WithoutFoldingAStapleIsAnnouncedAlone) {
   EXPECT_NE(imageName(label("imageWindow")), before);
 }
 
+TEST_F(Changes, WithoutStaplingAFoldIsAnnouncedAlone) {
+  open(fullPrinter().without(QStringLiteral("OVKStapling")));
+  show();
+  pick("foldingPopup", 2);
+  EXPECT_EQ(asText(host->announced), QStringLiteral("OVKFolding=Saddle"));
+  EXPECT_EQ(selection("folding"), QStringLiteral("Saddle"));
+  EXPECT_TRUE(selection("stapling").isNull());
+}
+
 TEST_F(Changes, AStaplingMenuWithoutSelectionDoesNotResetFolding) {
   open(fullPrinter());
   show();

@@ -80,6 +80,34 @@ TEST_F(Construction, TheOffsetBinAloneShowsTheOutputRowMovedUp90Points) {
   }
 }
 
+TEST_F(Construction, EquipmentIsMissingHoweverFalseIsSpelled) {
+  for (const char *keyword : {"FALSE", "False", "false"}) {
+    const QStringList choices{QLatin1String(keyword), QStringLiteral("True")};
+    open(fullPrinter().option(finisher(keyword, choices)).option(offsetBin(keyword, choices)));
+    EXPECT_TRUE(isHidden(popUp("staplingPopup"))) << keyword;
+    EXPECT_TRUE(isHidden(popUp("paperDestPopup"))) << keyword;
+  }
+}
+
+TEST_F(Construction, EquipmentIsThereHoweverTrueIsSpelled) {
+  for (const char *keyword : {"TRUE", "True", "true"}) {
+    open(fullPrinter()
+             .option(finisher(keyword, {QStringLiteral("False"), QLatin1String(keyword)}))
+             .without(QStringLiteral("OVKOptionOffsetBin")));
+    EXPECT_EQ(numberOfItems(popUp("staplingPopup")), 7) << keyword;
+    EXPECT_EQ(numberOfItems(popUp("paperDestPopup")), 3) << keyword;
+  }
+}
+
+TEST_F(Construction, AThirdOffsetBinKeywordShowsTheOutputRowWithAnEmptyMenu) {
+  open(fullPrinter()
+           .without(QStringLiteral("OVKOptionFinisher"))
+           .option(offsetBin("Maybe", {QStringLiteral("False"), QStringLiteral("Maybe")})));
+  EXPECT_TRUE(isHidden(popUp("staplingPopup")));
+  EXPECT_FALSE(isHidden(popUp("paperDestPopup")));
+  EXPECT_EQ(numberOfItems(popUp("paperDestPopup")), 0);
+}
+
 TEST_F(Construction, WithoutBookletAttributeItsRowStaysAsEmptyRoom) {
   PPDText text;
   text.option(staplingOption()).option(foldingOption()).option(punchOption());
@@ -163,6 +191,15 @@ TEST_F(Construction, ThePPDsDefaultsAreSelected) {
   EXPECT_EQ(indexOfSelectedItem(popUp("staplingPopup")), 3);
   EXPECT_EQ(indexOfSelectedItem(popUp("paperDestPopup")), 1);
   EXPECT_EQ(state(box("offsetChckBox")), stateOn);
+}
+
+TEST_F(Construction, TheOffsetBoxStartsOnOnlyWhereItsDefaultIsTrueToTheLetter) {
+  for (const char *keyword : {"TRUE", "true", "Yes"}) {
+    OptionText jog = jogOption(QLatin1String(keyword));
+    jog.choices[1].keyword = QLatin1String(keyword);
+    open(fullPrinter().option(jog));
+    EXPECT_EQ(state(box("offsetChckBox")), stateOff) << keyword;
+  }
 }
 
 TEST_F(Construction, ADefaultKeywordThatDoesNotDecodeLeavesTheMenu) {

@@ -86,6 +86,24 @@ TEST_F(Lifecycle, OnAResizingHostStartsInTheShortForm) {
   EXPECT_TRUE(isEnabled(box("bookletChckBox")));
 }
 
+TEST_F(Lifecycle, APrinterWithoutBookletKeepsTheShortForm) {
+  PPDText text;
+  text.option(jogOption());
+  open(text);
+  const QSizeF basic = OrvekFinishingAccess::basicSize(*panel);
+  for (int i = 0; i < 2; ++i) {
+    EXPECT_TRUE(isHidden(view("bookletView")));
+    EXPECT_EQ(frameSize(view("pdeView")), basic);
+    show();
+  }
+}
+
+TEST_F(Lifecycle, AsksItsHostForPPDSessionAndTicketInOrder) {
+  create(openPPD(fullPrinter()));
+  EXPECT_EQ(host->calls.join(QLatin1Char(' ')),
+            QStringLiteral("ppdFile printSession printSettings"));
+}
+
 TEST_F(Lifecycle, TheAdvancedSizeAddsBothHeights) {
   open(fullPrinter());
   const QSizeF booklet = frameSize(view("bookletView"));

@@ -67,13 +67,15 @@ class RecordingHost : public PDEPluginCallback {
  public:
   RecordingHost(ppd_file_t *ppd, std::shared_ptr<Ticket> ticket);
   ppd_file_t *ppdFile() override;
-  PMPrintSession printSession() override { return nullptr; }
-  PMPrintSettings printSettings() override { return settings.get(); }
+  PMPrintSession printSession() override;
+  PMPrintSettings printSettings() override;
   bool willChangePPDOptionKeyValue_ppdChoice(const QString &key, const QString &choice) override;
 
-  QStringList calls;  // what was asked of the host, in order
+  // What the host was asked for, in order.
+  QStringList calls;
   Announced announced;
-  std::unique_ptr<PrintSettings> settings;  // null: a host without ticket
+  // Null: a host without ticket.
+  std::unique_ptr<PrintSettings> settings;
 
  private:
   ppd_file_t *m_ppd;

@@ -57,6 +57,23 @@ TEST_F(StaplingPreview, SaddleWinsOverAnyStapleAndFoldShowsNone) {
   EXPECT_EQ(shown(), listed("OVStaplingPICTs", "None"));
 }
 
+// No pick leaves both a staple and a fold selected; marks that a host made without the panel can.
+TEST_F(StaplingPreview, WhereBothAreSelectedTheFoldDecides) {
+  openModel("Orvek 4150");
+  const auto select = [this](std::size_t staple, std::size_t fold) {
+    OrvekFinishingAccess::staplingSelection(*panel) =
+        OrvekFinishingAccess::staplingChoices(*panel)->at(staple).get();
+    OrvekFinishingAccess::foldingSelection(*panel) =
+        OrvekFinishingAccess::foldingChoices(*panel)->at(fold).get();
+    panel->updateStaplingImage();
+    return shown();
+  };
+  EXPECT_EQ(select(1, 2), listed("OVStaplingPICTs", "Saddle"));
+  EXPECT_EQ(select(1, 1), listed("OVStaplingPICTs", "None"));
+  EXPECT_EQ(select(4, 1), listed("OVStaplingPICTs", "None"));
+  EXPECT_EQ(select(1, 0), listed("OVStaplingPICTs", "Front"));
+}
+
 TEST_F(StaplingPreview, WithoutFoldingTheStapleAloneDecides) {
   open(fullPrinter().without(QStringLiteral("OVKFolding")));
   show();

@@ -37,6 +37,13 @@ TEST_F(Summary, SaysTheOffsetEvenWhereItIsAlone) {
   EXPECT_EQ(line("Offset sets"), QStringLiteral("True"));
 }
 
+TEST_F(Summary, AMixedOffsetBoxReadsFalse) {
+  open(fullPrinter());
+  show();
+  click("offsetChckBox", stateMixed);
+  EXPECT_EQ(line("Offset sets"), QStringLiteral("False"));
+}
+
 TEST_F(Summary, WithPageSizeHasFiveBookletLinesAndNoTargetPaper) {
   open(bookletOnly().option(pageSizeOption()));
   show();

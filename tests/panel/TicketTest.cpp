@@ -26,7 +26,9 @@ class TicketExchange : public PanelFixture {
 };
 
 PPDText printerWithoutBooklet() {
-  return fullPrinter().attribute(QStringLiteral("OVKHasBooklet"), QStringLiteral("False"));
+  PPDText text;
+  text.attribute(QStringLiteral("OVKHasBooklet"), QStringLiteral("False")).option(staplingOption());
+  return text;
 }
 
 PPDText plainPrinterWithJog(const QString &marked) {
@@ -43,6 +45,23 @@ TEST_F(TicketExchange, WithoutBookletMakerTouchesNoTicketYetSetsTheOffsetBox) {
   EXPECT_TRUE(ticket->values().isEmpty());
   EXPECT_TRUE(isHidden(box("bookletChckBox")));
   EXPECT_EQ(state(box("offsetChckBox")), stateOn);
+}
+
+TEST_F(TicketExchange, ThePanelHidesTheBookletBoxAgainWhereThereIsNoBookletMaker) {
+  open(printerWithoutBooklet());
+  setHidden(box("bookletChckBox"), false);
+  panel->willShow();
+  EXPECT_TRUE(isHidden(box("bookletChckBox")));
+}
+
+TEST_F(TicketExchange, TheSixKeysAreWrittenInTheirOrder) {
+  open(fullPrinter());
+  QStringList written;
+  ticket->setChangeListener([&](const QString &key) { written << key; });
+  panel->syncToTicket();
+  EXPECT_EQ(written.join(QLatin1Char(' ')),
+            QStringLiteral("OVKTargetPaperSize OVKEnableBooklet OVKRightToLeft OVKPrintPageBorders "
+                           "OVKGutter OVKCreep"));
 }
 
 TEST_F(TicketExchange, AnEmptyTicketGivesTheDefaultsAndReceivesThem) {
@@ -231,6 +250,7 @@ TEST_F(TicketExchange, AllSixKeysAreInTheTicketOnceTheViewIsLoaded) {
   EXPECT_EQ(bookletKeysInTicket().size(), 6);
   ticket = std::make_shared<Ticket>();
   open(printerWithoutBooklet());
+  EXPECT_EQ(bookletKeysInTicket(), QStringList());
 }
 
 }  // namespace
