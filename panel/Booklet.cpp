@@ -28,7 +28,8 @@ TextEncoding encodingOfPPD(const ppd_file_t *ppd) {
   return TextEncoding::ISOLatin1;
 }
 
-// An empty field or a lone "-" is a number about to be typed.
+// An empty field or a lone "-" is a number about to be typed; an absent field reads as an empty
+// one.
 bool isUnfinished(const QString &text) {
   return text.isEmpty() || text == QLatin1String("-");
 }
@@ -90,7 +91,6 @@ void OrvekFinishing::creepSliderTracking(QWidget *) {
 }
 
 void OrvekFinishing::controlTextDidChange(QWidget *field) {
-  if (field == nullptr) return;
   if (field == gutterTxtBox && !isUnfinished(stringValue(gutterTxtBox))) {
     setIntValue(gutterSlider, leadingInteger(stringValue(gutterTxtBox)));
     gutterSliderTracking(gutterSlider);

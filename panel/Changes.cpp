@@ -80,7 +80,7 @@ void OrvekFinishing::validateHolePunchMenuItems() {
 }
 
 OSStatus OrvekFinishing::checkPDEContextCUPSForStaplingBooklet() {
-  const bool stapling = ppd != nullptr && ppdFindAttr(ppd, staplingKeyword, nullptr) != nullptr;
+  const bool stapling = ppdFindAttr(ppd, staplingKeyword, nullptr) != nullptr;
   return stapling || hasBooklet ? noErr : kPMInvalidPDEContext;
 }
 

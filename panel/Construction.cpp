@@ -80,8 +80,7 @@ bool OrvekFinishing::isMarkedNotFalse(const char *keyword) const {
 }
 
 OSStatus OrvekFinishing::initializeUI() {
-  const ppd_attr_t *booklet =
-      ppd == nullptr ? nullptr : ppdFindAttr(ppd, hasBookletAttribute, nullptr);
+  const ppd_attr_t *booklet = ppdFindAttr(ppd, hasBookletAttribute, nullptr);
   if (booklet != nullptr && qstrcmp(booklet->value, trueValue.data()) == 0) hasBooklet = true;
   if (checkFinishingPDEContext() != noErr) return kPMInvalidPDEContext;
 

@@ -30,13 +30,13 @@ constexpr std::array finishingKeywords{staplingKeyword, foldingKeyword, punchKey
 // that was shown once stay with the process.
 void keepForProcessLifetime(std::shared_ptr<Bundle> bundle) {
   static std::vector<std::shared_ptr<Bundle>> kept;
-  if (bundle && std::find(kept.begin(), kept.end(), bundle) == kept.end()) {
+  if (std::find(kept.begin(), kept.end(), bundle) == kept.end()) {
     kept.push_back(std::move(bundle));
   }
 }
 
 void selectRecord(QComboBox *popUp, const PDEChoiceList *list, const PDEChoice *selection) {
-  if (selection == nullptr || list == nullptr) return;
+  if (list == nullptr) return;
   const auto found = std::find_if(list->begin(), list->end(),
                                   [=](const auto &record) { return record.get() == selection; });
   if (found != list->end()) selectItemAtIndex(popUp, static_cast<int>(found - list->begin()));
@@ -82,15 +82,9 @@ void OrvekFinishing::recordApplicationName() {
   writeTicket(appNameKey, name.isNull() ? QStringLiteral("OrvekFinishing") : name);
 }
 
-OrvekFinishing::~OrvekFinishing() {
-  staplingChoices.reset();
-  foldingChoices.reset();
-  punchChoices.reset();
-  paperDestChoices.reset();
-  offsetCollatedSetChoices.reset();
-  paperSizeChoices.reset();
-  pdePluginCallbackObject.reset();
-}
+// The fields' order is that of letting go, backwards: lists, name and host before the view, which
+// ends with the base class. Menu items outlive the records they point to, and nobody asks them.
+OrvekFinishing::~OrvekFinishing() = default;
 
 QWidget *OrvekFinishing::panelView() {
   if (pdeView != nullptr) return pdeView;

@@ -21,8 +21,7 @@ void PDEChoice::initialize() {
 }
 
 std::shared_ptr<PDEChoice> PDEChoice::choiceWithChoice(ppd_choice_t *choice) {
-  static const bool initialized = (initialize(), true);
-  Q_UNUSED(initialized);
+  [[maybe_unused]] static const bool initialized = (initialize(), true);
   return std::shared_ptr<PDEChoice>(new PDEChoice(choice));
 }
 

@@ -22,8 +22,7 @@ QLatin1String tableName(const QString &modelNumber) {
                                               : QLatin1String("OVStaplingPICTs");
 }
 
-QString staplingKey(const PDEChoiceList *choices, const PDEChoice *selection) {
-  if (choices == nullptr) return noPictureKey;
+QString staplingKey(const PDEChoice *selection) {
   const QString keyword = ppdTitle(selection);
   if (keyword == QLatin1String("FrontFlip")) return QStringLiteral("Front, flipped");
   if (keyword == QLatin1String("RearFlip")) return QStringLiteral("Rear, flipped");
@@ -35,7 +34,7 @@ QString staplingKey(const PDEChoiceList *choices, const PDEChoice *selection) {
 
 // Folding wins over stapling where it changes the sheet.
 QString OrvekFinishing::imageKey() const {
-  const QString stapling = staplingKey(staplingChoices.get(), staplingSelection);
+  const QString stapling = staplingKey(staplingSelection);
   if (foldingChoices == nullptr) return stapling;
   const QString folding = ppdTitle(foldingSelection);
   if (folding == saddleKey) return saddleKey;

@@ -61,7 +61,7 @@ void OrvekFinishing::writeNumber(QLatin1String key, int number) {
 }
 
 void OrvekFinishing::syncToTicket() {
-  if (!hasBooklet || settings == nullptr) return;
+  if (!hasBooklet) return;
   writeNumber(targetPaperSizeKey, indexOfSelectedItem(paperSizePopup));
   writeFlag(enableBookletKey, bookletChckBox);
   writeFlag(rightToLeftKey, rToLChckBox);

@@ -163,6 +163,25 @@ TEST_F(Booklet, ALoneMinusAndAClearedFieldAreLetThrough) {
   EXPECT_EQ(ticketText("OVKCreep"), QStringLiteral("0"));
 }
 
+TEST_F(Booklet, AClearedGutterIsLetThroughToo) {
+  open(fullPrinter());
+  show();
+  type("gutterTxtBox", QString());
+  EXPECT_EQ(stringValue(field("gutterTxtBox")), QString());
+  EXPECT_EQ(ticketText("OVKGutter"), QStringLiteral("24"));
+}
+
+TEST_F(Booklet, TypingInOneFieldLeavesTheOtherAlone) {
+  open(fullPrinter());
+  show();
+  setStringValue(field("gutterTxtBox"), QStringLiteral("77"));
+  type("creepTxtBox", QStringLiteral("5"));
+  EXPECT_EQ(intValue(slider("gutterSlider")), 24);
+  setStringValue(field("creepTxtBox"), QStringLiteral("9"));
+  type("gutterTxtBox", QStringLiteral("30"));
+  EXPECT_EQ(intValue(slider("creepSlider")), 5);
+}
+
 TEST_F(Booklet, ANegativeNumberCanBeTypedKeyByKey) {
   open(fullPrinter());
   show();

@@ -166,6 +166,16 @@ TEST_F(Changes, WithoutMarkedUnitNoItemIsTouched) {
   EXPECT_FALSE(autoenablesItems(popUp("punchPopup")));
 }
 
+TEST_F(Changes, EachCheckOfThePunchMenuStartsAfresh) {
+  open(fullPrinter());
+  setAutoenablesItems(popUp("punchPopup"), true);
+  setItemEnabled(popUp("punchPopup"), 0, false);
+  setItemEnabled(popUp("punchPopup"), 2, false);
+  panel->validateHolePunchMenuItems();
+  EXPECT_EQ(punchItems(), (QList<bool>{true, false, true, false}));
+  EXPECT_FALSE(autoenablesItems(popUp("punchPopup")));
+}
+
 TEST_F(Changes, PunchPlacesBeyondTheMenuAreSkipped) {
   OptionText punch = punchOption();
   punch.choices.resize(2);

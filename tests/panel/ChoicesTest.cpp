@@ -23,6 +23,8 @@ TEST_F(Choices, AnOptionWithoutChoicesHasAnEmptyList) {
   const auto list = OrvekFinishing::arrayFromPPDOption(&option);
   ASSERT_NE(list, nullptr);
   EXPECT_TRUE(list->empty());
+  option.num_choices = -1;
+  EXPECT_TRUE(OrvekFinishing::arrayFromPPDOption(&option)->empty());
 }
 
 TEST_F(Choices, AListHoldsEveryChoiceInThePPDsOrder) {

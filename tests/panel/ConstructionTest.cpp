@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Menus filled, rows hidden, gaps closed: on every mixture of options and equipment.
 
+#include "panel/OptionTitle.h"
 #include "tests/panel/PanelFixture.h"
 
 using namespace orvek;
@@ -155,6 +156,21 @@ TEST_F(Construction, EveryMenuHasOneItemPerChoiceInThePPDsOrder) {
   }
   EXPECT_FALSE(autoenablesItems(menu));
   EXPECT_TRUE(autoenablesItems(popUp("paperSizePopup")));
+}
+
+TEST_F(Construction, FilledAgainTheMenusHoldTheSame) {
+  open(fullPrinter());
+  EXPECT_TRUE(OrvekFinishingAccess::initialized(*panel));
+  panel->initializeUI();
+  EXPECT_EQ(numberOfItems(popUp("staplingPopup")), 7);
+  EXPECT_EQ(numberOfItems(popUp("paperSizePopup")), 5);
+}
+
+TEST_F(Construction, AnAbsentOptionGivesNoTitleAndLeavesALabel) {
+  open(fullPrinter());
+  EXPECT_TRUE(CreateOptionTitle(nullptr).isNull());
+  OrvekFinishing::setLocalizedStringForLabel_fromPPDOption(label("punchLbl"), nullptr);
+  EXPECT_EQ(displayedTitle(label("punchLbl")), QStringLiteral("Hole punch:"));
 }
 
 TEST_F(Construction, LabelsCarryTheOptionsTextAndAColon) {

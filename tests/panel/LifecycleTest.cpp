@@ -168,6 +168,19 @@ TEST_F(Lifecycle, RestoreHandsTheTicketsKeysToTheHostAndTakesTheMarksBack) {
   EXPECT_EQ(indexOfSelectedItem(popUp("paperDestPopup")), 2);
 }
 
+TEST_F(Lifecycle, RestorePointsEveryMenuAtItsMark) {
+  ticket->setValue(QStringLiteral("OVKStapling"), QStringLiteral("Dual"));
+  ticket->setValue(QStringLiteral("OVKFolding"), QStringLiteral("Fold"));
+  ticket->setValue(QStringLiteral("OVKPunching"), QStringLiteral("3Hole"));
+  ticket->setValue(QStringLiteral("OutputBin"), QStringLiteral("Offset"));
+  open(fullPrinter());
+  panel->restoreValuesAndReturnError(nullptr);
+  EXPECT_EQ(indexOfSelectedItem(popUp("staplingPopup")), 3);
+  EXPECT_EQ(indexOfSelectedItem(popUp("foldingPopup")), 1);
+  EXPECT_EQ(indexOfSelectedItem(popUp("punchPopup")), 2);
+  EXPECT_EQ(indexOfSelectedItem(popUp("paperDestPopup")), 1);
+}
+
 TEST_F(Lifecycle, RestoreFromAnEmptyTicketStillRefreshesTheControls) {
   open(bareBookletPrinter());
   setIntValue(slider("gutterSlider"), 99);
@@ -216,6 +229,13 @@ TEST_F(Lifecycle, LetsGoOfItsHostButNotOfItsBundle) {
   panel.reset();
   EXPECT_TRUE(heldHost.expired());
   EXPECT_FALSE(heldBundle.expired());
+}
+
+TEST_F(Lifecycle, HoldsOnToABundleOnceHoweverManyPanelsItMakes) {
+  create(openPPD(fullPrinter()));
+  const auto once = bundle.use_count();
+  create(openPPD(fullPrinter()));
+  EXPECT_EQ(bundle.use_count(), once);
 }
 
 TEST_F(Lifecycle, DestructionTakesTheViewAlong) {

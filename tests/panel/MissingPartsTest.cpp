@@ -133,7 +133,14 @@ TEST_F(MissingParts, AMissingStringTableShowsTheKeys) {
   bundle = copy.open();
   open(fullPrinter());
   EXPECT_EQ(panel->panelName(), QStringLiteral("_PDE_Finishing_Options"));
-  EXPECT_EQ(displayedTitle(box("bookletChckBox")), QStringLiteral("_PDE_Finishing_Enable_Booklet"));
+  const QString key = QStringLiteral("_PDE_Finishing_");
+  EXPECT_EQ(displayedTitle(box("bookletChckBox")), key + QStringLiteral("Enable_Booklet"));
+  EXPECT_EQ(displayedTitle(view("bookletBox")), key + QStringLiteral("Booklet_Box_Title"));
+  EXPECT_EQ(displayedTitle(box("rToLChckBox")), key + QStringLiteral("Right_To_Left"));
+  EXPECT_EQ(displayedTitle(box("pageBroderChckBox")), key + QStringLiteral("Print_Page_Borders"));
+  EXPECT_EQ(displayedTitle(label("gutterLbl")), key + QStringLiteral("Gutter"));
+  EXPECT_EQ(displayedTitle(label("creepLbl")), key + QStringLiteral("Creep"));
+  EXPECT_EQ(displayedTitle(label("paperSizeLbl")), key + QStringLiteral("Target_Paper_Size"));
   doEverything();
 }
 

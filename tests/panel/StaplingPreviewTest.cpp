@@ -57,6 +57,13 @@ TEST_F(StaplingPreview, SaddleWinsOverAnyStapleAndFoldShowsNone) {
   EXPECT_EQ(shown(), listed("OVStaplingPICTs", "None"));
 }
 
+TEST_F(StaplingPreview, UndoingAFoldShowsTheFlatSheetAgain) {
+  openModel("Orvek 4150");
+  pick("foldingPopup", 2);
+  pick("foldingPopup", 0);
+  EXPECT_EQ(shown(), listed("OVStaplingPICTs", "None"));
+}
+
 // No pick leaves both a staple and a fold selected; marks that a host made without the panel can.
 TEST_F(StaplingPreview, WhereBothAreSelectedTheFoldDecides) {
   openModel("Orvek 4150");
@@ -77,6 +84,14 @@ TEST_F(StaplingPreview, WhereBothAreSelectedTheFoldDecides) {
 TEST_F(StaplingPreview, WithoutFoldingTheStapleAloneDecides) {
   open(fullPrinter().without(QStringLiteral("OVKFolding")));
   show();
+  pick("staplingPopup", 1);
+  EXPECT_EQ(shown(), listed("OVStaplingPICTs", "Front"));
+}
+
+TEST_F(StaplingPreview, WithoutFoldingChoicesAFoldThatIsLeftSelectedDoesNotCount) {
+  openModel("Orvek 4150");
+  const auto choices = std::move(OrvekFinishingAccess::foldingChoices(*panel));
+  OrvekFinishingAccess::foldingSelection(*panel) = choices->at(2).get();
   pick("staplingPopup", 1);
   EXPECT_EQ(shown(), listed("OVStaplingPICTs", "Front"));
 }
