@@ -160,8 +160,11 @@ int WaitAndPrintICMPs(int socket, int limitMilliseconds, unsigned int stopAfterF
     if (!started && !readClock(&start)) return errorNumber();
     started = true;
     if (received == Received::Error) return outcome(*replySeen != 0);
-    if (received == Received::Reply) *replySeen = 1;
     timeval now{};
+    if (received == Received::Reply) {
+      *replySeen = 1;
+      if (!readClock(&now)) return errorNumber();
+    }
     const bool clockWorks = readClock(&now);
     const timeval elapsed = difference(start, now);
     const bool over = !clockWorks || elapsed.tv_sec >= 1 || elapsed.tv_usec >= limit;
