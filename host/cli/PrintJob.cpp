@@ -70,10 +70,7 @@ Status printAsAsked(const CommandLine &line, const PrintSession &session,
   if (line.output.isNull() && !line.print) return {};
   const JobRequest request = jobRequestFor(line, session, passwords);
   tellWarnings(session, request);
-  if (!line.output.isNull()) {
-    if (Status printed = printIntoFile(request); !printed) return printed;
-  }
-  return line.print ? printOnQueue(line, request) : Status();
+  return line.output.isNull() ? printOnQueue(line, request) : printIntoFile(request);
 }
 
 }  // namespace orvek

@@ -13,9 +13,9 @@ namespace orvek {
 JobRequest jobRequestFor(const CommandLine &line, const PrintSession &session,
                          const std::shared_ptr<PasswordSource> &passwords = {});
 
-/// Prints where the command line asks for it: into --output's file, or on the queue with --print.
-/// Waits until the job has been taken. Success where it asks for neither; no document is touched
-/// then.
+/// Prints one job where the command line asks for it: into --output's file, whether or not --print
+/// is there as well, else on the queue with --print. Waits until the job has been taken. Success
+/// where it asks for neither; no document is touched then.
 Status printAsAsked(const CommandLine &line, const PrintSession &session,
                     const std::shared_ptr<PasswordSource> &passwords);
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include "tests/host/cli/Program.h"
@@ -113,6 +114,25 @@ TEST_F(ProgramQueue, KeepsTheStateAloneOnTheStandardOutput) {
   const ProgramRun job = run({"--headless", "--print", "--inspect", document});
   EXPECT_FALSE(job.json().isEmpty());
   EXPECT_TRUE(job.errors.contains("request id is office-1"));
+}
+
+TEST_F(ProgramQueue, GetsNoJobThatGoesIntoAFile) {
+  const QString file = cache.filePath("out.ps");
+  const ProgramRun job = run({"--headless", "--print", "--output", file, document});
+  ASSERT_EQ(job.status, 0) << job.errors.constData();
+  EXPECT_EQ(job.output, "");
+  EXPECT_GT(QFileInfo(file).size(), 0);
+  EXPECT_TRUE(cups->jobAttributes(1).isEmpty());
+}
+
+TEST_F(ProgramQueue, IsNotAskedForAJobThatGoesIntoAFile) {
+  const QString file = cache.filePath("out.ps");
+  const ProgramRun job = runProgram(
+      {"--headless", "--ppd", testPpd("finisher.ppd"), "--print", "--output", file, document},
+      {{"CUPS_SERVER=127.0.0.1:1"}, {}, {}});
+  EXPECT_EQ(job.status, 0) << job.errors.constData();
+  EXPECT_EQ(job.output, "");
+  EXPECT_GT(QFileInfo(file).size(), 0);
 }
 
 TEST_F(ProgramQueue, GetsNoJobWithoutPrint) {
