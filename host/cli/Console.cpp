@@ -5,7 +5,6 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 
 namespace orvek {
 namespace {
@@ -24,14 +23,13 @@ Status writeToStandardOutput(const QByteArray &bytes) {
   const std::size_t size = static_cast<std::size_t>(bytes.size());
   if (std::fwrite(bytes.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0)
     return {};
-  return Failure{FailureKind::Io, QStringLiteral("standard output"),
-                 QString::fromLocal8Bit(std::strerror(errno))};
+  return Failure{FailureKind::Io, QStringLiteral("standard output"), Phrase::ofSystem(errno)};
 }
 
 int report(const Failure &failure) {
   const QByteArray line = "orvek-print: " + asOneLine(failure.line()) + '\n';
   std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
-  return static_cast<int>(failure.kind);
+  return exitStatusOf(failure.kind);
 }
 
 void tell(const QString &sentence) {

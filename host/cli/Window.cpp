@@ -14,16 +14,17 @@
 #include "host/dialog/PasswordDialog.h"
 #include "host/jobs/Document.h"
 #include "host/jobs/QueueJob.h"
+#include "host/translations/FailureText.h"
 
 namespace orvek {
 namespace {
 
 QString nameOf(const QString &file) {
-  return file == QLatin1String("-") ? documentName(file) : QFileInfo(file).fileName();
+  return isStandardInput(file) ? translated(documentName(file)) : QFileInfo(file).fileName();
 }
 
 QString namesOf(const QStringList &files) {
-  const QString first = nameOf(files.isEmpty() ? QStringLiteral("-") : files.first());
+  const QString first = nameOf(files.isEmpty() ? standardInput() : files.first());
   if (files.size() < 2) return first;
   return PrintDialog::tr("%1 and %2 more").arg(first).arg(files.size() - 1);
 }

@@ -22,7 +22,8 @@ constexpr std::chrono::milliseconds kLookAtCancelled{100};
 
 Failure noPassword(const PasswordQuestion &question) {
   return {FailureKind::Io, question.server,
-          PasswordDialog::tr("the print server asks for a password, and none was given")};
+          Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
+                                   "the print server asks for a password, and none was given"))};
 }
 
 QString wordsFor(const PasswordQuestion &question) {

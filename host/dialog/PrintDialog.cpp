@@ -15,9 +15,10 @@
 
 #include "host/dialog/DocumentHeader.h"
 #include "host/dialog/JobBar.h"
-#include "host/dialog/JobRunner.h"
 #include "host/dialog/NoticeBar.h"
 #include "host/dialog/SessionView.h"
+#include "host/jobs/BackgroundJob.h"
+#include "host/translations/FailureText.h"
 
 namespace orvek {
 namespace {
@@ -66,7 +67,7 @@ void PrintDialog::build() {
   m_notices = new NoticeBar(this);
   m_view = new SessionView(*m_session, m_setup.document, this);
   m_jobBar = new JobBar(this);
-  m_runner = new JobRunner(this);
+  m_job = new BackgroundJob(this);
   auto *header = new QHBoxLayout;
   header->setSpacing(2 * margin);
   header->addWidget(m_document, 1, Qt::AlignTop);
@@ -112,9 +113,9 @@ void PrintDialog::connectParts() {
   connect(m_notices, &NoticeBar::undoAsked, this, [this] { m_session->undo(); });
   connect(m_jobBar, &JobBar::printAsked, this, &PrintDialog::print);
   connect(m_jobBar, &JobBar::cancelAsked, this, &PrintDialog::reject);
-  connect(m_runner, &JobRunner::progressed, this, &PrintDialog::showProgress);
-  connect(m_runner, &JobRunner::finished, this, &PrintDialog::end);
-  connect(m_runner, &JobRunner::failed, this, &PrintDialog::showFailure);
+  connect(m_job, &BackgroundJob::progressed, this, &PrintDialog::showProgress);
+  connect(m_job, &BackgroundJob::finished, this, &PrintDialog::end);
+  connect(m_job, &BackgroundJob::failed, this, &PrintDialog::showFailure);
   auto *undo = new QShortcut(QKeySequence::Undo, this);
   connect(undo, &QShortcut::activated, this, [this] {
     if (m_session->canUndo()) m_session->undo();
@@ -127,7 +128,7 @@ void PrintDialog::followSession() {
 }
 
 void PrintDialog::updateControls() {
-  const bool isPrinting = m_runner->isRunning();
+  const bool isPrinting = m_job->isRunning();
   const bool isForFile = m_setup.destination.isEmpty();
   const bool hasFile = isForFile && !m_setup.outputFile.isNull();
   m_view->setEnabled(!isPrinting);
@@ -181,7 +182,7 @@ void PrintDialog::showEarlierNotices() {
 
 void PrintDialog::showProblem(const Failure &failure) {
   m_noticedMarks = m_session->marks().snapshot();
-  m_notices->say(NoticeBar::Kind::Problem, {failure.line()}, false);
+  m_notices->say(NoticeBar::Kind::Problem, {failureText(failure)}, false);
 }
 
 // A notice stands until the next choice is made: its Undo would take back that one.

@@ -25,9 +25,9 @@
 
 namespace orvek {
 
+class BackgroundJob;
 class DocumentHeader;
 class JobBar;
-class JobRunner;
 class NoticeBar;
 class SessionView;
 
@@ -136,7 +136,7 @@ class PrintDialog final : public QDialog {
   NoticeBar *m_notices = nullptr;
   SessionView *m_view = nullptr;
   JobBar *m_jobBar = nullptr;
-  JobRunner *m_runner = nullptr;
+  BackgroundJob *m_job = nullptr;
   QString m_asked;           // the printer being asked for; null: none
   BackgroundTask m_reading;  // the last two: they end before what they report to
   BackgroundTask m_asking;

@@ -6,26 +6,19 @@
 #include <QPushButton>
 
 #include "host/dialog/JobBar.h"
-#include "host/dialog/JobRunner.h"
 #include "host/dialog/NoticeBar.h"
 #include "host/dialog/PrintDialog.h"
+#include "host/dialog/ProgressText.h"
+#include "host/jobs/BackgroundJob.h"
 #include "host/jobs/FilterChain.h"
 #include "host/jobs/QueueJob.h"
 #include "host/session/JobWarnings.h"
+#include "host/translations/FailureText.h"
 
 namespace orvek {
 namespace {
 
-constexpr int wholeJob = 100;
 constexpr QLatin1Char instanceMark('/');
-
-int percentDone(const JobProgress &progress, int pages) {
-  if (progress.expected > 0) return int(progress.bytes * wholeJob / progress.expected);
-  if (progress.pages > 0 && progress.documents == 1 && pages >= progress.pages) {
-    return progress.pages * wholeJob / pages;
-  }
-  return -1;
-}
 
 }  // namespace
 
@@ -62,26 +55,26 @@ bool PrintDialog::acceptsWarnings() {
 }
 
 void PrintDialog::print() {
-  if (m_runner->isRunning() || !m_asked.isNull()) return;
+  if (m_job->isRunning() || !m_asked.isNull()) return;
   JobRequest request = gatherRequest();
   if (!acceptsWarnings() || !completeRequest(&request)) return;
   m_notices->fallSilent();
   m_isCancelling = false;
   m_request = request;
-  m_runner->start(request, request.queue.isNull() ? printThroughFilters : submitToQueue);
+  m_job->start(request, request.queue.isNull() ? printThroughFilters : submitToQueue);
   showProgress({});
   updateControls();
 }
 
 void PrintDialog::reject() {
-  if (!m_runner->isRunning()) {
+  if (!m_job->isRunning()) {
     stopAsking();
     QDialog::reject();
     return;
   }
   m_isCancelling = true;
   updateControls();
-  m_runner->cancel();
+  m_job->cancel();
 }
 
 void PrintDialog::showProgress(const JobProgress &progress) {
@@ -99,9 +92,10 @@ void PrintDialog::end(const JobOutcome &outcome) {
 }
 
 void PrintDialog::showFailure(const Failure &failure) {
-  QStringList words{m_isCancelling ? tr("The job was cancelled.") : failure.line()};
-  const auto kind = m_isCancelling ? NoticeBar::Kind::Information : NoticeBar::Kind::Problem;
-  if (!m_isCancelling && !m_request.queue.isNull() && m_session->printer()) {
+  const bool isCancelled = failure.kind == FailureKind::Cancelled;
+  QStringList words{isCancelled ? tr("The job was cancelled.") : failureText(failure)};
+  const auto kind = isCancelled ? NoticeBar::Kind::Information : NoticeBar::Kind::Problem;
+  if (!isCancelled && !m_request.queue.isNull() && m_session->printer()) {
     words << tr("It can still be printed into a file: choose File as the printer.");
   }
   m_isCancelling = false;

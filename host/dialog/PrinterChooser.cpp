@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "host/dialog/ElidedLabel.h"
+#include "host/translations/FailureText.h"
 
 namespace orvek {
 namespace {
@@ -79,7 +80,7 @@ void PrinterChooser::refresh() {
 }
 
 void PrinterChooser::take(const Answer &answer) {
-  m_problem = answer ? QString() : answer.failure().line();
+  m_problem = answer ? QString() : failureText(answer.failure());
   // Queues that were known stay on offer when the server stops answering.
   if (answer) m_printers = answer.value();
   fill(m_destination);

@@ -1,16 +1,26 @@
 // SPDX-License-Identifier: Apache-2.0
 // The thread, and the way back from it: everything it has to tell is posted to the owner's event
-// loop.
+// loop. A document that can be read only once is made readable again.
 
 #include "host/jobs/BackgroundJob.h"
 
 #include <QElapsedTimer>
 #include <QMetaObject>
+#include <algorithm>
+
+#include "host/jobs/Document.h"
 
 namespace orvek {
 namespace {
 
-constexpr qint64 kMillisecondsBetweenReports = 50;
+constexpr qint64 millisecondsBetweenReports = 50;
+
+JobRequest withFile(JobRequest request, const QString &path) {
+  request.title = effectiveTitle(request);
+  request.files = effectiveFiles(request);
+  std::replace(request.files.begin(), request.files.end(), standardInput(), path);
+  return request;
+}
 
 }  // namespace
 
@@ -29,16 +39,23 @@ void BackgroundJob::start(const JobRequest &request, Work work) {
   // Reports come per block of data; a window needs far fewer, and a queue of them would lag behind.
   auto sinceReport = std::make_shared<QElapsedTimer>();
   m_control->progress = [this, sinceReport](const JobProgress &now) {
-    if (sinceReport->isValid() && sinceReport->elapsed() < kMillisecondsBetweenReports) return;
+    if (sinceReport->isValid() && sinceReport->elapsed() < millisecondsBetweenReports) return;
     sinceReport->start();
     QMetaObject::invokeMethod(
         this, [this, now] { Q_EMIT progressed(now); }, Qt::QueuedConnection);
   };
-  m_thread = std::thread([this, request, control = m_control, run = std::move(work)] {
-    const auto result = run(request, *control);
+  m_thread = std::thread([this, request, control = m_control, work = std::move(work)] {
+    const auto result = run(request, work, *control);
     QMetaObject::invokeMethod(
         this, [this, result] { end(result); }, Qt::QueuedConnection);
   });
+}
+
+Result<JobOutcome> BackgroundJob::run(const JobRequest &request, const Work &work,
+                                      JobControl &control) {
+  if (!effectiveFiles(request).contains(standardInput())) return work(request, control);
+  if (const Status filled = m_spool.fill(control); !filled) return filled.failure();
+  return work(withFile(request, m_spool.path()), control);
 }
 
 void BackgroundJob::cancel() {
@@ -47,10 +64,11 @@ void BackgroundJob::cancel() {
 
 void BackgroundJob::end(const Result<JobOutcome> &result) {
   m_running = false;
-  if (result)
+  if (result) {
     Q_EMIT finished(result.value());
-  else
+  } else {
     Q_EMIT failed(result.failure());
+  }
 }
 
 }  // namespace orvek

@@ -7,13 +7,15 @@
 #include <memory>
 #include <thread>
 
+#include "host/jobs/InputSpool.h"
 #include "host/jobs/JobRequest.h"
 #include "platform/system/Result.h"
 
 namespace orvek {
 
-/// One job in the background. Its signals come on the thread that owns the object. Destroying it
-/// cancels the job and waits for it, at most a few seconds.
+/// One job at a time in the background; one that failed or was cancelled can be tried again, and
+/// standard input is kept for that. Use it from the thread that owns it; its signals come there.
+/// Destroying it cancels the job and waits for it, at most a few seconds.
 class BackgroundJob : public QObject {
   Q_OBJECT
 
@@ -24,10 +26,11 @@ class BackgroundJob : public QObject {
   explicit BackgroundJob(QObject *parent = nullptr);
   ~BackgroundJob() override;
 
-  /// Starts; does nothing while a job runs.
+  /// Starts; does nothing while a job runs. Where a document is standard input, `work` is given a
+  /// file with what came from there in its place.
   void start(const JobRequest &request, Work work);
 
-  /// Asks the job to end. `failed` follows, with "cancelled"; at once where possible.
+  /// Asks the job to end. `failed` follows, of the kind Cancelled; at once where possible.
   void cancel();
 
   bool isRunning() const { return m_running; }
@@ -39,9 +42,12 @@ class BackgroundJob : public QObject {
   void failed(const orvek::Failure &failure);
 
  private:
+  Result<JobOutcome> run(const JobRequest &request, const Work &work, JobControl &control);
   void end(const Result<JobOutcome> &result);
 
   std::shared_ptr<JobControl> m_control;
+  /// The job's thread alone uses it, and one job follows the other.
+  InputSpool m_spool;
   std::thread m_thread;
   bool m_running = false;
 };

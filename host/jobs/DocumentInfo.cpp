@@ -11,6 +11,8 @@
 #include <QProcess>
 #include <QRegularExpression>
 
+#include "host/jobs/Document.h"
+
 namespace orvek {
 namespace {
 
@@ -89,8 +91,8 @@ void readContent(DocumentInfo *info) {
 
 DocumentInfo documentInfo(const QString &path) {
   DocumentInfo info;
-  info.path = path.isEmpty() ? QStringLiteral("-") : path;
-  if (info.path == QLatin1String("-")) {
+  info.path = path.isEmpty() ? standardInput() : path;
+  if (isStandardInput(info.path)) {
     info.name = Words::tr("(stdin)");
     return info;
   }

@@ -3,41 +3,51 @@
 
 #include "host/jobs/DocumentReader.h"
 
+#include <poll.h>
+#include <unistd.h>
+
+#include <cerrno>
+
 #include "host/jobs/Document.h"
 
 namespace orvek {
 namespace {
 
-constexpr qint64 kBlock = 65536;
+constexpr qint64 blockBytes = 65536;
+constexpr int pollMilliseconds = 100;
 
 }  // namespace
 
 Result<std::unique_ptr<DocumentReader>> DocumentReader::open(const QString &file) {
   std::unique_ptr<DocumentReader> reader(new DocumentReader(file));
-  if (file != QStringLiteral("-") && !reader->m_file.open(QIODevice::ReadOnly))
-    return Failure{FailureKind::Io, file, reader->m_file.errorString()};
-  return reader;
+  if (isStandardInput(file) || reader->m_file.open(QIODevice::ReadOnly)) return reader;
+  return Failure{FailureKind::Io, file, Phrase::ofSystem(reader->m_file.errorString())};
 }
 
 Result<QByteArray> DocumentReader::read() {
-  return m_name == QStringLiteral("-") ? readStandardInputBlock() : readFile();
+  return isStandardInput(m_name) ? readStandardInput() : readFile();
 }
 
 Result<QByteArray> DocumentReader::readFile() {
-  QByteArray block(kBlock, Qt::Uninitialized);
+  QByteArray block(blockBytes, Qt::Uninitialized);
   const qint64 count = m_file.read(block.data(), block.size());
-  if (count < 0) return Failure{FailureKind::Io, m_name, m_file.errorString()};
+  if (count < 0) return Failure{FailureKind::Io, m_name, Phrase::ofSystem(m_file.errorString())};
   m_atEnd = count == 0;
   block.truncate(count);
   return block;
 }
 
-Result<QByteArray> DocumentReader::readStandardInputBlock() {
-  QByteArray block(kBlock, Qt::Uninitialized);
-  const auto count = readStandardInput(block.data(), block.size());
-  if (!count) return count.failure();
-  m_atEnd = count.value() == 0;
-  block.truncate(std::max<qint64>(count.value(), 0));
+Result<QByteArray> DocumentReader::readStandardInput() {
+  pollfd ready{STDIN_FILENO, POLLIN, 0};
+  if (::poll(&ready, 1, pollMilliseconds) <= 0) return QByteArray();
+  QByteArray block(blockBytes, Qt::Uninitialized);
+  const ssize_t count = ::read(STDIN_FILENO, block.data(), static_cast<size_t>(block.size()));
+  if (count < 0) {
+    if (errno == EINTR || errno == EAGAIN) return QByteArray();
+    return Failure{FailureKind::Io, documentName(m_name), Phrase::ofSystem(errno)};
+  }
+  m_atEnd = count == 0;
+  block.truncate(count);
   return block;
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Reads a document block by block, standard input included.
+// Reads a document block by block. The one place that reads standard input.
 #pragma once
 
 #include <QByteArray>
@@ -11,21 +11,21 @@
 
 namespace orvek {
 
-/// One document being read. Holds one block of it at a time.
+/// One document being read. Holds one block of it at a time. Use it on one thread.
 class DocumentReader {
  public:
-  /// Opens `file`; "-" is standard input.
+  /// Opens `file`, or standard input. Fails with the system's reason.
   static Result<std::unique_ptr<DocumentReader>> open(const QString &file);
 
   /// The next block; empty at the end, and where standard input gave nothing for a tenth of a
-  /// second.
+  /// second. Fails with the system's reason.
   Result<QByteArray> read();
   bool atEnd() const { return m_atEnd; }
 
  private:
   explicit DocumentReader(const QString &file) : m_name(file), m_file(file) {}
   Result<QByteArray> readFile();
-  Result<QByteArray> readStandardInputBlock();
+  Result<QByteArray> readStandardInput();
 
   QString m_name;
   QFile m_file;

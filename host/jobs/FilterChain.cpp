@@ -16,6 +16,7 @@
 
 #include "host/jobs/Document.h"
 #include "host/jobs/FilterMessages.h"
+#include "host/jobs/InputSpool.h"
 #include "host/jobs/OptionText.h"
 #include "host/jobs/OutputTarget.h"
 
@@ -28,8 +29,11 @@ constexpr int kGraceMilliseconds = 2000;
 Status checkPPDFile(const QString &path) {
   QFile file(path);
   if (QFileInfo(path).isDir())
-    return Failure{FailureKind::Io, path, QStringLiteral("is a folder, not a PPD file")};
-  if (!file.open(QIODevice::ReadOnly)) return Failure{FailureKind::Io, path, file.errorString()};
+    return Failure{FailureKind::Io, path,
+                   Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "is a folder, not a PPD file"))};
+  if (!file.open(QIODevice::ReadOnly)) {
+    return Failure{FailureKind::Io, path, Phrase::ofSystem(file.errorString())};
+  }
   return {};
 }
 
@@ -94,12 +98,12 @@ Status carryOutput(Run &run, QProcess &process, FilterMessages &messages) {
 
 Status carryUntilFinished(Run &run, QProcess &process, FilterMessages &messages) {
   while (process.state() != QProcess::NotRunning) {
-    if (run.control.cancelled) return cancelledFailure();
+    if (run.control.cancelled) return jobCancelled();
     process.waitForReadyRead(kPollMilliseconds);
     if (Status carried = carryOutput(run, process, messages); !carried) return carried;
   }
   if (Status carried = carryOutput(run, process, messages); !carried) return carried;
-  return run.control.cancelled ? Status(cancelledFailure()) : Status();
+  return run.control.cancelled ? Status(jobCancelled()) : Status();
 }
 
 void prepare(QProcess &process, const Run &run, const QString &path) {
@@ -113,13 +117,14 @@ void prepare(QProcess &process, const Run &run, const QString &path) {
   process.setArguments(toolArguments(run.request, path));
 }
 
-Status filterDocument(Run &run, const QString &path, const QString &name) {
+Status filterDocument(Run &run, const QString &path, const Phrase &name) {
   QProcess process;
   FilterMessages messages;
   prepare(process, run, path);
   const qint64 bytesBefore = run.progress.bytes;
   process.start();
-  if (!process.waitForStarted()) return Failure{FailureKind::Io, run.tool, process.errorString()};
+  if (!process.waitForStarted())
+    return Failure{FailureKind::Io, run.tool, Phrase::ofSystem(process.errorString())};
   if (Status carried = carryUntilFinished(run, process, messages); !carried) {
     stop(process);
     return carried;
@@ -127,17 +132,17 @@ Status filterDocument(Run &run, const QString &path, const QString &name) {
   if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
     return messages.reason(name, run.request.ppdFile, process.exitCode());
   if (run.progress.bytes == bytesBefore)
-    return Failure{FailureKind::Io, name, QStringLiteral("the filters made no output of it")};
+    return Failure{FailureKind::Io, name,
+                   Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "the filters made no output of it"))};
   run.pagesOfEarlierDocuments = run.progress.pages;
   return {};
 }
 
 Status filterNamed(Run &run, const QString &file) {
-  if (file != QStringLiteral("-")) return filterDocument(run, file, file);
-  auto spool = spoolStandardInput(run.control);
-  if (!spool) return spool.failure();
-  if (run.control.cancelled) return cancelledFailure();
-  return filterDocument(run, spool.value()->fileName(), documentName(file));
+  if (!isStandardInput(file)) return filterDocument(run, file, file);
+  InputSpool spool;
+  if (Status filled = spool.fill(run.control); !filled) return filled;
+  return filterDocument(run, spool.path(), documentName(file));
 }
 
 Status checkRequest(const JobRequest &request) {
@@ -146,10 +151,6 @@ Status checkRequest(const JobRequest &request) {
 }
 
 }  // namespace
-
-Failure cancelledFailure() {
-  return {FailureKind::Io, QStringLiteral("job"), QStringLiteral("cancelled")};
-}
 
 QString findFilterTool(const QString &searchPath) {
   QStringList folders = searchPath.split(u':', Qt::SkipEmptyParts);
@@ -163,8 +164,9 @@ Result<JobOutcome> printThroughFilters(const JobRequest &request, JobControl &co
   if (Status checked = checkRequest(request); !checked) return checked.failure();
   const QString tool = findFilterTool(qEnvironmentVariable("PATH"));
   if (tool.isNull())
-    return Failure{FailureKind::Io, QStringLiteral("cupsfilter"),
-                   QStringLiteral("not found; install the package \"cups\"")};
+    return Failure{
+        FailureKind::Io, QStringLiteral("cupsfilter"),
+        Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "not found; install the package \"cups\""))};
   auto target = OutputTarget::open(request.outputFile);
   if (!target) return target.failure();
 

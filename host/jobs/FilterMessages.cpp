@@ -21,9 +21,32 @@ bool tellsHowAFilterEnded(const QString &text) {
   return ended.match(text).hasMatch();
 }
 
-QString withoutProcessNumber(QString text) {
+// "pstops (PID 7) stopped with status 1", or what else is said of a filter's end.
+Phrase endOfFilter(QString text) {
   static const QRegularExpression number(QStringLiteral(" \\(PID [0-9]+\\)"));
-  return text.remove(number);
+  static const QRegularExpression stopped(QStringLiteral("^(.*) stopped with status ([^ ]*)$"));
+  static const QRegularExpression crashed(QStringLiteral("^(.*) crashed on signal ([^ ]*)$"));
+  text.remove(number);
+  if (const auto end = stopped.match(text); end.hasMatch()) {
+    return Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "the filter %1 stopped with status %2"),
+                  {end.captured(1), end.captured(2)});
+  }
+  if (const auto end = crashed.match(text); end.hasMatch()) {
+    return Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "the filter %1 crashed on signal %2"),
+                  {end.captured(1), end.captured(2)});
+  }
+  return Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "the filter %1"), {text});
+}
+
+// `problem`: "has insecure permissions", or "not available: " and the system's reason.
+Phrase untrustedFilter(const QString &path, const QString &problem) {
+  static const QString missing = QStringLiteral("not available: ");
+  if (!problem.startsWith(missing)) {
+    return Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "the filter %1 has insecure permissions"),
+                  {path});
+  }
+  return Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "the filter %1 not available: %2"),
+                {path, Phrase::ofSystem(problem.mid(missing.size()))});
 }
 
 }  // namespace
@@ -54,31 +77,32 @@ void FilterMessages::addToolLine(const QString &text) {
       QStringLiteral("^File \"([^\"]+)\" (not available: .*|has insecure permissions)"));
   const auto match = untrusted.match(text);
   if (match.hasMatch())
-    m_missingFilter = match.captured(1) + QStringLiteral(" ") + match.captured(2);
+    m_missingFilter = untrustedFilter(match.captured(1), match.captured(2));
   else if (!text.startsWith(QStringLiteral("File \"")))
     m_toolError = text;
 }
 
-Failure FilterMessages::reason(const QString &document, const QString &ppdFile,
+Failure FilterMessages::reason(const Phrase &document, const QString &ppdFile,
                                int exitStatus) const {
   if (m_toolError.startsWith(QStringLiteral("Unable to open PPD")))
     return {FailureKind::Invalid, ppdFile, m_toolError.section(QStringLiteral(": "), 1)};
   if (!m_filterError.isEmpty()) return {FailureKind::Io, document, m_filterError};
   if (m_toolError.startsWith(QStringLiteral("Unable to determine MIME type")))
-    return {FailureKind::Io, document,
-            QStringLiteral("its type is unknown; print a PDF, PostScript, text or image file")};
+    return {
+        FailureKind::Io, document,
+        Phrase(QT_TRANSLATE_NOOP(
+            "orvek::Failure", "its type is unknown; print a PDF, PostScript, text or image file"))};
   if (m_toolError.startsWith(QStringLiteral("No filter to convert"))) {
-    if (!m_missingFilter.isEmpty())
-      return {FailureKind::Io, ppdFile, QStringLiteral("the filter ") + m_missingFilter};
+    if (!m_missingFilter.isEmpty()) return {FailureKind::Io, ppdFile, m_missingFilter};
     const QString type = m_toolError.section(u' ', 5, 5);
-    return {FailureKind::Io, document, QStringLiteral("no filter prints the type ") + type};
+    return {FailureKind::Io, document,
+            Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "no filter prints the type %1"), {type})};
   }
   if (!m_toolError.isEmpty()) return {FailureKind::Io, document, m_toolError};
-  if (!m_filterEnd.isEmpty())
-    return {FailureKind::Io, document,
-            QStringLiteral("the filter ") + withoutProcessNumber(m_filterEnd)};
+  if (!m_filterEnd.isEmpty()) return {FailureKind::Io, document, endOfFilter(m_filterEnd)};
   return {FailureKind::Io, document,
-          QStringLiteral("the filters ended with status %1").arg(exitStatus)};
+          Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "the filters ended with status %1"),
+                 {QString::number(exitStatus)})};
 }
 
 }  // namespace orvek

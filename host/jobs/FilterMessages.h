@@ -20,17 +20,17 @@ class FilterMessages {
 
   /// Why a chain that ended with `exitStatus` failed: the filter's own last error, or the tool's
   /// reason in plain words. `document` and `ppdFile` name what is to blame.
-  Failure reason(const QString &document, const QString &ppdFile, int exitStatus) const;
+  Failure reason(const Phrase &document, const QString &ppdFile, int exitStatus) const;
 
  private:
   void addLine(const QString &line);
   void addToolLine(const QString &text);
 
   QByteArray m_partial;
-  QString m_filterError;    ///< a filter's own words
-  QString m_filterEnd;      ///< which filter ended badly
-  QString m_toolError;      ///< the tool's words
-  QString m_missingFilter;  ///< the printer's filter that is missing or not trusted
+  QString m_filterError;   ///< a filter's own words
+  QString m_filterEnd;     ///< which filter ended badly
+  QString m_toolError;     ///< the tool's words
+  Phrase m_missingFilter;  ///< the printer's filter that is missing or not trusted
   int m_pages = 0;
 };
 

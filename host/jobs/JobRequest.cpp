@@ -5,16 +5,22 @@
 
 #include <QFileInfo>
 
+#include "host/jobs/Document.h"
+
 namespace orvek {
 
+Failure jobCancelled() {
+  return cancelledFailure(Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "job")));
+}
+
 QStringList effectiveFiles(const JobRequest &request) {
-  return request.files.isEmpty() ? QStringList{QStringLiteral("-")} : request.files;
+  return request.files.isEmpty() ? QStringList{standardInput()} : request.files;
 }
 
 QString effectiveTitle(const JobRequest &request) {
   if (!request.title.isNull()) return request.title;
   const QString first = effectiveFiles(request).constFirst();
-  if (first == QStringLiteral("-")) return QStringLiteral("(stdin)");
+  if (isStandardInput(first)) return QStringLiteral("(stdin)");
   return QFileInfo(first).fileName();
 }
 

@@ -9,6 +9,7 @@
 #include <functional>
 
 #include "host/printers/ServerAccess.h"
+#include "platform/system/Result.h"
 
 namespace orvek {
 
@@ -65,6 +66,9 @@ struct JobControl {
   }
 };
 
+/// The failure of a job that was cancelled.
+Failure jobCancelled();
+
 /// The title that a request without one gets.
 QString effectiveTitle(const JobRequest &request);
 
@@ -72,7 +76,7 @@ QString effectiveTitle(const JobRequest &request);
 /// CUPS gives them. What the fields say wins over `options`.
 QMap<QString, QString> effectiveOptions(const JobRequest &request);
 
-/// The documents of a request: its files, or "-" where it names none.
+/// The documents of a request: its files, or standard input where it names none.
 QStringList effectiveFiles(const JobRequest &request);
 
 }  // namespace orvek

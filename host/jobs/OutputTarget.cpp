@@ -11,7 +11,6 @@
 #include <QFile>
 #include <cerrno>
 #include <climits>
-#include <cstring>
 
 namespace orvek {
 namespace {
@@ -43,18 +42,16 @@ int openStream(const QString &path) {
   return ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CLOEXEC | O_NOCTTY);
 }
 
-QString systemReason(int error) {
-  return QString::fromLocal8Bit(std::strerror(error));
-}
-
 }  // namespace
 
 OutputTarget::~OutputTarget() {
   if (m_stream >= 0) ::close(m_stream);
 }
 
-Failure OutputTarget::failure(const QString &why) const {
-  const QString name = m_path == QStringLiteral("-") ? QStringLiteral("standard output") : m_path;
+Failure OutputTarget::failure(const Phrase &why) const {
+  const Phrase name = m_path == QStringLiteral("-")
+                          ? Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "standard output"))
+                          : Phrase(m_path);
   return {FailureKind::Io, name, why};
 }
 
@@ -62,7 +59,7 @@ Result<std::unique_ptr<OutputTarget>> OutputTarget::open(const QString &path) {
   std::unique_ptr<OutputTarget> target(new OutputTarget(path));
   if (openStreamNumber(path) >= 0 || !isPlainFileOrAbsent(path)) {
     target->m_stream = openStream(path);
-    if (target->m_stream < 0) return target->failure(systemReason(errno));
+    if (target->m_stream < 0) return target->failure(Phrase::ofSystem(errno));
     return target;
   }
   auto file = PendingFile::open(path);
@@ -80,7 +77,7 @@ Status OutputTarget::writeToFile(const QByteArray &bytes) {
     if (taken >= 0)
       done += taken;
     else if (errno != EINTR)
-      return failure(systemReason(errno));
+      return failure(Phrase::ofSystem(errno));
   }
   return {};
 }
@@ -92,7 +89,7 @@ Result<qsizetype> OutputTarget::writeSomeToStream(const char *bytes, qsizetype c
   const ssize_t taken = ::write(m_stream, bytes, std::min<qsizetype>(count, PIPE_BUF));
   if (taken >= 0) return qsizetype{taken};
   if (errno == EINTR || errno == EAGAIN) return qsizetype{0};
-  return failure(systemReason(errno));
+  return failure(Phrase::ofSystem(errno));
 }
 
 Status OutputTarget::commit() {

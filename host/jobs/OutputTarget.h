@@ -32,7 +32,7 @@ class OutputTarget {
 
  private:
   explicit OutputTarget(QString path) : m_path(std::move(path)) {}
-  Failure failure(const QString &why) const;
+  Failure failure(const Phrase &why) const;
   Status writeToFile(const QByteArray &bytes);
   /// How many bytes a stream took, 0 where it took none in a tenth of a second, or why it never
   /// will.

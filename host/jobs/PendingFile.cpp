@@ -12,7 +12,6 @@
 #include <QRandomGenerator>
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 
 namespace orvek {
 namespace {
@@ -22,7 +21,7 @@ constexpr mode_t kPermissions = 07777;
 constexpr int kMostNames = 100;
 
 Failure because(int error) {
-  return {FailureKind::Io, QString(), QString::fromLocal8Bit(std::strerror(error))};
+  return {FailureKind::Io, QString(), Phrase::ofSystem(error)};
 }
 
 QString pastLinks(const QString &path) {
@@ -78,7 +77,7 @@ Result<std::unique_ptr<PendingFile>> PendingFile::open(const QString &path) {
   if (file->openUnnamed()) return file;
   file->m_named = std::make_unique<QSaveFile>(path);
   if (file->m_named->open(QIODevice::WriteOnly)) return file;
-  return Failure{FailureKind::Io, QString(), file->m_named->errorString()};
+  return Failure{FailureKind::Io, QString(), Phrase::ofSystem(file->m_named->errorString())};
 }
 
 bool PendingFile::openUnnamed() {
@@ -95,7 +94,7 @@ bool PendingFile::openUnnamed() {
 Status PendingFile::commit() {
   if (m_named) {
     if (m_named->commit()) return {};
-    return Failure{FailureKind::Io, QString(), m_named->errorString()};
+    return Failure{FailureKind::Io, QString(), Phrase::ofSystem(m_named->errorString())};
   }
   // In place means on the disk: a file without its bytes is what nobody wants after a power cut.
   if (::fdatasync(m_unnamed) != 0) return because(errno);

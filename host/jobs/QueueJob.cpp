@@ -16,8 +16,6 @@
 namespace orvek {
 namespace {
 
-const QString kStandardInput = QStringLiteral("-");
-
 /// One job under way.
 struct Submission {
   JobControl &control;
@@ -41,16 +39,17 @@ qint64 expectedBytes(const QStringList &files) {
 
 /// Standard input's first block, before there is a job: an empty input makes none.
 Result<QByteArray> beginOfStandardInput(const QStringList &files, const JobControl &control) {
-  if (!files.contains(kStandardInput)) return QByteArray();
-  auto reader = DocumentReader::open(kStandardInput);
+  if (!files.contains(standardInput())) return QByteArray();
+  auto reader = DocumentReader::open(standardInput());
   while (!control.cancelled) {
     auto block = reader.value()->read();
     if (!block || !block.value().isEmpty()) return block;
     if (reader.value()->atEnd())
-      return Failure{FailureKind::Io, documentName(kStandardInput),
-                     QStringLiteral("is empty, so no job has been sent")};
+      return Failure{
+          FailureKind::Io, documentName(standardInput()),
+          Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "is empty, so no job has been sent"))};
   }
-  return cancelledFailure();
+  return jobCancelled();
 }
 
 QByteArray formatOf(const CupsOptions &options) {
@@ -59,12 +58,12 @@ QByteArray formatOf(const CupsOptions &options) {
   return format ? format : CUPS_FORMAT_AUTO;
 }
 
-Failure lastFailure(const Submission &job, const QString &what) {
-  return job.control.cancelled ? cancelledFailure() : job.connection.lastFailure(what);
+Failure lastFailure(const Submission &job, const Phrase &what) {
+  return job.control.cancelled ? jobCancelled() : job.connection.lastFailure(what);
 }
 
 Status sendBlock(Submission &job, const QString &file, const QByteArray &block) {
-  if (job.control.cancelled) return cancelledFailure();
+  if (job.control.cancelled) return jobCancelled();
   if (block.isEmpty()) return {};
   const http_status_t status = cupsWriteRequestData(job.connection.http(), block.constData(),
                                                     static_cast<size_t>(block.size()));
@@ -77,7 +76,7 @@ Status sendBlock(Submission &job, const QString &file, const QByteArray &block) 
 Status sendBlocks(Submission &job, const QString &file) {
   auto reader = DocumentReader::open(file);
   if (!reader) return reader.failure();
-  if (file == kStandardInput)
+  if (isStandardInput(file))
     if (Status sent = sendBlock(job, file, job.firstOfStandardInput); !sent) return sent;
   while (!reader.value()->atEnd()) {
     const auto block = reader.value()->read();
@@ -90,7 +89,7 @@ Status sendBlocks(Submission &job, const QString &file) {
 Status sendDocument(Submission &job, const QString &file, bool isLast) {
   // Standard input has no name of its own; libcups then gives the document the job's.
   const QByteArray name =
-      file == kStandardInput ? QByteArray() : QFileInfo(file).fileName().toUtf8();
+      isStandardInput(file) ? QByteArray() : QFileInfo(file).fileName().toUtf8();
   http_t *http = job.connection.http();
   const http_status_t status = cupsStartDocument(http, job.queue.constData(), job.jobId,
                                                  name.isNull() ? nullptr : name.constData(),
@@ -146,7 +145,7 @@ Result<JobOutcome> submitToQueue(const JobRequest &request, JobControl &control)
   auto connection = CupsConnection::open(accessOf(request, &control.cancelled));
   if (!connection) return connection.failure();
   const auto printer = findPrinter(*connection.value(), destinationOf(request));
-  if (!printer) return control.cancelled ? cancelledFailure() : printer.failure();
+  if (!printer) return control.cancelled ? jobCancelled() : printer.failure();
 
   CupsOptions options(effectiveOptions(request));
   options.addMissing(savedOptions(printer.value(), request));
@@ -176,7 +175,7 @@ Status cancelJob(const ServerAccess &access, const QString &queue, int jobId) {
 
 QString requestIdLine(const JobRequest &request, const JobOutcome &outcome) {
   const auto files = effectiveFiles(request);
-  const qsizetype named = files.size() - files.count(kStandardInput);
+  const qsizetype named = files.size() - files.count(standardInput());
   return QStringLiteral("request id is %1-%2 (%3 file(s))")
       .arg(outcome.queue)
       .arg(outcome.jobId)

@@ -15,7 +15,7 @@ namespace orvek {
 /// the server.
 ///
 /// Failures: a document can't be read, standard input is empty, no server or one that hangs, no
-/// such queue, what the server refuses (in its words), "cancelled".
+/// such queue, what the server refuses (in its words), cancelled.
 Result<JobOutcome> submitToQueue(const JobRequest &request, JobControl &control);
 
 /// "request id is QUEUE-ID (N file(s))", as lp says it; standard input alone counts as no file.

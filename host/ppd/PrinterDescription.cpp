@@ -19,11 +19,12 @@ constexpr int languageLetters = 2;
 // first.
 Status checkReadable(const QString &path) {
   if (QFileInfo(path).isDir()) {
-    return Failure{FailureKind::Io, path, QStringLiteral("is a folder, not a PPD file")};
+    return Failure{FailureKind::Io, path,
+                   Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "is a folder, not a PPD file"))};
   }
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) {
-    return Failure{FailureKind::Io, path, file.errorString()};
+    return Failure{FailureKind::Io, path, Phrase::ofSystem(file.errorString())};
   }
   return {};
 }
@@ -32,9 +33,9 @@ Failure invalidDescription(const QString &path) {
   int line = 0;
   const ppd_status_t status = ppdLastError(&line);
   const QString what = line > 0 ? path + QLatin1Char(':') + QString::number(line) : path;
-  return {
-      FailureKind::Invalid, what,
-      QStringLiteral("not a valid PPD file (%1)").arg(QString::fromUtf8(ppdErrorString(status)))};
+  return {FailureKind::Invalid, what,
+          Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "not a valid PPD file (%1)"),
+                 {Phrase::ofSystem(QString::fromUtf8(ppdErrorString(status)))})};
 }
 
 // Whether an attribute has a text in the language, or in one that some libcups takes for the same.

@@ -14,32 +14,36 @@ const QString kPrinter = QStringLiteral("printer");
 const QString kOptions = QStringLiteral("options");
 const QString kTicket = QStringLiteral("ticket");
 
-Failure invalid(const QString &where, const QString &why) {
+Failure invalid(const QString &where, const Phrase &why) {
   return {FailureKind::Invalid, where, why};
 }
 
 Failure notJson(const QByteArray &json, const QString &where, const QJsonParseError &error) {
   const auto line = json.left(error.offset).count('\n') + 1;
   return invalid(where + u':' + QString::number(line),
-                 QStringLiteral("not a preset: %1").arg(error.errorString()));
+                 Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "not a preset: %1"),
+                        {Phrase::ofSystem(error.errorString())}));
 }
 
 /// Absent is fine, but what is there has to be of the kind that the part is.
 Status checkKinds(const QJsonObject &object, const QString &where) {
   for (const QString &key : {kName, kPrinter})
     if (object.contains(key) && !object.value(key).isString())
-      return invalid(where, QStringLiteral("\"%1\" must be text").arg(key));
+      return invalid(where,
+                     Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "\"%1\" must be text"), {key}));
   for (const QString &key : {kOptions, kTicket})
     if (object.contains(key) && !object.value(key).isObject())
-      return invalid(where, QStringLiteral("\"%1\" must be an object").arg(key));
+      return invalid(
+          where, Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "\"%1\" must be an object"), {key}));
   return {};
 }
 
 Status readOptions(const QJsonObject &options, const QString &where, Preset &preset) {
   for (auto option = options.begin(); option != options.end(); ++option) {
     if (!option.value().isString())
-      return invalid(where,
-                     QStringLiteral("option \"%1\" must have a choice as text").arg(option.key()));
+      return invalid(where, Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
+                                                     "option \"%1\" must have a choice as text"),
+                                   {option.key()}));
     preset.options.insert(option.key(), option.value().toString());
   }
   return {};
@@ -63,7 +67,8 @@ Result<Preset> presetFromJson(const QByteArray &json, const QString &where) {
   const auto document = QJsonDocument::fromJson(json, &error);
   if (error.error != QJsonParseError::NoError) return notJson(json, where, error);
   if (!document.isObject())
-    return invalid(where, QStringLiteral("not a preset: one JSON object expected"));
+    return invalid(where, Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
+                                                   "not a preset: one JSON object expected")));
   const QJsonObject object = document.object();
   if (Status kinds = checkKinds(object, where); !kinds) return kinds.failure();
 

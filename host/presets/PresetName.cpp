@@ -19,13 +19,16 @@ const QString kSuffix = QStringLiteral(".json");
 }  // namespace
 
 Status checkPresetName(const QString &name) {
-  const auto fail = [](const QString &why) {
-    return Failure{FailureKind::Usage, QStringLiteral("preset name"), why};
+  const auto fail = [](const Phrase &why) {
+    return Failure{FailureKind::Usage, Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "preset name")),
+                   why};
   };
-  if (name.trimmed().isEmpty()) return fail(QStringLiteral("is empty; give the preset a name"));
+  if (name.trimmed().isEmpty())
+    return fail(Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "is empty; give the preset a name")));
   const auto isControl = [](QChar c) { return c.category() == QChar::Other_Control; };
   if (std::any_of(name.cbegin(), name.cend(), isControl))
-    return fail(QStringLiteral("can't hold line breaks or control characters"));
+    return fail(Phrase(
+        QT_TRANSLATE_NOOP("orvek::Failure", "can't hold line breaks or control characters")));
   return {};
 }
 

@@ -16,48 +16,54 @@
 namespace orvek {
 namespace {
 
-QString whatOf(const QString &name) {
-  return QStringLiteral("preset \"%1\"").arg(name);
+Phrase whatOf(const QString &name) {
+  return Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "preset \"%1\""), {name});
 }
 
-Failure ioFailure(const QString &what, const QString &why) {
+Failure ioFailure(const Phrase &what, const Phrase &why) {
   return {FailureKind::Io, what, why};
 }
 
 Failure noSuchPreset(const QString &name) {
-  return ioFailure(whatOf(name), QStringLiteral("there is none of that name; "
-                                                "\"orvek-print --list-presets\" lists them"));
+  return ioFailure(whatOf(name),
+                   Phrase(QT_TRANSLATE_NOOP(
+                       "orvek::Failure",
+                       "there is none of that name; \"orvek-print --list-presets\" lists them")));
 }
 
 /// A file that holds another name than its own was put there by hand; it is not the preset asked
 /// for.
-Result<Preset> readPreset(const QString &path, const QString &where) {
+Result<Preset> readPreset(const QString &path, const Phrase &where) {
   QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) return ioFailure(where, file.errorString());
+  if (!file.open(QIODevice::ReadOnly))
+    return ioFailure(where, Phrase::ofSystem(file.errorString()));
   const QByteArray json = file.readAll();
-  if (file.error() != QFileDevice::NoError) return ioFailure(where, file.errorString());
+  if (file.error() != QFileDevice::NoError)
+    return ioFailure(where, Phrase::ofSystem(file.errorString()));
   return presetFromJson(json, where);
 }
 
 Status writePreset(const QString &path, const Preset &preset) {
   const QString folder = QFileInfo(path).path();
-  if (!QDir().mkpath(folder)) return ioFailure(folder, QStringLiteral("can't be made"));
+  if (!QDir().mkpath(folder))
+    return ioFailure(folder, Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "can't be made")));
   QSaveFile file(path);
   const QByteArray json = presetToJson(preset);
   if (!file.open(QIODevice::WriteOnly) || file.write(json) != json.size() || !file.commit())
-    return ioFailure(path, file.errorString());
+    return ioFailure(path, Phrase::ofSystem(file.errorString()));
   return {};
 }
 
 /// Where a file is damaged, replacing it would lose what its owner may still want to mend.
-Status checkNotDamaged(const QString &path, const QString &what) {
+Status checkNotDamaged(const QString &path, const Phrase &what) {
   if (!QFile::exists(path)) return {};
   const auto present = readPreset(path, what);
   if (present) return {};
-  return Failure{
-      present.failure().kind, what,
-      QStringLiteral("the present one is damaged and left as it is (%1); delete it first")
-          .arg(present.failure().why)};
+  return Failure{present.failure().kind, what,
+                 Phrase(QT_TRANSLATE_NOOP(
+                            "orvek::Failure",
+                            "the present one is damaged and left as it is (%1); delete it first"),
+                        {present.failure().why})};
 }
 
 void sortForPeople(QStringList &names) {
@@ -98,7 +104,8 @@ PresetListing PresetStore::list() const {
              file)  // put there by hand; load() can't find it
       listing.damaged << Failure{
           FailureKind::Invalid, path,
-          QStringLiteral("holds a preset of another name: \"%1\"").arg(preset.value().name)};
+          Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "holds a preset of another name: \"%1\""),
+                 {preset.value().name})};
     else
       listing.names << preset.value().name;
   }
@@ -124,7 +131,8 @@ Status PresetStore::rename(const QString &from, const QString &to) {
   auto preset = load(from);
   if (!preset) return preset.failure();
   if (QFile::exists(fileOf(to)) && fileOf(to) != fileOf(from))
-    return ioFailure(whatOf(to), QStringLiteral("there is one of that name already"));
+    return ioFailure(whatOf(to), Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
+                                                          "there is one of that name already")));
   preset.value().name = to;
   if (Status written = writePreset(fileOf(to), preset.value()); !written) return written;
   return fileOf(to) == fileOf(from) ? Status() : remove(from);
@@ -134,7 +142,8 @@ Status PresetStore::remove(const QString &name) {
   if (Status named = checkPresetName(name); !named) return named;
   QFile file(fileOf(name));
   if (!file.exists()) return noSuchPreset(name);
-  return file.remove() ? Status() : Status(ioFailure(whatOf(name), file.errorString()));
+  return file.remove() ? Status()
+                       : Status(ioFailure(whatOf(name), Phrase::ofSystem(file.errorString())));
 }
 
 Result<std::optional<Preset>> PresetStore::lastUsed(const QString &queue) const {

@@ -4,7 +4,6 @@
 #include "host/printers/CupsConnection.h"
 
 #include <cerrno>
-#include <cstring>
 #include <utility>
 
 namespace orvek {
@@ -29,6 +28,28 @@ QString nameOfServer() {
   return QStringLiteral("%1:%2").arg(server).arg(ippPort());
 }
 
+// Why the server did not do what libcups' last call asked for.
+Phrase refusalInWords() {
+  switch (cupsLastError()) {
+    case IPP_STATUS_ERROR_NOT_FOUND:
+      return Phrase(
+          QT_TRANSLATE_NOOP("orvek::Failure", "the print server has no such queue or job"));
+    case IPP_STATUS_ERROR_FORBIDDEN:
+    case IPP_STATUS_ERROR_NOT_AUTHORIZED:
+    case IPP_STATUS_ERROR_NOT_AUTHENTICATED:
+      return Phrase(
+          QT_TRANSLATE_NOOP("orvek::Failure", "the print server does not allow it for user \"%1\""),
+          {QString::fromUtf8(cupsUser())});
+    case IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS:
+      return Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "the queue takes no jobs at present"));
+    default:
+      break;
+  }
+  const QString text = QString::fromUtf8(cupsLastErrorString()).simplified();
+  if (!text.isEmpty()) return Phrase::ofSystem(text);
+  return Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "the print server gave no answer"));
+}
+
 }  // namespace
 
 CupsConnection::CupsConnection(const ServerAccess &access)
@@ -48,8 +69,8 @@ Result<std::unique_ptr<CupsConnection>> CupsConnection::open(const ServerAccess 
   if (!connection->m_http) {
     const int error = errno;
     return Failure{FailureKind::Io, connection->m_serverName,
-                   QStringLiteral("no print server answers there (%1)")
-                       .arg(QString::fromLocal8Bit(std::strerror(error)))};
+                   Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "no print server answers there (%1)"),
+                          {Phrase::ofSystem(error)})};
   }
   return connection;
 }
@@ -83,33 +104,19 @@ CupsConnection::Unasked::~Unasked() {
   cupsSetPasswordCB2(password, const_cast<CupsConnection *>(&m_connection));
 }
 
-Failure CupsConnection::lastFailure(const QString &what) const {
-  if (isCancelled()) return {FailureKind::Io, what, QStringLiteral("cancelled")};
+Failure CupsConnection::lastFailure(const Phrase &what) const {
+  if (isCancelled()) return cancelledFailure(what);
   if (lacksPassword()) return *m_passwords.failure();
   if (m_limit.gaveUp())
     return {FailureKind::Io, m_serverName,
-            QStringLiteral("the print server stopped answering; try again once it is up")};
+            Phrase(QT_TRANSLATE_NOOP(
+                "orvek::Failure", "the print server stopped answering; try again once it is up"))};
   if (const int error = httpError(http()))
-    return {FailureKind::Io, what,
-            QStringLiteral("the connection to the print server broke (%1)")
-                .arg(QString::fromLocal8Bit(std::strerror(error)))};
-  switch (cupsLastError()) {
-    case IPP_STATUS_ERROR_NOT_FOUND:
-      return {FailureKind::Io, what, QStringLiteral("the print server has no such queue or job")};
-    case IPP_STATUS_ERROR_FORBIDDEN:
-    case IPP_STATUS_ERROR_NOT_AUTHORIZED:
-    case IPP_STATUS_ERROR_NOT_AUTHENTICATED:
-      return {FailureKind::Io, what,
-              QStringLiteral("the print server does not allow it for user \"%1\"")
-                  .arg(QString::fromUtf8(cupsUser()))};
-    case IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS:
-      return {FailureKind::Io, what, QStringLiteral("the queue takes no jobs at present")};
-    default:
-      break;
-  }
-  const QString text = QString::fromUtf8(cupsLastErrorString()).simplified();
-  return {FailureKind::Io, what,
-          text.isEmpty() ? QStringLiteral("the print server gave no answer") : text};
+    return {
+        FailureKind::Io, what,
+        Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "the connection to the print server broke (%1)"),
+               {Phrase::ofSystem(error)})};
+  return {FailureKind::Io, what, refusalInWords()};
 }
 
 }  // namespace orvek

@@ -43,7 +43,7 @@ class CupsConnection {
   bool lacksPassword() const { return m_passwords.failure().has_value(); }
 
   /// The failure of the libcups call just made, in words; `what` is what the call was about.
-  Failure lastFailure(const QString &what) const;
+  Failure lastFailure(const Phrase &what) const;
 
   /// While it lives nobody is asked for a password: for questions to others than the server.
   class Unasked {

@@ -29,8 +29,9 @@ void PasswordSource::forget(const QString &server) {
 Result<Credentials> PasswordSource::ask(const PasswordQuestion &question,
                                         const std::atomic<bool> *cancelled) {
   if (!m_ask) {
-    return Failure{FailureKind::Io, question.server,
-                   QStringLiteral("the print server asks for a password")};
+    return Failure{
+        FailureKind::Io, question.server,
+        Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "the print server asks for a password"))};
   }
   Result<Credentials> answer = m_ask(question, cancelled);
   if (answer) {
@@ -56,15 +57,16 @@ std::optional<Credentials> PasswordRounds::next(const QString &server, const QSt
 Result<Credentials> PasswordRounds::ask(const PasswordQuestion &question,
                                         const std::atomic<bool> *cancelled) {
   if (!m_source) {
-    return Failure{FailureKind::Io, question.server,
-                   QStringLiteral("the print server asks for a password")};
+    return Failure{
+        FailureKind::Io, question.server,
+        Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "the print server asks for a password"))};
   }
   if (m_asked == kMostAnswers) {
     return Failure{FailureKind::Io, question.server,
-                   QStringLiteral("the print server did not accept the password of user \"%1\", "
-                                  "given %2 times")
-                       .arg(question.user)
-                       .arg(kMostAnswers)};
+                   Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
+                                            "the print server did not accept the password of user "
+                                            "\"%1\", given %2 times"),
+                          {question.user, QString::number(kMostAnswers)})};
   }
   ++m_asked;
   return m_source->ask(question, cancelled);

@@ -96,9 +96,11 @@ Status checkAnswers(const CupsConnection &connection) {
 }
 
 Failure noSuchPrinter(const CupsConnection &connection, const QString &destination) {
-  return {FailureKind::Io, destination,
-          QStringLiteral("no such printer on %1; \"orvek-print --list-printers\" lists them")
-              .arg(connection.serverName())};
+  return {
+      FailureKind::Io, destination,
+      Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
+                               "no such printer on %1; \"orvek-print --list-printers\" lists them"),
+             {connection.serverName()})};
 }
 
 Failure noDefault(const CupsConnection &connection) {
@@ -106,11 +108,14 @@ Failure noDefault(const CupsConnection &connection) {
     const QString named = qEnvironmentVariable(variable);
     const bool counts = !named.isEmpty() && named != QStringLiteral("lp");
     if (counts)
-      return {FailureKind::Io, QString::fromLatin1(variable),
-              QStringLiteral("names a printer that does not exist: \"%1\"").arg(named)};
+      return {
+          FailureKind::Io, QString::fromLatin1(variable),
+          Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "names a printer that does not exist: \"%1\""),
+                 {named})};
   }
-  return {FailureKind::Io, connection.serverName(),
-          QStringLiteral("there is no default printer; name one with -d")};
+  return {
+      FailureKind::Io, connection.serverName(),
+      Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "there is no default printer; name one with -d"))};
 }
 
 }  // namespace

@@ -44,7 +44,7 @@ Status keep(const PPDAnswer &fetched, const QString &path) {
   QSaveFile kept(path);
   if (!kept.open(QIODevice::WriteOnly) || kept.write(fetched.ppd) != fetched.ppd.size() ||
       !kept.commit())
-    return Failure{FailureKind::Io, path, kept.errorString()};
+    return Failure{FailureKind::Io, path, Phrase::ofSystem(kept.errorString())};
   QFile dated(path);
   // Undated, it would only be fetched again the next time.
   if (dated.open(QIODevice::ReadWrite))
@@ -82,9 +82,11 @@ Result<QString> QueuePPD::fetch(const CupsConnection &connection, const QString 
   if (answer.status == HTTP_STATUS_NOT_MODIFIED) return path;
   if (answer.status == HTTP_STATUS_NOT_FOUND) return withoutPPD(connection, queue);
   if (answer.status != HTTP_STATUS_OK) {
-    return Failure{FailureKind::Io, queue,
-                   QStringLiteral("the print server does not give its printer description (%1)")
-                       .arg(QString::fromUtf8(httpStatus(answer.status)))};
+    return Failure{
+        FailureKind::Io, queue,
+        Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
+                                 "the print server does not give its printer description (%1)"),
+               {QString::fromUtf8(httpStatus(answer.status))})};
   }
   const Status kept = keep(answer, path);
   return kept ? Result<QString>(path) : Result<QString>(kept.failure());

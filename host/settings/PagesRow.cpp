@@ -10,6 +10,7 @@
 #include <QRadioButton>
 
 #include "host/ticket/PageRanges.h"
+#include "host/translations/FailureText.h"
 
 namespace orvek {
 namespace {
@@ -70,7 +71,7 @@ void PagesRow::pick() {
   } else if (ranges) {
     Q_EMIT rangesPicked(ranges.value(), QString());
   } else {
-    Q_EMIT rangesPicked(QString(), ranges.failure().line());
+    Q_EMIT rangesPicked(QString(), failureText(ranges.failure()));
   }
   updateControls();
 }
@@ -90,7 +91,7 @@ void PagesRow::setSettings(const JobSettings &settings) {
 void PagesRow::updateControls() {
   const Result<QString> typed = normalizedPageRanges(m_ranges->text());
   const bool isWrong = m_some->isChecked() && !typed;
-  const QString problem = isWrong ? typed.failure().line() : QString();
+  const QString problem = isWrong ? failureText(typed.failure()) : QString();
   const bool isNew = m_problem->text() != problem;
   m_problem->setText(problem);
   m_problem->setVisible(isWrong && !m_isTyping);

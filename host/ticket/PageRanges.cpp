@@ -3,7 +3,6 @@
 
 #include "host/ticket/PageRanges.h"
 
-#include <QCoreApplication>
 #include <QRegularExpression>
 #include <QStringList>
 #include <algorithm>
@@ -13,10 +12,6 @@ namespace orvek {
 namespace {
 
 constexpr int lastPossiblePage = std::numeric_limits<int>::max();
-
-struct Words {
-  Q_DECLARE_TR_FUNCTIONS(orvek::PageRanges)
-};
 
 struct Range {
   int first = 1;
@@ -63,7 +58,7 @@ std::optional<Range> readRange(const QString &text) {
 
 Failure noRange(const QString &text) {
   return {FailureKind::Usage, text.trimmed().isEmpty() ? QStringLiteral("\",\"") : text.trimmed(),
-          Words::tr("not a page range; write for example 1-3,7")};
+          Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "not a page range; write for example 1-3,7"))};
 }
 
 void sortAndJoin(QList<Range> *ranges) {

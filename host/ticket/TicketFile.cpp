@@ -13,28 +13,29 @@
 namespace orvek {
 namespace {
 
-Failure invalid(const QString &what, const QString &why) {
+Failure invalid(const Phrase &what, const Phrase &why) {
   return {FailureKind::Invalid, what, why};
 }
 
 Failure notJson(const QByteArray &json, const QString &name, const QJsonParseError &error) {
   const auto line = json.left(error.offset).count('\n') + 1;
   return invalid(name + QLatin1Char(':') + QString::number(line),
-                 QStringLiteral("not a ticket: JSON expected (%1)").arg(error.errorString()));
+                 Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "not a ticket: JSON expected (%1)"),
+                        {Phrase::ofSystem(error.errorString())}));
 }
 
-QString kindOf(const QJsonValue &value) {
+Phrase kindOf(const QJsonValue &value) {
   switch (value.type()) {
     case QJsonValue::Null:
       return QStringLiteral("null");
     case QJsonValue::Bool:
-      return QStringLiteral("true or false");
+      return Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "true or false"));
     case QJsonValue::Array:
-      return QStringLiteral("a list");
+      return Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "a list"));
     case QJsonValue::Object:
-      return QStringLiteral("an object");
+      return Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "an object"));
     default:
-      return QStringLiteral("a number with a fraction");
+      return Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "a number with a fraction"));
   }
 }
 
@@ -74,15 +75,18 @@ Result<TicketValues> parseTicket(const QByteArray &json, const QString &name) {
   const QJsonDocument document = QJsonDocument::fromJson(json, &error);
   if (error.error != QJsonParseError::NoError) return notJson(json, name, error);
   if (!document.isObject()) {
-    return invalid(name, QStringLiteral("not a ticket: one JSON object expected"));
+    return invalid(name, Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
+                                                  "not a ticket: one JSON object expected")));
   }
   TicketValues values;
   const QJsonObject object = document.object();
   for (auto entry = object.begin(); entry != object.end(); ++entry) {
     const QVariant value = ticketValue(entry.value());
     if (!value.isValid()) {
-      return invalid(name, QStringLiteral("key \"%1\" must be text or an integer, not %2")
-                               .arg(entry.key(), kindOf(entry.value())));
+      return invalid(name,
+                     Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
+                                              "key \"%1\" must be text or an integer, not %2"),
+                            {entry.key(), kindOf(entry.value())}));
     }
     values.insert(entry.key(), value);
   }

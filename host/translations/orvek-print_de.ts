@@ -138,6 +138,309 @@
     </message>
 </context>
 <context>
+    <name>orvek::Failure</name>
+    <message>
+        <source>is empty, so no job has been sent</source>
+        <translation>ist leer, daher wurde kein Auftrag gesendet</translation>
+    </message>
+    <message>
+        <source>job</source>
+        <translation>Auftrag</translation>
+    </message>
+    <message>
+        <source>is a folder</source>
+        <translation>ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>Standardeingabe</translation>
+    </message>
+    <message>
+        <source>can be printed once only, and &quot;-&quot; is given more than once</source>
+        <translation>kann nur einmal gedruckt werden, und „-“ ist mehrmals angegeben</translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation>Standardausgabe</translation>
+    </message>
+    <message>
+        <source>is a folder, not a PPD file</source>
+        <translation>ist ein Ordner, keine PPD-Datei</translation>
+    </message>
+    <message>
+        <source>the filters made no output of it</source>
+        <translation>die Filter haben daraus nichts erzeugt</translation>
+    </message>
+    <message>
+        <source>not found; install the package &quot;cups&quot;</source>
+        <translation>nicht gefunden; installieren Sie das Paket „cups“</translation>
+    </message>
+    <message>
+        <source>is empty, so there is nothing to print</source>
+        <translation>ist leer, daher gibt es nichts zu drucken</translation>
+    </message>
+    <message>
+        <source>only a part of it was read before the job was cancelled</source>
+        <translation>vor dem Abbruch wurde nur ein Teil gelesen</translation>
+    </message>
+    <message>
+        <source>the filter %1 stopped with status %2</source>
+        <translation>der Filter %1 endete mit Status %2</translation>
+    </message>
+    <message>
+        <source>the filter %1 crashed on signal %2</source>
+        <translation>der Filter %1 stürzte mit Signal %2 ab</translation>
+    </message>
+    <message>
+        <source>the filter %1</source>
+        <translation>der Filter %1</translation>
+    </message>
+    <message>
+        <source>the filter %1 has insecure permissions</source>
+        <translation>der Filter %1 hat unsichere Zugriffsrechte</translation>
+    </message>
+    <message>
+        <source>the filter %1 not available: %2</source>
+        <translation>der Filter %1 ist nicht verfügbar: %2</translation>
+    </message>
+    <message>
+        <source>its type is unknown; print a PDF, PostScript, text or image file</source>
+        <translation>unbekannter Dateityp; drucken Sie eine PDF-, PostScript-, Text- oder Bilddatei</translation>
+    </message>
+    <message>
+        <source>no filter prints the type %1</source>
+        <translation>kein Filter druckt den Typ %1</translation>
+    </message>
+    <message>
+        <source>the filters ended with status %1</source>
+        <translation>die Filter endeten mit Status %1</translation>
+    </message>
+    <message>
+        <source>the print server asks for a password, and none was given</source>
+        <translation>der Druckserver verlangt ein Passwort, und keines wurde angegeben</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>abgebrochen</translation>
+    </message>
+    <message>
+        <source>Broken pipe</source>
+        <translation>Datenübergabe unterbrochen</translation>
+    </message>
+    <message>
+        <source>Connection refused</source>
+        <translation>Verbindungsaufbau abgelehnt</translation>
+    </message>
+    <message>
+        <source>Connection reset by peer</source>
+        <translation>Verbindung von der Gegenseite beendet</translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation>Wartezeit für die Verbindung abgelaufen</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>Datei ist zu groß</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Ein-/Ausgabefehler</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>Network is unreachable</source>
+        <translation>das Netzwerk ist nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>No route to host</source>
+        <translation>kein Weg zum Rechner</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>auf dem Gerät ist kein Platz mehr</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Datei oder Ordner nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>ist kein Ordner</translation>
+    </message>
+    <message>
+        <source>Operation now in progress</source>
+        <translation>der Vorgang läuft noch</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>der Vorgang ist nicht erlaubt</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>keine Berechtigung</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>Dateisystem ist nur lesbar</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>zu viele offene Dateien</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>not a preset: %1</source>
+        <translation>keine Voreinstellung: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be text</source>
+        <translation>„%1“ muss ein Text sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be an object</source>
+        <translation>„%1“ muss ein Objekt sein</translation>
+    </message>
+    <message>
+        <source>option &quot;%1&quot; must have a choice as text</source>
+        <translation>die Option „%1“ muss eine Auswahl als Text haben</translation>
+    </message>
+    <message>
+        <source>not a preset: one JSON object expected</source>
+        <translation>keine Voreinstellung: ein JSON-Objekt wird erwartet</translation>
+    </message>
+    <message>
+        <source>preset &quot;%1&quot;</source>
+        <translation>Voreinstellung „%1“</translation>
+    </message>
+    <message>
+        <source>there is none of that name; &quot;orvek-print --list-presets&quot; lists them</source>
+        <translation>es gibt keine mit diesem Namen; „orvek-print --list-presets“ listet sie auf</translation>
+    </message>
+    <message>
+        <source>can&apos;t be made</source>
+        <translation>kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>the present one is damaged and left as it is (%1); delete it first</source>
+        <translation>die vorhandene ist beschädigt und bleibt, wie sie ist (%1); löschen Sie sie zuerst</translation>
+    </message>
+    <message>
+        <source>holds a preset of another name: &quot;%1&quot;</source>
+        <translation>enthält eine Voreinstellung mit anderem Namen: „%1“</translation>
+    </message>
+    <message>
+        <source>there is one of that name already</source>
+        <translation>es gibt schon eine mit diesem Namen</translation>
+    </message>
+    <message>
+        <source>preset name</source>
+        <translation>Name der Voreinstellung</translation>
+    </message>
+    <message>
+        <source>is empty; give the preset a name</source>
+        <translation>ist leer; geben Sie der Voreinstellung einen Namen</translation>
+    </message>
+    <message>
+        <source>can&apos;t hold line breaks or control characters</source>
+        <translation>darf keine Zeilenumbrüche oder Steuerzeichen enthalten</translation>
+    </message>
+    <message>
+        <source>the print server asks for a password</source>
+        <translation>der Druckserver verlangt ein Passwort</translation>
+    </message>
+    <message>
+        <source>the print server did not accept the password of user &quot;%1&quot;, given %2 times</source>
+        <translation>der Druckserver hat das Passwort von „%1“ nicht angenommen, das %2-mal angegeben wurde</translation>
+    </message>
+    <message>
+        <source>the print server does not give its printer description (%1)</source>
+        <translation>der Druckserver gibt die Druckerbeschreibung nicht heraus (%1)</translation>
+    </message>
+    <message>
+        <source>no such printer on %1; &quot;orvek-print --list-printers&quot; lists them</source>
+        <translation>kein solcher Drucker auf %1; „orvek-print --list-printers“ listet sie auf</translation>
+    </message>
+    <message>
+        <source>names a printer that does not exist: &quot;%1&quot;</source>
+        <translation>nennt einen Drucker, den es nicht gibt: „%1“</translation>
+    </message>
+    <message>
+        <source>there is no default printer; name one with -d</source>
+        <translation>es gibt keinen Standarddrucker; nennen Sie einen mit -d</translation>
+    </message>
+    <message>
+        <source>the print server has no such queue or job</source>
+        <translation>der Druckserver hat keine solche Warteschlange und keinen solchen Auftrag</translation>
+    </message>
+    <message>
+        <source>the print server does not allow it for user &quot;%1&quot;</source>
+        <translation>der Druckserver erlaubt es „%1“ nicht</translation>
+    </message>
+    <message>
+        <source>the queue takes no jobs at present</source>
+        <translation>die Warteschlange nimmt zurzeit keine Aufträge an</translation>
+    </message>
+    <message>
+        <source>the print server gave no answer</source>
+        <translation>der Druckserver hat nicht geantwortet</translation>
+    </message>
+    <message>
+        <source>no print server answers there (%1)</source>
+        <translation>dort antwortet kein Druckserver (%1)</translation>
+    </message>
+    <message>
+        <source>the print server stopped answering; try again once it is up</source>
+        <translation>der Druckserver antwortet nicht mehr; versuchen Sie es erneut, sobald er läuft</translation>
+    </message>
+    <message>
+        <source>the connection to the print server broke (%1)</source>
+        <translation>die Verbindung zum Druckserver ist abgebrochen (%1)</translation>
+    </message>
+    <message>
+        <source>not a ticket: JSON expected (%1)</source>
+        <translation>kein Ticket: JSON wird erwartet (%1)</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>wahr oder falsch</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>eine Liste</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>ein Objekt</translation>
+    </message>
+    <message>
+        <source>a number with a fraction</source>
+        <translation>eine Zahl mit Nachkommastellen</translation>
+    </message>
+    <message>
+        <source>not a ticket: one JSON object expected</source>
+        <translation>kein Ticket: ein JSON-Objekt wird erwartet</translation>
+    </message>
+    <message>
+        <source>key &quot;%1&quot; must be text or an integer, not %2</source>
+        <translation>der Schlüssel „%1“ muss ein Text oder eine ganze Zahl sein, nicht %2</translation>
+    </message>
+    <message>
+        <source>not a page range; write for example 1-3,7</source>
+        <translation>kein Seitenbereich; Beispiel: 1-3,7</translation>
+    </message>
+    <message>
+        <source>not a valid PPD file (%1)</source>
+        <translation>keine gültige PPD-Datei (%1)</translation>
+    </message>
+</context>
+<context>
     <name>orvek::GeneralPage</name>
     <message>
         <source>Copies</source>
@@ -233,29 +536,6 @@
     <message>
         <source>Stopping the job</source>
         <translation>Der Auftrag wird angehalten</translation>
-    </message>
-</context>
-<context>
-    <name>orvek::JobRunner</name>
-    <message>
-        <source>only a part of it was read before the job was cancelled</source>
-        <translation>vor dem Abbruch wurde nur ein Teil gelesen</translation>
-    </message>
-    <message>
-        <source>page %1</source>
-        <translation>Seite %1</translation>
-    </message>
-    <message>
-        <source>Printing: %1</source>
-        <translation>Druckt: %1</translation>
-    </message>
-    <message>
-        <source>Printing document %1 of %2: %3</source>
-        <translation>Druckt Dokument %1 von %2: %3</translation>
-    </message>
-    <message>
-        <source>Printing…</source>
-        <translation>Druckt …</translation>
     </message>
 </context>
 <context>
@@ -366,13 +646,6 @@
     </message>
 </context>
 <context>
-    <name>orvek::PageRanges</name>
-    <message>
-        <source>not a page range; write for example 1-3,7</source>
-        <translation>kein Seitenbereich; Beispiel: 1-3,7</translation>
-    </message>
-</context>
-<context>
     <name>orvek::PagesRow</name>
     <message>
         <source>All</source>
@@ -401,10 +674,6 @@
 </context>
 <context>
     <name>orvek::PasswordDialog</name>
-    <message>
-        <source>the print server asks for a password, and none was given</source>
-        <translation>der Druckserver verlangt ein Passwort, und keines wurde angegeben</translation>
-    </message>
     <message>
         <source>The print server %1 asks for a name and a password.</source>
         <translation>Der Druckserver %1 verlangt einen Namen und ein Passwort.</translation>
@@ -587,6 +856,64 @@
     </message>
 </context>
 <context>
+    <name>orvek::PrinterChooser</name>
+    <message>
+        <source>%1 (default)</source>
+        <translation>%1 (Standard)</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>File (%1)</source>
+        <translation>Datei (%1)</translation>
+    </message>
+    <message>
+        <source>No printers: %1</source>
+        <translation>Keine Drucker: %1</translation>
+    </message>
+    <message>
+        <source>Prints into a file</source>
+        <translation>Druckt in eine Datei</translation>
+    </message>
+    <message>
+        <source>File (needs a printer description)</source>
+        <translation>Datei (braucht eine Druckerbeschreibung)</translation>
+    </message>
+    <message>
+        <source>Open Printer Description…</source>
+        <translation>Druckerbeschreibung öffnen…</translation>
+    </message>
+    <message>
+        <source>Choose a printer, or open a printer description</source>
+        <translation>Drucker wählen oder Druckerbeschreibung öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::ProgressText</name>
+    <message>
+        <source>Printing…</source>
+        <translation>Druckt …</translation>
+    </message>
+    <message>
+        <source>page %1</source>
+        <translation>Seite %1</translation>
+    </message>
+    <message>
+        <source>Printing: %1</source>
+        <translation>Druckt: %1</translation>
+    </message>
+    <message>
+        <source>Printing document %1 of %2: %3</source>
+        <translation>Druckt Dokument %1 von %2: %3</translation>
+    </message>
+</context>
+<context>
     <name>orvek::Queue</name>
     <message>
         <source>Connecting to the printer</source>
@@ -715,45 +1042,6 @@
     <message>
         <source>, takes no jobs</source>
         <translation>, nimmt keine Aufträge an</translation>
-    </message>
-</context>
-<context>
-    <name>orvek::PrinterChooser</name>
-    <message>
-        <source>%1 (default)</source>
-        <translation>%1 (Standard)</translation>
-    </message>
-    <message>
-        <source>Printer</source>
-        <translation>Drucker</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>Datei</translation>
-    </message>
-    <message>
-        <source>File (%1)</source>
-        <translation>Datei (%1)</translation>
-    </message>
-    <message>
-        <source>No printers: %1</source>
-        <translation>Keine Drucker: %1</translation>
-    </message>
-    <message>
-        <source>Prints into a file</source>
-        <translation>Druckt in eine Datei</translation>
-    </message>
-    <message>
-        <source>File (needs a printer description)</source>
-        <translation>Datei (braucht eine Druckerbeschreibung)</translation>
-    </message>
-    <message>
-        <source>Open Printer Description…</source>
-        <translation>Druckerbeschreibung öffnen…</translation>
-    </message>
-    <message>
-        <source>Choose a printer, or open a printer description</source>
-        <translation>Drucker wählen oder Druckerbeschreibung öffnen</translation>
     </message>
 </context>
 <context>

@@ -138,6 +138,309 @@
     </message>
 </context>
 <context>
+    <name>orvek::Failure</name>
+    <message>
+        <source>is empty, so no job has been sent</source>
+        <translation>est vide, donc aucun travail n’a été envoyé</translation>
+    </message>
+    <message>
+        <source>job</source>
+        <translation>travail</translation>
+    </message>
+    <message>
+        <source>is a folder</source>
+        <translation>est un dossier</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>entrée standard</translation>
+    </message>
+    <message>
+        <source>can be printed once only, and &quot;-&quot; is given more than once</source>
+        <translation>ne peut être imprimée qu’une fois, et « - » est donné plusieurs fois</translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation>sortie standard</translation>
+    </message>
+    <message>
+        <source>is a folder, not a PPD file</source>
+        <translation>est un dossier, pas un fichier PPD</translation>
+    </message>
+    <message>
+        <source>the filters made no output of it</source>
+        <translation>les filtres n’en ont rien tiré</translation>
+    </message>
+    <message>
+        <source>not found; install the package &quot;cups&quot;</source>
+        <translation>introuvable ; installez le paquet « cups »</translation>
+    </message>
+    <message>
+        <source>is empty, so there is nothing to print</source>
+        <translation>est vide, donc il n’y a rien à imprimer</translation>
+    </message>
+    <message>
+        <source>only a part of it was read before the job was cancelled</source>
+        <translation>seule une partie a été lue avant l’annulation</translation>
+    </message>
+    <message>
+        <source>the filter %1 stopped with status %2</source>
+        <translation>le filtre %1 s’est arrêté avec l’état %2</translation>
+    </message>
+    <message>
+        <source>the filter %1 crashed on signal %2</source>
+        <translation>le filtre %1 s’est interrompu sur le signal %2</translation>
+    </message>
+    <message>
+        <source>the filter %1</source>
+        <translation>le filtre %1</translation>
+    </message>
+    <message>
+        <source>the filter %1 has insecure permissions</source>
+        <translation>le filtre %1 a des droits d’accès non sûrs</translation>
+    </message>
+    <message>
+        <source>the filter %1 not available: %2</source>
+        <translation>le filtre %1 n’est pas disponible : %2</translation>
+    </message>
+    <message>
+        <source>its type is unknown; print a PDF, PostScript, text or image file</source>
+        <translation>type de fichier inconnu ; imprimez un fichier PDF, PostScript, texte ou image</translation>
+    </message>
+    <message>
+        <source>no filter prints the type %1</source>
+        <translation>aucun filtre n’imprime le type %1</translation>
+    </message>
+    <message>
+        <source>the filters ended with status %1</source>
+        <translation>les filtres se sont arrêtés avec l’état %1</translation>
+    </message>
+    <message>
+        <source>the print server asks for a password, and none was given</source>
+        <translation>le serveur d’impression demande un mot de passe, et aucun n’a été donné</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>annulé</translation>
+    </message>
+    <message>
+        <source>Broken pipe</source>
+        <translation>relais brisé</translation>
+    </message>
+    <message>
+        <source>Connection refused</source>
+        <translation>connexion refusée</translation>
+    </message>
+    <message>
+        <source>Connection reset by peer</source>
+        <translation>connexion fermée par le correspondant</translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation>délai de connexion dépassé</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>fichier trop grand</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>erreur d’entrée/sortie</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>est un dossier</translation>
+    </message>
+    <message>
+        <source>Network is unreachable</source>
+        <translation>le réseau n’est pas accessible</translation>
+    </message>
+    <message>
+        <source>No route to host</source>
+        <translation>aucun chemin vers l’hôte</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>il n’y a plus de place sur le périphérique</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>fichier ou dossier introuvable</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>n’est pas un dossier</translation>
+    </message>
+    <message>
+        <source>Operation now in progress</source>
+        <translation>l’opération est en cours</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>opération non permise</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>permission refusée</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>système de fichiers en lecture seule</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>trop de fichiers ouverts</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>not a preset: %1</source>
+        <translation>pas un préréglage : %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be text</source>
+        <translation>« %1 » doit être un texte</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be an object</source>
+        <translation>« %1 » doit être un objet</translation>
+    </message>
+    <message>
+        <source>option &quot;%1&quot; must have a choice as text</source>
+        <translation>l’option « %1 » doit avoir un choix sous forme de texte</translation>
+    </message>
+    <message>
+        <source>not a preset: one JSON object expected</source>
+        <translation>pas un préréglage : un objet JSON est attendu</translation>
+    </message>
+    <message>
+        <source>preset &quot;%1&quot;</source>
+        <translation>préréglage « %1 »</translation>
+    </message>
+    <message>
+        <source>there is none of that name; &quot;orvek-print --list-presets&quot; lists them</source>
+        <translation>il n’y en a pas de ce nom ; « orvek-print --list-presets » les énumère</translation>
+    </message>
+    <message>
+        <source>can&apos;t be made</source>
+        <translation>ne peut pas être créé</translation>
+    </message>
+    <message>
+        <source>the present one is damaged and left as it is (%1); delete it first</source>
+        <translation>celui qui existe est endommagé et reste tel quel (%1) ; supprimez-le d’abord</translation>
+    </message>
+    <message>
+        <source>holds a preset of another name: &quot;%1&quot;</source>
+        <translation>contient un préréglage d’un autre nom : « %1 »</translation>
+    </message>
+    <message>
+        <source>there is one of that name already</source>
+        <translation>il y en a déjà un de ce nom</translation>
+    </message>
+    <message>
+        <source>preset name</source>
+        <translation>nom du préréglage</translation>
+    </message>
+    <message>
+        <source>is empty; give the preset a name</source>
+        <translation>est vide ; donnez un nom au préréglage</translation>
+    </message>
+    <message>
+        <source>can&apos;t hold line breaks or control characters</source>
+        <translation>ne peut contenir ni saut de ligne ni caractère de commande</translation>
+    </message>
+    <message>
+        <source>the print server asks for a password</source>
+        <translation>le serveur d’impression demande un mot de passe</translation>
+    </message>
+    <message>
+        <source>the print server did not accept the password of user &quot;%1&quot;, given %2 times</source>
+        <translation>le serveur d’impression n’a pas accepté le mot de passe de l’utilisateur « %1 », donné %2 fois</translation>
+    </message>
+    <message>
+        <source>the print server does not give its printer description (%1)</source>
+        <translation>le serveur d’impression ne donne pas la description de l’imprimante (%1)</translation>
+    </message>
+    <message>
+        <source>no such printer on %1; &quot;orvek-print --list-printers&quot; lists them</source>
+        <translation>pas d’imprimante de ce nom sur %1 ; « orvek-print --list-printers » les énumère</translation>
+    </message>
+    <message>
+        <source>names a printer that does not exist: &quot;%1&quot;</source>
+        <translation>désigne une imprimante qui n’existe pas : « %1 »</translation>
+    </message>
+    <message>
+        <source>there is no default printer; name one with -d</source>
+        <translation>il n’y a pas d’imprimante par défaut ; nommez-en une avec -d</translation>
+    </message>
+    <message>
+        <source>the print server has no such queue or job</source>
+        <translation>le serveur d’impression n’a pas de file ni de travail de ce nom</translation>
+    </message>
+    <message>
+        <source>the print server does not allow it for user &quot;%1&quot;</source>
+        <translation>le serveur d’impression ne le permet pas à l’utilisateur « %1 »</translation>
+    </message>
+    <message>
+        <source>the queue takes no jobs at present</source>
+        <translation>la file n’accepte pas de travaux pour le moment</translation>
+    </message>
+    <message>
+        <source>the print server gave no answer</source>
+        <translation>le serveur d’impression n’a pas répondu</translation>
+    </message>
+    <message>
+        <source>no print server answers there (%1)</source>
+        <translation>aucun serveur d’impression n’y répond (%1)</translation>
+    </message>
+    <message>
+        <source>the print server stopped answering; try again once it is up</source>
+        <translation>le serveur d’impression ne répond plus ; réessayez quand il fonctionnera</translation>
+    </message>
+    <message>
+        <source>the connection to the print server broke (%1)</source>
+        <translation>la connexion au serveur d’impression s’est rompue (%1)</translation>
+    </message>
+    <message>
+        <source>not a ticket: JSON expected (%1)</source>
+        <translation>pas un ticket : du JSON est attendu (%1)</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>vrai ou faux</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>une liste</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>un objet</translation>
+    </message>
+    <message>
+        <source>a number with a fraction</source>
+        <translation>un nombre à virgule</translation>
+    </message>
+    <message>
+        <source>not a ticket: one JSON object expected</source>
+        <translation>pas un ticket : un objet JSON est attendu</translation>
+    </message>
+    <message>
+        <source>key &quot;%1&quot; must be text or an integer, not %2</source>
+        <translation>la clé « %1 » doit être un texte ou un entier, pas %2</translation>
+    </message>
+    <message>
+        <source>not a page range; write for example 1-3,7</source>
+        <translation>n’est pas une plage de pages ; exemple : 1-3,7</translation>
+    </message>
+    <message>
+        <source>not a valid PPD file (%1)</source>
+        <translation>pas un fichier PPD valide (%1)</translation>
+    </message>
+</context>
+<context>
     <name>orvek::GeneralPage</name>
     <message>
         <source>Copies</source>
@@ -233,29 +536,6 @@
     <message>
         <source>Stopping the job</source>
         <translation>Arrêt du travail</translation>
-    </message>
-</context>
-<context>
-    <name>orvek::JobRunner</name>
-    <message>
-        <source>only a part of it was read before the job was cancelled</source>
-        <translation>seule une partie a été lue avant l’annulation</translation>
-    </message>
-    <message>
-        <source>page %1</source>
-        <translation>page %1</translation>
-    </message>
-    <message>
-        <source>Printing: %1</source>
-        <translation>Impression : %1</translation>
-    </message>
-    <message>
-        <source>Printing document %1 of %2: %3</source>
-        <translation>Impression du document %1 sur %2 : %3</translation>
-    </message>
-    <message>
-        <source>Printing…</source>
-        <translation>Impression…</translation>
     </message>
 </context>
 <context>
@@ -366,13 +646,6 @@
     </message>
 </context>
 <context>
-    <name>orvek::PageRanges</name>
-    <message>
-        <source>not a page range; write for example 1-3,7</source>
-        <translation>n’est pas une plage de pages ; exemple : 1-3,7</translation>
-    </message>
-</context>
-<context>
     <name>orvek::PagesRow</name>
     <message>
         <source>All</source>
@@ -401,10 +674,6 @@
 </context>
 <context>
     <name>orvek::PasswordDialog</name>
-    <message>
-        <source>the print server asks for a password, and none was given</source>
-        <translation>le serveur d’impression demande un mot de passe, et aucun n’a été donné</translation>
-    </message>
     <message>
         <source>The print server %1 asks for a name and a password.</source>
         <translation>Le serveur d’impression %1 demande un nom et un mot de passe.</translation>
@@ -587,6 +856,64 @@
     </message>
 </context>
 <context>
+    <name>orvek::PrinterChooser</name>
+    <message>
+        <source>%1 (default)</source>
+        <translation>%1 (par défaut)</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>Imprimante</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>File (%1)</source>
+        <translation>Fichier (%1)</translation>
+    </message>
+    <message>
+        <source>No printers: %1</source>
+        <translation>Aucune imprimante : %1</translation>
+    </message>
+    <message>
+        <source>Prints into a file</source>
+        <translation>Imprime dans un fichier</translation>
+    </message>
+    <message>
+        <source>File (needs a printer description)</source>
+        <translation>Fichier (nécessite une description d’imprimante)</translation>
+    </message>
+    <message>
+        <source>Open Printer Description…</source>
+        <translation>Ouvrir une description d’imprimante…</translation>
+    </message>
+    <message>
+        <source>Choose a printer, or open a printer description</source>
+        <translation>Choisissez une imprimante ou ouvrez une description</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::ProgressText</name>
+    <message>
+        <source>Printing…</source>
+        <translation>Impression…</translation>
+    </message>
+    <message>
+        <source>page %1</source>
+        <translation>page %1</translation>
+    </message>
+    <message>
+        <source>Printing: %1</source>
+        <translation>Impression : %1</translation>
+    </message>
+    <message>
+        <source>Printing document %1 of %2: %3</source>
+        <translation>Impression du document %1 sur %2 : %3</translation>
+    </message>
+</context>
+<context>
     <name>orvek::Queue</name>
     <message>
         <source>Connecting to the printer</source>
@@ -715,45 +1042,6 @@
     <message>
         <source>, takes no jobs</source>
         <translation>, n’accepte pas de travaux</translation>
-    </message>
-</context>
-<context>
-    <name>orvek::PrinterChooser</name>
-    <message>
-        <source>%1 (default)</source>
-        <translation>%1 (par défaut)</translation>
-    </message>
-    <message>
-        <source>Printer</source>
-        <translation>Imprimante</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>Fichier</translation>
-    </message>
-    <message>
-        <source>File (%1)</source>
-        <translation>Fichier (%1)</translation>
-    </message>
-    <message>
-        <source>No printers: %1</source>
-        <translation>Aucune imprimante : %1</translation>
-    </message>
-    <message>
-        <source>Prints into a file</source>
-        <translation>Imprime dans un fichier</translation>
-    </message>
-    <message>
-        <source>File (needs a printer description)</source>
-        <translation>Fichier (nécessite une description d’imprimante)</translation>
-    </message>
-    <message>
-        <source>Open Printer Description…</source>
-        <translation>Ouvrir une description d’imprimante…</translation>
-    </message>
-    <message>
-        <source>Choose a printer, or open a printer description</source>
-        <translation>Choisissez une imprimante ou ouvrez une description</translation>
     </message>
 </context>
 <context>

@@ -138,6 +138,309 @@
     </message>
 </context>
 <context>
+    <name>orvek::Failure</name>
+    <message>
+        <source>is empty, so no job has been sent</source>
+        <translation>空のため、ジョブは送信されませんでした</translation>
+    </message>
+    <message>
+        <source>job</source>
+        <translation>ジョブ</translation>
+    </message>
+    <message>
+        <source>is a folder</source>
+        <translation>フォルダーです</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>標準入力</translation>
+    </message>
+    <message>
+        <source>can be printed once only, and &quot;-&quot; is given more than once</source>
+        <translation>一度しか印刷できませんが、「-」が複数回指定されています</translation>
+    </message>
+    <message>
+        <source>standard output</source>
+        <translation>標準出力</translation>
+    </message>
+    <message>
+        <source>is a folder, not a PPD file</source>
+        <translation>PPD ファイルではなくフォルダーです</translation>
+    </message>
+    <message>
+        <source>the filters made no output of it</source>
+        <translation>フィルターは何も出力しませんでした</translation>
+    </message>
+    <message>
+        <source>not found; install the package &quot;cups&quot;</source>
+        <translation>見つかりません。パッケージ「cups」をインストールしてください</translation>
+    </message>
+    <message>
+        <source>is empty, so there is nothing to print</source>
+        <translation>空のため、印刷するものがありません</translation>
+    </message>
+    <message>
+        <source>only a part of it was read before the job was cancelled</source>
+        <translation>中止までに一部しか読み込まれていません</translation>
+    </message>
+    <message>
+        <source>the filter %1 stopped with status %2</source>
+        <translation>フィルター %1 がステータス %2 で終了しました</translation>
+    </message>
+    <message>
+        <source>the filter %1 crashed on signal %2</source>
+        <translation>フィルター %1 がシグナル %2 で異常終了しました</translation>
+    </message>
+    <message>
+        <source>the filter %1</source>
+        <translation>フィルター %1</translation>
+    </message>
+    <message>
+        <source>the filter %1 has insecure permissions</source>
+        <translation>フィルター %1 のアクセス権は安全ではありません</translation>
+    </message>
+    <message>
+        <source>the filter %1 not available: %2</source>
+        <translation>フィルター %1 は利用できません: %2</translation>
+    </message>
+    <message>
+        <source>its type is unknown; print a PDF, PostScript, text or image file</source>
+        <translation>種類が不明です。PDF、PostScript、テキスト、画像ファイルを印刷してください</translation>
+    </message>
+    <message>
+        <source>no filter prints the type %1</source>
+        <translation>種類 %1 を印刷するフィルターがありません</translation>
+    </message>
+    <message>
+        <source>the filters ended with status %1</source>
+        <translation>フィルターがステータス %1 で終了しました</translation>
+    </message>
+    <message>
+        <source>the print server asks for a password, and none was given</source>
+        <translation>プリントサーバーがパスワードを求めていますが、入力されませんでした</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>中止されました</translation>
+    </message>
+    <message>
+        <source>Broken pipe</source>
+        <translation>パイプが切断されました</translation>
+    </message>
+    <message>
+        <source>Connection refused</source>
+        <translation>接続を拒否されました</translation>
+    </message>
+    <message>
+        <source>Connection reset by peer</source>
+        <translation>接続が相手からリセットされました</translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation>接続がタイムアウトしました</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>ファイルが大きすぎます</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>入出力エラーです</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>フォルダーです</translation>
+    </message>
+    <message>
+        <source>Network is unreachable</source>
+        <translation>ネットワークに到達できません</translation>
+    </message>
+    <message>
+        <source>No route to host</source>
+        <translation>ホストへの経路がありません</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>デバイスに空き領域がありません</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>ファイルやフォルダーがありません</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>フォルダーではありません</translation>
+    </message>
+    <message>
+        <source>Operation now in progress</source>
+        <translation>処理がまだ続いています</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>許可されていない操作です</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>許可がありません</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>ファイルシステムは読み込み専用です</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>開いているファイルが多すぎます</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>not a preset: %1</source>
+        <translation>プリセットではありません: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be text</source>
+        <translation>「%1」は文字列でなければなりません</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; must be an object</source>
+        <translation>「%1」はオブジェクトでなければなりません</translation>
+    </message>
+    <message>
+        <source>option &quot;%1&quot; must have a choice as text</source>
+        <translation>オプション「%1」の選択は文字列でなければなりません</translation>
+    </message>
+    <message>
+        <source>not a preset: one JSON object expected</source>
+        <translation>プリセットではありません: JSON オブジェクトが 1 つ必要です</translation>
+    </message>
+    <message>
+        <source>preset &quot;%1&quot;</source>
+        <translation>プリセット「%1」</translation>
+    </message>
+    <message>
+        <source>there is none of that name; &quot;orvek-print --list-presets&quot; lists them</source>
+        <translation>この名前のものはありません。「orvek-print --list-presets」で一覧できます</translation>
+    </message>
+    <message>
+        <source>can&apos;t be made</source>
+        <translation>作成できません</translation>
+    </message>
+    <message>
+        <source>the present one is damaged and left as it is (%1); delete it first</source>
+        <translation>既存のものは壊れているため、そのまま残します (%1)。先に削除してください</translation>
+    </message>
+    <message>
+        <source>holds a preset of another name: &quot;%1&quot;</source>
+        <translation>別の名前のプリセットが入っています:「%1」</translation>
+    </message>
+    <message>
+        <source>there is one of that name already</source>
+        <translation>この名前のものは既にあります</translation>
+    </message>
+    <message>
+        <source>preset name</source>
+        <translation>プリセット名</translation>
+    </message>
+    <message>
+        <source>is empty; give the preset a name</source>
+        <translation>空です。プリセットに名前を付けてください</translation>
+    </message>
+    <message>
+        <source>can&apos;t hold line breaks or control characters</source>
+        <translation>改行や制御文字は使えません</translation>
+    </message>
+    <message>
+        <source>the print server asks for a password</source>
+        <translation>プリントサーバーがパスワードを求めています</translation>
+    </message>
+    <message>
+        <source>the print server did not accept the password of user &quot;%1&quot;, given %2 times</source>
+        <translation>プリントサーバーはユーザー「%1」のパスワードを受け付けませんでした (%2 回入力)</translation>
+    </message>
+    <message>
+        <source>the print server does not give its printer description (%1)</source>
+        <translation>プリントサーバーからプリンター記述を取得できません (%1)</translation>
+    </message>
+    <message>
+        <source>no such printer on %1; &quot;orvek-print --list-printers&quot; lists them</source>
+        <translation>%1 にこのプリンターはありません。「orvek-print --list-printers」で一覧できます</translation>
+    </message>
+    <message>
+        <source>names a printer that does not exist: &quot;%1&quot;</source>
+        <translation>存在しないプリンターを指しています:「%1」</translation>
+    </message>
+    <message>
+        <source>there is no default printer; name one with -d</source>
+        <translation>既定のプリンターがありません。-d で指定してください</translation>
+    </message>
+    <message>
+        <source>the print server has no such queue or job</source>
+        <translation>プリントサーバーにこのキューやジョブはありません</translation>
+    </message>
+    <message>
+        <source>the print server does not allow it for user &quot;%1&quot;</source>
+        <translation>プリントサーバーはユーザー「%1」に許可していません</translation>
+    </message>
+    <message>
+        <source>the queue takes no jobs at present</source>
+        <translation>キューは現在ジョブを受け付けていません</translation>
+    </message>
+    <message>
+        <source>the print server gave no answer</source>
+        <translation>プリントサーバーから応答がありません</translation>
+    </message>
+    <message>
+        <source>no print server answers there (%1)</source>
+        <translation>応答するプリントサーバーがありません (%1)</translation>
+    </message>
+    <message>
+        <source>the print server stopped answering; try again once it is up</source>
+        <translation>プリントサーバーの応答が途絶えました。復旧してからやり直してください</translation>
+    </message>
+    <message>
+        <source>the connection to the print server broke (%1)</source>
+        <translation>プリントサーバーとの接続が切れました (%1)</translation>
+    </message>
+    <message>
+        <source>not a ticket: JSON expected (%1)</source>
+        <translation>チケットではありません: JSON が必要です (%1)</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>真偽値</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>リスト</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>オブジェクト</translation>
+    </message>
+    <message>
+        <source>a number with a fraction</source>
+        <translation>小数</translation>
+    </message>
+    <message>
+        <source>not a ticket: one JSON object expected</source>
+        <translation>チケットではありません: JSON オブジェクトが 1 つ必要です</translation>
+    </message>
+    <message>
+        <source>key &quot;%1&quot; must be text or an integer, not %2</source>
+        <translation>キー「%1」は文字列か整数でなければなりません (現在は%2)</translation>
+    </message>
+    <message>
+        <source>not a page range; write for example 1-3,7</source>
+        <translation>ページ範囲ではありません (例: 1-3,7)</translation>
+    </message>
+    <message>
+        <source>not a valid PPD file (%1)</source>
+        <translation>有効な PPD ファイルではありません (%1)</translation>
+    </message>
+</context>
+<context>
     <name>orvek::GeneralPage</name>
     <message>
         <source>Copies</source>
@@ -233,29 +536,6 @@
     <message>
         <source>Stopping the job</source>
         <translation>ジョブを中止しています</translation>
-    </message>
-</context>
-<context>
-    <name>orvek::JobRunner</name>
-    <message>
-        <source>only a part of it was read before the job was cancelled</source>
-        <translation>中止までに一部しか読み込まれていません</translation>
-    </message>
-    <message>
-        <source>page %1</source>
-        <translation>%1 ページ目</translation>
-    </message>
-    <message>
-        <source>Printing: %1</source>
-        <translation>印刷中: %1</translation>
-    </message>
-    <message>
-        <source>Printing document %1 of %2: %3</source>
-        <translation>文書 %1/%2 を印刷中: %3</translation>
-    </message>
-    <message>
-        <source>Printing…</source>
-        <translation>印刷中…</translation>
     </message>
 </context>
 <context>
@@ -366,13 +646,6 @@
     </message>
 </context>
 <context>
-    <name>orvek::PageRanges</name>
-    <message>
-        <source>not a page range; write for example 1-3,7</source>
-        <translation>ページ範囲ではありません (例: 1-3,7)</translation>
-    </message>
-</context>
-<context>
     <name>orvek::PagesRow</name>
     <message>
         <source>All</source>
@@ -401,10 +674,6 @@
 </context>
 <context>
     <name>orvek::PasswordDialog</name>
-    <message>
-        <source>the print server asks for a password, and none was given</source>
-        <translation>プリントサーバーがパスワードを求めていますが、入力されませんでした</translation>
-    </message>
     <message>
         <source>The print server %1 asks for a name and a password.</source>
         <translation>プリントサーバー %1 が名前とパスワードを求めています。</translation>
@@ -587,6 +856,64 @@
     </message>
 </context>
 <context>
+    <name>orvek::PrinterChooser</name>
+    <message>
+        <source>%1 (default)</source>
+        <translation>%1 (既定)</translation>
+    </message>
+    <message>
+        <source>Printer</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>File (%1)</source>
+        <translation>ファイル (%1)</translation>
+    </message>
+    <message>
+        <source>No printers: %1</source>
+        <translation>プリンターなし: %1</translation>
+    </message>
+    <message>
+        <source>Prints into a file</source>
+        <translation>ファイルに印刷します</translation>
+    </message>
+    <message>
+        <source>File (needs a printer description)</source>
+        <translation>ファイル (プリンター記述が必要)</translation>
+    </message>
+    <message>
+        <source>Open Printer Description…</source>
+        <translation>プリンター記述を開く…</translation>
+    </message>
+    <message>
+        <source>Choose a printer, or open a printer description</source>
+        <translation>プリンターを選ぶか、プリンター記述を開いてください</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::ProgressText</name>
+    <message>
+        <source>Printing…</source>
+        <translation>印刷中…</translation>
+    </message>
+    <message>
+        <source>page %1</source>
+        <translation>%1 ページ目</translation>
+    </message>
+    <message>
+        <source>Printing: %1</source>
+        <translation>印刷中: %1</translation>
+    </message>
+    <message>
+        <source>Printing document %1 of %2: %3</source>
+        <translation>文書 %1/%2 を印刷中: %3</translation>
+    </message>
+</context>
+<context>
     <name>orvek::Queue</name>
     <message>
         <source>Connecting to the printer</source>
@@ -715,45 +1042,6 @@
     <message>
         <source>, takes no jobs</source>
         <translation>、ジョブを受け付けません</translation>
-    </message>
-</context>
-<context>
-    <name>orvek::PrinterChooser</name>
-    <message>
-        <source>%1 (default)</source>
-        <translation>%1 (既定)</translation>
-    </message>
-    <message>
-        <source>Printer</source>
-        <translation>プリンター</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>ファイル</translation>
-    </message>
-    <message>
-        <source>File (%1)</source>
-        <translation>ファイル (%1)</translation>
-    </message>
-    <message>
-        <source>No printers: %1</source>
-        <translation>プリンターなし: %1</translation>
-    </message>
-    <message>
-        <source>Prints into a file</source>
-        <translation>ファイルに印刷します</translation>
-    </message>
-    <message>
-        <source>File (needs a printer description)</source>
-        <translation>ファイル (プリンター記述が必要)</translation>
-    </message>
-    <message>
-        <source>Open Printer Description…</source>
-        <translation>プリンター記述を開く…</translation>
-    </message>
-    <message>
-        <source>Choose a printer, or open a printer description</source>
-        <translation>プリンターを選ぶか、プリンター記述を開いてください</translation>
     </message>
 </context>
 <context>

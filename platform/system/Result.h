@@ -7,24 +7,44 @@
 #include <utility>
 #include <variant>
 
+#include "platform/system/Phrase.h"
+
 namespace orvek {
 
-/// What kind of failure it is; the numbers are the exit statuses of our programs.
+/// What kind of failure it is.
 enum class FailureKind {
-  Io = 1,       ///< a job could not be printed, a file could not be read or written
-  Usage = 2,    ///< the command line, or an action on it, is wrong
-  Invalid = 3,  ///< a PPD, ticket, preset or plug-in is not what it should be
+  /// A job could not be printed, a file could not be read or written.
+  Io = 1,
+  /// The command line, or an action on it, is wrong.
+  Usage = 2,
+  /// A PPD, ticket, preset or plug-in is not what it should be.
+  Invalid = 3,
+  /// Whoever waited for it no longer wants it.
+  Cancelled = 4,
 };
 
-/// One failure, said in one line: "WHAT: WHY". `what` names the file (with its line where there is
-/// one) or the option; `why` says what is wrong and, where it helps, what to do.
+/// The exit status that a program of ours ends with. What was cancelled is not done, as what
+/// failed.
+constexpr int exitStatusOf(FailureKind kind) {
+  return static_cast<int>(kind == FailureKind::Cancelled ? FailureKind::Io : kind);
+}
+
+/// One failure, said in one line: "WHAT: WHY". A value, which may go from thread to thread.
 struct Failure {
   FailureKind kind = FailureKind::Io;
-  QString what;
-  QString why;
+  /// Names the file (with its line where there is one) or the option.
+  Phrase what;
+  /// What is wrong and, where it helps, what to do.
+  Phrase why;
 
-  QString line() const { return what + QStringLiteral(": ") + why; }
+  /// In English.
+  QString line() const { return Phrase::filled(QStringLiteral("%1: %2"), std::vector{what, why}); }
 };
+
+/// What a function gives that was asked to end before it was done. `what` is what it was about.
+inline Failure cancelledFailure(const Phrase &what) {
+  return {FailureKind::Cancelled, what, Phrase("cancelled")};
+}
 
 /// A value of type T, or the failure that kept it from being made.
 template <typename T>

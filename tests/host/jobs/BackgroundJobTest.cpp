@@ -4,18 +4,26 @@
 #include "host/jobs/BackgroundJob.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <QSignalSpy>
+#include <QTemporaryFile>
 #include <QThread>
+
+#include "tests/support/CapturingFilter.h"
+#include "tests/support/Printers.h"
+#include "tests/support/StandardInput.h"
 
 namespace orvek {
 namespace {
 
-constexpr int kPatience = 5000;
+constexpr int patience = 5000;
+
+const JobRequest request{.files = {QStringLiteral("report.pdf")}};
 
 Result<JobOutcome> untilCancelled(const JobRequest &, JobControl &control) {
   while (!control.cancelled) QThread::msleep(1);
-  return Failure{FailureKind::Io, QStringLiteral("job"), QStringLiteral("cancelled")};
+  return jobCancelled();
 }
 
 TEST(BackgroundJob, TellsItsOutcomeOnTheOwnersThread) {
@@ -27,8 +35,8 @@ TEST(BackgroundJob, TellsItsOutcomeOnTheOwnersThread) {
     id = outcome.jobId;
   });
   QSignalSpy finished(&job, &BackgroundJob::finished);
-  job.start({}, [](const JobRequest &, JobControl &) { return JobOutcome{7, {}, 1, 0}; });
-  ASSERT_TRUE(finished.wait(kPatience));
+  job.start(request, [](const JobRequest &, JobControl &) { return JobOutcome{7, {}, 1, 0}; });
+  ASSERT_TRUE(finished.wait(patience));
   EXPECT_EQ(heardOn, QThread::currentThread());
   EXPECT_EQ(id, 7);
   EXPECT_FALSE(job.isRunning());
@@ -38,11 +46,11 @@ TEST(BackgroundJob, ReportsProgressFarLessOftenThanBlocksComeIn) {
   BackgroundJob job;
   QSignalSpy progressed(&job, &BackgroundJob::progressed);
   QSignalSpy finished(&job, &BackgroundJob::finished);
-  job.start({}, [](const JobRequest &, JobControl &control) {
+  job.start(request, [](const JobRequest &, JobControl &control) {
     for (int i = 0; i < 10000; ++i) control.report({});
     return JobOutcome{};
   });
-  ASSERT_TRUE(finished.wait(kPatience));
+  ASSERT_TRUE(finished.wait(patience));
   EXPECT_GE(progressed.count(), 1);
   EXPECT_LT(progressed.count(), 1000);
 }
@@ -50,16 +58,18 @@ TEST(BackgroundJob, ReportsProgressFarLessOftenThanBlocksComeIn) {
 TEST(BackgroundJob, FailsAsCancelledOnceAskedTo) {
   BackgroundJob job;
   QSignalSpy failed(&job, &BackgroundJob::failed);
-  job.start({}, untilCancelled);
+  job.start(request, untilCancelled);
   EXPECT_TRUE(job.isRunning());
   job.cancel();
-  ASSERT_TRUE(failed.wait(kPatience));
-  EXPECT_EQ(failed.takeFirst().at(0).value<Failure>().why, QStringLiteral("cancelled"));
+  ASSERT_TRUE(failed.wait(patience));
+  const auto failure = failed.takeFirst().at(0).value<Failure>();
+  EXPECT_EQ(failure.kind, FailureKind::Cancelled);
+  EXPECT_EQ(failure.why, QStringLiteral("cancelled"));
 }
 
 TEST(BackgroundJob, MayBeDestroyedWhileItRuns) {
   auto job = std::make_unique<BackgroundJob>();
-  job->start({}, untilCancelled);
+  job->start(request, untilCancelled);
   job.reset();
 }
 
@@ -67,10 +77,54 @@ TEST(BackgroundJob, CanBeStartedAgainAfterItsEnd) {
   BackgroundJob job;
   QSignalSpy finished(&job, &BackgroundJob::finished);
   const auto work = [](const JobRequest &, JobControl &) { return JobOutcome{}; };
-  job.start({}, work);
-  ASSERT_TRUE(finished.wait(kPatience));
-  job.start({}, work);
-  ASSERT_TRUE(finished.wait(kPatience));
+  job.start(request, work);
+  ASSERT_TRUE(finished.wait(patience));
+  job.start(request, work);
+  ASSERT_TRUE(finished.wait(patience));
+}
+
+class BackgroundJobWithInput : public ::testing::Test {
+ protected:
+  // What the work finds in the documents' place, of a job that reads standard input.
+  QByteArray printed() {
+    QByteArray contents;
+    QSignalSpy finished(&job, &BackgroundJob::finished);
+    job.start({}, [&contents](const JobRequest &given, JobControl &) {
+      contents = testing::contentsOf(given.files.value(0)) + ' ' + given.title.toUtf8();
+      return JobOutcome{};
+    });
+    EXPECT_TRUE(finished.wait(patience));
+    return contents;
+  }
+
+  BackgroundJob job;
+};
+
+TEST_F(BackgroundJobWithInput, IsGivenItAgainAtTheSecondTry) {
+  QTemporaryFile input;
+  ASSERT_TRUE(input.open());
+  input.write("once");
+  input.flush();
+  const testing::StandardInput redirected(input.fileName());
+  EXPECT_EQ(printed(), "once (stdin)");
+  EXPECT_EQ(printed(), "once (stdin)");
+}
+
+TEST_F(BackgroundJobWithInput, IsCancelledWhileNothingComesIn) {
+  int ends[2];
+  ASSERT_EQ(::pipe(ends), 0);
+  const testing::StandardInput redirected(QStringLiteral("/dev/fd/%1").arg(ends[0]));
+  QSignalSpy failed(&job, &BackgroundJob::failed);
+  job.start({}, untilCancelled);
+  job.cancel();
+  ASSERT_TRUE(failed.wait(patience));
+  EXPECT_EQ(failed.takeFirst().at(0).value<Failure>().kind, FailureKind::Cancelled);
+  job.start({}, untilCancelled);
+  ASSERT_TRUE(failed.wait(patience));
+  EXPECT_EQ(failed.takeFirst().at(0).value<Failure>().line(),
+            "standard input: only a part of it was read before the job was cancelled");
+  ::close(ends[0]);
+  ::close(ends[1]);
 }
 
 }  // namespace

@@ -53,9 +53,26 @@ TEST(Failure, SaysWhatAndWhyInOneLine) {
 }
 
 TEST(FailureKind, CarriesTheExitStatusesThatScriptsRelyOn) {
-  EXPECT_EQ(static_cast<int>(FailureKind::Io), 1);
-  EXPECT_EQ(static_cast<int>(FailureKind::Usage), 2);
-  EXPECT_EQ(static_cast<int>(FailureKind::Invalid), 3);
+  EXPECT_EQ(exitStatusOf(FailureKind::Io), 1);
+  EXPECT_EQ(exitStatusOf(FailureKind::Usage), 2);
+  EXPECT_EQ(exitStatusOf(FailureKind::Invalid), 3);
+  EXPECT_EQ(exitStatusOf(FailureKind::Cancelled), 1);
+}
+
+TEST(Phrase, IsTheSentenceWithItsPartsInIt) {
+  const Phrase phrase("%2 lacks %1, and %1 costs 100%", {QStringLiteral("a"), QStringLiteral("b")});
+  EXPECT_EQ(phrase, QStringLiteral("b lacks a, and a costs 100%"));
+  EXPECT_EQ(phrase.sentence(), "%2 lacks %1, and %1 costs 100%");
+  EXPECT_EQ(phrase.parts().size(), 2U);
+}
+
+TEST(Phrase, TakesNoPlaceInAPartForItsOwn) {
+  const Phrase phrase("%1 and %2", {QStringLiteral("%2"), QStringLiteral("b")});
+  EXPECT_EQ(phrase, QStringLiteral("%2 and b"));
+}
+
+TEST(Phrase, HasNoSentenceWhereTheTextWasGivenAsAWhole) {
+  EXPECT_TRUE(Phrase(QStringLiteral("a.ppd")).sentence().isNull());
 }
 
 }  // namespace
