@@ -17,15 +17,15 @@ QString program(const char *name);
 
 /// From start to first paint: ours and Qt's own print dialog, in their own process, once measured
 /// within it from a warmed-up toolkit on, once with the process itself.
-void firstPaint(orvek::testing::PrivateCups &server, const QString &folder, int rounds);
+void firstPaint(orvek::test::PrivateCups &server, const QString &folder, int rounds);
 
 /// From a pick to marks without conflicts: a session, and libcups alone.
 void picks(const QString &folder);
 
 /// A job as a whole process: a run without a window, and lp.
-void jobs(orvek::testing::PrivateCups &server, int rounds);
+void jobs(orvek::test::PrivateCups &server, int rounds);
 
 /// From process start to the window on the screen: ours and gtklp. Needs an X server.
-void windows(orvek::testing::PrivateCups &server, const QString &folder, int rounds);
+void windows(orvek::test::PrivateCups &server, const QString &folder, int rounds);
 
 }  // namespace bench

@@ -53,7 +53,7 @@ void compareStarts(const std::string &what, int rounds, const QStringList &own,
 
 }  // namespace
 
-void firstPaint(orvek::testing::PrivateCups &server, const QString &folder, int rounds) {
+void firstPaint(orvek::test::PrivateCups &server, const QString &folder, int rounds) {
   for (const Goal &goal : goals) {
     const QString ppd = ppdWithOptions(folder, goal.options);
     const QString queue = QStringLiteral("bench-%1").arg(goal.options);

@@ -27,7 +27,7 @@ double run(const QString &path, const QStringList &arguments) {
 
 }  // namespace
 
-void jobs(orvek::testing::PrivateCups &server, int rounds) {
+void jobs(orvek::test::PrivateCups &server, int rounds) {
   const QString queue = QStringLiteral("bench-jobs");
   // Held jobs, so that no filter is running beside the next one.
   server.addQueue(queue, QStringLiteral(ORVEK_SOURCE_DIR "/printers/Orvek-6180.ppd"));

@@ -85,7 +85,7 @@ double untilShown(Screen &screen, const QString &path, const QStringList &argume
 
 }  // namespace
 
-void windows(orvek::testing::PrivateCups &server, const QString &folder, int rounds) {
+void windows(orvek::test::PrivateCups &server, const QString &folder, int rounds) {
   const QString gtklp = QStandardPaths::findExecutable(QStringLiteral("gtklp"));
   Screen screen;
   if (gtklp.isEmpty() || !screen.isThere()) {
@@ -98,7 +98,8 @@ void windows(orvek::testing::PrivateCups &server, const QString &folder, int rou
        compareMedians(
            rounds,
            [&] {
-             return untilShown(screen, program("orvek-print"), {QStringLiteral("-d"), queue, document});
+             return untilShown(screen, program("orvek-print"),
+                               {QStringLiteral("-d"), queue, document});
            },
            [&] {
              return untilShown(screen, gtklp, {QStringLiteral("-P"), queue, document});

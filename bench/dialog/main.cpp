@@ -40,14 +40,14 @@ QString ppdWithOptions(const QString &folder, int count) {
 
 int main(int argc, char **argv) {
   const QCoreApplication application(argc, argv);
-  if (const QString why = orvek::testing::PrivateCups::obstacle(); !why.isEmpty()) {
+  if (const QString why = orvek::test::PrivateCups::obstacle(); !why.isEmpty()) {
     std::fprintf(stderr, "%s\n", qPrintable(why));
     return 1;
   }
   constexpr int usualRounds = 15;
   const int rounds = argc > 1 ? std::max(1, std::atoi(argv[1])) : usualRounds;
   const QTemporaryDir folder;
-  orvek::testing::PrivateCups server;
+  orvek::test::PrivateCups server;
   bench::head();
   bench::picks(folder.path());
   bench::jobs(server, rounds);

@@ -14,10 +14,14 @@ struct Action {
   enum class Kind { Control, PagesPerSheet, View, Restore, Save, WillShow, Reopen };
 
   Kind kind = Kind::Control;
-  QString control;  ///< Control: the control's name
-  QString value;    ///< Control: what to put into it
-  int number = 0;   ///< PagesPerSheet
-  QString text;     ///< as it was given, for failures
+  /// Control: the control's name.
+  QString control;
+  /// Control: what to put into it.
+  QString value;
+  /// PagesPerSheet.
+  int number = 0;
+  /// As it was given, for failures.
+  QString text;
 };
 
 /// Reads an action. Usage failures name the action.

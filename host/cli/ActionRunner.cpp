@@ -68,8 +68,9 @@ Status pickItem(const Action &action, QComboBox *popUp) {
   int index = noItem;
   if (action.value.startsWith(QLatin1Char('#'))) {
     const std::optional<int> given = integerIn(action.value.mid(1));
-    if (!given)
+    if (!given) {
       return actionFailure(action, QStringLiteral("\"#\" must be followed by an integer"));
+    }
     index = *given;
   } else {
     index = findItem(popUp, action.value);

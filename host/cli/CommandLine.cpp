@@ -27,8 +27,9 @@ GetoptTables getoptTables() {
   for (int i = 0; i < rows.size(); ++i) {
     const OptionRow &row = rows[i];
     const bool takesValue = row.valueName != nullptr;
-    if (row.shortName != 0)
+    if (row.shortName != 0) {
       tables.letters += QByteArray(1, row.shortName) + (takesValue ? ":" : "");
+    }
     if (row.longName == nullptr) continue;
     tables.names.push_back(
         {row.longName, takesValue ? required_argument : no_argument, nullptr, firstLongValue + i});

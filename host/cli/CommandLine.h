@@ -17,16 +17,26 @@ namespace orvek {
 /// Everything a command line may say. A null text was not given.
 struct CommandLine {
   // As in lp
-  QString destination;          ///< -d DEST[/INSTANCE]
-  int copies = 0;               ///< -n; 0: not given
-  QList<OptionChoice> options;  ///< -o, in order; an option without value has "true"
-  QString pageRanges;           ///< -P
-  QString title;                ///< -t
-  QString server;               ///< -h HOST[:PORT]
-  QString user;                 ///< -U
-  std::optional<int> priority;  ///< -q, 1 to 100
-  bool silent = false;          ///< -s
-  QStringList files;  ///< documents; "-" is the standard input, which is also meant by none
+  /// -d DEST[/INSTANCE]
+  QString destination;
+  /// -n; 0: not given.
+  int copies = 0;
+  /// -o, in order; an option without value has "true".
+  QList<OptionChoice> options;
+  /// -P
+  QString pageRanges;
+  /// -t
+  QString title;
+  /// -h HOST[:PORT]
+  QString server;
+  /// -U
+  QString user;
+  /// -q, 1 to 100.
+  std::optional<int> priority;
+  /// -s
+  bool silent = false;
+  /// Documents; "-" is the standard input, which is also meant by none.
+  QStringList files;
 
   // What the session begins with
   QString ppd;
@@ -34,11 +44,13 @@ struct CommandLine {
   QString ticket;
   QString preset;
   QList<OptionChoice> marks;
-  bool resize = true;  ///< false: --no-resize
+  /// False: --no-resize.
+  bool resize = true;
 
   // What is done with it
   bool headless = false;
-  QList<Action> actions;  ///< --do, in order
+  /// --do, in order
+  QList<Action> actions;
   bool inspect = false;
   bool summary = false;
   QString screenshot;

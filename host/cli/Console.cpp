@@ -21,8 +21,9 @@ QByteArray asOneLine(QString text) {
 
 Status writeToStandardOutput(const QByteArray &bytes) {
   const std::size_t size = static_cast<std::size_t>(bytes.size());
-  if (std::fwrite(bytes.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0)
+  if (std::fwrite(bytes.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0) {
     return {};
+  }
   return Failure{FailureKind::Io, QStringLiteral("standard output"), Phrase::ofSystem(errno)};
 }
 

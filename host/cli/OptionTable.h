@@ -11,12 +11,15 @@ namespace orvek {
 
 /// One option.
 struct OptionRow {
-  char shortName;         ///< 0: none
-  const char *longName;   ///< null: none
-  const char *valueName;  ///< null: takes no value
+  /// 0: none.
+  char shortName;
+  /// Null: none.
+  const char *longName;
+  /// Null: takes no value.
+  const char *valueName;
   const char *help;
-  Status (*apply)(CommandLine &line,
-                  const QString &value);  ///< the failure's `what` is filled in later
+  /// The failure's `what` is filled in later.
+  Status (*apply)(CommandLine &line, const QString &value);
 };
 
 /// All options, in the order in which the help shows them.

@@ -13,12 +13,12 @@
 namespace orvek {
 namespace {
 
-constexpr int kPollMilliseconds = 100;
-constexpr char kInterrupt = '\x03';
-constexpr char kEndOfInput = '\x04';
-constexpr char kEraseLine = '\x15';
-constexpr char kBackspace = '\b';
-constexpr char kDelete = '\x7f';
+constexpr int pollMilliseconds = 100;
+constexpr char interruptKey = '\x03';
+constexpr char endOfInputKey = '\x04';
+constexpr char eraseLineKey = '\x15';
+constexpr char backspaceKey = '\b';
+constexpr char deleteKey = '\x7f';
 
 /// The terminal, silent for as long as the object lives.
 class SilentTerminal {
@@ -59,7 +59,7 @@ class SilentTerminal {
   std::optional<char> read(const std::atomic<bool> *cancelled) const {
     while (cancelled == nullptr || !*cancelled) {
       pollfd ready{m_terminal, POLLIN, 0};
-      if (::poll(&ready, 1, kPollMilliseconds) == 0) continue;
+      if (::poll(&ready, 1, pollMilliseconds) == 0) continue;
       char character = 0;
       const ssize_t count = ::read(m_terminal, &character, 1);
       if (count == 1) return character;
@@ -88,14 +88,14 @@ QByteArray readLine(const SilentTerminal &terminal, const std::atomic<bool> *can
       case '\r':
       case '\n':
         return line;
-      case kInterrupt:
-      case kEndOfInput:
+      case interruptKey:
+      case endOfInputKey:
         return {};
-      case kEraseLine:
+      case eraseLineKey:
         line.clear();
         break;
-      case kBackspace:
-      case kDelete:
+      case backspaceKey:
+      case deleteKey:
         chopCharacter(&line);
         break;
       default:

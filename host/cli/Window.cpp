@@ -50,7 +50,8 @@ CommandLine lineFor(const CommandLine &line, const QString &destination, const Q
 
 struct Opened {
   std::unique_ptr<PrintSession> session;
-  std::optional<Failure> problem;  ///< why it is a session without a printer
+  /// Why it is a session without a printer.
+  std::optional<Failure> problem;
 };
 
 // Where no server answers, the window is where the user can do something about it.

@@ -13,7 +13,8 @@ namespace orvek {
 /// What the row shows.
 struct JobBarState {
   bool canPrint = true;
-  bool asksForFile = false;  ///< Print will ask where to
+  /// Print will ask where to.
+  bool asksForFile = false;
   bool isPrinting = false;
   bool isCancelling = false;
 

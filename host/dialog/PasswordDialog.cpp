@@ -18,7 +18,7 @@
 namespace orvek {
 namespace {
 
-constexpr std::chrono::milliseconds kLookAtCancelled{100};
+constexpr std::chrono::milliseconds lookAtCancelled{100};
 
 Failure noPassword(const PasswordQuestion &question) {
   return {FailureKind::Io, question.server,
@@ -89,7 +89,7 @@ Result<Credentials> PasswordWindow::ask(const PasswordQuestion &question,
       this, [this, question, wait] { show(question, wait); }, Qt::QueuedConnection);
   std::unique_lock lock(wait->mutex);
   while (!wait->answer && (cancelled == nullptr || !*cancelled)) {
-    wait->answered.wait_for(lock, kLookAtCancelled);
+    wait->answered.wait_for(lock, lookAtCancelled);
   }
   if (wait->answer) return *wait->answer;
   wait->answer = noPassword(question);  // it is not to be shown any more

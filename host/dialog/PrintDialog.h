@@ -38,23 +38,30 @@ struct DialogSetup {
   using AskPrinter = std::function<Result<SessionSetup>(const QString &destinationOrPath,
                                                         const std::atomic<bool> &cancelled)>;
 
-  QString documentName;   ///< for people
-  DocumentInfo document;  ///< what is known of it; more may come with setDocument
-  QString destination;    ///< "NAME/INSTANCE" of the session's queue; empty: into a file
-  QString outputFile;     ///< where a job goes that goes to no queue; null: Print asks for a file
+  /// For people.
+  QString documentName;
+  /// What is known of it; more may come with setDocument.
+  DocumentInfo document;
+  /// "NAME/INSTANCE" of the session's queue; empty: into a file.
+  QString destination;
+  /// Where a job goes that goes to no queue; null: Print asks for a file.
+  QString outputFile;
   ServerAccess server;
 
   /// The job as the session has it. Where it goes is the window's business. Empty: a request that
   /// says nothing.
   std::function<JobRequest(const PrintSession &)> jobRequest;
 
-  AskPrinter askPrinter;       ///< asks for a queue
-  AskPrinter readDescription;  ///< reads the PPD file of this path
+  /// Asks for a queue.
+  AskPrinter askPrinter;
+  /// Reads the PPD file of this path.
+  AskPrinter readDescription;
 
   /// Begins a session with what was asked for, its panels open.
   std::function<Result<std::unique_ptr<PrintSession>>(const SessionSetup &)> beginSession;
 
-  std::shared_ptr<PresetStore> presets;  ///< null: no presets
+  /// Null: no presets.
+  std::shared_ptr<PresetStore> presets;
 };
 
 class PrintDialog final : public QDialog {
@@ -120,25 +127,32 @@ class PrintDialog final : public QDialog {
   void end(const JobOutcome &outcome);
   void showFailure(const Failure &failure);
 
-  std::unique_ptr<PrintSession> m_ownSession;  // of a printer chosen in the window
+  /// Of a printer chosen in the window.
+  std::unique_ptr<PrintSession> m_ownSession;
   PrintSession *m_session;
   DialogSetup m_setup;
   JobRequest m_request;
   std::optional<JobOutcome> m_outcome;
-  MarksSnapshot m_noticedMarks;  // as they stood when the notice was given
-  bool m_noticeIsNew = false;    // the action that it belongs to still runs
+  /// As they stood when the notice was given.
+  MarksSnapshot m_noticedMarks;
+  /// The action that it belongs to still runs.
+  bool m_noticeIsNew = false;
   bool m_isCancelling = false;
-  QSize m_ownSize;  // the size that the window chose last; another one is the user's choice
+  /// The size that the window chose last; another one is the user's choice.
+  QSize m_ownSize;
 
   DocumentHeader *m_document = nullptr;
   PrinterChooser *m_printers = nullptr;
-  PresetChooser *m_presets = nullptr;  // null: no presets
+  /// Null: no presets.
+  PresetChooser *m_presets = nullptr;
   NoticeBar *m_notices = nullptr;
   SessionView *m_view = nullptr;
   JobBar *m_jobBar = nullptr;
   BackgroundJob *m_job = nullptr;
-  QString m_asked;           // the printer being asked for; null: none
-  BackgroundTask m_reading;  // the last two: they end before what they report to
+  /// The printer being asked for; null: none.
+  QString m_asked;
+  /// The last two: they end before what they report to.
+  BackgroundTask m_reading;
   BackgroundTask m_asking;
 };
 

@@ -24,8 +24,9 @@ constexpr QLatin1Char instanceMark('/');
 
 JobRequest PrintDialog::gatherRequest() {
   m_session->perform([this] {
-    for (const auto &hosted : m_session->panels())
+    for (const auto &hosted : m_session->panels()) {
       hosted->panel().saveValuesAndReturnError(nullptr);
+    }
   });
   JobRequest request = m_setup.jobRequest ? m_setup.jobRequest(*m_session) : JobRequest();
   const QString &destination = m_setup.destination;

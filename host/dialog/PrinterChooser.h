@@ -59,14 +59,17 @@ class PrinterChooser final : public QWidget {
 
   ServerAccess m_access;
   QList<Queue> m_printers;
-  QString m_problem;  // why there is no list; null: there is one, or nobody asked yet
+  /// Why there is no list; null: there is one, or nobody asked yet.
+  QString m_problem;
   QString m_destination;
-  QString m_asking;  // in words; null: nothing is being asked for
+  /// In words; null: nothing is being asked for.
+  QString m_asking;
   QString m_fileModel;
   bool m_fileIsPossible = true;
   QComboBox *m_menu;
   ElidedLabel *m_detail;
-  BackgroundTask m_task;  // the last: it ends before what it reports to
+  /// The last: it ends before what it reports to.
+  BackgroundTask m_task;
 };
 
 }  // namespace orvek

@@ -43,7 +43,8 @@ class SessionView final : public QWidget {
   QTabWidget *m_pages;
   SummaryView *m_summary;
   QVBoxLayout *m_aside = nullptr;
-  BookletPreview *m_preview = nullptr;  // made when the job first is a booklet
+  /// Made when the job first is a booklet.
+  BookletPreview *m_preview = nullptr;
 };
 
 }  // namespace orvek

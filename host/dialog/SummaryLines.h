@@ -14,7 +14,8 @@ namespace orvek {
 struct SummaryLine {
   QString title;
   QString value;
-  bool changed = false;  ///< not what the printer does by itself
+  /// Not what the printer does by itself.
+  bool changed = false;
 
   bool operator==(const SummaryLine &) const = default;
 };

@@ -9,10 +9,14 @@
 namespace orvek {
 
 struct DocumentInfo {
-  QString name;           ///< for people: the file's name, or "(stdin)"
-  QString path;           ///< as it was given; "-" for standard input
-  int pages = 0;          ///< 0: unknown
-  QSizeF pageSizePoints;  ///< the first page as it is seen; empty: unknown
+  /// For people: the file's name, or "(stdin)".
+  QString name;
+  /// As it was given; "-" for standard input.
+  QString path;
+  /// 0: unknown.
+  int pages = 0;
+  /// The first page as it is seen; empty: unknown.
+  QSizeF pageSizePoints;
 };
 
 /// PDF: what pdfinfo says of it. PostScript: the document's own comments (%%Pages, %%BoundingBox).

@@ -23,14 +23,15 @@
 namespace orvek {
 namespace {
 
-constexpr int kPollMilliseconds = 100;
-constexpr int kGraceMilliseconds = 2000;
+constexpr int pollMilliseconds = 100;
+constexpr int graceMilliseconds = 2000;
 
 Status checkPPDFile(const QString &path) {
   QFile file(path);
-  if (QFileInfo(path).isDir())
+  if (QFileInfo(path).isDir()) {
     return Failure{FailureKind::Io, path,
                    Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "is a folder, not a PPD file"))};
+  }
   if (!file.open(QIODevice::ReadOnly)) {
     return Failure{FailureKind::Io, path, Phrase::ofSystem(file.errorString())};
   }
@@ -51,8 +52,9 @@ QStringList toolArguments(const JobRequest &request, const QString &document) {
   // Filters are told the copies apart from the options, and some multiply them if told both ways.
   const QString copies = options.take(QStringLiteral("copies"));
   if (!copies.isEmpty()) arguments << QStringLiteral("-n") << copies;
-  for (auto option = options.cbegin(); option != options.cend(); ++option)
+  for (auto option = options.cbegin(); option != options.cend(); ++option) {
     arguments << QStringLiteral("-o") << filterToolOptionText(option.key(), option.value());
+  }
   // An absolute path can't be taken for an option, whatever the document is called.
   return arguments << QFileInfo(document).absoluteFilePath();
 }
@@ -68,10 +70,10 @@ void stop(QProcess &process) {
   const auto group = static_cast<pid_t>(process.processId());
   if (group <= 0) return;
   ::kill(-group, SIGTERM);
-  process.waitForFinished(kGraceMilliseconds);
+  process.waitForFinished(graceMilliseconds);
   // The tool may be gone while a filter that does not listen goes on.
   ::kill(-group, SIGKILL);
-  process.waitForFinished(kGraceMilliseconds);
+  process.waitForFinished(graceMilliseconds);
 }
 
 /// One job under way: where its bytes go and how far it is.
@@ -99,7 +101,7 @@ Status carryOutput(Run &run, QProcess &process, FilterMessages &messages) {
 Status carryUntilFinished(Run &run, QProcess &process, FilterMessages &messages) {
   while (process.state() != QProcess::NotRunning) {
     if (run.control.cancelled) return jobCancelled();
-    process.waitForReadyRead(kPollMilliseconds);
+    process.waitForReadyRead(pollMilliseconds);
     if (Status carried = carryOutput(run, process, messages); !carried) return carried;
   }
   if (Status carried = carryOutput(run, process, messages); !carried) return carried;
@@ -123,17 +125,20 @@ Status filterDocument(Run &run, const QString &path, const Phrase &name) {
   prepare(process, run, path);
   const qint64 bytesBefore = run.progress.bytes;
   process.start();
-  if (!process.waitForStarted())
+  if (!process.waitForStarted()) {
     return Failure{FailureKind::Io, run.tool, Phrase::ofSystem(process.errorString())};
+  }
   if (Status carried = carryUntilFinished(run, process, messages); !carried) {
     stop(process);
     return carried;
   }
-  if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
+  if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0) {
     return messages.reason(name, run.request.ppdFile, process.exitCode());
-  if (run.progress.bytes == bytesBefore)
+  }
+  if (run.progress.bytes == bytesBefore) {
     return Failure{FailureKind::Io, name,
                    Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "the filters made no output of it"))};
+  }
   run.pagesOfEarlierDocuments = run.progress.pages;
   return {};
 }
@@ -163,10 +168,11 @@ QString findFilterTool(const QString &searchPath) {
 Result<JobOutcome> printThroughFilters(const JobRequest &request, JobControl &control) {
   if (Status checked = checkRequest(request); !checked) return checked.failure();
   const QString tool = findFilterTool(qEnvironmentVariable("PATH"));
-  if (tool.isNull())
+  if (tool.isNull()) {
     return Failure{
         FailureKind::Io, QStringLiteral("cupsfilter"),
         Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "not found; install the package \"cups\""))};
+  }
   auto target = OutputTarget::open(request.outputFile);
   if (!target) return target.failure();
 

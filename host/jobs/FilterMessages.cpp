@@ -9,11 +9,11 @@ namespace orvek {
 namespace {
 
 /// Lines of filters are short; beyond this one is cut rather than kept whole in memory.
-constexpr qsizetype kLongestLine = 4096;
+constexpr qsizetype longestLine = 4096;
 
-const QString kErrorPrefix = QStringLiteral("ERROR: ");
-const QString kPagePrefix = QStringLiteral("PAGE: ");
-const QString kToolPrefix = QStringLiteral("cupsfilter: ");
+const QString errorPrefix = QStringLiteral("ERROR: ");
+const QString pagePrefix = QStringLiteral("PAGE: ");
+const QString toolPrefix = QStringLiteral("cupsfilter: ");
 
 bool tellsHowAFilterEnded(const QString &text) {
   static const QRegularExpression ended(
@@ -58,17 +58,17 @@ void FilterMessages::add(const QByteArray &bytes) {
     addLine(QString::fromUtf8(m_partial.mid(start, end - start)).trimmed());
     start = end + 1;
   }
-  m_partial = m_partial.mid(start, kLongestLine);
+  m_partial = m_partial.mid(start, longestLine);
 }
 
 void FilterMessages::addLine(const QString &line) {
-  if (line.startsWith(kPagePrefix)) {
+  if (line.startsWith(pagePrefix)) {
     ++m_pages;
-  } else if (line.startsWith(kErrorPrefix)) {
-    const QString text = line.mid(kErrorPrefix.size());
+  } else if (line.startsWith(errorPrefix)) {
+    const QString text = line.mid(errorPrefix.size());
     (tellsHowAFilterEnded(text) ? m_filterEnd : m_filterError) = text;
-  } else if (line.startsWith(kToolPrefix)) {
-    addToolLine(line.mid(kToolPrefix.size()));
+  } else if (line.startsWith(toolPrefix)) {
+    addToolLine(line.mid(toolPrefix.size()));
   }
 }
 
@@ -76,22 +76,25 @@ void FilterMessages::addToolLine(const QString &text) {
   static const QRegularExpression untrusted(
       QStringLiteral("^File \"([^\"]+)\" (not available: .*|has insecure permissions)"));
   const auto match = untrusted.match(text);
-  if (match.hasMatch())
+  if (match.hasMatch()) {
     m_missingFilter = untrustedFilter(match.captured(1), match.captured(2));
-  else if (!text.startsWith(QStringLiteral("File \"")))
+  } else if (!text.startsWith(QStringLiteral("File \""))) {
     m_toolError = text;
+  }
 }
 
 Failure FilterMessages::reason(const Phrase &document, const QString &ppdFile,
                                int exitStatus) const {
-  if (m_toolError.startsWith(QStringLiteral("Unable to open PPD")))
+  if (m_toolError.startsWith(QStringLiteral("Unable to open PPD"))) {
     return {FailureKind::Invalid, ppdFile, m_toolError.section(QStringLiteral(": "), 1)};
+  }
   if (!m_filterError.isEmpty()) return {FailureKind::Io, document, m_filterError};
-  if (m_toolError.startsWith(QStringLiteral("Unable to determine MIME type")))
+  if (m_toolError.startsWith(QStringLiteral("Unable to determine MIME type"))) {
     return {
         FailureKind::Io, document,
         Phrase(QT_TRANSLATE_NOOP(
             "orvek::Failure", "its type is unknown; print a PDF, PostScript, text or image file"))};
+  }
   if (m_toolError.startsWith(QStringLiteral("No filter to convert"))) {
     if (!m_missingFilter.isEmpty()) return {FailureKind::Io, ppdFile, m_missingFilter};
     const QString type = m_toolError.section(u' ', 5, 5);

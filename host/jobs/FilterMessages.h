@@ -27,10 +27,14 @@ class FilterMessages {
   void addToolLine(const QString &text);
 
   QByteArray m_partial;
-  QString m_filterError;   ///< a filter's own words
-  QString m_filterEnd;     ///< which filter ended badly
-  QString m_toolError;     ///< the tool's words
-  Phrase m_missingFilter;  ///< the printer's filter that is missing or not trusted
+  /// A filter's own words.
+  QString m_filterError;
+  /// Which filter ended badly.
+  QString m_filterEnd;
+  /// The tool's words.
+  QString m_toolError;
+  /// The printer's filter that is missing or not trusted.
+  Phrase m_missingFilter;
   int m_pages = 0;
 };
 

@@ -15,44 +15,66 @@ namespace orvek {
 
 /// One job, for a queue or for a file.
 struct JobRequest {
-  QStringList files;   ///< documents in order; none, or "-", is standard input
-  QString title;       ///< null: the first document's name, "(stdin)" for standard input
-  QString user;        ///< null: the user who runs the program
-  int copies = 0;      ///< 0: not asked for
-  int priority = 0;    ///< 1 to 100; 0: not asked for
-  QString pageRanges;  ///< "1-3,7"; null: all
-  QMap<QString, QString>
-      options;            ///< keyword or attribute to its value, neither quoted nor escaped
-  QStringList texts;      ///< to a queue: options whose value is text even in braces
-  QStringList overruled;  ///< to a queue: options saved for it that must not go with the job
+  /// Documents in order; none, or "-", is standard input.
+  QStringList files;
+  /// Null: the first document's name, "(stdin)" for standard input.
+  QString title;
+  /// Null: the user who runs the program.
+  QString user;
+  /// 0: not asked for.
+  int copies = 0;
+  /// 1 to 100; 0: not asked for.
+  int priority = 0;
+  /// "1-3,7"; null: all.
+  QString pageRanges;
+  /// Keyword or attribute to its value, neither quoted nor escaped.
+  QMap<QString, QString> options;
+  /// To a queue: options whose value is text even in braces.
+  QStringList texts;
+  /// To a queue: options saved for it that must not go with the job.
+  QStringList overruled;
 
-  QString ppdFile;     ///< into a file: the printer description
-  QString outputFile;  ///< into a file: where to; a device is fine, "-" is standard output
+  /// Into a file: the printer description.
+  QString ppdFile;
+  /// Into a file: where to; a device is fine, "-" is standard output.
+  QString outputFile;
 
-  QString queue;     ///< to a queue: its name
-  QString instance;  ///< to a queue: whose saved options to begin with; null: the queue's own
-  QString server;    ///< to a queue: HOST[:PORT] or a socket's path; null: the server in force
-  std::chrono::milliseconds patience =
-      kServerPatience;  ///< to a queue: how long its server may keep silent
-  std::shared_ptr<PasswordSource>
-      passwords;  ///< to a queue: asked on the job's thread; null: nobody can be asked
+  /// To a queue: its name.
+  QString queue;
+  /// To a queue: whose saved options to begin with; null: the queue's own.
+  QString instance;
+  /// To a queue: HOST[:PORT] or a socket's path; null: the server in force.
+  QString server;
+  /// To a queue: how long its server may keep silent.
+  std::chrono::milliseconds patience = serverPatience;
+  /// To a queue: asked on the job's thread; null: nobody can be asked.
+  std::shared_ptr<PasswordSource> passwords;
 };
 
 /// How far a job is. Sizes are bytes.
 struct JobProgress {
-  int document = 1;      ///< the document under way, from 1
-  int documents = 1;     ///< how many there are
-  qint64 bytes = 0;      ///< of all documents: sent to the queue, or written to the file
-  qint64 expected = -1;  ///< what `bytes` will come to; -1 while nobody can know
-  int pages = 0;         ///< into a file: pages that the filters have reported
+  /// The document under way, from 1.
+  int document = 1;
+  /// How many there are.
+  int documents = 1;
+  /// Of all documents: sent to the queue, or written to the file.
+  qint64 bytes = 0;
+  /// What `bytes` will come to; -1 while nobody can know.
+  qint64 expected = -1;
+  /// Into a file: pages that the filters have reported.
+  int pages = 0;
 };
 
 /// How a job ended that did not fail.
 struct JobOutcome {
-  int jobId = 0;      ///< on a queue; 0 for a job into a file
-  QString queue;      ///< where it went; null for a file
-  int documents = 0;  ///< how many documents were taken
-  qint64 bytes = 0;   ///< as in JobProgress
+  /// On a queue; 0 for a job into a file.
+  int jobId = 0;
+  /// Where it went; null for a file.
+  QString queue;
+  /// How many documents were taken.
+  int documents = 0;
+  /// As in JobProgress.
+  qint64 bytes = 0;
 };
 
 /// Between a running job and whoever waits for it. `cancelled` may be set from any thread;

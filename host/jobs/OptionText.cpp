@@ -6,13 +6,13 @@
 namespace orvek {
 namespace {
 
-const QString kSyntax = QStringLiteral(" \t\n\r\v\f\\'\"{}");
+const QString syntaxCharacters = QStringLiteral(" \t\n\r\v\f\\'\"{}");
 
 QString escaped(const QString &value) {
   QString text;
   text.reserve(value.size());
   for (const QChar c : value) {
-    if (kSyntax.contains(c)) text += u'\\';
+    if (syntaxCharacters.contains(c)) text += u'\\';
     text += c;
   }
   return text;

@@ -15,7 +15,7 @@
 namespace orvek {
 namespace {
 
-constexpr int kPollMilliseconds = 100;
+constexpr int pollMilliseconds = 100;
 
 /// Descriptor number behind a name of an open stream, or -1. Opening such a name anew would start a
 /// redirected file from its beginning instead of going on where the caller's shell stands.
@@ -74,17 +74,18 @@ Status OutputTarget::writeToFile(const QByteArray &bytes) {
   while (done < bytes.size()) {
     const auto left = static_cast<size_t>(bytes.size() - done);
     const ssize_t taken = ::write(m_file->handle(), bytes.constData() + done, left);
-    if (taken >= 0)
+    if (taken >= 0) {
       done += taken;
-    else if (errno != EINTR)
+    } else if (errno != EINTR) {
       return failure(Phrase::ofSystem(errno));
+    }
   }
   return {};
 }
 
 Result<qsizetype> OutputTarget::writeSomeToStream(const char *bytes, qsizetype count) {
   pollfd ready{m_stream, POLLOUT, 0};
-  if (::poll(&ready, 1, kPollMilliseconds) <= 0) return qsizetype{0};
+  if (::poll(&ready, 1, pollMilliseconds) <= 0) return qsizetype{0};
   // A pipe that polls as writable takes PIPE_BUF bytes without blocking, more might block.
   const ssize_t taken = ::write(m_stream, bytes, std::min<qsizetype>(count, PIPE_BUF));
   if (taken >= 0) return qsizetype{taken};

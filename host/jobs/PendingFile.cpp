@@ -16,9 +16,9 @@
 namespace orvek {
 namespace {
 
-constexpr mode_t kNewFile = 0666;  // less what the user's mask takes away
-constexpr mode_t kPermissions = 07777;
-constexpr int kMostNames = 100;
+constexpr mode_t newFileMode = 0666;  // less what the user's mask takes away
+constexpr mode_t permissionBits = 07777;
+constexpr int mostNames = 100;
 
 Failure because(int error) {
   return {FailureKind::Io, QString(), Phrase::ofSystem(error)};
@@ -32,9 +32,9 @@ QString pastLinks(const QString &path) {
 }
 
 QByteArray nameBeside(const QString &path) {
-  constexpr int kBase = 36;
+  constexpr int nameBase = 36;
   return QFile::encodeName(path) + '.' +
-         QByteArray::number(QRandomGenerator::global()->generate(), kBase);
+         QByteArray::number(QRandomGenerator::global()->generate(), nameBase);
 }
 
 // A descriptor's name in /proc needs no privilege, as linking by number alone would.
@@ -47,7 +47,7 @@ int linkTo(int file, const QByteArray &path) {
 
 int replace(int file, const QString &path) {
   int error = EEXIST;
-  for (int attempt = 0; attempt < kMostNames && error == EEXIST; ++attempt) {
+  for (int attempt = 0; attempt < mostNames && error == EEXIST; ++attempt) {
     const QByteArray beside = nameBeside(path);
     error = linkTo(file, beside);
     if (error != 0) continue;
@@ -82,11 +82,11 @@ Result<std::unique_ptr<PendingFile>> PendingFile::open(const QString &path) {
 
 bool PendingFile::openUnnamed() {
   const QByteArray folder = QFile::encodeName(QFileInfo(m_path).path());
-  m_unnamed = ::open(folder.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, kNewFile);
+  m_unnamed = ::open(folder.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, newFileMode);
   if (m_unnamed < 0) return false;
   struct stat old {};
   if (::stat(QFile::encodeName(m_path).constData(), &old) == 0) {
-    ::fchmod(m_unnamed, old.st_mode & kPermissions);
+    ::fchmod(m_unnamed, old.st_mode & permissionBits);
   }
   return true;
 }

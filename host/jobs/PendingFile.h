@@ -32,7 +32,8 @@ class PendingFile {
   explicit PendingFile(const QString &path);
   bool openUnnamed();
 
-  QString m_path;  ///< past all links
+  /// Past all links.
+  QString m_path;
   int m_unnamed = -1;
   std::unique_ptr<QSaveFile> m_named;
 };

@@ -44,10 +44,11 @@ Result<QByteArray> beginOfStandardInput(const QStringList &files, const JobContr
   while (!control.cancelled) {
     auto block = reader.value()->read();
     if (!block || !block.value().isEmpty()) return block;
-    if (reader.value()->atEnd())
+    if (reader.value()->atEnd()) {
       return Failure{
           FailureKind::Io, documentName(standardInput()),
           Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "is empty, so no job has been sent"))};
+    }
   }
   return jobCancelled();
 }
@@ -76,8 +77,9 @@ Status sendBlock(Submission &job, const QString &file, const QByteArray &block) 
 Status sendBlocks(Submission &job, const QString &file) {
   auto reader = DocumentReader::open(file);
   if (!reader) return reader.failure();
-  if (isStandardInput(file))
+  if (isStandardInput(file)) {
     if (Status sent = sendBlock(job, file, job.firstOfStandardInput); !sent) return sent;
+  }
   while (!reader.value()->atEnd()) {
     const auto block = reader.value()->read();
     if (!block) return block.failure();
@@ -166,9 +168,9 @@ Result<JobOutcome> submitToQueue(const JobRequest &request, JobControl &control)
 Status cancelJob(const ServerAccess &access, const QString &queue, int jobId) {
   auto connection = CupsConnection::open(access);
   if (!connection) return connection.failure();
-  constexpr int kKeepHistory = 0;
+  constexpr int keepHistory = 0;
   const ipp_status_t status =
-      cupsCancelJob2(connection.value()->http(), queue.toUtf8().constData(), jobId, kKeepHistory);
+      cupsCancelJob2(connection.value()->http(), queue.toUtf8().constData(), jobId, keepHistory);
   if (status <= IPP_STATUS_OK_CONFLICTING) return {};
   return connection.value()->lastFailure(QStringLiteral("%1-%2").arg(queue).arg(jobId));
 }

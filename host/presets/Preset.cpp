@@ -9,10 +9,10 @@
 namespace orvek {
 namespace {
 
-const QString kName = QStringLiteral("name");
-const QString kPrinter = QStringLiteral("printer");
-const QString kOptions = QStringLiteral("options");
-const QString kTicket = QStringLiteral("ticket");
+const QString nameKey = QStringLiteral("name");
+const QString printerKey = QStringLiteral("printer");
+const QString optionsKey = QStringLiteral("options");
+const QString ticketKey = QStringLiteral("ticket");
 
 Failure invalid(const QString &where, const Phrase &why) {
   return {FailureKind::Invalid, where, why};
@@ -27,23 +27,28 @@ Failure notJson(const QByteArray &json, const QString &where, const QJsonParseEr
 
 /// Absent is fine, but what is there has to be of the kind that the part is.
 Status checkKinds(const QJsonObject &object, const QString &where) {
-  for (const QString &key : {kName, kPrinter})
-    if (object.contains(key) && !object.value(key).isString())
+  for (const QString &key : {nameKey, printerKey}) {
+    if (object.contains(key) && !object.value(key).isString()) {
       return invalid(where,
                      Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "\"%1\" must be text"), {key}));
-  for (const QString &key : {kOptions, kTicket})
-    if (object.contains(key) && !object.value(key).isObject())
+    }
+  }
+  for (const QString &key : {optionsKey, ticketKey}) {
+    if (object.contains(key) && !object.value(key).isObject()) {
       return invalid(
           where, Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "\"%1\" must be an object"), {key}));
+    }
+  }
   return {};
 }
 
 Status readOptions(const QJsonObject &options, const QString &where, Preset &preset) {
   for (auto option = options.begin(); option != options.end(); ++option) {
-    if (!option.value().isString())
+    if (!option.value().isString()) {
       return invalid(where, Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
                                                      "option \"%1\" must have a choice as text"),
                                    {option.key()}));
+    }
     preset.options.insert(option.key(), option.value().toString());
   }
   return {};
@@ -53,12 +58,13 @@ Status readOptions(const QJsonObject &options, const QString &where, Preset &pre
 
 QByteArray presetToJson(const Preset &preset) {
   QJsonObject options;
-  for (auto option = preset.options.cbegin(); option != preset.options.cend(); ++option)
+  for (auto option = preset.options.cbegin(); option != preset.options.cend(); ++option) {
     options.insert(option.key(), option.value());
-  const QJsonObject object{{kName, preset.name},
-                           {kPrinter, preset.printerModel},
-                           {kOptions, options},
-                           {kTicket, ticketToJson(preset.ticket)}};
+  }
+  const QJsonObject object{{nameKey, preset.name},
+                           {printerKey, preset.printerModel},
+                           {optionsKey, options},
+                           {ticketKey, ticketToJson(preset.ticket)}};
   return QJsonDocument(object).toJson(QJsonDocument::Indented);
 }
 
@@ -66,16 +72,18 @@ Result<Preset> presetFromJson(const QByteArray &json, const QString &where) {
   QJsonParseError error;
   const auto document = QJsonDocument::fromJson(json, &error);
   if (error.error != QJsonParseError::NoError) return notJson(json, where, error);
-  if (!document.isObject())
+  if (!document.isObject()) {
     return invalid(where, Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
                                                    "not a preset: one JSON object expected")));
+  }
   const QJsonObject object = document.object();
   if (Status kinds = checkKinds(object, where); !kinds) return kinds.failure();
 
-  Preset preset{object.value(kName).toString(), object.value(kPrinter).toString(), {}, {}};
-  if (Status read = readOptions(object.value(kOptions).toObject(), where, preset); !read)
+  Preset preset{object.value(nameKey).toString(), object.value(printerKey).toString(), {}, {}};
+  if (Status read = readOptions(object.value(optionsKey).toObject(), where, preset); !read) {
     return read.failure();
-  auto ticket = parseTicket(QJsonDocument(object.value(kTicket).toObject()).toJson(), where);
+  }
+  auto ticket = parseTicket(QJsonDocument(object.value(ticketKey).toObject()).toJson(), where);
   if (!ticket) return ticket.failure();
   preset.ticket = ticket.take();
   return preset;

@@ -14,9 +14,12 @@ namespace orvek {
 /// What a user saved under a name.
 struct Preset {
   QString name;
-  QString printerModel;            ///< the printer it was made with; for messages
-  QMap<QString, QString> options;  ///< PPD keyword to choice keyword
-  TicketValues ticket;             ///< ticket key to text or integer
+  /// The printer it was made with; for messages.
+  QString printerModel;
+  /// PPD keyword to choice keyword.
+  QMap<QString, QString> options;
+  /// Ticket key to text or integer.
+  TicketValues ticket;
 };
 
 /// The preset as a JSON object: "name", "printer", "options", "ticket".

@@ -11,18 +11,24 @@ namespace orvek {
 
 /// One choice of a preset that a printer can't take.
 struct PresetMisfit {
-  QString option;  ///< its keyword
-  QString choice;  ///< its keyword
-  QString why;     ///< a sentence in the words of the printer where it has them
+  /// Its keyword.
+  QString option;
+  /// Its keyword.
+  QString choice;
+  /// A sentence in the words of the printer where it has them.
+  QString why;
 
   /// "OVKStapling=Dual: ..." for a log or a command line.
   QString line() const;
 };
 
 struct PresetFit {
-  QMap<QString, QString> options;  ///< what fits, spelled as the PPD spells it
-  TicketValues ticket;             ///< all of it: tickets are not the printer's
-  QList<PresetMisfit> misfits;     ///< the rest, by keyword
+  /// What fits, spelled as the PPD spells it.
+  QMap<QString, QString> options;
+  /// All of it: tickets are not the printer's.
+  TicketValues ticket;
+  /// The rest, by keyword.
+  QList<PresetMisfit> misfits;
 };
 
 /// Fits `preset` to the printer of `ppd` (borrowed; null is a printer without options). Installed

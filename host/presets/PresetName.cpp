@@ -11,10 +11,10 @@ namespace orvek {
 namespace {
 
 /// File systems take 255 bytes; the rest is room for a digest, the suffix and a temporary name.
-constexpr qsizetype kLongestStem = 160;
-constexpr qsizetype kKeptOfLongStem = 90;
+constexpr qsizetype longestStem = 160;
+constexpr qsizetype keptOfLongStem = 90;
 
-const QString kSuffix = QStringLiteral(".json");
+const QString fileSuffix = QStringLiteral(".json");
 
 }  // namespace
 
@@ -23,23 +23,25 @@ Status checkPresetName(const QString &name) {
     return Failure{FailureKind::Usage, Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "preset name")),
                    why};
   };
-  if (name.trimmed().isEmpty())
+  if (name.trimmed().isEmpty()) {
     return fail(Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "is empty; give the preset a name")));
+  }
   const auto isControl = [](QChar c) { return c.category() == QChar::Other_Control; };
-  if (std::any_of(name.cbegin(), name.cend(), isControl))
+  if (std::any_of(name.cbegin(), name.cend(), isControl)) {
     return fail(Phrase(
         QT_TRANSLATE_NOOP("orvek::Failure", "can't hold line breaks or control characters")));
+  }
   return {};
 }
 
 QString presetFileName(const QString &name) {
   const QByteArray composed = name.normalized(QString::NormalizationForm_C).toUtf8();
   QByteArray stem = composed.toPercentEncoding({}, ".~");
-  if (stem.size() > kLongestStem) {
+  if (stem.size() > longestStem) {
     const auto digest = QCryptographicHash::hash(composed, QCryptographicHash::Sha256).toHex();
-    stem = stem.left(kKeptOfLongStem) + '~' + digest;
+    stem = stem.left(keptOfLongStem) + '~' + digest;
   }
-  return QString::fromLatin1(stem) + kSuffix;
+  return QString::fromLatin1(stem) + fileSuffix;
 }
 
 }  // namespace orvek

@@ -35,22 +35,26 @@ Failure noSuchPreset(const QString &name) {
 /// for.
 Result<Preset> readPreset(const QString &path, const Phrase &where) {
   QFile file(path);
-  if (!file.open(QIODevice::ReadOnly))
+  if (!file.open(QIODevice::ReadOnly)) {
     return ioFailure(where, Phrase::ofSystem(file.errorString()));
+  }
   const QByteArray json = file.readAll();
-  if (file.error() != QFileDevice::NoError)
+  if (file.error() != QFileDevice::NoError) {
     return ioFailure(where, Phrase::ofSystem(file.errorString()));
+  }
   return presetFromJson(json, where);
 }
 
 Status writePreset(const QString &path, const Preset &preset) {
   const QString folder = QFileInfo(path).path();
-  if (!QDir().mkpath(folder))
+  if (!QDir().mkpath(folder)) {
     return ioFailure(folder, Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "can't be made")));
+  }
   QSaveFile file(path);
   const QByteArray json = presetToJson(preset);
-  if (!file.open(QIODevice::WriteOnly) || file.write(json) != json.size() || !file.commit())
+  if (!file.open(QIODevice::WriteOnly) || file.write(json) != json.size() || !file.commit()) {
     return ioFailure(path, Phrase::ofSystem(file.errorString()));
+  }
   return {};
 }
 
@@ -98,16 +102,17 @@ PresetListing PresetStore::list() const {
   for (const QString &file : folder.entryList({QStringLiteral("*.json")}, QDir::Files)) {
     const QString path = folder.filePath(file);
     const auto preset = readPreset(path, path);
-    if (!preset)
+    if (!preset) {
       listing.damaged << preset.failure();
-    else if (presetFileName(preset.value().name) !=
-             file)  // put there by hand; load() can't find it
+    } else if (presetFileName(preset.value().name) != file) {
+      // Put there by hand; load() can't find it.
       listing.damaged << Failure{
           FailureKind::Invalid, path,
           Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "holds a preset of another name: \"%1\""),
                  {preset.value().name})};
-    else
+    } else {
       listing.names << preset.value().name;
+    }
   }
   sortForPeople(listing.names);
   return listing;
@@ -130,9 +135,10 @@ Status PresetStore::rename(const QString &from, const QString &to) {
   if (Status named = checkPresetName(to); !named) return named;
   auto preset = load(from);
   if (!preset) return preset.failure();
-  if (QFile::exists(fileOf(to)) && fileOf(to) != fileOf(from))
+  if (QFile::exists(fileOf(to)) && fileOf(to) != fileOf(from)) {
     return ioFailure(whatOf(to), Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
                                                           "there is one of that name already")));
+  }
   preset.value().name = to;
   if (Status written = writePreset(fileOf(to), preset.value()); !written) return written;
   return fileOf(to) == fileOf(from) ? Status() : remove(from);

@@ -12,8 +12,10 @@ namespace orvek {
 
 /// What there is, and what can't be read.
 struct PresetListing {
-  QStringList names;       ///< in the order of the user's language
-  QList<Failure> damaged;  ///< one for each file that is no preset; its `what` names it
+  /// In the order of the user's language.
+  QStringList names;
+  /// One for each file that is no preset; its `what` names it.
+  QList<Failure> damaged;
 };
 
 /// The user's presets, and for each queue what was used last. Reads and writes at every call, so

@@ -71,7 +71,8 @@ class BackgroundTask {
     });
   }
 
-  std::shared_ptr<Cancelled> m_cancelled;  // of the last run
+  /// Of the last run.
+  std::shared_ptr<Cancelled> m_cancelled;
   std::vector<Run> m_runs;
 };
 

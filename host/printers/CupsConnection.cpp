@@ -107,15 +107,17 @@ CupsConnection::Unasked::~Unasked() {
 Failure CupsConnection::lastFailure(const Phrase &what) const {
   if (isCancelled()) return cancelledFailure(what);
   if (lacksPassword()) return *m_passwords.failure();
-  if (m_limit.gaveUp())
+  if (m_limit.gaveUp()) {
     return {FailureKind::Io, m_serverName,
             Phrase(QT_TRANSLATE_NOOP(
                 "orvek::Failure", "the print server stopped answering; try again once it is up"))};
-  if (const int error = httpError(http()))
+  }
+  if (const int error = httpError(http())) {
     return {
         FailureKind::Io, what,
         Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "the connection to the print server broke (%1)"),
                {Phrase::ofSystem(error)})};
+  }
   return {FailureKind::Io, what, refusalInWords()};
 }
 

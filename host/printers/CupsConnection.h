@@ -68,8 +68,10 @@ class CupsConnection {
   WaitLimit m_limit;
   HttpHandle m_http;
   PasswordRounds m_passwords;
-  const http_t *m_asking = nullptr;  ///< libcups' connection that wanted the last password
-  QByteArray m_password;             ///< lent to libcups, which copies it
+  /// Libcups' connection that wanted the last password.
+  const http_t *m_asking = nullptr;
+  /// Lent to libcups, which copies it.
+  QByteArray m_password;
 };
 
 }  // namespace orvek

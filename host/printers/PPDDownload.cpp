@@ -8,13 +8,13 @@
 namespace orvek {
 namespace {
 
-constexpr int kMostRounds = 12;  // passwords, new connections, encryption
-constexpr int kConnectMilliseconds = 5000;
-constexpr std::size_t kBlock = 65536;
-constexpr qsizetype kLargestPPD = 64 << 20;
+constexpr int mostRounds = 12;  // passwords, new connections, encryption
+constexpr int connectMilliseconds = 5000;
+constexpr std::size_t blockBytes = 65536;
+constexpr qsizetype largestPPD = 64 << 20;
 
 bool reconnect(http_t *http) {
-  return httpReconnect2(http, kConnectMilliseconds, nullptr) == 0;
+  return httpReconnect2(http, connectMilliseconds, nullptr) == 0;
 }
 
 http_status_t statusOfGet(http_t *http, const QByteArray &resource, time_t date) {
@@ -49,11 +49,11 @@ bool meetWish(http_t *http, http_status_t status, const QByteArray &resource) {
 PPDAnswer readAnswer(http_t *http) {
   PPDAnswer answer{
       HTTP_STATUS_OK, {}, httpGetDateTime(httpGetField(http, HTTP_FIELD_LAST_MODIFIED))};
-  std::array<char, kBlock> block{};
+  std::array<char, blockBytes> block{};
   ssize_t count = 0;
   while ((count = httpRead2(http, block.data(), block.size())) > 0) {
     answer.ppd.append(block.data(), count);
-    if (answer.ppd.size() > kLargestPPD) return {HTTP_STATUS_REQUEST_TOO_LARGE, {}, 0};
+    if (answer.ppd.size() > largestPPD) return {HTTP_STATUS_REQUEST_TOO_LARGE, {}, 0};
   }
   if (count < 0 || httpError(http) != 0) return {HTTP_STATUS_ERROR, {}, 0};
   return answer;
@@ -67,7 +67,7 @@ PPDAnswer downloadPPD(http_t *http, const QString &queue, time_t date) {
                    "/printers/%s.ppd", queue.toUtf8().constData());
   const QByteArray resource = QByteArray(coded.data()).mid(QByteArrayView("http://x").size());
   http_status_t status = HTTP_STATUS_ERROR;
-  for (int round = 0; round < kMostRounds; ++round) {
+  for (int round = 0; round < mostRounds; ++round) {
     status = statusOfGet(http, resource, date);
     if (!meetWish(http, status, resource)) break;
   }

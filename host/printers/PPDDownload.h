@@ -9,9 +9,12 @@ namespace orvek {
 
 /// A server's answer.
 struct PPDAnswer {
-  http_status_t status = HTTP_STATUS_ERROR;  ///< OK; NOT_MODIFIED; NOT_FOUND; why not
-  QByteArray ppd;                            ///< where OK
-  time_t date = 0;                           ///< where OK: when it was changed last
+  /// OK; NOT_MODIFIED; NOT_FOUND; why not.
+  http_status_t status = HTTP_STATUS_ERROR;
+  /// Where OK.
+  QByteArray ppd;
+  /// Where OK: when it was changed last.
+  time_t date = 0;
 };
 
 /// The PPD of `queue`, or of a class' first printer that has one, unless it has not changed since

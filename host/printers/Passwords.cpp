@@ -6,7 +6,7 @@
 namespace orvek {
 namespace {
 
-constexpr int kMostAnswers = 3;
+constexpr int mostAnswers = 3;
 
 }  // namespace
 
@@ -61,12 +61,12 @@ Result<Credentials> PasswordRounds::ask(const PasswordQuestion &question,
         FailureKind::Io, question.server,
         Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "the print server asks for a password"))};
   }
-  if (m_asked == kMostAnswers) {
+  if (m_asked == mostAnswers) {
     return Failure{FailureKind::Io, question.server,
                    Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
                                             "the print server did not accept the password of user "
                                             "\"%1\", given %2 times"),
-                          {question.user, QString::number(kMostAnswers)})};
+                          {question.user, QString::number(mostAnswers)})};
   }
   ++m_asked;
   return m_source->ask(question, cancelled);

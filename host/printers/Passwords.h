@@ -22,9 +22,12 @@ struct Credentials {
 
 /// What is asked of the user.
 struct PasswordQuestion {
-  QString server;          ///< as messages name it
-  QString user;            ///< as whom the server is asked so far
-  bool isRepeated = false; /**< the last answer was not accepted */
+  /// As messages name it.
+  QString server;
+  /// As whom the server is asked so far.
+  QString user;
+  /// The last answer was not accepted.
+  bool isRepeated = false;
 };
 
 /// Asks whoever is there, and keeps answers for as long as the program runs, so that nobody is

@@ -53,10 +53,10 @@ QStringList reasonsFrom(const QString &keywords) {
 /// that does not come costs only the message.
 QMap<QString, QString> stateMessages(http_t *http) {
   static const char *const attributes[] = {"printer-name", "printer-state-message"};
-  constexpr int kAttributes = 2;
+  constexpr int attributeCount = 2;
   ipp_t *request = ippNewRequest(IPP_OP_CUPS_GET_PRINTERS);
   ippAddStrings(request, IPP_TAG_OPERATION, IPP_CONST_TAG(IPP_TAG_KEYWORD), "requested-attributes",
-                kAttributes, nullptr, attributes);
+                attributeCount, nullptr, attributes);
   ipp_t *response = cupsDoRequest(http, request, "/");
   QMap<QString, QString> messages;
   QString name;
@@ -70,8 +70,9 @@ QMap<QString, QString> stateMessages(http_t *http) {
       message.clear();
     }
     if (keyword == "printer-name") name = QString::fromUtf8(ippGetString(attribute, 0, nullptr));
-    if (keyword == "printer-state-message")
+    if (keyword == "printer-state-message") {
       message = QString::fromUtf8(ippGetString(attribute, 0, nullptr));
+    }
     if (!name.isEmpty() && !message.isEmpty()) messages.insert(name, message);
   }
   ippDelete(response);
@@ -107,11 +108,12 @@ Failure noDefault(const CupsConnection &connection) {
   for (const char *variable : {"LPDEST", "PRINTER"}) {
     const QString named = qEnvironmentVariable(variable);
     const bool counts = !named.isEmpty() && named != QStringLiteral("lp");
-    if (counts)
+    if (counts) {
       return {
           FailureKind::Io, QString::fromLatin1(variable),
           Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "names a printer that does not exist: \"%1\""),
                  {named})};
+    }
   }
   return {
       FailureKind::Io, connection.serverName(),
@@ -125,9 +127,10 @@ Queue queueFrom(const cups_dest_t &destination) {
   queue.name = QString::fromUtf8(destination.name);
   queue.instance = QString::fromUtf8(destination.instance);
   queue.isDefault = destination.is_default != 0;
-  for (int i = 0; i < destination.num_options; ++i)
+  for (int i = 0; i < destination.num_options; ++i) {
     queue.options.insert(QString::fromUtf8(destination.options[i].name),
                          QString::fromUtf8(destination.options[i].value));
+  }
   const auto &options = queue.options;
   queue.info = textOption(options, "printer-info");
   queue.location = textOption(options, "printer-location");
@@ -143,8 +146,9 @@ Result<QList<Queue>> listPrinters(const ServerAccess &access) {
   auto connection = CupsConnection::open(access);
   if (!connection) return connection.failure();
   const Destinations destinations(connection.value()->http());
-  if (destinations.count() == 0 && !serverAnswered(*connection.value()))
+  if (destinations.count() == 0 && !serverAnswered(*connection.value())) {
     return connection.value()->lastFailure(connection.value()->serverName());
+  }
   const auto messages = stateMessages(connection.value()->http());
   QList<Queue> printers;
   printers.reserve(destinations.count());

@@ -51,8 +51,9 @@ const QMap<QString, QString> &knownReasons() {
 
 QString withoutSeverity(QString keyword) {
   for (const auto &severity :
-       {QStringLiteral("-error"), QStringLiteral("-warning"), QStringLiteral("-report")})
+       {QStringLiteral("-error"), QStringLiteral("-warning"), QStringLiteral("-report")}) {
     if (keyword.endsWith(severity)) keyword.chop(severity.size());
+  }
   return keyword;
 }
 

@@ -14,17 +14,25 @@ enum class PrinterState { Unknown, Idle, Printing, Stopped };
 /// instance).
 struct Queue {
   QString name;
-  QString instance;      ///< null: the queue itself
-  QString info;          ///< what its administrator calls it; often what people know it by
-  QString location;      ///< null where it has none
-  QString makeAndModel;  ///< null where the server does not know
-  QString deviceUri;     ///< null where the server does not tell
+  /// Null: the queue itself.
+  QString instance;
+  /// What its administrator calls it; often what people know it by.
+  QString info;
+  /// Null where it has none.
+  QString location;
+  /// Null where the server does not know.
+  QString makeAndModel;
+  /// Null where the server does not tell.
+  QString deviceUri;
   PrinterState state = PrinterState::Unknown;
-  QStringList reasons;   ///< why it is in that state, in words; empty: nothing to report
-  QString stateMessage;  ///< what was said of it last; null: nothing, or not listed
+  /// Why it is in that state, in words; empty: nothing to report.
+  QStringList reasons;
+  /// What was said of it last; null: nothing, or not listed.
+  QString stateMessage;
   bool acceptsJobs = true;
   bool isDefault = false;
-  QMap<QString, QString> options;  ///< the queue's and the user's options, as libcups gives them
+  /// The queue's and the user's options, as libcups gives them.
+  QMap<QString, QString> options;
 
   /// "NAME" or "NAME/INSTANCE", as on a command line.
   QString destination() const;

@@ -12,10 +12,10 @@
 namespace orvek {
 namespace {
 
-const char *const kSettings[] = {"media",     "sides",      "print-color-mode", "print-quality",
-                                 "number-up", "output-bin", "finishings"};
+const char *const settingNames[] = {"media",     "sides",      "print-color-mode", "print-quality",
+                                    "number-up", "output-bin", "finishings"};
 
-constexpr std::chrono::milliseconds kPrinterPatience{2000};
+constexpr std::chrono::milliseconds printerPatience{2000};
 
 using Destination = std::unique_ptr<cups_dest_t, void (*)(cups_dest_t *)>;
 using Details = std::unique_ptr<cups_dinfo_t, decltype(&cupsFreeDestInfo)>;
@@ -90,7 +90,7 @@ SettingOffer readSetting(const Queue &queue, const char *name) {
 
 QList<SettingOffer> readSettings(http_t *http, cups_dest_t *destination, cups_dinfo_t *details) {
   QList<SettingOffer> settings;
-  for (const char *name : kSettings) {
+  for (const char *name : settingNames) {
     const auto setting = readSetting({http, destination, details}, name);
     if (setting.choices.size() > 1) settings << setting;
   }
@@ -112,7 +112,7 @@ QList<SettingOffer> askPrinterItself(const CupsConnection &connection, cups_dest
   const bool isSecure = device.scheme() == QLatin1String("ipps");
   if (!isSecure && device.scheme() != QLatin1String("ipp")) return {};
   if (!httpAddrLocalhost(httpGetAddress(connection.http()))) return {};
-  WaitLimit limit(kPrinterPatience, connection.cancelled());
+  WaitLimit limit(printerPatience, connection.cancelled());
   const CupsConnection::Unasked unasked(connection);
   const HttpHandle printer =
       limit.connect(device.host().toUtf8().constData(), device.port(IPP_PORT),

@@ -17,7 +17,7 @@
 namespace orvek {
 namespace {
 
-constexpr qsizetype kLongestName = 200;
+constexpr qsizetype longestName = 200;
 
 QByteArray digestOf(const QString &text) {
   return QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha256).toHex();
@@ -27,7 +27,7 @@ QByteArray digestOf(const QString &text) {
 /// its own: two of them may have queues of one name.
 QString keptPath(const QString &folder, const QString &server, const QString &queue) {
   QByteArray name = queue.toUtf8().toPercentEncoding();
-  if (name.size() > kLongestName) name = digestOf(queue);
+  if (name.size() > longestName) name = digestOf(queue);
   return QStringLiteral("%1/ppd/%2/%3.ppd")
       .arg(folder, QString::fromLatin1(digestOf(server)), QString::fromLatin1(name));
 }
@@ -43,13 +43,15 @@ Status keep(const PPDAnswer &fetched, const QString &path) {
   QDir().mkpath(QFileInfo(path).path());
   QSaveFile kept(path);
   if (!kept.open(QIODevice::WriteOnly) || kept.write(fetched.ppd) != fetched.ppd.size() ||
-      !kept.commit())
+      !kept.commit()) {
     return Failure{FailureKind::Io, path, Phrase::ofSystem(kept.errorString())};
+  }
   QFile dated(path);
   // Undated, it would only be fetched again the next time.
-  if (dated.open(QIODevice::ReadWrite))
+  if (dated.open(QIODevice::ReadWrite)) {
     dated.setFileTime(QDateTime::fromSecsSinceEpoch(fetched.date),
                       QFileDevice::FileModificationTime);
+  }
   return {};
 }
 

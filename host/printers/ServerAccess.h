@@ -12,16 +12,19 @@ namespace orvek {
 class PasswordSource;
 
 /// How long a server may neither take nor give a byte before it counts as hanging.
-inline constexpr std::chrono::milliseconds kServerPatience{10000};
+inline constexpr std::chrono::milliseconds serverPatience{10000};
 
 /// Which server, and as whom. A null text leaves it to libcups: CUPS_SERVER, CUPS_USER,
 /// client.conf.
 struct ServerAccess {
-  QString server;  ///< HOST[:PORT], or a socket's path
+  /// HOST[:PORT], or a socket's path.
+  QString server;
   QString user;
-  const std::atomic<bool> *cancelled = nullptr;  ///< borrowed; set, it ends every wait
-  std::chrono::milliseconds patience = kServerPatience;
-  std::shared_ptr<PasswordSource> passwords = {};  ///< null: nobody can be asked for a password
+  /// Borrowed; set, it ends every wait.
+  const std::atomic<bool> *cancelled = nullptr;
+  std::chrono::milliseconds patience = serverPatience;
+  /// Null: nobody can be asked for a password.
+  std::shared_ptr<PasswordSource> passwords = {};
 };
 
 }  // namespace orvek

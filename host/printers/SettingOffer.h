@@ -9,7 +9,8 @@ namespace orvek {
 
 struct SettingChoice {
   QString keyword;
-  QString text;  ///< for people
+  /// For people.
+  QString text;
 
   bool operator==(const SettingChoice &) const = default;
 };
@@ -18,9 +19,11 @@ struct SettingChoice {
 /// "print-quality", "media-source", "media-type") with what the queue supports.
 struct SettingOffer {
   QString attribute;
-  QString title;  ///< for people; null: a usual one
+  /// For people; null: a usual one.
+  QString title;
   QList<SettingChoice> choices;
-  QString standard;  ///< the queue's default; null: it names none
+  /// The queue's default; null: it names none.
+  QString standard;
 };
 
 }  // namespace orvek

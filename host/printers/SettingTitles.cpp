@@ -57,9 +57,10 @@ QString plainSettingTitle(const QString &keyword) {
 
 QString plainChoiceTitle(const QString &setting, const QString &keyword) {
   if (setting == QStringLiteral("media")) return mediaTitle(keyword);
-  if (isEnumeration(setting))
+  if (isEnumeration(setting)) {
     return wordsOf(
         QString::fromLatin1(ippEnumString(setting.toLatin1().constData(), keyword.toInt())));
+  }
   return choiceTitles().value(keyword, wordsOf(keyword));
 }
 

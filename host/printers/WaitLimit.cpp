@@ -6,18 +6,18 @@
 namespace orvek {
 namespace {
 
-constexpr int kConnectMilliseconds = 5000;
-constexpr double kAskEverySeconds = 0.25;
+constexpr int connectMilliseconds = 5000;
+constexpr double askEverySeconds = 0.25;
 /// Asked more than this after the last time, a new wait has begun: bytes went over in between.
-constexpr qint64 kNewStallMilliseconds = 1000;
+constexpr qint64 newStallMilliseconds = 1000;
 
 }  // namespace
 
 HttpHandle WaitLimit::connect(const char *host, int port, http_encryption_t encryption) {
-  constexpr int kBlocking = 1;
-  HttpHandle http(httpConnect2(host, port, nullptr, AF_UNSPEC, encryption, kBlocking,
-                               kConnectMilliseconds, nullptr));
-  if (http) httpSetTimeout(http.get(), kAskEverySeconds, keepWaiting, this);
+  constexpr int blocking = 1;
+  HttpHandle http(httpConnect2(host, port, nullptr, AF_UNSPEC, encryption, blocking,
+                               connectMilliseconds, nullptr));
+  if (http) httpSetTimeout(http.get(), askEverySeconds, keepWaiting, this);
   return http;
 }
 
@@ -27,7 +27,7 @@ int WaitLimit::keepWaiting(http_t *, void *limit) {
 
 bool WaitLimit::mayWaitLonger() {
   if (isCancelled() || m_gaveUp) return false;
-  if (!m_lastAsked.isValid() || m_lastAsked.elapsed() > kNewStallMilliseconds) m_stall.start();
+  if (!m_lastAsked.isValid() || m_lastAsked.elapsed() > newStallMilliseconds) m_stall.start();
   m_lastAsked.start();
   m_gaveUp = m_stall.elapsed() > m_patience.count();
   return !m_gaveUp;

@@ -46,8 +46,10 @@ class WaitLimit {
 
   std::chrono::milliseconds m_patience;
   const std::atomic<bool> *m_cancelled;
-  QElapsedTimer m_stall;      ///< since the other side stopped taking or giving bytes
-  QElapsedTimer m_lastAsked;  ///< since libcups last asked whether to wait
+  /// Since the other side stopped taking or giving bytes.
+  QElapsedTimer m_stall;
+  /// Since libcups last asked whether to wait.
+  QElapsedTimer m_lastAsked;
   bool m_gaveUp = false;
 };
 

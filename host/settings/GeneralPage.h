@@ -36,7 +36,8 @@ class GeneralPage final : public QWidget {
 
  private:
   struct ChoiceRow {
-    int setting;  // its place among the state's settings
+    /// Its place among the state's settings.
+    int setting;
     QLabel *label;
     ChoiceBox *box;
   };
@@ -63,7 +64,8 @@ class GeneralPage final : public QWidget {
   void changeJob(const std::function<void(JobSettings *)> &change);
 
   PrintSession &m_session;
-  GeneralState m_state;  // what is shown
+  /// What is shown.
+  GeneralState m_state;
   Availability *m_availability;
   QFormLayout *m_form;
   CopiesRow *m_copies = nullptr;

@@ -15,16 +15,18 @@ namespace orvek {
 
 /// A paper size of the user's own, where one is picked.
 struct CustomPaper {
-  QSizeF size;  ///< points
+  /// Points.
+  QSizeF size;
   CustomPaperLimits limits;
 };
 
 struct GeneralState {
   JobSettings job;
   int pagesPerSheet = 1;
-  QList<std::optional<Setting>> settings;  ///< by CommonSetting, then further ones; nothing: no
-                                           ///< such row
-  std::optional<CustomPaper> customPaper;  ///< nothing: no such row
+  /// By CommonSetting, then further ones; nothing: no such row.
+  QList<std::optional<Setting>> settings;
+  /// Nothing: no such row.
+  std::optional<CustomPaper> customPaper;
 };
 
 GeneralState generalState(const PrintSession &session);

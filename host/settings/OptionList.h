@@ -14,8 +14,10 @@ namespace orvek {
 
 struct OptionEntry {
   QString keyword;
-  QString text;      ///< for people
-  QString standard;  ///< the queue's or user's choice, else the PPD's default
+  /// For people.
+  QString text;
+  /// The queue's or user's choice, else the PPD's default.
+  QString standard;
 };
 
 struct OptionGroup {

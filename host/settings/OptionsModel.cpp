@@ -40,8 +40,9 @@ bool OptionsModel::matchesSearch(int group, int option) const {
 }
 
 void OptionsModel::filter() {
-  if (!m_words.isEmpty() && m_searchTexts.isEmpty())
+  if (!m_words.isEmpty() && m_searchTexts.isEmpty()) {
     m_searchTexts = searchTexts(m_session, m_groups);
+  }
   m_shown.clear();
   for (int group = 0; group < m_groups.size(); ++group) {
     const QList<OptionEntry> &options = m_groups[group].options;

@@ -59,7 +59,8 @@ class OptionsModel final : public QAbstractItemModel {
 
   PrintSession &m_session;
   QList<OptionGroup> m_groups;
-  QList<QStringList> m_searchTexts;  // by group and option; empty until the first search
+  /// By group and option; empty until the first search.
+  QList<QStringList> m_searchTexts;
   QList<OptionChoice> m_changed;
   QList<Shown> m_shown;
   QString m_words;

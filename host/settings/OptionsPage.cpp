@@ -89,8 +89,9 @@ void OptionsPage::connectParts() {
   connect(m_view, &OptionsView::currentMoved, this, &OptionsPage::updateControls);
   connect(m_view, &OptionsView::customAsked, this, &OptionsPage::askForCustomValues);
   connect(m_custom, &CustomValueForm::choicePicked, this, [this](const QString &choice) {
-    if (const OptionEntry *entry = m_model->entryAt(m_view->currentIndex()); entry != nullptr)
+    if (const OptionEntry *entry = m_model->entryAt(m_view->currentIndex()); entry != nullptr) {
       m_session.pick(entry->keyword, choice);
+    }
   });
   connect(m_view, &OptionsView::setBackAsked, this, &OptionsPage::setBack);
   connect(m_setBack, &QPushButton::clicked, this, &OptionsPage::setBack);

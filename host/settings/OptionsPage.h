@@ -43,7 +43,8 @@ class OptionsPage final : public QWidget {
   OptionsModel *m_model;
   OptionsView *m_view;
   CustomValueForm *m_custom;
-  QString m_customOption;  // whose fields are open though another choice is marked; null: none
+  /// Whose fields are open though another choice is marked; null: none.
+  QString m_customOption;
   QLineEdit *m_search;
   QCheckBox *m_onlyChanged;
   QLabel *m_state;

@@ -33,7 +33,8 @@ class PagesRow final : public QWidget {
   QRadioButton *m_some;
   QLineEdit *m_ranges;
   QLabel *m_problem;
-  bool m_isTyping = false;  // a half-typed text is not wrong yet
+  /// A half-typed text is not wrong yet.
+  bool m_isTyping = false;
 };
 
 }  // namespace orvek

@@ -13,7 +13,7 @@
 
 #include "tests/printers/PrinterFamily.h"
 
-namespace orvek::testing {
+namespace orvek::test {
 namespace {
 
 using ::testing::AnyOf;
@@ -230,4 +230,4 @@ TEST(PrinterFamily, SendsThePickedFoldToThePrinter) {
 }
 
 }  // namespace
-}  // namespace orvek::testing
+}  // namespace orvek::test

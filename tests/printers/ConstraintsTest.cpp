@@ -7,7 +7,7 @@
 
 #include "tests/printers/PrinterFamily.h"
 
-namespace orvek::testing {
+namespace orvek::test {
 namespace {
 
 using ::testing::Contains;
@@ -217,4 +217,4 @@ TEST(Constraints, AreWrittenInBothDirections) {
 }
 
 }  // namespace
-}  // namespace orvek::testing
+}  // namespace orvek::test

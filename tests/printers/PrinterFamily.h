@@ -10,7 +10,7 @@
 
 #include "platform/printing/PPD.h"
 
-namespace orvek::testing {
+namespace orvek::test {
 
 struct ClosePPD {
   void operator()(ppd_file_t *ppd) const { ppdClose(ppd); }
@@ -82,4 +82,4 @@ inline std::string translated(ppd_file_t *ppd, const std::string &language,
   return text != nullptr ? text->text : "";
 }
 
-}  // namespace orvek::testing
+}  // namespace orvek::test

@@ -8,7 +8,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace orvek::testing {
+namespace orvek::test {
 
 inline const QStringList bundleLanguages = {QStringLiteral("en"), QStringLiteral("de"),
                                             QStringLiteral("fr"), QStringLiteral("ja")};
@@ -28,4 +28,4 @@ inline QJsonObject bundleStrings(const QString &language) {
   return bundleJson(language + QStringLiteral(".lproj/Localizable.json"));
 }
 
-}  // namespace orvek::testing
+}  // namespace orvek::test

@@ -10,7 +10,7 @@
 #include "platform/ui/Controls.h"
 #include "tests/resources/BundleFolder.h"
 
-namespace orvek::testing {
+namespace orvek::test {
 namespace {
 
 TEST(DenseScreen, ShowsAPictureWithAllItsPixelsAtItsUsualSize) {
@@ -31,7 +31,7 @@ TEST(DenseScreen, LeavesTheViewEmptyWithoutAPicture) {
 }
 
 }  // namespace
-}  // namespace orvek::testing
+}  // namespace orvek::test
 
 int main(int argc, char **argv) {
   qputenv("QT_SCALE_FACTOR", "2");

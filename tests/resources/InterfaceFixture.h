@@ -10,7 +10,7 @@
 
 #include "tests/resources/BundleFolder.h"
 
-namespace orvek::testing {
+namespace orvek::test {
 
 inline std::unique_ptr<QWidget> loadFinishingView() {
   QFile file(bundleFile(QStringLiteral("en.lproj/Finishing.ui")));
@@ -37,4 +37,4 @@ class Interface : public ::testing::Test {
   std::unique_ptr<QWidget> root = loadFinishingView();
 };
 
-}  // namespace orvek::testing
+}  // namespace orvek::test

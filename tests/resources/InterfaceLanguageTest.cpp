@@ -11,7 +11,7 @@
 #include "platform/ui/InterfaceResource.h"
 #include "tests/resources/BundleFolder.h"
 
-namespace orvek::testing {
+namespace orvek::test {
 namespace {
 
 QWidget *loadedView() {
@@ -42,4 +42,4 @@ TEST_P(EveryInterfaceLanguage, ShowsToolTipsAndAccessibleNamesInTheUsersLanguage
 }
 
 }  // namespace
-}  // namespace orvek::testing
+}  // namespace orvek::test

@@ -12,7 +12,7 @@
 
 #include "tests/resources/InterfaceFixture.h"
 
-namespace orvek::testing {
+namespace orvek::test {
 namespace {
 
 constexpr int rowPitch = 30;
@@ -215,4 +215,4 @@ TEST_F(Interface, SaysWhatEveryControlIsFor) {
 }
 
 }  // namespace
-}  // namespace orvek::testing
+}  // namespace orvek::test

@@ -11,7 +11,7 @@
 #include "tests/printers/PrinterFamily.h"
 #include "tests/resources/InterfaceFixture.h"
 
-namespace orvek::testing {
+namespace orvek::test {
 namespace {
 
 constexpr int largestFont = 11;      // points
@@ -101,4 +101,4 @@ TEST_P(InterfaceTexts, OfTheNumbersFit) {
 }
 
 }  // namespace
-}  // namespace orvek::testing
+}  // namespace orvek::test

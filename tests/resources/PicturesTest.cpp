@@ -12,7 +12,7 @@
 #include "tests/printers/PrinterFamily.h"
 #include "tests/resources/BundleFolder.h"
 
-namespace orvek::testing {
+namespace orvek::test {
 namespace {
 
 constexpr QSize pictureSize(104, 96);
@@ -133,4 +133,4 @@ TEST(Pictures, AreWhatTheirScriptDraws) {
 }
 
 }  // namespace
-}  // namespace orvek::testing
+}  // namespace orvek::test

@@ -7,7 +7,7 @@
 
 #include "tests/resources/BundleFolder.h"
 
-namespace orvek::testing {
+namespace orvek::test {
 namespace {
 
 const char *const panelKeys[] = {"_PDE_Finishing_Options",
@@ -74,4 +74,4 @@ TEST(English, CallsThePanelFinishing) {
 }
 
 }  // namespace
-}  // namespace orvek::testing
+}  // namespace orvek::test

@@ -9,13 +9,13 @@
 #include <QDir>
 #include <QFile>
 
-namespace orvek::testing {
+namespace orvek::test {
 namespace {
 
-constexpr auto kReadable =
+constexpr auto readableByAll =
     QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther;
-constexpr auto kRunnable = kReadable | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther;
-constexpr auto kOpenToAll = kRunnable | QFile::WriteGroup | QFile::WriteOther;
+constexpr auto runnableByAll = readableByAll | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther;
+constexpr auto openToAll = runnableByAll | QFile::WriteGroup | QFile::WriteOther;
 
 QByteArray scriptText(const QString &scratch, const QString &script) {
   return QStringLiteral(
@@ -38,13 +38,13 @@ QByteArray ppdText(const QString &filter) {
 
 CapturingFilter::CapturingFilter(const QString &script) {
   const QString filter = m_folder.filePath(QStringLiteral("capture"));
-  QFile::setPermissions(m_folder.path(), kRunnable);
+  QFile::setPermissions(m_folder.path(), runnableByAll);
   QDir(m_folder.path()).mkdir(QStringLiteral("scratch"));
-  QFile::setPermissions(scratch(), kOpenToAll);
+  QFile::setPermissions(scratch(), openToAll);
   writeContents(filter, scriptText(scratch(), script));
-  QFile::setPermissions(filter, kRunnable);
+  QFile::setPermissions(filter, runnableByAll);
   writeContents(ppdFile(), ppdText(filter));
-  QFile::setPermissions(ppdFile(), kReadable);
+  QFile::setPermissions(ppdFile(), readableByAll);
 }
 
 QString CapturingFilter::argument(int number) const {
@@ -55,8 +55,9 @@ QMap<QString, QString> CapturingFilter::options() const {
   cups_option_t *options = nullptr;
   const int count = cupsParseOptions(argument(5).toUtf8().constData(), 0, &options);
   QMap<QString, QString> map;
-  for (int i = 0; i < count; ++i)
+  for (int i = 0; i < count; ++i) {
     map.insert(QString::fromUtf8(options[i].name), QString::fromUtf8(options[i].value));
+  }
   cupsFreeOptions(count, options);
   return map;
 }
@@ -85,4 +86,4 @@ QByteArray postScriptDocument(int pages) {
   return text + "%%EOF\n";
 }
 
-}  // namespace orvek::testing
+}  // namespace orvek::test

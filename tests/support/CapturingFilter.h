@@ -6,7 +6,7 @@
 #include <QString>
 #include <QTemporaryDir>
 
-namespace orvek::testing {
+namespace orvek::test {
 
 /// A filter program and a PPD file that names it. CUPS runs only filters that nobody but their
 /// owner can write, so both lie in a folder of their own.
@@ -44,4 +44,4 @@ QString orvekPPD(const QString &model);
 /// A document of so many pages that prints quickly.
 QByteArray postScriptDocument(int pages);
 
-}  // namespace orvek::testing
+}  // namespace orvek::test

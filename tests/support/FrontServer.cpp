@@ -11,11 +11,11 @@
 
 #include "tests/support/CapturingFilter.h"
 
-namespace orvek::testing {
+namespace orvek::test {
 namespace {
 
-constexpr int kPatience = 10000;
-constexpr int kPause = 20;
+constexpr int patience = 10000;
+constexpr int pauseMilliseconds = 20;
 
 QString nginx() {
   return QStandardPaths::findExecutable(QStringLiteral("nginx"),
@@ -64,7 +64,7 @@ FrontServer::FrontServer(const PrivateCups &cups, Guarded guarded, const QString
   m_server.start(nginx(), {QStringLiteral("-p"), m_folder.path(), QStringLiteral("-c"),
                            m_folder.filePath(QStringLiteral("nginx.conf"))});
   QElapsedTimer clock;
-  for (clock.start(); clock.elapsed() < kPatience; QThread::msleep(kPause)) {
+  for (clock.start(); clock.elapsed() < patience; QThread::msleep(pauseMilliseconds)) {
     if (isListening(m_port)) return;
   }
   ADD_FAILURE() << "the web server does not answer: "
@@ -73,8 +73,8 @@ FrontServer::FrontServer(const PrivateCups &cups, Guarded guarded, const QString
 
 FrontServer::~FrontServer() {
   m_server.terminate();
-  if (!m_server.waitForFinished(kPatience)) m_server.kill();
-  m_server.waitForFinished(kPatience);
+  if (!m_server.waitForFinished(patience)) m_server.kill();
+  m_server.waitForFinished(patience);
 }
 
-}  // namespace orvek::testing
+}  // namespace orvek::test

@@ -8,7 +8,7 @@
 
 #include "tests/support/PrivateCups.h"
 
-namespace orvek::testing {
+namespace orvek::test {
 
 /// What is behind the password: all, all but the list of queues, or nothing.
 enum class Guarded { Everything, Queues, Nothing };
@@ -33,4 +33,4 @@ class FrontServer {
   int m_port;
 };
 
-}  // namespace orvek::testing
+}  // namespace orvek::test

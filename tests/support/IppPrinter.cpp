@@ -13,11 +13,11 @@
 #include "tests/support/CapturingFilter.h"
 #include "tests/support/PrivateCups.h"
 
-namespace orvek::testing {
+namespace orvek::test {
 namespace {
 
-constexpr int kPatience = 15000;
-constexpr int kPause = 50;
+constexpr int patience = 15000;
+constexpr int pauseMilliseconds = 50;
 
 QString program(const char *name) {
   return QStandardPaths::findExecutable(QString::fromLatin1(name),
@@ -27,14 +27,14 @@ QString program(const char *name) {
 
 void stop(QProcess &process) {
   process.terminate();
-  if (!process.waitForFinished(kPatience)) process.kill();
-  process.waitForFinished(kPatience);
+  if (!process.waitForFinished(patience)) process.kill();
+  process.waitForFinished(patience);
 }
 
 template <typename Condition>
 bool comesTrue(const Condition &condition) {
   QElapsedTimer clock;
-  for (clock.start(); clock.elapsed() < kPatience; QThread::msleep(kPause)) {
+  for (clock.start(); clock.elapsed() < patience; QThread::msleep(pauseMilliseconds)) {
     if (condition()) return true;
   }
   return false;
@@ -111,4 +111,4 @@ QMap<QString, QString> IppPrinter::waitForJob(int number) const {
   return attributes;
 }
 
-}  // namespace orvek::testing
+}  // namespace orvek::test

@@ -7,7 +7,7 @@
 #include <QString>
 #include <QTemporaryDir>
 
-namespace orvek::testing {
+namespace orvek::test {
 
 /// Runs as long as it lives: in color, on both sides, with a few papers; takes PDF, JPEG and
 /// raster.
@@ -37,4 +37,4 @@ class IppPrinter {
   int m_port;
 };
 
-}  // namespace orvek::testing
+}  // namespace orvek::test

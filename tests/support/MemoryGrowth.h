@@ -4,21 +4,21 @@
 
 #include <sys/resource.h>
 
-namespace orvek::testing {
+namespace orvek::test {
 
 /// The sanitizer keeps freed memory, so growth says nothing there.
 #if defined(__SANITIZE_ADDRESS__)
-inline constexpr bool kMemoryCanBeMeasured = false;
+inline constexpr bool memoryCanBeMeasured = false;
 #else
-inline constexpr bool kMemoryCanBeMeasured = true;
+inline constexpr bool memoryCanBeMeasured = true;
 #endif
 
 /// The process's largest resident size so far, in bytes.
 inline long peakMemory() {
-  constexpr long kKilobyte = 1024;
+  constexpr long kilobyte = 1024;
   struct rusage usage {};
   ::getrusage(RUSAGE_SELF, &usage);
-  return usage.ru_maxrss * kKilobyte;
+  return usage.ru_maxrss * kilobyte;
 }
 
-}  // namespace orvek::testing
+}  // namespace orvek::test

@@ -27,14 +27,14 @@
 
 #include "tests/support/CapturingFilter.h"
 
-namespace orvek::testing {
+namespace orvek::test {
 namespace {
 
-constexpr int kPatience = 30000;
-constexpr int kPause = 20;
+constexpr int patience = 30000;
+constexpr int pauseMilliseconds = 20;
 
-const QStringList kFolders{QStringLiteral("/usr/sbin"), QStringLiteral("/usr/bin"),
-                           QStringLiteral("/sbin"), QStringLiteral("/bin")};
+const QStringList programFolders{QStringLiteral("/usr/sbin"), QStringLiteral("/usr/bin"),
+                                 QStringLiteral("/sbin"), QStringLiteral("/bin")};
 
 /// The same folder for every server of a process: libcups reads HOME and its own root only once.
 QString folderOfThisProcess() {
@@ -43,7 +43,7 @@ QString folderOfThisProcess() {
 }
 
 QString program(const QString &name) {
-  return QStandardPaths::findExecutable(name, kFolders);
+  return QStandardPaths::findExecutable(name, programFolders);
 }
 
 /// Filters and backends don't run as root; the server changes to this user for them.
@@ -60,7 +60,7 @@ QByteArray filesConfiguration(const QByteArray &folder) {
          "/access_log\nPageLog " + folder + "/page_log\n";
 }
 
-const QByteArray kOpenPolicy =
+const QByteArray openPolicy =
     "JobPrivateAccess all\nJobPrivateValues none\nSubscriptionPrivateAccess all\n"
     "SubscriptionPrivateValues none\n<Limit All>\nOrder deny,allow\n</Limit>\n";
 
@@ -73,13 +73,13 @@ QByteArray serverConfiguration(const QByteArray &socket, int port, const Private
          "</Location>\n"
          "<Location /admin>\nOrder allow,deny\nAllow all\n</Location>\n"
          "<Policy default>\n" +
-         (setup.policy.isEmpty() ? kOpenPolicy : setup.policy) + "</Policy>\n";
+         (setup.policy.isEmpty() ? openPolicy : setup.policy) + "</Policy>\n";
 }
 
 Ran finish(QProcess &process, const QByteArray &input) {
   process.write(input);
   process.closeWriteChannel();
-  const bool ended = process.waitForFinished(kPatience);
+  const bool ended = process.waitForFinished(patience);
   if (!ended) process.kill();
   return {ended ? process.exitCode() : -1, QString::fromUtf8(process.readAllStandardOutput()),
           QString::fromUtf8(process.readAllStandardError())};
@@ -125,17 +125,20 @@ bool isListening(int port) {
 }
 
 QString PrivateCups::obstacle() {
-  for (const char *name : {"cupsd", "lpadmin", "lp"})
-    if (program(QString::fromLatin1(name)).isEmpty())
+  for (const char *name : {"cupsd", "lpadmin", "lp"}) {
+    if (program(QString::fromLatin1(name)).isEmpty()) {
       return QStringLiteral("%1 is not installed").arg(QString::fromLatin1(name));
+    }
+  }
   return {};
 }
 
 PrivateCups::PrivateCups(const PrivateCupsSetup &setup)
     : m_folder(folderOfThisProcess()), m_port(freePort()) {
   m_folder.removeRecursively();
-  for (const char *name : {"etc", "run", "cache", "spool", "spool/tmp", "home", "printed"})
+  for (const char *name : {"etc", "run", "cache", "spool", "spool/tmp", "home", "printed"}) {
     m_folder.mkpath(QString::fromLatin1(name));
+  }
   QFile::setPermissions(m_folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
                                              QFile::ReadOther | QFile::ExeOther);
   writeConfiguration(setup);
@@ -146,10 +149,11 @@ PrivateCups::PrivateCups(const PrivateCupsSetup &setup)
 PrivateCups::~PrivateCups() {
   stop();
   for (auto saved = m_savedEnvironment.cbegin(); saved != m_savedEnvironment.cend(); ++saved) {
-    if (saved.value().isNull())
+    if (saved.value().isNull()) {
       qunsetenv(saved.key().constData());
-    else
+    } else {
       qputenv(saved.key().constData(), saved.value());
+    }
   }
   cupsSetServer(nullptr);
 }
@@ -159,8 +163,9 @@ void PrivateCups::writeConfiguration(const PrivateCupsSetup &setup) {
                 filesConfiguration(m_folder.path().toUtf8()));
   writeContents(serverRoot() + QStringLiteral("/cupsd.conf"),
                 serverConfiguration(socket().toUtf8(), m_port, setup));
-  if (!setup.printers.isEmpty())
+  if (!setup.printers.isEmpty()) {
     writeContents(serverRoot() + QStringLiteral("/printers.conf"), setup.printers);
+  }
 }
 
 void PrivateCups::pointEnvironmentHere() {
@@ -172,10 +177,11 @@ void PrivateCups::pointEnvironmentHere() {
   for (auto entry = environment.cbegin(); entry != environment.cend(); ++entry) {
     const char *name = entry.key().constData();
     m_savedEnvironment.insert(name, qgetenv(name));
-    if (entry.value().isNull())
+    if (entry.value().isNull()) {
       qunsetenv(name);
-    else
+    } else {
       qputenv(name, entry.value());
+    }
   }
   cupsSetServer(nullptr);
 }
@@ -186,12 +192,13 @@ void PrivateCups::start() {
       program(QStringLiteral("cupsd")),
       {QStringLiteral("-f"), QStringLiteral("-c"), serverRoot() + QStringLiteral("/cupsd.conf"),
        QStringLiteral("-s"), serverRoot() + QStringLiteral("/cups-files.conf")});
-  ASSERT_TRUE(m_server.waitForStarted(kPatience));
+  ASSERT_TRUE(m_server.waitForStarted(patience));
   QElapsedTimer clock;
-  for (clock.start(); clock.elapsed() < kPatience; QThread::msleep(kPause)) {
+  for (clock.start(); clock.elapsed() < patience; QThread::msleep(pauseMilliseconds)) {
     if (run(QStringLiteral("lpstat"), {QStringLiteral("-r")})
-            .output.contains(QStringLiteral("is running")))
+            .output.contains(QStringLiteral("is running"))) {
       return;
+    }
     ASSERT_TRUE(isRunning()) << log().toStdString();
   }
   FAIL() << "the private server does not answer: " << log().toStdString();
@@ -201,8 +208,8 @@ void PrivateCups::stop() {
   if (!isRunning()) return;
   resume();
   m_server.terminate();
-  if (!m_server.waitForFinished(kPatience)) m_server.kill();
-  m_server.waitForFinished(kPatience);
+  if (!m_server.waitForFinished(patience)) m_server.kill();
+  m_server.waitForFinished(patience);
 }
 
 void PrivateCups::pause() {
@@ -232,8 +239,8 @@ Ran PrivateCups::run(const QString &name, const QStringList &arguments,
 }
 
 QMap<QString, QString> PrivateCups::jobAttributes(int jobId) const {
-  constexpr int kNoPort = 0;
-  return attributesOfJob(socket().toUtf8(), kNoPort,
+  constexpr int noPort = 0;
+  return attributesOfJob(socket().toUtf8(), noPort,
                          "ipp://localhost/jobs/" + QByteArray::number(jobId));
 }
 
@@ -242,9 +249,9 @@ QMap<QString, QString> attributesOfJob(const QByteArray &host, int port, const Q
   ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, jobUri.constData());
   ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
                cupsUser());
-  constexpr int kConnectMilliseconds = 5000;
+  constexpr int connectMilliseconds = 5000;
   http_t *http = httpConnect2(host.constData(), port, nullptr, AF_UNSPEC, HTTP_ENCRYPTION_NEVER, 1,
-                              kConnectMilliseconds, nullptr);
+                              connectMilliseconds, nullptr);
   const QByteArray path = QUrl(QString::fromUtf8(jobUri)).path().toUtf8();
   ipp_t *response = cupsDoRequest(http, request, path.left(path.lastIndexOf('/')).constData());
   const auto attributes = attributesOf(response);
@@ -265,11 +272,12 @@ QMap<QString, QString> PrivateCups::comparableJobAttributes(int jobId) const {
 QString PrivateCups::waitForJob(int jobId) const {
   QElapsedTimer clock;
   QString state;
-  for (clock.start(); clock.elapsed() < kPatience; QThread::msleep(kPause)) {
+  for (clock.start(); clock.elapsed() < patience; QThread::msleep(pauseMilliseconds)) {
     state = jobAttributes(jobId).value(QStringLiteral("job-state"));
     if (state == QStringLiteral("completed") || state == QStringLiteral("canceled") ||
-        state == QStringLiteral("aborted"))
+        state == QStringLiteral("aborted")) {
       break;
+    }
   }
   return state;
 }
@@ -278,4 +286,4 @@ QString PrivateCups::log() const {
   return QString::fromUtf8(contentsOf(m_folder.filePath(QStringLiteral("error_log"))));
 }
 
-}  // namespace orvek::testing
+}  // namespace orvek::test

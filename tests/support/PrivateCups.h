@@ -8,7 +8,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace orvek::testing {
+namespace orvek::test {
 
 /// What a program that a test ran gave.
 struct Ran {
@@ -29,8 +29,10 @@ bool isListening(int port);
 
 /// How a private server differs from the usual one.
 struct PrivateCupsSetup {
-  QByteArray policy;    ///< lines for the default policy; empty: everybody may do everything
-  QByteArray printers;  ///< a ready printers.conf; empty: no queues
+  /// Lines for the default policy; empty: everybody may do everything.
+  QByteArray policy;
+  /// A ready printers.conf; empty: no queues.
+  QByteArray printers;
 };
 
 /// Runs as long as it lives; one at a time. While it does, CUPS_SERVER, CUPS_SERVERROOT and HOME of
@@ -89,4 +91,4 @@ class PrivateCups {
   QMap<QByteArray, QByteArray> m_savedEnvironment;
 };
 
-}  // namespace orvek::testing
+}  // namespace orvek::test

@@ -9,7 +9,7 @@
 
 #include <QFile>
 
-namespace orvek::testing {
+namespace orvek::test {
 
 StandardInput::StandardInput(const QByteArray &bytes) {
   EXPECT_TRUE(m_bytes.open());
@@ -35,4 +35,4 @@ void StandardInput::replaceBy(int descriptor) {
   EXPECT_GE(::dup2(descriptor, STDIN_FILENO), 0);
 }
 
-}  // namespace orvek::testing
+}  // namespace orvek::test

@@ -6,7 +6,7 @@
 #include <QString>
 #include <QTemporaryFile>
 
-namespace orvek::testing {
+namespace orvek::test {
 
 /// While it lives, standard input is these bytes, or a file.
 class StandardInput {
@@ -24,4 +24,4 @@ class StandardInput {
   int m_saved = -1;
 };
 
-}  // namespace orvek::testing
+}  // namespace orvek::test

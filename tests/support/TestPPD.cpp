@@ -69,8 +69,9 @@ QByteArray PPDText::text() const {
       "*LanguageVersion: English\n*LanguageEncoding: UTF-8\n*PCFileName: \"TEST.PPD\"\n"
       "*Product: \"(Test)\"\n*PSVersion: \"(3010.000) 0\"\n*ShortNickName: \"Test\"\n"
       "*NickName: \"Test\"\n");
-  if (!m_manufacturer.isNull())
+  if (!m_manufacturer.isNull()) {
     text += QStringLiteral("*Manufacturer: \"%1\"\n").arg(m_manufacturer);
+  }
   if (!m_modelName.isNull()) text += QStringLiteral("*ModelName: \"%1\"\n").arg(m_modelName);
   for (const QString &line : m_lines) text += line + QLatin1Char('\n');
   for (const OptionText &option : m_options) text += optionLines(option);

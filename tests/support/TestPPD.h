@@ -13,7 +13,8 @@ namespace orvek::test {
 
 struct ChoiceText {
   QString keyword;
-  QString text = {};  // its translation; null: the keyword
+  /// Its translation; null: the keyword.
+  QString text = {};
 };
 
 struct OptionText {
@@ -30,7 +31,8 @@ class PPDText {
   PPDText();
   PPDText &manufacturer(const QString &name);
   PPDText &modelName(const QString &name);
-  PPDText &without(const QString &keyword);  // drops an option added before
+  /// Drops an option added before.
+  PPDText &without(const QString &keyword);
   PPDText &attribute(const QString &keyword, const QString &value);
   PPDText &option(const OptionText &option);
   PPDText &line(const QString &raw);

@@ -5,7 +5,7 @@
 
 #include <gmock/gmock.h>
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 TEST(Action, IsAControlsNameAndWhatToPutIntoIt) {
@@ -54,4 +54,4 @@ TEST(Action, IsRefusedWithItsOwnWordsWhenItIsNone) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

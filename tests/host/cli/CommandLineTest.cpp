@@ -5,7 +5,7 @@
 
 #include <gmock/gmock.h>
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 CommandLine parsed(const QByteArrayList &words) {
@@ -128,4 +128,4 @@ TEST(CommandLine, RefusesAnActionThatIsNone) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

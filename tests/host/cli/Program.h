@@ -12,7 +12,8 @@ namespace orvek::test {
 
 /// One finished run.
 struct ProgramRun {
-  int status = -1;  ///< -1: did not end by itself
+  /// -1: did not end by itself.
+  int status = -1;
   QByteArray output;
   QByteArray errors;
 
@@ -30,10 +31,12 @@ struct ProgramRun {
 
 /// What a run finds around it.
 struct Surroundings {
-  QStringList environment;  ///< "NAME=VALUE"; no display is ever among them
+  /// "NAME=VALUE"; no display is ever among them.
+  QStringList environment;
   QByteArray input;
   QString folder;
-  bool closeInput = true;  ///< false: standard input stays open and silent
+  /// False: standard input stays open and silent.
+  bool closeInput = true;
 };
 
 inline ProgramRun runProgram(const QStringList &arguments, const Surroundings &surroundings = {}) {

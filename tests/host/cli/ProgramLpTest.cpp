@@ -14,9 +14,6 @@
 namespace orvek::test {
 namespace {
 
-using orvek::testing::orvekPPD;
-using orvek::testing::PrivateCups;
-
 const QString document = QStringLiteral(ORVEK_SOURCE_DIR "/samples/Finishing-Sample.ps");
 
 /// Words between the program's name and the document. "SERVER" stands for the private server.

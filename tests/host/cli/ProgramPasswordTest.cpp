@@ -16,10 +16,6 @@
 namespace orvek::test {
 namespace {
 
-using orvek::testing::FrontServer;
-using orvek::testing::Guarded;
-using orvek::testing::PrivateCups;
-
 const QString document = QStringLiteral(ORVEK_SOURCE_DIR "/samples/Finishing-Sample.ps");
 
 /// A terminal with somebody who answers each question with the next line.

@@ -13,8 +13,6 @@
 namespace orvek::test {
 namespace {
 
-using orvek::testing::PrivateCups;
-
 const QString document = QStringLiteral(ORVEK_SOURCE_DIR "/samples/Finishing-Sample.ps");
 
 class ProgramQueue : public ::testing::Test {

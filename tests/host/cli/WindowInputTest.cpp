@@ -20,11 +20,8 @@
 #include "tests/support/PrivateCups.h"
 #include "tests/support/StandardInput.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
-
-using testing::PrivateCups;
-using testing::StandardInput;
 
 constexpr int blockSize = 1 << 16;
 constexpr int blocks = 512;  // 32 MB
@@ -90,7 +87,7 @@ class WindowInput : public ::testing::Test {
 
   QTemporaryDir folder;
   QString pipe = folder.filePath(QStringLiteral("pipe"));
-  const testing::CapturingFilter driver;  // passes the document on as it is
+  const CapturingFilter driver;  // passes the document on as it is
   std::unique_ptr<PrivateCups> cups;
 };
 
@@ -107,18 +104,18 @@ TEST_F(WindowInput, ArrivesByteForByteAndIsNeverHeldInMemory) {
   {
     const StandardInput input(pipe);
     pressReturnOnceThereIsAWindow();
-    QTimer::singleShot(0, qApp, [&growth] { growth = -testing::peakMemory(); });
+    QTimer::singleShot(0, qApp, [&growth] { growth = -peakMemory(); });
     done = runWindow(line);
-    growth += testing::peakMemory();
+    growth += peakMemory();
   }
   producer.join();
   ASSERT_TRUE(done) << done.failure().line().toStdString();
   EXPECT_EQ(cups->waitForJob(1), QStringLiteral("completed")) << cups->log().toStdString();
   EXPECT_EQ(digestOfWhatArrived(), digestOfWhatWasFed());
-  if (testing::kMemoryCanBeMeasured) {
+  if (memoryCanBeMeasured) {
     EXPECT_LT(growth, mostMemory);
   }
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

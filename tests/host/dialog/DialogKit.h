@@ -21,9 +21,10 @@
 #include "host/session/PrintSession.h"
 #include "tests/support/Printers.h"
 
-namespace orvek {
+namespace orvek::test {
 
-inline constexpr int jobTimeout = 30000;  // milliseconds
+/// Milliseconds.
+inline constexpr int jobTimeout = 30000;
 
 /// A window over a session on one of the project's printers. Prints the sample into outputFile.
 class DialogTest : public ::testing::Test {
@@ -129,11 +130,12 @@ class DialogTest : public ::testing::Test {
   }
 
   QTemporaryDir folder;
-  std::function<void(DialogSetup &)> prepare;  ///< what a test adds to the window's setup
+  /// What a test adds to the window's setup.
+  std::function<void(DialogSetup &)> prepare;
   QStringList files{QStringLiteral(ORVEK_SOURCE_DIR "/samples/Finishing-Sample.pdf")};
   QString outputFile = folder.filePath(QStringLiteral("out.ps"));
   std::unique_ptr<PrintSession> session;
   std::unique_ptr<PrintDialog> dialog;
 };
 
-}  // namespace orvek
+}  // namespace orvek::test

@@ -16,6 +16,7 @@
 #include "tests/host/dialog/DialogKit.h"
 
 using namespace orvek;
+using namespace orvek::test;
 
 namespace {
 

@@ -10,9 +10,7 @@
 #include "tests/support/FrontServer.h"
 
 using namespace orvek;
-using orvek::testing::FrontServer;
-using orvek::testing::Guarded;
-using orvek::testing::PrivateCups;
+using namespace orvek::test;
 
 namespace {
 

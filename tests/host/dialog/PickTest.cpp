@@ -8,14 +8,16 @@
 #include "tests/host/dialog/DialogKit.h"
 
 using namespace orvek;
+using namespace orvek::test;
 
 namespace {
 
 class Pick : public DialogTest {
  protected:
   void SetUp() override {
-    if (findFilterTool(qEnvironmentVariable("PATH")).isNull())
+    if (findFilterTool(qEnvironmentVariable("PATH")).isNull()) {
       GTEST_SKIP() << "the filter tool of CUPS is not installed";
+    }
   }
 
   void waitForTheJob() {

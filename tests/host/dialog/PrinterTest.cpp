@@ -17,7 +17,7 @@
 #include "tests/support/PrivateCups.h"
 
 using namespace orvek;
-using orvek::testing::PrivateCups;
+using namespace orvek::test;
 
 namespace {
 
@@ -51,8 +51,9 @@ class SilentServer {
 class PrinterChoice : public DialogTest {
  protected:
   void SetUp() override {
-    if (const QString obstacle = PrivateCups::obstacle(); !obstacle.isEmpty())
+    if (const QString obstacle = PrivateCups::obstacle(); !obstacle.isEmpty()) {
       GTEST_SKIP() << obstacle.toStdString();
+    }
     server = std::make_unique<PrivateCups>();
     server->addQueue(QStringLiteral("big"), printers + "Orvek-6180.ppd",
                      {QStringLiteral("-L"), QStringLiteral("Second floor")});
@@ -106,9 +107,11 @@ class PrinterChoice : public DialogTest {
 
   std::unique_ptr<PrivateCups> server;
   SilentServer silentServer;
-  QString silentQueue;  ///< the one that it is asked for
-  QStringList begun;    ///< the destinations of the sessions that the window asked for
-  std::chrono::milliseconds patience = kServerPatience;
+  /// The one that it is asked for.
+  QString silentQueue;
+  /// The destinations of the sessions that the window asked for.
+  QStringList begun;
+  std::chrono::milliseconds patience = serverPatience;
 };
 
 TEST_F(PrinterChoice, ShowsStateAndLocationOfAQueue) {

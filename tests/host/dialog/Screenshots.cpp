@@ -27,6 +27,7 @@
 #include "tests/support/PrivateCups.h"
 
 using namespace orvek;
+using namespace orvek::test;
 
 namespace {
 
@@ -186,8 +187,9 @@ class Shot {
   }
 
   void save(const QString &file) {
-    if (!m_dialog->grab().save(file, "PNG", smallest))
+    if (!m_dialog->grab().save(file, "PNG", smallest)) {
       std::fprintf(stderr, "%s\n", qPrintable(file));
+    }
   }
 
  private:
@@ -240,8 +242,8 @@ QString punchUnit() {
 
 // With a print server of its own, where there can be one.
 void shootPrinters(const std::function<QString(const char *)> &file) {
-  if (!testing::PrivateCups::obstacle().isEmpty()) return;
-  testing::PrivateCups server;
+  if (!PrivateCups::obstacle().isEmpty()) return;
+  PrivateCups server;
   server.addQueue(QStringLiteral("second-floor"), source + "/printers/Orvek-6180.ppd",
                   {QStringLiteral("-L"), QStringLiteral("Second floor")});
   server.addQueue(QStringLiteral("workshop"), source + "/printers/Orvek-2120.ppd");

@@ -6,6 +6,7 @@
 #include "tests/host/dialog/DialogKit.h"
 
 using namespace orvek;
+using namespace orvek::test;
 
 namespace {
 

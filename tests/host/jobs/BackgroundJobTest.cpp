@@ -14,7 +14,7 @@
 #include "tests/support/Printers.h"
 #include "tests/support/StandardInput.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 constexpr int patience = 5000;
@@ -90,7 +90,7 @@ class BackgroundJobWithInput : public ::testing::Test {
     QByteArray contents;
     QSignalSpy finished(&job, &BackgroundJob::finished);
     job.start({}, [&contents](const JobRequest &given, JobControl &) {
-      contents = testing::contentsOf(given.files.value(0)) + ' ' + given.title.toUtf8();
+      contents = contentsOf(given.files.value(0)) + ' ' + given.title.toUtf8();
       return JobOutcome{};
     });
     EXPECT_TRUE(finished.wait(patience));
@@ -105,7 +105,7 @@ TEST_F(BackgroundJobWithInput, IsGivenItAgainAtTheSecondTry) {
   ASSERT_TRUE(input.open());
   input.write("once");
   input.flush();
-  const testing::StandardInput redirected(input.fileName());
+  const StandardInput redirected(input.fileName());
   EXPECT_EQ(printed(), "once (stdin)");
   EXPECT_EQ(printed(), "once (stdin)");
 }
@@ -113,7 +113,7 @@ TEST_F(BackgroundJobWithInput, IsGivenItAgainAtTheSecondTry) {
 TEST_F(BackgroundJobWithInput, IsCancelledWhileNothingComesIn) {
   int ends[2];
   ASSERT_EQ(::pipe(ends), 0);
-  const testing::StandardInput redirected(QStringLiteral("/dev/fd/%1").arg(ends[0]));
+  const StandardInput redirected(QStringLiteral("/dev/fd/%1").arg(ends[0]));
   QSignalSpy failed(&job, &BackgroundJob::failed);
   job.start({}, untilCancelled);
   job.cancel();
@@ -128,4 +128,4 @@ TEST_F(BackgroundJobWithInput, IsCancelledWhileNothingComesIn) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

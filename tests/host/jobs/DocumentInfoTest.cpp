@@ -14,7 +14,7 @@
 
 #include "tests/support/Printers.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 class DocumentInfoTest : public testing::Test {
@@ -122,4 +122,4 @@ TEST_F(DocumentInfoTest, TakesANameThatLooksLikeAnOption) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

@@ -14,14 +14,11 @@
 #include "tests/support/IppPrinter.h"
 #include "tests/support/PrivateCups.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
-using orvek::testing::IppPrinter;
-using orvek::testing::PrivateCups;
-
-const QString kQueue = QStringLiteral("ever");
-const QString kDocument = QStringLiteral(ORVEK_SOURCE_DIR "/samples/Finishing-Sample.pdf");
+const QString queueName = QStringLiteral("ever");
+const QString sampleDocument = QStringLiteral(ORVEK_SOURCE_DIR "/samples/Finishing-Sample.pdf");
 
 class Everywhere : public ::testing::Test {
  protected:
@@ -36,7 +33,7 @@ class Everywhere : public ::testing::Test {
   void TearDown() override { qunsetenv("XDG_CACHE_HOME"); }
 
   void addQueue(const QStringList &more) {
-    const QStringList words{QStringLiteral("-p"), kQueue, QStringLiteral("-E"),
+    const QStringList words{QStringLiteral("-p"), queueName, QStringLiteral("-E"),
                             QStringLiteral("-v"), printer->uri()};
     const auto made = cups->run(QStringLiteral("lpadmin"), words + more);
     ASSERT_EQ(made.exitStatus, 0) << made.errors.toStdString();
@@ -45,11 +42,11 @@ class Everywhere : public ::testing::Test {
   /// The server asks the printer in the background.
   void addQueueWithDescription() {
     addQueue({QStringLiteral("-m"), QStringLiteral("everywhere")});
-    constexpr int kPatience = 10000;
-    constexpr int kPause = 50;
+    constexpr int patience = 10000;
+    constexpr int pauseMilliseconds = 50;
     QElapsedTimer clock;
-    for (clock.start(); clock.elapsed() < kPatience; QThread::msleep(kPause)) {
-      const auto path = QueuePPD().fetch({}, kQueue);
+    for (clock.start(); clock.elapsed() < patience; QThread::msleep(pauseMilliseconds)) {
+      const auto path = QueuePPD().fetch({}, queueName);
       if (path && !path.value().isNull()) return;
     }
     FAIL() << "no description was made: " << cups->log().toStdString();
@@ -57,7 +54,7 @@ class Everywhere : public ::testing::Test {
 
   void begin() {
     SessionSetup setup;
-    const Status done = setUpForQueue({}, kQueue, &setup);
+    const Status done = setUpForQueue({}, queueName, &setup);
     ASSERT_TRUE(done) << done.failure().line().toStdString();
     session = PrintSession::begin(setup).take();
   }
@@ -84,8 +81,8 @@ class Everywhere : public ::testing::Test {
 
   QMap<QString, QString> printedJob() {
     JobRequest request;
-    request.files = QStringList{kDocument};
-    request.queue = kQueue;
+    request.files = QStringList{sampleDocument};
+    request.queue = queueName;
     request.options = session->jobOptions();
     request.overruled = session->overruledOptions();
     JobControl control;
@@ -160,4 +157,4 @@ TEST_F(Everywhere, IsNotWaitedForWhereItIsSwitchedOff) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

@@ -17,24 +17,17 @@
 #include "tests/support/MemoryGrowth.h"
 #include "tests/support/StandardInput.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 using namespace std::chrono_literals;
-using orvek::testing::CapturingFilter;
-using orvek::testing::contentsOf;
-using orvek::testing::kMemoryCanBeMeasured;
-using orvek::testing::orvekPPD;
-using orvek::testing::peakMemory;
-using orvek::testing::postScriptDocument;
-using orvek::testing::StandardInput;
-using orvek::testing::writeContents;
 
 class FilterChain : public ::testing::Test {
  protected:
   void SetUp() override {
-    if (findFilterTool(qEnvironmentVariable("PATH")).isNull())
+    if (findFilterTool(qEnvironmentVariable("PATH")).isNull()) {
       GTEST_SKIP() << "cupsfilter is not installed";
+    }
     writeContents(document, postScriptDocument(2));
     request.ppdFile = orvekPPD(QStringLiteral("6180"));
     request.files = {document};
@@ -192,8 +185,9 @@ TEST_F(FilterChain, RefusesAPPDThatIsNone) {
 
 TEST(FilterTool, IsFoundWhereAUsersPathLacksTheAdministratorsFolders) {
   QTemporaryDir folder;
-  if (findFilterTool(qEnvironmentVariable("PATH")).isNull())
+  if (findFilterTool(qEnvironmentVariable("PATH")).isNull()) {
     GTEST_SKIP() << "cupsfilter is not installed";
+  }
   EXPECT_TRUE(findFilterTool(folder.path()).endsWith(QStringLiteral("/cupsfilter")));
 }
 
@@ -205,8 +199,9 @@ TEST_F(FilterChain, NoticesAFullDevice) {
 TEST_F(FilterChain, NoticesAFullDiskAndKeepsTheOldFile) {
   const QString mountPoint = folder.filePath(QStringLiteral("small"));
   QDir().mkdir(mountPoint);
-  if (::mount("tmpfs", mountPoint.toUtf8().constData(), "tmpfs", 0, "size=64k") != 0)
+  if (::mount("tmpfs", mountPoint.toUtf8().constData(), "tmpfs", 0, "size=64k") != 0) {
     GTEST_SKIP() << "a small disk needs the right to mount one";
+  }
   request.outputFile = mountPoint + QStringLiteral("/out.prn");
   writeContents(request.outputFile, "old");
   const CapturingFilter filter(QStringLiteral("head -c 1000000 /dev/zero"));
@@ -240,24 +235,25 @@ TEST_F(FilterChain, EndsAtOnceWhenCancelledAndTakesItsFiltersWithIt) {
 }
 
 TEST_F(FilterChain, EndsAFilterThatDoesNotListenWhenCancelled) {
-  constexpr int kLongest = 10000;
+  constexpr int longestMilliseconds = 10000;
   const CapturingFilter filter(QStringLiteral("trap '' TERM INT; while :; do sleep 1; done"));
   request.ppdFile = filter.ppdFile();
   std::thread canceller([&] {
-    while (filter.argument(5).isEmpty() && filter.argument(1).isEmpty())
+    while (filter.argument(5).isEmpty() && filter.argument(1).isEmpty()) {
       std::this_thread::sleep_for(10ms);
+    }
     control.cancelled = true;
   });
   QElapsedTimer clock;
   clock.start();
   EXPECT_EQ(failureLine(), "job: cancelled");
   canceller.join();
-  EXPECT_LT(clock.elapsed(), kLongest);
+  EXPECT_LT(clock.elapsed(), longestMilliseconds);
 }
 
 TEST_F(FilterChain, HoldsNoDocumentInMemory) {
-  if (!kMemoryCanBeMeasured) GTEST_SKIP() << "memory can't be measured in this build";
-  constexpr long kMostGrowth = 32L << 20;
+  if (!memoryCanBeMeasured) GTEST_SKIP() << "memory can't be measured in this build";
+  constexpr long mostGrowth = 32L << 20;
   const CapturingFilter filter(QStringLiteral("head -c 200000000 /dev/zero"));
   request.ppdFile = filter.ppdFile();
   request.outputFile = QStringLiteral("/dev/null");
@@ -265,8 +261,8 @@ TEST_F(FilterChain, HoldsNoDocumentInMemory) {
   const auto result = printThroughFilters(request, control);
   ASSERT_TRUE(result) << result.failure().line().toStdString();
   EXPECT_EQ(result.value().bytes, 200000000);
-  EXPECT_LT(peakMemory() - before, kMostGrowth);
+  EXPECT_LT(peakMemory() - before, mostGrowth);
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

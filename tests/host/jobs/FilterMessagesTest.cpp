@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 std::string reasonOf(const QByteArray &text) {
@@ -67,4 +67,4 @@ TEST(FilterMessages, SurviveALineWithoutEnd) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

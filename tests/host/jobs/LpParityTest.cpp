@@ -10,13 +10,9 @@
 #include "tests/support/CapturingFilter.h"
 #include "tests/support/PrivateCups.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
-using orvek::testing::orvekPPD;
-using orvek::testing::postScriptDocument;
-using orvek::testing::PrivateCups;
-using orvek::testing::writeContents;
 using Options = QMap<QString, QString>;
 
 /// One wish, as a command line of lp and as a request. Neither names queue or document.
@@ -142,4 +138,4 @@ INSTANTIATE_TEST_SUITE_P(CommandLines, LpParity, ::testing::ValuesIn(wishes()),
                          [](const auto &wish) { return std::string(wish.param.name); });
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

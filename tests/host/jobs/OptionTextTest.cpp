@@ -6,7 +6,7 @@
 #include <cups/cups.h>
 #include <gtest/gtest.h>
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 QString readBack(const QString &text, const char *name) {
@@ -42,4 +42,4 @@ TEST(FilterToolOptionText, LeavesACollectionBare) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

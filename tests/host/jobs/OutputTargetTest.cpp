@@ -16,13 +16,10 @@
 
 #include "tests/support/CapturingFilter.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
-using orvek::testing::contentsOf;
-using orvek::testing::writeContents;
-
-const auto kPatient = [] { return true; };
+const auto patient = [] { return true; };
 
 class OutputTargetTest : public ::testing::Test {
  protected:
@@ -35,7 +32,7 @@ TEST_F(OutputTargetTest, ReplacesTheOldFileOnCommit) {
   writeContents(path, "old");
   auto target = OutputTarget::open(path);
   ASSERT_TRUE(target);
-  ASSERT_TRUE(target.value()->write("new bytes", kPatient).ok());
+  ASSERT_TRUE(target.value()->write("new bytes", patient).ok());
   EXPECT_EQ(contentsOf(path), "old");
   ASSERT_TRUE(target.value()->commit().ok());
   EXPECT_EQ(contentsOf(path), "new bytes");
@@ -45,7 +42,7 @@ TEST_F(OutputTargetTest, KeepsTheOldFileAndLeavesNothingWhenDropped) {
   writeContents(path, "old");
   {
     auto target = OutputTarget::open(path);
-    ASSERT_TRUE(target.value()->write("half", kPatient).ok());
+    ASSERT_TRUE(target.value()->write("half", patient).ok());
   }
   EXPECT_EQ(contentsOf(path), "old");
   EXPECT_EQ(entries(), QStringList{QStringLiteral("out.ps")});
@@ -63,7 +60,7 @@ TEST_F(OutputTargetTest, LeavesNothingBehindWhenTheProgramIsKilled) {
   const pid_t child = ::fork();
   if (child == 0) {
     auto target = OutputTarget::open(path);
-    const bool isWritten = target && target.value()->write("half", kPatient).ok();
+    const bool isWritten = target && target.value()->write("half", patient).ok();
     ::kill(::getpid(), isWritten ? SIGKILL : SIGTERM);
   }
   int status = 0;
@@ -82,7 +79,7 @@ TEST_F(OutputTargetTest, KeepsTheOldFilesPermissionsAndGivesANewOneTheUsualOnes)
   const mode_t mask = ::umask(027);
   for (const char *bytes : {"new", "newer"}) {
     auto target = OutputTarget::open(path);
-    ASSERT_TRUE(target.value()->write(bytes, kPatient).ok());
+    ASSERT_TRUE(target.value()->write(bytes, patient).ok());
     ASSERT_TRUE(target.value()->commit().ok());
     EXPECT_EQ(permissionsOf(path), bytes == QByteArray("new") ? 0640U : 0604U);
     ::chmod(path.toLocal8Bit().constData(), 0604);
@@ -96,7 +93,7 @@ TEST_F(OutputTargetTest, WritesWhereALinkLeads) {
   ASSERT_TRUE(QFile::link(path, link));
   for (const char *bytes : {"new", "newer"}) {
     auto target = OutputTarget::open(link);
-    ASSERT_TRUE(target.value()->write(bytes, kPatient).ok());
+    ASSERT_TRUE(target.value()->write(bytes, patient).ok());
     ASSERT_TRUE(target.value()->commit().ok());
     EXPECT_TRUE(QFileInfo(link).isSymLink());
     EXPECT_EQ(contentsOf(path), bytes);
@@ -113,7 +110,7 @@ TEST_F(OutputTargetTest, NamesAFolderThatIsMissing) {
 TEST_F(OutputTargetTest, TakesANullDeviceAndLeavesItThere) {
   auto target = OutputTarget::open(QStringLiteral("/dev/null"));
   ASSERT_TRUE(target);
-  EXPECT_TRUE(target.value()->write(QByteArray(100000, 'x'), kPatient).ok());
+  EXPECT_TRUE(target.value()->write(QByteArray(100000, 'x'), patient).ok());
   EXPECT_TRUE(target.value()->commit().ok());
   struct stat entry {};
   ASSERT_EQ(::stat("/dev/null", &entry), 0);
@@ -123,7 +120,7 @@ TEST_F(OutputTargetTest, TakesANullDeviceAndLeavesItThere) {
 TEST_F(OutputTargetTest, SaysThatADeviceIsFull) {
   auto target = OutputTarget::open(QStringLiteral("/dev/full"));
   ASSERT_TRUE(target);
-  const Status written = target.value()->write("x", kPatient);
+  const Status written = target.value()->write("x", patient);
   ASSERT_FALSE(written.ok());
   EXPECT_EQ(written.failure().line(), QStringLiteral("/dev/full: No space left on device"));
 }
@@ -135,7 +132,7 @@ TEST_F(OutputTargetTest, GoesOnWhereARedirectedStreamStands) {
   redirected.flush();
   auto target = OutputTarget::open(QStringLiteral("/dev/fd/%1").arg(redirected.handle()));
   ASSERT_TRUE(target);
-  ASSERT_TRUE(target.value()->write("after", kPatient).ok());
+  ASSERT_TRUE(target.value()->write("after", patient).ok());
   EXPECT_EQ(contentsOf(redirected.fileName()), "before after");
 }
 
@@ -152,4 +149,4 @@ TEST_F(OutputTargetTest, StopsWaitingForAPipeThatNobodyReads) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

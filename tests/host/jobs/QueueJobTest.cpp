@@ -14,23 +14,13 @@
 #include "tests/support/PrivateCups.h"
 #include "tests/support/StandardInput.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 using namespace std::chrono_literals;
-using orvek::testing::CapturingFilter;
-using orvek::testing::contentsOf;
-using orvek::testing::kMemoryCanBeMeasured;
-using orvek::testing::orvekPPD;
-using orvek::testing::peakMemory;
-using orvek::testing::postScriptDocument;
-using orvek::testing::PrivateCups;
-using orvek::testing::PrivateCupsSetup;
-using orvek::testing::StandardInput;
-using orvek::testing::writeContents;
 
-const QString kQueue = QStringLiteral("office");
-const QString kCompleted = QStringLiteral("completed");
+const QString queueName = QStringLiteral("office");
+const QString completedState = QStringLiteral("completed");
 
 class QueueJob : public ::testing::Test {
  protected:
@@ -38,14 +28,14 @@ class QueueJob : public ::testing::Test {
     if (!PrivateCups::obstacle().isEmpty()) GTEST_SKIP() << PrivateCups::obstacle().toStdString();
     startServer({});
     writeContents(document, postScriptDocument(2));
-    request.queue = kQueue;
+    request.queue = queueName;
     request.files = {document};
   }
 
   void startServer(const PrivateCupsSetup &setup) {
     cups.reset();
     cups = std::make_unique<PrivateCups>(setup);
-    addQueue(kQueue, orvekPPD(QStringLiteral("6180")));
+    addQueue(queueName, orvekPPD(QStringLiteral("6180")));
   }
 
   void addQueue(const QString &name, const QString &ppd) {
@@ -60,7 +50,7 @@ class QueueJob : public ::testing::Test {
   }
 
   QByteArray printedAfter(const JobOutcome &outcome) {
-    EXPECT_EQ(cups->waitForJob(outcome.jobId), kCompleted) << cups->log().toStdString();
+    EXPECT_EQ(cups->waitForJob(outcome.jobId), completedState) << cups->log().toStdString();
     return contentsOf(cups->printedBy(outcome.queue));
   }
 
@@ -90,7 +80,7 @@ TEST_F(QueueJob, LetsTheDriverReadTheBookletKeys) {
                      {QStringLiteral("OVKGutter"), QStringLiteral("24")},
                      {QStringLiteral("OVKCreep"), QStringLiteral("-3")},
                      {QStringLiteral("OVKTargetPaperSize"), QStringLiteral("2")}};
-  ASSERT_EQ(cups->waitForJob(submit().jobId), kCompleted) << cups->log().toStdString();
+  ASSERT_EQ(cups->waitForJob(submit().jobId), completedState) << cups->log().toStdString();
   const auto told = filter.options();
   // The scheduler hands flags on in libcups' short form, which is written in lower case.
   EXPECT_EQ(told.value(QStringLiteral("OVKEnableBooklet")), QStringLiteral("true"));
@@ -108,7 +98,7 @@ TEST_F(QueueJob, SaysItsRequestIdAsLpDoes) {
 }
 
 TEST_F(QueueJob, SendsSeveralDocumentsAsOneJob) {
-  cups->run(QStringLiteral("cupsdisable"), {kQueue});
+  cups->run(QStringLiteral("cupsdisable"), {queueName});
   request.files = {document, document, document};
   const auto outcome = submit();
   EXPECT_EQ(cups->jobAttributes(outcome.jobId).value(QStringLiteral("number-of-documents")),
@@ -145,7 +135,7 @@ TEST_F(QueueJob, GoesToTheDefaultPrinterWhereNoneIsNamed) {
   request.queue.clear();
   EXPECT_NE(failureLine().find("there is no default printer"), std::string::npos);
   qputenv("LPDEST", "office");
-  EXPECT_EQ(submit().queue, kQueue);
+  EXPECT_EQ(submit().queue, queueName);
 }
 
 TEST_F(QueueJob, BeginsWithTheOptionsOfAnInstance) {
@@ -173,19 +163,19 @@ TEST_F(QueueJob, NamesADocumentThatIsMissingBeforeThereIsAJob) {
 }
 
 TEST_F(QueueJob, SaysThatAQueueHasVanished) {
-  ASSERT_EQ(cups->run(QStringLiteral("lpadmin"), {QStringLiteral("-x"), kQueue}).exitStatus, 0);
+  ASSERT_EQ(cups->run(QStringLiteral("lpadmin"), {QStringLiteral("-x"), queueName}).exitStatus, 0);
   EXPECT_EQ(failureLine(), "office: no such printer on " + cups->socket().toStdString() +
                                "; \"orvek-print --list-printers\" lists them");
 }
 
 TEST_F(QueueJob, SaysThatAQueueTakesNoJobs) {
-  cups->run(QStringLiteral("cupsreject"), {kQueue});
+  cups->run(QStringLiteral("cupsreject"), {queueName});
   EXPECT_EQ(failureLine(), "office: the queue takes no jobs at present");
 }
 
 TEST_F(QueueJob, SaysThatTheServerRefusesTheUser) {
   cups->run(QStringLiteral("lpadmin"),
-            {QStringLiteral("-p"), kQueue, QStringLiteral("-u"), QStringLiteral("allow:berta")});
+            {QStringLiteral("-p"), queueName, QStringLiteral("-u"), QStringLiteral("allow:berta")});
   request.user = QStringLiteral("anna");
   EXPECT_EQ(failureLine(), "office: the print server does not allow it for user \"anna\"");
 }
@@ -213,7 +203,7 @@ TEST_F(QueueJob, CancelsOnTheServerWhatIsCancelledHalfWay) {
 }
 
 TEST_F(QueueJob, CanBeCancelledWhileTheServerHangs) {
-  constexpr int kLongest = 15000;
+  constexpr int longestMilliseconds = 15000;
   control.progress = [this](const JobProgress &) { cups->pause(); };
   std::thread canceller([this] {
     std::this_thread::sleep_for(500ms);
@@ -225,18 +215,18 @@ TEST_F(QueueJob, CanBeCancelledWhileTheServerHangs) {
   clock.start();
   EXPECT_EQ(failureLine(), "job: cancelled");
   canceller.join();
-  EXPECT_LT(clock.elapsed(), kLongest);
+  EXPECT_LT(clock.elapsed(), longestMilliseconds);
 }
 
 TEST_F(QueueJob, GivesUpOnAServerThatHangsWhileItSends) {
-  constexpr int kLongest = 10000;
+  constexpr int longestMilliseconds = 10000;
   request.patience = 1s;
   control.progress = [this](const JobProgress &) { cups->pause(); };
   QElapsedTimer clock;
   clock.start();
   EXPECT_EQ(failureLine(), cups->socket().toStdString() +
                                ": the print server stopped answering; try again once it is up");
-  EXPECT_LT(clock.elapsed(), kLongest);
+  EXPECT_LT(clock.elapsed(), longestMilliseconds);
 }
 
 TEST_F(QueueJob, FailsWhereTheServerStopsWhileItSends) {
@@ -250,21 +240,21 @@ TEST_F(QueueJob, FailsWhereTheServerStopsWhileItSends) {
 }
 
 TEST_F(QueueJob, TakesALongStandardInputInLittleMemory) {
-  constexpr qint64 kMegabyte = 1 << 20;
-  if (!kMemoryCanBeMeasured) GTEST_SKIP() << "memory can't be measured in this build";
-  constexpr long kMostGrowth = 24L << 20;
+  constexpr qint64 megabyte = 1 << 20;
+  if (!memoryCanBeMeasured) GTEST_SKIP() << "memory can't be measured in this build";
+  constexpr long mostGrowth = 24L << 20;
   const qint64 megabytes = std::max(qEnvironmentVariableIntValue("ORVEK_TEST_INPUT_MB"), 64);
   const QString input = folder.filePath(QStringLiteral("input"));
   writeContents(input, postScriptDocument(1));
-  ASSERT_TRUE(QFile::resize(input, megabytes * kMegabyte));
-  cups->run(QStringLiteral("cupsdisable"), {kQueue});
+  ASSERT_TRUE(QFile::resize(input, megabytes * megabyte));
+  cups->run(QStringLiteral("cupsdisable"), {queueName});
   request.files.clear();
   const StandardInput lent(input);
   const long before = peakMemory();
   const auto outcome = submit();
-  EXPECT_EQ(outcome.bytes, megabytes * kMegabyte);
-  EXPECT_LT(peakMemory() - before, kMostGrowth);
+  EXPECT_EQ(outcome.bytes, megabytes * megabyte);
+  EXPECT_LT(peakMemory() - before, mostGrowth);
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

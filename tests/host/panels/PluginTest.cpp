@@ -12,7 +12,7 @@
 #include "host/panels/PluginFinder.h"
 #include "host/panels/PluginLoader.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 using testing::HasSubstr;
@@ -177,4 +177,4 @@ TEST_F(PluginTest, IsNeverFoundInTheCurrentFolder) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

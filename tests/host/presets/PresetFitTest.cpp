@@ -9,13 +9,13 @@
 
 #include "tests/support/CapturingFilter.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 using PPDFile = std::unique_ptr<ppd_file_t, decltype(&ppdClose)>;
 
 PPDFile openModel(const QString &model) {
-  return {ppdOpenFile(orvek::testing::orvekPPD(model).toUtf8().constData()), &ppdClose};
+  return {ppdOpenFile(orvek::test::orvekPPD(model).toUtf8().constData()), &ppdClose};
 }
 
 Preset presetOf(const QMap<QString, QString> &options) {
@@ -77,4 +77,4 @@ TEST_F(PresetFitTest, TakesOnlyTheTicketWithoutAPPD) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

@@ -12,11 +12,8 @@
 #include "host/presets/PresetName.h"
 #include "tests/support/CapturingFilter.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
-
-using orvek::testing::contentsOf;
-using orvek::testing::writeContents;
 
 Preset brochure(const QString &name) {
   return {name,
@@ -59,8 +56,9 @@ TEST_F(PresetStoreTest, IsEmptyBeforeAnythingWasSaved) {
 TEST_F(PresetStoreTest, ListsNamesAsPeopleSortThem) {
   const QLocale before;
   QLocale::setDefault(QLocale(QLocale::English));
-  for (const char *name : {"Set 10", "set 2", "Draft"})
+  for (const char *name : {"Set 10", "set 2", "Draft"}) {
     ASSERT_TRUE(store.save(brochure(QString::fromLatin1(name))));
+  }
   EXPECT_EQ(store.list().names, (QStringList{QStringLiteral("Draft"), QStringLiteral("set 2"),
                                              QStringLiteral("Set 10")}));
   QLocale::setDefault(before);
@@ -172,10 +170,11 @@ TEST_F(PresetStoreTest, LiesInTheUsersDataFolder) {
   const QByteArray before = qgetenv("XDG_DATA_HOME");
   qputenv("XDG_DATA_HOME", folder.path().toUtf8());
   EXPECT_EQ(PresetStore::standardFolder(), folder.filePath(QStringLiteral("orvek-print")));
-  if (before.isNull())
+  if (before.isNull()) {
     qunsetenv("XDG_DATA_HOME");
-  else
+  } else {
     qputenv("XDG_DATA_HOME", before);
+  }
 }
 
 class OddNames : public PresetStoreTest, public ::testing::WithParamInterface<QString> {};
@@ -217,4 +216,4 @@ TEST(PresetName, CannotBeEmptyOrHoldControlCharacters) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

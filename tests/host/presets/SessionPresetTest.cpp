@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 std::unique_ptr<PrintSession> sessionOn(const QString &ppd, QList<OptionChoice> marks = {}) {
@@ -64,4 +64,4 @@ TEST(SessionPreset, LeavesAloneWhatTheSessionIsToKeep) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

@@ -16,7 +16,7 @@
 #include "host/preview/SheetPainter.h"
 #include "tests/support/Printers.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 class BookletPreviewTest : public testing::Test {
@@ -188,4 +188,4 @@ TEST(SheetPainter, DrawsBordersOnlyWhereTheyArePrinted) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

@@ -8,7 +8,7 @@
 #include <QSet>
 #include <numeric>
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 QList<int> document(int pages) {
@@ -100,4 +100,4 @@ TEST(SideLayout, SurvivesAGutterWiderThanThePaper) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

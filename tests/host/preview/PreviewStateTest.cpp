@@ -8,7 +8,7 @@
 #include "host/session/PrintSession.h"
 #include "tests/support/Printers.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 class PreviewStateTest : public testing::Test {
@@ -99,4 +99,4 @@ TEST(PreviewStateWithoutPpd, ShowsA4) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

@@ -8,7 +8,7 @@
 #include <QTest>
 #include <QThread>
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 int seven(const BackgroundTask::Cancelled &) {
@@ -34,13 +34,13 @@ TEST(BackgroundTask, GivesItsResultOnTheOwnersThread) {
 }
 
 TEST(BackgroundTask, SaysNothingOnceCancelled) {
-  constexpr int kLongEnough = 100;
+  constexpr int longEnough = 100;
   QObject owner;
   BackgroundTask task;
   bool heard = false;
   task.start(&owner, untilCancelled, [&](int) { heard = true; });
   task.cancel();
-  QTest::qWait(kLongEnough);
+  QTest::qWait(longEnough);
   EXPECT_FALSE(heard);
 }
 
@@ -86,4 +86,4 @@ TEST(BackgroundTask, MayBeDestroyedWhileItRuns) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

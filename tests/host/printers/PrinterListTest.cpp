@@ -11,16 +11,13 @@
 #include "tests/support/CapturingFilter.h"
 #include "tests/support/PrivateCups.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 using namespace std::chrono_literals;
-using orvek::testing::orvekPPD;
-using orvek::testing::PrivateCups;
-using orvek::testing::PrivateCupsSetup;
 
-const QString kFirst = QStringLiteral("first");
-const QString kSecond = QStringLiteral("second");
+const QString firstQueue = QStringLiteral("first");
+const QString secondQueue = QStringLiteral("second");
 
 class PrinterList : public ::testing::Test {
  protected:
@@ -28,7 +25,7 @@ class PrinterList : public ::testing::Test {
     if (!PrivateCups::obstacle().isEmpty()) GTEST_SKIP() << PrivateCups::obstacle().toStdString();
     cups = std::make_unique<PrivateCups>();
     const QString ppd = orvekPPD(QStringLiteral("6180"));
-    for (const QString &name : {kFirst, kSecond}) {
+    for (const QString &name : {firstQueue, secondQueue}) {
       const auto made = cups->addQueue(name, ppd,
                                        {QStringLiteral("-D"), QStringLiteral("Büro ") + name,
                                         QStringLiteral("-L"), QStringLiteral("Room 1")});
@@ -55,7 +52,7 @@ TEST_F(PrinterList, ListsQueuesByNameWithWhatPeopleKnowThemBy) {
   ASSERT_TRUE(printers) << printers.failure().line().toStdString();
   ASSERT_EQ(printers.value().size(), 2);
   const Queue &queue = printers.value()[0];
-  EXPECT_EQ(queue.name, kFirst);
+  EXPECT_EQ(queue.name, firstQueue);
   EXPECT_EQ(queue.info, QStringLiteral("Büro first"));
   EXPECT_EQ(queue.location, QStringLiteral("Room 1"));
   EXPECT_EQ(queue.makeAndModel, QStringLiteral("Orvek 6180 PostScript"));
@@ -65,9 +62,9 @@ TEST_F(PrinterList, ListsQueuesByNameWithWhatPeopleKnowThemBy) {
 }
 
 TEST_F(PrinterList, SaysWhyAPrinterIsStopped) {
-  cups->run(QStringLiteral("cupsreject"), {kFirst});
+  cups->run(QStringLiteral("cupsreject"), {firstQueue});
   cups->run(QStringLiteral("cupsdisable"),
-            {QStringLiteral("-r"), QStringLiteral("Being moved"), kFirst});
+            {QStringLiteral("-r"), QStringLiteral("Being moved"), firstQueue});
   const auto printers = listPrinters({});
   ASSERT_TRUE(printers);
   const Queue &queue = printers.value()[0];
@@ -78,7 +75,7 @@ TEST_F(PrinterList, SaysWhyAPrinterIsStopped) {
 }
 
 TEST_F(PrinterList, ListsInstancesWithTheirOptions) {
-  lpoptions({QStringLiteral("-p"), kFirst + QStringLiteral("/draft"), QStringLiteral("-o"),
+  lpoptions({QStringLiteral("-p"), firstQueue + QStringLiteral("/draft"), QStringLiteral("-o"),
              QStringLiteral("OVKTonerSaving=True")});
   const auto printers = listPrinters({});
   ASSERT_TRUE(printers);
@@ -91,11 +88,11 @@ TEST_F(PrinterList, ListsInstancesWithTheirOptions) {
 TEST_F(PrinterList, TakesTheDefaultInTheOrderThatLpDoes) {
   EXPECT_EQ(defaultName(),
             cups->socket().toStdString() + ": there is no default printer; name one with -d");
-  cups->run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), kFirst});
+  cups->run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), firstQueue});
   EXPECT_EQ(defaultName(), "first");
-  lpoptions({QStringLiteral("-p"), kSecond + QStringLiteral("/draft"), QStringLiteral("-o"),
+  lpoptions({QStringLiteral("-p"), secondQueue + QStringLiteral("/draft"), QStringLiteral("-o"),
              QStringLiteral("OVKTonerSaving=True")});
-  lpoptions({QStringLiteral("-d"), kSecond + QStringLiteral("/draft")});
+  lpoptions({QStringLiteral("-d"), secondQueue + QStringLiteral("/draft")});
   EXPECT_EQ(defaultName(), "second/draft");
   qputenv("PRINTER", "first");
   EXPECT_EQ(defaultName(), "first");
@@ -104,7 +101,7 @@ TEST_F(PrinterList, TakesTheDefaultInTheOrderThatLpDoes) {
 }
 
 TEST_F(PrinterList, MarksTheDefaultInTheList) {
-  cups->run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), kFirst});
+  cups->run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), firstQueue});
   qputenv("LPDEST", "second");
   const auto printers = listPrinters({});
   ASSERT_TRUE(printers);
@@ -147,7 +144,7 @@ TEST_F(PrinterList, AnswersAgainAfterTheServerWasRestarted) {
 }
 
 TEST_F(PrinterList, GivesUpOnAServerThatHangs) {
-  constexpr int kLongest = 8000;
+  constexpr int longestMilliseconds = 8000;
   cups->pause();
   QElapsedTimer clock;
   clock.start();
@@ -155,13 +152,13 @@ TEST_F(PrinterList, GivesUpOnAServerThatHangs) {
   const qint64 elapsed = clock.elapsed();
   cups->resume();
   ASSERT_FALSE(printers);
-  EXPECT_LT(elapsed, kLongest);
+  EXPECT_LT(elapsed, longestMilliseconds);
   EXPECT_TRUE(printers.failure().why.contains(QStringLiteral("stopped answering")))
       << printers.failure().line().toStdString();
 }
 
 TEST_F(PrinterList, GivesUpOnAServerThatHangsWhenAskedForOneQueue) {
-  constexpr int kLongest = 8000;
+  constexpr int longestMilliseconds = 8000;
   cups->pause();
   QElapsedTimer clock;
   clock.start();
@@ -170,13 +167,13 @@ TEST_F(PrinterList, GivesUpOnAServerThatHangsWhenAskedForOneQueue) {
   const qint64 elapsed = clock.elapsed();
   cups->resume();
   ASSERT_FALSE(printer);
-  EXPECT_LT(elapsed, kLongest);
+  EXPECT_LT(elapsed, longestMilliseconds);
   EXPECT_TRUE(printer.failure().why.contains(QStringLiteral("stopped answering")))
       << printer.failure().line().toStdString();
 }
 
 TEST_F(PrinterList, EndsItsWaitWhenCancelled) {
-  constexpr int kLongest = 3000;
+  constexpr int longestMilliseconds = 3000;
   const std::atomic<bool> cancelled = true;
   cups->pause();
   QElapsedTimer clock;
@@ -186,29 +183,30 @@ TEST_F(PrinterList, EndsItsWaitWhenCancelled) {
   cups->resume();
   ASSERT_FALSE(printers);
   EXPECT_EQ(printers.failure().why, QStringLiteral("cancelled"));
-  EXPECT_LT(elapsed, kLongest);
+  EXPECT_LT(elapsed, longestMilliseconds);
 }
 
 QByteArray manyQueues(int count) {
   QByteArray text;
-  for (int i = 1; i <= count; ++i)
+  for (int i = 1; i <= count; ++i) {
     text += "<Printer q" + QByteArray::number(i) + ">\nInfo Queue\nLocation Hall\n" +
             "DeviceURI file:///dev/null\nState Idle\nAccepting Yes\n</Printer>\n";
+  }
   return text;
 }
 
 TEST(PrinterListOfManyQueues, ComesQuickly) {
   if (!PrivateCups::obstacle().isEmpty()) GTEST_SKIP() << PrivateCups::obstacle().toStdString();
-  constexpr int kQueues = 300;
-  constexpr int kLongest = 2000;
-  const PrivateCups cups(PrivateCupsSetup{{}, manyQueues(kQueues)});
+  constexpr int queueCount = 300;
+  constexpr int longestMilliseconds = 2000;
+  const PrivateCups cups(PrivateCupsSetup{{}, manyQueues(queueCount)});
   QElapsedTimer clock;
   clock.start();
   const auto printers = listPrinters({});
   RecordProperty("milliseconds", static_cast<int>(clock.elapsed()));
   ASSERT_TRUE(printers) << printers.failure().line().toStdString();
-  EXPECT_EQ(printers.value().size(), kQueues);
-  EXPECT_LT(clock.elapsed(), kLongest);
+  EXPECT_EQ(printers.value().size(), queueCount);
+  EXPECT_LT(clock.elapsed(), longestMilliseconds);
 }
 
 TEST(PrinterListOfAnEmptyServer, IsEmptyAndNoFailure) {
@@ -243,4 +241,4 @@ TEST(ReasonInWords, HasNothingToSayForNone) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

@@ -20,28 +20,22 @@
 #include "tests/support/FrontServer.h"
 #include "tests/support/PrivateCups.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 using namespace std::chrono_literals;
-using orvek::testing::contentsOf;
-using orvek::testing::FrontServer;
-using orvek::testing::Guarded;
-using orvek::testing::orvekPPD;
-using orvek::testing::PrivateCups;
-using orvek::testing::writeContents;
 
-const QString kQueue = QStringLiteral("office");
+const QString queueName = QStringLiteral("office");
 
 class QueuePPDTest : public ::testing::Test {
  protected:
   void SetUp() override {
     if (!PrivateCups::obstacle().isEmpty()) GTEST_SKIP() << PrivateCups::obstacle().toStdString();
     cups = std::make_unique<PrivateCups>();
-    cups->addQueue(kQueue, orvekPPD(QStringLiteral("6180")));
+    cups->addQueue(queueName, orvekPPD(QStringLiteral("6180")));
   }
 
-  QString fetched(const QString &queue = kQueue) const {
+  QString fetched(const QString &queue = queueName) const {
     const auto path = QueuePPD(cache.path()).fetch({}, queue);
     EXPECT_TRUE(path) << (path ? "" : path.failure().line().toStdString());
     return path ? path.value() : QString();
@@ -72,19 +66,19 @@ TEST_F(QueuePPDTest, IsNotFetchedAgainWhileItIsTheSame) {
 }
 
 TEST_F(QueuePPDTest, IsFetchedAgainOnceTheQueueHasAnother) {
-  constexpr int kHoursAgo = -3600;
+  constexpr int hoursAgo = -3600;
   const QString path = fetched();
   QFile kept(path);
   ASSERT_TRUE(kept.open(QIODevice::ReadWrite));
-  kept.setFileTime(QFileInfo(path).lastModified().addSecs(kHoursAgo),
+  kept.setFileTime(QFileInfo(path).lastModified().addSecs(hoursAgo),
                    QFileDevice::FileModificationTime);
   kept.close();
-  cups->addQueue(kQueue, orvekPPD(QStringLiteral("4150")));
+  cups->addQueue(queueName, orvekPPD(QStringLiteral("4150")));
   EXPECT_TRUE(contentsOf(fetched()).contains("*ModelName: \"Orvek 4150\""));
 }
 
 TEST_F(QueuePPDTest, IsFetchedFromAServerByHostAndPort) {
-  const auto path = QueuePPD(cache.path()).fetch({cups->hostAndPort(), {}, nullptr}, kQueue);
+  const auto path = QueuePPD(cache.path()).fetch({cups->hostAndPort(), {}, nullptr}, queueName);
   ASSERT_TRUE(path) << path.failure().line().toStdString();
   EXPECT_TRUE(contentsOf(path.value()).contains("*ModelName: \"Orvek 6180\""));
   EXPECT_NE(path.value(), fetched());
@@ -105,30 +99,30 @@ TEST_F(QueuePPDTest, FailsForAQueueThatDoesNotExist) {
 TEST_F(QueuePPDTest, SaysThatTheCacheCannotBeWritten) {
   const QString file = cache.filePath(QStringLiteral("file"));
   writeContents(file, "x");
-  const auto path = QueuePPD(file).fetch({}, kQueue);
+  const auto path = QueuePPD(file).fetch({}, queueName);
   ASSERT_FALSE(path);
   EXPECT_TRUE(path.failure().what.startsWith(file));
 }
 
 TEST_F(QueuePPDTest, SaysThatNoServerAnswers) {
   cups->stop();
-  const auto path = QueuePPD(cache.path()).fetch({}, kQueue);
+  const auto path = QueuePPD(cache.path()).fetch({}, queueName);
   ASSERT_FALSE(path);
   EXPECT_EQ(path.failure().what, cups->socket());
 }
 
 TEST_F(QueuePPDTest, GivesUpOnAServerThatHangs) {
-  constexpr int kLongest = 8000;
+  constexpr int longestMilliseconds = 8000;
   // By its port: libcups does not ask a server whose files it can read itself.
   const ServerAccess access{cups->hostAndPort(), {}, nullptr, 1s};
   cups->pause();
   QElapsedTimer clock;
   clock.start();
-  const auto path = QueuePPD(cache.path()).fetch(access, kQueue);
+  const auto path = QueuePPD(cache.path()).fetch(access, queueName);
   const qint64 elapsed = clock.elapsed();
   cups->resume();
   ASSERT_FALSE(path);
-  EXPECT_LT(elapsed, kLongest);
+  EXPECT_LT(elapsed, longestMilliseconds);
   EXPECT_TRUE(path.failure().why.contains(QStringLiteral("stopped answering")))
       << path.failure().line().toStdString();
 }
@@ -136,14 +130,14 @@ TEST_F(QueuePPDTest, GivesUpOnAServerThatHangs) {
 /// Takes connections, as far as its queue goes, and never says a word.
 class SilentListener {
  public:
-  SilentListener() : m_socket(::socket(AF_INET, SOCK_STREAM, 0)), m_port(testing::freePort()) {
+  SilentListener() : m_socket(::socket(AF_INET, SOCK_STREAM, 0)), m_port(freePort()) {
     sockaddr_in address{};
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     address.sin_port = htons(static_cast<in_port_t>(m_port));
-    constexpr int kLongestQueue = 8;
+    constexpr int longestQueue = 8;
     EXPECT_EQ(::bind(m_socket, reinterpret_cast<sockaddr *>(&address), sizeof address), 0);
-    EXPECT_EQ(::listen(m_socket, kLongestQueue), 0);
+    EXPECT_EQ(::listen(m_socket, longestQueue), 0);
   }
   ~SilentListener() { ::close(m_socket); }
   SilentListener(const SilentListener &) = delete;
@@ -156,14 +150,15 @@ class SilentListener {
   int m_port;
 };
 
-constexpr qint64 kFewSeconds = 8000;
+constexpr qint64 fewSeconds = 8000;
 
 TEST_F(QueuePPDTest, GivesUpOnAServerThatNeverSaysAWord) {
   const SilentListener silent;
   QElapsedTimer clock;
   clock.start();
-  const auto path = QueuePPD(cache.path()).fetch({silent.hostAndPort(), {}, nullptr, 1s}, kQueue);
-  EXPECT_LT(clock.elapsed(), kFewSeconds);
+  const auto path =
+      QueuePPD(cache.path()).fetch({silent.hostAndPort(), {}, nullptr, 1s}, queueName);
+  EXPECT_LT(clock.elapsed(), fewSeconds);
   ASSERT_FALSE(path);
   EXPECT_EQ(path.failure().line(),
             silent.hostAndPort() +
@@ -177,15 +172,15 @@ TEST_F(QueuePPDTest, ComesFromTheServerThatWasAskedWhateverItSaysItsNameIs) {
   const FrontServer front(*cups, Guarded::Nothing, silent.hostAndPort());
   QElapsedTimer clock;
   clock.start();
-  const auto path = QueuePPD(cache.path()).fetch({front.hostAndPort(), {}, nullptr, 1s}, kQueue);
-  EXPECT_LT(clock.elapsed(), kFewSeconds);
+  const auto path = QueuePPD(cache.path()).fetch({front.hostAndPort(), {}, nullptr, 1s}, queueName);
+  EXPECT_LT(clock.elapsed(), fewSeconds);
   ASSERT_TRUE(path) << path.failure().line().toStdString();
   EXPECT_TRUE(contentsOf(path.value()).contains("*ModelName: \"Orvek 6180\""));
 }
 
 TEST_F(QueuePPDTest, OfAClassIsThatOfItsPrinter) {
   cups->run(QStringLiteral("lpadmin"),
-            {QStringLiteral("-p"), kQueue, QStringLiteral("-c"), QStringLiteral("floor")});
+            {QStringLiteral("-p"), queueName, QStringLiteral("-c"), QStringLiteral("floor")});
   EXPECT_TRUE(contentsOf(fetched(QStringLiteral("floor"))).contains("*ModelName: \"Orvek 6180\""));
 }
 
@@ -202,10 +197,10 @@ QByteArray optionGroup(int number) {
 }
 
 TEST_F(QueuePPDTest, MayHaveFiveThousandOptions) {
-  constexpr int kOptions = 5000;
-  constexpr int kLongest = 10000;
+  constexpr int optionCount = 5000;
+  constexpr int longestMilliseconds = 10000;
   QByteArray ppd = contentsOf(orvekPPD(QStringLiteral("6180")));
-  for (int i = 0; i < kOptions; ++i) ppd += optionGroup(i);
+  for (int i = 0; i < optionCount; ++i) ppd += optionGroup(i);
   const QString large = cache.filePath(QStringLiteral("large.ppd"));
   writeContents(large, ppd);
   const auto made = cups->addQueue(QStringLiteral("large"), large);
@@ -213,20 +208,21 @@ TEST_F(QueuePPDTest, MayHaveFiveThousandOptions) {
   QElapsedTimer clock;
   clock.start();
   ppd_file_t *opened = ppdOpenFile(fetched(QStringLiteral("large")).toUtf8().constData());
-  EXPECT_LT(clock.elapsed(), kLongest);
+  EXPECT_LT(clock.elapsed(), longestMilliseconds);
   ASSERT_NE(opened, nullptr);
   EXPECT_NE(ppdFindOption(opened, "Odd4999"), nullptr);
   ppdClose(opened);
 }
 
 const SettingOffer *settingOf(const QList<SettingOffer> &settings, const char *keyword) {
-  for (const SettingOffer &setting : settings)
+  for (const SettingOffer &setting : settings) {
     if (setting.attribute == QString::fromLatin1(keyword)) return &setting;
+  }
   return nullptr;
 }
 
 TEST_F(QueuePPDTest, IsNotNeededToReadCommonSettings) {
-  const auto settings = readQueueSettings({}, kQueue);
+  const auto settings = readQueueSettings({}, queueName);
   ASSERT_TRUE(settings) << settings.failure().line().toStdString();
   const SettingOffer *sides = settingOf(settings.value(), "sides");
   ASSERT_NE(sides, nullptr);
@@ -269,4 +265,4 @@ TEST(SettingTitles, SpellOutWhatIsNotKnown) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

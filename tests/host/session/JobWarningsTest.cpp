@@ -11,7 +11,7 @@
 #include "host/session/PrintSession.h"
 #include "tests/support/Printers.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 class JobWarnings : public testing::Test {
@@ -125,4 +125,4 @@ TEST(JobWarningsWithoutPpd, KnowNoStaples) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

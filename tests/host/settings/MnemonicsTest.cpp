@@ -14,7 +14,7 @@
 
 #include "tests/support/Printers.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 class MnemonicsTest : public testing::Test {
@@ -97,4 +97,4 @@ TEST_F(MnemonicsTest, NeverCollideAndNeverStandBehindALatinText) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 TEST(BookletSettings, HaveDefaultsWhereTheTicketIsEmpty) {
@@ -45,4 +45,4 @@ TEST(BookletSettings, CountSheetsByFourPages) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

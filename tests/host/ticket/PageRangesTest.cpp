@@ -7,7 +7,7 @@
 
 #include "tests/support/Printers.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 QString normalized(const QString &text) {
@@ -66,4 +66,4 @@ TEST(PageRanges, PicksThePagesOfADocument) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

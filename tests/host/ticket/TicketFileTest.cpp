@@ -9,7 +9,7 @@
 #include <QTemporaryDir>
 #include <limits>
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 Failure failureOf(const QByteArray &json) {
@@ -93,4 +93,4 @@ TEST(TicketFile, WritesToADeviceThatCannotBeReplaced) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

@@ -9,7 +9,7 @@
 #include "platform/plugin/PDEPluginCallback.h"
 #include "tests/support/Printers.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 class Host : public PDEPluginCallback {
@@ -77,4 +77,4 @@ TEST(PluginCallback, IsInertWhenAbsent) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

@@ -8,7 +8,7 @@
 #include "platform/printing/PrintSettings.h"
 #include "tests/support/Printers.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 constexpr std::int32_t smallest = std::numeric_limits<std::int32_t>::min();
@@ -109,4 +109,4 @@ TEST(IntegerReading, IsZeroForAbsenceAndForOtherValues) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

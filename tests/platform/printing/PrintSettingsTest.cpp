@@ -7,7 +7,7 @@
 
 #include "tests/support/Printers.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 const QString gutter = QStringLiteral("OVKGutter");
@@ -196,4 +196,4 @@ TEST(Ticket, LetsAListenerEndItself) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

@@ -11,10 +11,8 @@
 #include "tests/support/LogCapture.h"
 #include "tests/support/Printers.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
-
-using test::LogCapture;
 
 QString standardErrorOf(const QString &line) {
   testing::internal::CaptureStderr();
@@ -92,4 +90,4 @@ TEST(Log, TakesAnEmptyAndANullText) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

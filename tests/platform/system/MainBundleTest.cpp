@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 TEST(MainBundle, HasNoDictionaryUntilTheProgramGivesItselfOne) {
@@ -33,4 +33,4 @@ TEST(MainBundle, TellsAnEmptyDictionaryFromNone) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

@@ -9,7 +9,7 @@
 
 #include "tests/support/Printers.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 const Failure unreadable{FailureKind::Io, QStringLiteral("a.ppd"), QStringLiteral("can't be read")};
@@ -76,4 +76,4 @@ TEST(Phrase, HasNoSentenceWhereTheTextWasGivenAsAWhole) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

@@ -16,11 +16,8 @@
 #include "tests/support/LogCapture.h"
 #include "tests/support/Printers.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
-
-using test::LogCapture;
-using test::RecordingOwner;
 
 class ActionsTest : public testing::Test {
  protected:
@@ -184,4 +181,4 @@ TEST(MethodName, DropsTheLastColonAndWritesTheOthersAsUnderscores) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

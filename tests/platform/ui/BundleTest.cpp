@@ -8,7 +8,7 @@
 #include "tests/support/BundleOnDisk.h"
 #include "tests/support/Printers.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 class BundleTest : public testing::Test {
@@ -167,4 +167,4 @@ TEST_F(BundleTest, IsQuietOnStandardErrorWhereThereIsNoTable) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

@@ -17,7 +17,7 @@
 
 #include "tests/support/Printers.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 TEST(Hidden, IsTheViewsOwnFlag) {
@@ -270,4 +270,4 @@ TEST(EmptyImageView, HasNoName) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

@@ -9,7 +9,7 @@
 
 #include "tests/support/Printers.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 // A superview of 200 by 100 points, and a subview of 40 by 20 whose lower left lies at (10, 30).
@@ -154,4 +154,4 @@ TEST_F(FramesTest, WorksOnViewsThatWereNeverShownAndOnHiddenOnes) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

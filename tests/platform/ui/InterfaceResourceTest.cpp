@@ -17,11 +17,8 @@
 #include "tests/support/LogCapture.h"
 #include "tests/support/Printers.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
-
-using test::LogCapture;
-using test::RecordingOwner;
 
 QByteArray property(const char *name, const char *value) {
   return QByteArray("<property name=\"") + name + "\" stdset=\"0\"><string>" + value +
@@ -178,4 +175,4 @@ TEST_F(InterfaceResourceTest, PrefersTheResourceOfTheUsersLanguage) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

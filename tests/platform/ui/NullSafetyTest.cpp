@@ -17,7 +17,7 @@
 #include "platform/ui/PopUps.h"
 #include "tests/support/Printers.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 const QString text = QStringLiteral("text");
@@ -98,4 +98,4 @@ TEST(AnAbsentBundle, HasNothing) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test

@@ -11,7 +11,7 @@
 #include "platform/system/PDEObject.h"
 #include "tests/support/Printers.h"
 
-namespace orvek {
+namespace orvek::test {
 namespace {
 
 class Record : public PDEObject {
@@ -177,4 +177,4 @@ TEST_F(PopUpsTest, SignalsNothingWhenCodeChangesIt) {
 }
 
 }  // namespace
-}  // namespace orvek
+}  // namespace orvek::test
