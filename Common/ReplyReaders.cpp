@@ -69,10 +69,11 @@ class NameText {
 
   static void writeAll(const ReplyCursor &labels, ReplyCursor::Offset size, char *text) {
     labels.copy(1, size - 1, text);
-    ReplyCursor at = labels;
-    for (ReplyCursor::Offset end = at.byte(); end < size; end += at.byte() + 1) {
-      text[end] = '.';
-      at.moveTo(labels.offset() + end + 1);
+    ReplyCursor label = labels;
+    for (ReplyCursor::Offset done = 0; done < size;) {
+      label.moveTo(labels.offset() + done);
+      done += label.byte() + 1;
+      text[done - 1] = '.';
     }
     text[size] = '\0';
   }
