@@ -6,7 +6,6 @@ set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
-set(CMAKE_AUTOMOC ON)
 if(NOT CMAKE_BUILD_TYPE)
   set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "" FORCE)
 endif()
@@ -14,6 +13,7 @@ endif()
 option(ORVEK_TESTS "Build the tests" ON)
 option(ORVEK_BENCH "Build the benchmarks" OFF)
 option(ORVEK_FUZZ "Build the fuzzers (needs clang)" OFF)
+option(ORVEK_CCACHE "Compile through ccache, where it is installed" OFF)
 option(ORVEK_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
 
 include(GNUInstallDirs)
@@ -25,9 +25,14 @@ set(ORVEK_BUNDLE_DIR "${CMAKE_BINARY_DIR}/OrvekFinishing.bundle")
 set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR};$ORIGIN;$ORIGIN/../../..")
 set(ORVEK_PLUGIN_INSTALL_DIR "${CMAKE_INSTALL_LIBDIR}/orvek-print/plugins")
 
-find_program(ORVEK_CCACHE ccache)
-if(ORVEK_CCACHE)
-  set(CMAKE_CXX_COMPILER_LAUNCHER "${ORVEK_CCACHE}")
+# ccache must be told that a precompiled header may be used by a source that defines more.
+if(ORVEK_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  find_program(ORVEK_CCACHE_PROGRAM ccache)
+  if(ORVEK_CCACHE_PROGRAM)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env
+      CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+      "${ORVEK_CCACHE_PROGRAM}")
+  endif()
 endif()
 
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual)
