@@ -17,9 +17,10 @@ namespace orvek {
 struct HTTPRequest {
   QUrl url;
 
+  /// A null text counts as an empty one.
   struct Basic {
-    QString user;      ///< null counts as empty
-    QString password;  ///< null counts as empty
+    QString user;
+    QString password;
   };
   /// Basic authentication (RFC 7617), sent with the first request; to no other host than the URL's.
   std::optional<Basic> authentication;
@@ -42,11 +43,16 @@ enum class StreamStatus {
 
 /// What `StreamError::domain` names.
 enum class StreamErrorDomain : long {
-  Custom = -1,     ///< libcurl's own numbers
-  POSIX = 1,       ///< errno
-  TLS = 3,         ///< secure-transport numbers, from tlsErrorFirst to tlsErrorLast
-  HTTP = 4,        ///< libcurl's numbers for answers that are no HTTP
-  NameLookup = 12  ///< libcurl's number for names that don't resolve
+  /// libcurl's own numbers.
+  Custom = -1,
+  /// errno.
+  POSIX = 1,
+  /// Secure-transport numbers, from tlsErrorFirst to tlsErrorLast.
+  TLS = 3,
+  /// libcurl's numbers for answers that are no HTTP.
+  HTTP = 4,
+  /// libcurl's number for names that don't resolve.
+  NameLookup = 12
 };
 
 inline constexpr long tlsErrorFirst = -9848;

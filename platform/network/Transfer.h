@@ -66,9 +66,11 @@ class CurlTransfer {
 
   std::unique_ptr<CURLM, MultiCleanup> m_multi;
   std::unique_ptr<CURL, EasyCleanup> m_easy;
-  std::span<char> m_direct;  // where the reader waits for bytes
+  // Where the reader waits for bytes.
+  std::span<char> m_direct;
   std::size_t m_directFilled = 0;
-  std::vector<char> m_pending;  // what came while nobody read, or beyond the reader's piece
+  // What came while nobody read, or beyond the reader's piece.
+  std::vector<char> m_pending;
   std::size_t m_pendingRead = 0;
   bool m_paused = false;
   bool m_done = false;

@@ -7,8 +7,15 @@
 using OSStatus = std::int32_t;
 
 inline constexpr OSStatus noErr = 0;
-inline constexpr OSStatus kPMInvalidParameter = -50;  ///< no such ticket, no such printer
-inline constexpr OSStatus kPMInvalidPDEContext =
-    -9530;  ///< the PPD is not of the panel's own driver
-inline constexpr OSStatus kPMValueFormatError = -9560;  ///< a value without text or integer reading
-inline constexpr OSStatus kPMLocked = -9561;            ///< another writer has locked the key
+
+/// No such ticket, no such printer.
+inline constexpr OSStatus kPMInvalidParameter = -50;
+
+/// The PPD is not of the panel's own driver.
+inline constexpr OSStatus kPMInvalidPDEContext = -9530;
+
+/// A value without text or integer reading.
+inline constexpr OSStatus kPMValueFormatError = -9560;
+
+/// Another writer has locked the key.
+inline constexpr OSStatus kPMLocked = -9561;

@@ -5,11 +5,11 @@
 
 #include <cstdint>
 
-/// Selectors: four characters packed big-endian.
-inline constexpr std::uint32_t gestaltSystemVersion = 0x73797376;        // 'sysv'
-inline constexpr std::uint32_t gestaltSystemVersionMajor = 0x73797331;   // 'sys1'
-inline constexpr std::uint32_t gestaltSystemVersionMinor = 0x73797332;   // 'sys2'
-inline constexpr std::uint32_t gestaltSystemVersionBugFix = 0x73797333;  // 'sys3'
+/// Selectors: four characters packed big-endian, 'sysv', 'sys1', 'sys2' and 'sys3'.
+inline constexpr std::uint32_t gestaltSystemVersion = 0x73797376;
+inline constexpr std::uint32_t gestaltSystemVersionMajor = 0x73797331;
+inline constexpr std::uint32_t gestaltSystemVersionMinor = 0x73797332;
+inline constexpr std::uint32_t gestaltSystemVersionBugFix = 0x73797333;
 
 /// The result of a selector that nobody knows.
 inline constexpr std::int32_t gestaltUndefSelectorErr = -5551;
