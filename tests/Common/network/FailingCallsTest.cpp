@@ -86,6 +86,17 @@ TEST_F(FailingEcho, ThatWasNotSentForNoReasonIsAGeneralError) {
   EXPECT_EQ(send(), orvek::pingGeneralError);
 }
 
+TEST_F(FailingEcho, IsNotWaitedForWhereNothingCanBeRead) {
+  constexpr timeval second{1, 0};
+  ASSERT_EQ(setsockopt(pair[0], SOL_SOCKET, SO_RCVTIMEO, &second, sizeof second), 0);
+  const auto begin = std::chrono::steady_clock::now();
+  const FailingCall failing("recvfrom", EBADF);
+  unsigned int replySeen = 9;
+  EXPECT_EQ(WaitAndPrintICMPs(pair[0], 900, 0, &replySeen), -1);
+  EXPECT_EQ(replySeen, 0U);
+  EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::milliseconds(900));
+}
+
 class FailingQuery : public testing::Test {
  protected:
   void SetUp() override { NEEDS_OWN_NETWORK(); }

@@ -72,6 +72,12 @@ TEST(EscapeInAHost, LeavesNoAddressWhereOtherCharactersFollow) {
   }
 }
 
+TEST(EscapedSign, ThatEndsAHostLeavesNothingOfIt) {
+  for (const char *sign : {"%2F", "%3F", "%23"}) {
+    EXPECT_TRUE(addressOf((std::string(sign) + "a").c_str()).isNull()) << sign;
+  }
+}
+
 TEST(HostBeyondASCII, IsKeptWhereItCanBeSeen) {
   // An en dash, which is no letter, and a printer from beyond the first plane.
   for (const char *host : {"a\xE2\x80\x93"
