@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Choices and PPDs with a part missing that a file could hardly leave out.
+// Choices, PPDs and elements with a part missing.
 
 #include <gtest/gtest.h>
 
@@ -54,6 +54,15 @@ TEST(DeviceModelNumber, IsFourZerosForAnAttributeWithoutValue) {
   attribute->value = value;
   EXPECT_EQ(getDeviceModelNumber(ppd), QStringLiteral("6180"));
   ppdClose(ppd);
+}
+
+TEST(ElementByValue, IsNoneThatLacksTheValue) {
+  pugi::xml_document document;
+  ASSERT_TRUE(document.load_string("<a k='1' l=''/>"));
+  const pugi::xml_node element = document.document_element();
+  EXPECT_TRUE(XMLTreeFindWithName(element, QStringLiteral("2")).empty());
+  EXPECT_TRUE(XMLTreeFindWithName(element, QString()).empty());
+  EXPECT_EQ(XMLTreeFindWithName(element, QStringLiteral("")), element);
 }
 
 }  // namespace

@@ -86,6 +86,18 @@ TEST_F(FailingEcho, ThatWasNotSentForNoReasonIsAGeneralError) {
   EXPECT_EQ(send(), orvek::pingGeneralError);
 }
 
+TEST_F(FailingEcho, IsNotSentWhereNobodyWouldWait) {
+  NEEDS_OWN_NETWORK();
+  const FailingCall failing("sendto", EIO);
+  EXPECT_EQ(SimplePing("127.0.0.1", 1, 0, 1), orvek::pingBadArgument);
+}
+
+TEST_F(FailingEcho, ThatWasNotSentIsTheResultOfTheWhole) {
+  NEEDS_OWN_NETWORK();
+  const FailingCall failing("sendto", EHOSTUNREACH);
+  EXPECT_EQ(SimplePing("127.0.0.1", 3, 200, 1), EHOSTUNREACH);
+}
+
 TEST_F(FailingEcho, IsNotWaitedForWhereNothingCanBeRead) {
   constexpr timeval second{1, 0};
   ASSERT_EQ(setsockopt(pair[0], SOL_SOCKET, SO_RCVTIMEO, &second, sizeof second), 0);
