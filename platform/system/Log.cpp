@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// The general log: formats the standard-error line, hands the text to syslog(3) and to a listener.
+// The general log: formats the standard-error line, hands the text to syslog(3) and to listeners.
 
 #include "platform/system/Log.h"
 
@@ -10,13 +10,38 @@
 #include <QDateTime>
 #include <cerrno>
 #include <cstdio>
+#include <mutex>
+#include <optional>
+#include <utility>
+#include <vector>
 
 namespace orvek {
 namespace {
 
-std::function<void(const QString &)> &listener() {
-  static std::function<void(const QString &)> current;
-  return current;
+using Listeners = std::vector<std::weak_ptr<const LogListener>>;
+
+// The list and what guards it: lines come from any thread.
+struct Registry {
+  std::mutex mutex;
+  Listeners listeners;
+};
+
+Registry &registry() {
+  static Registry all;
+  return all;
+}
+
+// Listeners may come and go while others are called.
+Listeners currentListeners() {
+  const std::lock_guard<std::mutex> lock(registry().mutex);
+  return registry().listeners;
+}
+
+void tellListeners(const QString &line) {
+  for (const std::weak_ptr<const LogListener> &listener : currentListeners()) {
+    const std::shared_ptr<const LogListener> listening = listener.lock();
+    if (listening && *listening) (*listening)(line);
+  }
 }
 
 void writeToStandardError(const QByteArray &text) {
@@ -32,16 +57,24 @@ void writeToStandardError(const QByteArray &text) {
 }  // namespace
 
 void logLine(const QString &line) {
-  // A copy: the listener may end itself.
-  const auto listening = listener();
-  if (listening) listening(line);
+  tellListeners(line);
   const QByteArray text = line.toUtf8();
   syslog(LOG_USER | LOG_NOTICE, "%s", text.constData());
   writeToStandardError(text);
 }
 
+LogSubscription::LogSubscription(LogListener listener)
+    : m_listener(std::make_shared<const LogListener>(std::move(listener))) {
+  const std::lock_guard<std::mutex> lock(registry().mutex);
+  Listeners &listeners = registry().listeners;
+  std::erase_if(listeners, [](const auto &ended) { return ended.expired(); });
+  listeners.push_back(m_listener);
+}
+
 void setLogListener(std::function<void(const QString &line)> newListener) {
-  listener() = std::move(newListener);
+  static std::optional<LogSubscription> current;
+  current.reset();
+  if (newListener) current.emplace(std::move(newListener));
 }
 
 }  // namespace orvek

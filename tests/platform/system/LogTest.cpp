@@ -7,6 +7,8 @@
 #include <unistd.h>
 
 #include <QRegularExpression>
+#include <optional>
+#include <utility>
 
 #include "tests/support/LogCapture.h"
 #include "tests/support/Printers.h"
@@ -44,6 +46,49 @@ TEST(Log, HasOneListenerAtATime) {
   setLogListener({});
   EXPECT_EQ(first, 0);
   EXPECT_EQ(second, 1);
+}
+
+TEST(Log, LetsManyListenAndEachEndWithItsOwner) {
+  QStringList heard;
+  const auto hearing = [&heard](const char *who) {
+    return [&heard, who](const QString &line) { heard << QLatin1String(who) + line; };
+  };
+  const LogSubscription first(hearing("first "));
+  std::optional<LogSubscription> second(std::in_place, hearing("second "));
+  const LogSubscription third(hearing("third "));
+  second.reset();
+  logLine(QStringLiteral("a"));
+  EXPECT_EQ(heard, QStringList({"first a", "third a"}));
+}
+
+TEST(Log, KeepsSubscriptionsApartFromTheOneListener) {
+  QStringList heard;
+  const LogSubscription subscription([&heard](const QString &line) { heard << line; });
+  setLogListener([&heard](const QString &line) { heard << line; });
+  logLine(QStringLiteral("twice"));
+  setLogListener({});
+  logLine(QStringLiteral("once"));
+  EXPECT_EQ(heard, QStringList({"twice", "twice", "once"}));
+}
+
+TEST(Log, LetsASubscriptionEndWhileItIsCalled) {
+  int heard = 0;
+  int heardByTheOther = 0;
+  std::optional<LogSubscription> ending;
+  ending.emplace([&](const QString &) {
+    ending.reset();
+    ++heard;
+  });
+  const LogSubscription other([&](const QString &) { ++heardByTheOther; });
+  logLine(QStringLiteral("heard"));
+  logLine(QStringLiteral("unheard"));
+  EXPECT_EQ(heard, 1);
+  EXPECT_EQ(heardByTheOther, 2);
+}
+
+TEST(Log, PassesOverAnEmptySubscription) {
+  const LogSubscription nobody{LogListener()};
+  logLine(QStringLiteral("into the void"));
 }
 
 TEST(Log, LetsAListenerEndItself) {
