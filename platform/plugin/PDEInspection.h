@@ -9,6 +9,8 @@
 
 class QWidget;
 
+/// Read on the interface's thread, while the panel lives. All it hands out is the panel's; nothing
+/// fails, and what is not there is null.
 class PDEInspection {
  public:
   virtual ~PDEInspection();

@@ -16,7 +16,7 @@ struct PDEError {
 /// A panel. Hosts call, in this order: panelView, panelName, panelKind, supportedPPDOptionKeys;
 /// then restoreValuesAndReturnError and willShow in any order and number, between the user's
 /// actions and summaryInfo; then saveValuesAndReturnError; then they let go of it. One thread, the
-/// interface's.
+/// interface's. The host is the panel's only owner; the panel owns its view.
 class PDEPanel {
  public:
   virtual ~PDEPanel();

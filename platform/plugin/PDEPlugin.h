@@ -24,7 +24,9 @@ inline constexpr const char *factoryFunctionPrefix = "PDECreate_";
 
 }  // namespace orvek
 
-/// The factory of a bundle. The host makes one, calls initWithBundle, then asks for panels.
+/// The factory of a bundle. The host makes one, calls initWithBundle, then asks for panels; it owns
+/// the factory and calls it on the interface's thread only. A factory that has no panels to give
+/// gives an empty list.
 class PDEPlugin {
  public:
   virtual ~PDEPlugin();

@@ -9,7 +9,8 @@
 #include "platform/printing/PrintSettings.h"
 
 /// The host's callback object. Panels hold a counted reference to it; all that it hands out is
-/// lent.
+/// lent. One thread, the interface's. Once the host's session has ended it gives nothing and hears
+/// nothing.
 class PDEPluginCallback {
  public:
   virtual ~PDEPluginCallback();
@@ -30,7 +31,8 @@ class PDEPluginCallback {
 };
 
 /// What a callback object is besides when its host lets panels change their size. A panel finds out
-/// whether its host does with respondsToPanelViewDidResize().
+/// whether its host does with respondsToPanelViewDidResize(). The same object, with the same owners
+/// and thread.
 class PDEPanelResizeObserver {
  public:
   virtual ~PDEPanelResizeObserver();

@@ -4,7 +4,8 @@
 
 namespace orvek {
 
-/// Base of whatever a host calls its session.
+/// Base of whatever a host calls its session. Owned by the host; lent to panels on the interface's
+/// thread.
 class PrintSessionHandle {
  public:
   virtual ~PrintSessionHandle();

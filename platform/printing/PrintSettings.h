@@ -15,7 +15,8 @@ namespace orvek {
 
 class PrintSettings;
 
-/// The store itself. Hosts own one per job; writers hold a PrintSettings each.
+/// The store itself. Hosts own one per job; writers hold a PrintSettings each. Belongs to one
+/// thread, the interface's; writing here does not fail.
 class Ticket {
  public:
   /// All keys with their values, in key order.
@@ -43,8 +44,9 @@ class Ticket {
   std::function<void(const QString &)> m_listener;
 };
 
-/// One writer's handle on a ticket. Two handles on one ticket are two writers: a key that one of
-/// them locked refuses the other.
+/// One writer's handle on a ticket, which it shares. Two handles on one ticket are two writers: a
+/// key that one of them locked refuses the other. On the ticket's thread; failures are statuses, as
+/// PMPrintSettingsGetValue and PMPrintSettingsSetValue give them.
 class PrintSettings {
  public:
   explicit PrintSettings(std::shared_ptr<Ticket> ticket);

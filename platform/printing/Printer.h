@@ -24,6 +24,7 @@ struct DeviceURI {
 /// Splits `text` as the print system does. Nothing for a text that is no URI.
 std::optional<DeviceURI> parseDeviceURI(const QString &text);
 
+/// Plain data that never changes: may be shared between threads.
 class Printer {
  public:
   explicit Printer(QString deviceURI) : m_deviceURI(std::move(deviceURI)) {}

@@ -4,7 +4,8 @@
 
 #include <QString>
 
-/// The root of the objects that travel through the platform by reference.
+/// The root of the objects that travel through the platform by reference: lent, never owned by who
+/// gets one, and read on the thread it is handed over on.
 /// `description` is what "%@" in a log format shows; an absent object shows as "(null)".
 class PDEObject {
  public:

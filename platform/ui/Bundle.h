@@ -16,7 +16,8 @@
 
 namespace orvek {
 
-/// Counted: whoever keeps a bundle keeps a shared_ptr to it.
+/// Counted: whoever keeps a bundle keeps a shared_ptr to it. Belongs to one thread, the
+/// interface's. What it lacks is null, and no call fails.
 class Bundle : public std::enable_shared_from_this<Bundle> {
  public:
   /// The bundle at `path`; null where there is no such folder. A damaged or missing Info.json gives
