@@ -17,22 +17,6 @@
 namespace orvek {
 namespace {
 
-/// A control and the panel that it belongs to.
-struct Target {
-  QWidget *control = nullptr;
-  QWidget *panelView = nullptr;
-};
-
-Target findTarget(const PrintSession &session, const QString &name) {
-  for (const auto &hosted : session.panels()) {
-    if (hosted->inspection() == nullptr) continue;
-    for (const auto &[controlName, control] : hosted->inspection()->inspectedControls()) {
-      if (controlName == name && control != nullptr) return {control, hosted->view()};
-    }
-  }
-  return {};
-}
-
 bool isHiddenWithin(const QWidget *control, const QWidget *panelView) {
   for (const QWidget *view = control; view != nullptr; view = view->parentWidget()) {
     if (isHidden(view)) return true;
@@ -41,7 +25,7 @@ bool isHiddenWithin(const QWidget *control, const QWidget *panelView) {
   return false;
 }
 
-Status checkReachable(const Action &action, const Target &target) {
+Status checkReachable(const Action &action, const PanelControl &target) {
   if (target.control == nullptr) {
     return actionFailure(action, QStringLiteral("the panel has no control of this name"));
   }
@@ -126,22 +110,20 @@ Status actOn(const Action &action, QWidget *control) {
 }
 
 Status useControl(PrintSession &session, const Action &action) {
-  const Target target = findTarget(session, action.control);
+  const PanelControl target = session.panels().findControl(action.control);
   if (Status reachable = checkReachable(action, target); !reachable) return reachable;
-  Status done;
-  session.perform([&] { done = actOn(action, target.control); });
-  return done;
+  const ActionScope scope(session);
+  return actOn(action, target.control);
 }
 
 void callPanels(PrintSession &session, Action::Kind call) {
-  session.perform([&] {
-    for (const auto &hosted : session.panels()) {
-      if (call == Action::Kind::View) hosted->loadView();
-      if (call == Action::Kind::Restore) hosted->panel().restoreValuesAndReturnError(nullptr);
-      if (call == Action::Kind::Save) hosted->panel().saveValuesAndReturnError(nullptr);
-      if (call == Action::Kind::WillShow) hosted->panel().willShow();
-    }
-  });
+  const ActionScope scope(session);
+  PanelSet &panels = session.panels();
+  if (call == Action::Kind::View) panels.loadViews();
+  if (call == Action::Kind::Restore) panels.restore();
+  if (call == Action::Kind::Save) panels.save();
+  if (call == Action::Kind::WillShow) panels.willShow();
+  if (call == Action::Kind::Reopen) panels.reopen();
 }
 
 }  // namespace
@@ -151,10 +133,7 @@ Status runAction(PrintSession &session, const Action &action) {
     case Action::Kind::Control:
       return useControl(session, action);
     case Action::Kind::PagesPerSheet:
-      session.setPagesPerSheet(action.number);
-      return {};
-    case Action::Kind::Reopen:
-      session.reopenPanels();
+      session.job().setPagesPerSheet(action.number);
       return {};
     default:
       callPanels(session, action.kind);

@@ -18,16 +18,13 @@ namespace orvek {
 namespace {
 
 void savePanels(PrintSession &session) {
-  session.perform([&] {
-    for (const auto &hosted : session.panels()) {
-      hosted->panel().saveValuesAndReturnError(nullptr);
-    }
-  });
+  const ActionScope action(session);
+  session.panels().save();
 }
 
 Status writeFiles(const CommandLine &line, PrintSession &session) {
   if (!line.ticketOut.isNull()) {
-    if (Status written = writeTicket(line.ticketOut, session.ticketToKeep()); !written) {
+    if (Status written = writeTicket(line.ticketOut, session.job().ticketToKeep()); !written) {
       return written;
     }
   }
@@ -37,7 +34,7 @@ Status writeFiles(const CommandLine &line, PrintSession &session) {
 
 QByteArray summaryText(const PrintSession &session) {
   QString text;
-  for (const auto &[title, value] : session.summary()) {
+  for (const auto &[title, value] : session.panels().summary()) {
     text += title + QStringLiteral(": ") + value + QLatin1Char('\n');
   }
   return text.toUtf8();
@@ -52,7 +49,7 @@ Status runActions(const CommandLine &line, PrintSession &session) {
   return {};
 }
 
-Status printState(const CommandLine &line, const PrintSession &session) {
+Status printState(const CommandLine &line, PrintSession &session) {
   QByteArray text;
   if (line.inspect) text += QJsonDocument(inspect(session)).toJson(QJsonDocument::Indented);
   if (line.summary) text += summaryText(session);

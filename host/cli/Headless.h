@@ -15,7 +15,7 @@ Status runActions(const CommandLine &line, PrintSession &session);
 Status saveAndWrite(const CommandLine &line, PrintSession &session);
 
 /// Prints --inspect and --summary on the standard output.
-Status printState(const CommandLine &line, const PrintSession &session);
+Status printState(const CommandLine &line, PrintSession &session);
 
 /// Runs the whole command line without a window. Nothing is printed or written where an action is
 /// refused.

@@ -46,7 +46,7 @@ QJsonObject selectionsOf(const PDEInspection *panel) {
 
 QJsonArray announcedIn(const PrintSession &session) {
   QJsonArray announced;
-  for (const auto &[option, choice] : session.announced()) {
+  for (const auto &[option, choice] : session.record().announced()) {
     announced.append(QJsonArray{option, textOrNull(choice)});
   }
   return announced;
@@ -68,14 +68,14 @@ QJsonArray conflictsIn(const PrintSession &session) {
 
 QJsonObject summaryIn(const PrintSession &session) {
   QJsonObject summary;
-  for (const auto &[title, value] : session.summary()) summary.insert(title, value);
+  for (const auto &[title, value] : session.panels().summary()) summary.insert(title, value);
   return summary;
 }
 
 }  // namespace
 
-QJsonObject inspect(const PrintSession &session) {
-  const HostedPanel *hosted = session.panels().empty() ? nullptr : session.panels().front().get();
+QJsonObject inspect(PrintSession &session) {
+  const HostedPanel *hosted = session.panels().first();
   const PDEInspection *panel = hosted == nullptr ? nullptr : hosted->inspection();
   return {
       {QStringLiteral("panel"), panelOf(hosted)},
@@ -83,13 +83,13 @@ QJsonObject inspect(const PrintSession &session) {
       {QStringLiteral("selections"), selectionsOf(panel)},
       {QStringLiteral("modelNumber"),
        panel == nullptr ? QJsonValue() : textOrNull(panel->inspectedModelNumber())},
-      {QStringLiteral("ticket"), ticketToJson(session.ticketToKeep())},
+      {QStringLiteral("ticket"), ticketToJson(session.job().ticketToKeep())},
       {QStringLiteral("announced"), announcedIn(session)},
-      {QStringLiteral("resized"), session.resizeCount()},
+      {QStringLiteral("resized"), session.record().resizeCount()},
       {QStringLiteral("marks"), marksIn(session)},
       {QStringLiteral("conflicts"), conflictsIn(session)},
       {QStringLiteral("summary"), summaryIn(session)},
-      {QStringLiteral("log"), QJsonArray::fromStringList(session.log())},
+      {QStringLiteral("log"), QJsonArray::fromStringList(session.record().log())},
   };
 }
 

@@ -11,6 +11,6 @@ namespace orvek {
 
 /// The session's first panel and the session itself; without a panel, null and empty what is the
 /// panel's.
-QJsonObject inspect(const PrintSession &session);
+QJsonObject inspect(PrintSession &session);
 
 }  // namespace orvek

@@ -23,7 +23,7 @@ Status applyPresetAsAsked(const CommandLine &line, PrintSession &session) {
   return {};
 }
 
-Status savePresetAsAsked(const CommandLine &line, const PrintSession &session) {
+Status savePresetAsAsked(const CommandLine &line, PrintSession &session) {
   if (line.savePreset.isNull()) return {};
   return PresetStore().save(presetOf(session, line.savePreset));
 }

@@ -12,7 +12,7 @@ namespace orvek {
 Status applyPresetAsAsked(const CommandLine &line, PrintSession &session);
 
 /// Saves the session under --save-preset's name. Success where none was asked for.
-Status savePresetAsAsked(const CommandLine &line, const PrintSession &session);
+Status savePresetAsAsked(const CommandLine &line, PrintSession &session);
 
 /// Prints the presets' names, one a line; damaged ones are reported.
 Status listPresets();

@@ -46,26 +46,26 @@ void tellWarnings(const PrintSession &session, const JobRequest &request) {
 
 }  // namespace
 
-JobRequest jobRequestFor(const CommandLine &line, const PrintSession &session,
+JobRequest jobRequestFor(const CommandLine &line, PrintSession &session,
                          const std::shared_ptr<PasswordSource> &passwords) {
   JobRequest request;
   request.files = line.files;
   request.title = line.title;
   request.user = line.user;
   request.priority = line.priority.value_or(0);
-  request.options = session.jobOptions();
-  request.overruled = session.overruledOptions();
-  request.texts = session.optionsWithCustomValues();
+  request.options = session.job().options();
+  request.overruled = session.job().overruledOptions();
+  request.texts = session.job().optionsWithCustomValues();
   request.ppdFile = session.printer() ? session.printer()->path() : QString();
   request.outputFile = line.output;
-  request.queue = session.destination().section(QLatin1Char('/'), 0, 0);
-  request.instance = session.destination().section(QLatin1Char('/'), 1);
+  request.queue = session.origin().destination.section(QLatin1Char('/'), 0, 0);
+  request.instance = session.origin().destination.section(QLatin1Char('/'), 1);
   request.server = line.server;
   request.passwords = passwords;
   return request;
 }
 
-Status printAsAsked(const CommandLine &line, const PrintSession &session,
+Status printAsAsked(const CommandLine &line, PrintSession &session,
                     const std::shared_ptr<PasswordSource> &passwords) {
   if (line.output.isNull() && !line.print) return {};
   const JobRequest request = jobRequestFor(line, session, passwords);

@@ -10,13 +10,13 @@ namespace orvek {
 
 /// What the job is to be: the documents and wishes of the command line, the session's printer and
 /// options.
-JobRequest jobRequestFor(const CommandLine &line, const PrintSession &session,
+JobRequest jobRequestFor(const CommandLine &line, PrintSession &session,
                          const std::shared_ptr<PasswordSource> &passwords = {});
 
 /// Prints one job where the command line asks for it: into --output's file, whether or not --print
 /// is there as well, else on the queue with --print. Waits until the job has been taken. Success
 /// where it asks for neither; no document is touched then.
-Status printAsAsked(const CommandLine &line, const PrintSession &session,
+Status printAsAsked(const CommandLine &line, PrintSession &session,
                     const std::shared_ptr<PasswordSource> &passwords);
 
 }  // namespace orvek

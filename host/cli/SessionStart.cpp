@@ -43,18 +43,18 @@ Status applyPagesPerSheet(const OptionChoice &option, PrintSession &session) {
     return Failure{FailureKind::Usage, QStringLiteral("-o %1=%2").arg(option.option, option.choice),
                    QStringLiteral("the number of pages per sheet must be a positive integer")};
   }
-  session.setPagesPerSheet(pages == 1 ? 0 : pages);
+  session.job().setPagesPerSheet(pages == 1 ? 0 : pages);
   return {};
 }
 
 // What is no setting that the dialog shows goes into the ticket, where panels and job find it.
 Status applyJobOption(const OptionChoice &option, const QList<OptionChoice> &beside,
                       PrintSession &session) {
-  const Result<bool> taken = session.takeJobOption(option.option, option.choice);
+  const Result<bool> taken = session.job().take(option.option, option.choice);
   if (!taken) return taken.failure();
   if (taken.value()) return {};
   session.ticket().setValue(option.option, option.choice);
-  session.pickWord(option, beside);
+  session.job().pickWord(option, beside);
   return {};
 }
 
@@ -92,20 +92,21 @@ Status applyOptions(const CommandLine &line, PrintSession &session) {
   return {};
 }
 
-void addInstalledPlugins(PrintSession &session) {
+PluginList installedPlugins() {
   const PluginHarvest harvest = loadPlugins(findPluginBundles(PluginPlaces::ofThisProgram()));
   for (const Failure &failure : harvest.failures) report(failure);
-  for (const auto &plugin : harvest.plugins) session.addPlugin(plugin);
+  return {harvest.plugins.begin(), harvest.plugins.end()};
 }
 
-Status addPlugins(const CommandLine &line, PrintSession &session) {
-  if (line.plugins.isEmpty()) addInstalledPlugins(session);
+Result<PluginList> pluginsFor(const CommandLine &line) {
+  if (line.plugins.isEmpty()) return installedPlugins();
+  PluginList plugins;
   for (const QString &path : line.plugins) {
     Result<LoadedPlugin> plugin = loadPlugin(path);
     if (!plugin) return plugin.failure();
-    session.addPlugin(std::make_shared<LoadedPlugin>(plugin.take()));
+    plugins.push_back(std::make_shared<LoadedPlugin>(plugin.take()));
   }
-  return {};
+  return plugins;
 }
 
 }  // namespace
@@ -131,8 +132,9 @@ Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line,
   if (const Status applied = applyPresetAsAsked(line, *session); !applied) return applied.failure();
   if (const Status applied = applyJobOptions(line, *session); !applied) return applied.failure();
   if (const Status applied = applyOptions(line, *session); !applied) return applied.failure();
-  if (const Status added = addPlugins(line, *session); !added) return added.failure();
-  session->openPanels();
+  Result<PluginList> plugins = pluginsFor(line);
+  if (!plugins) return plugins.failure();
+  session->openPanels(plugins.take());
   return session;
 }
 

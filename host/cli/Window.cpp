@@ -67,10 +67,10 @@ Result<Opened> openSession(const CommandLine &line,
 
 }  // namespace
 
-DialogSetup dialogSetupFor(const CommandLine &line, const PrintSession &session,
+DialogSetup dialogSetupFor(const CommandLine &line, PrintSession &session,
                            const std::shared_ptr<PasswordSource> &passwords) {
   DialogSetup setup;
-  if (line.output.isNull()) setup.destination = session.destination();
+  if (line.output.isNull()) setup.destination = session.origin().destination;
   setup.documentName = line.title.isNull() ? namesOf(line.files) : line.title;
   if (line.files.size() == 1) setup.document.path = line.files.first();
   setup.askPrinter = [&line, passwords](const QString &destination,
@@ -89,7 +89,7 @@ DialogSetup dialogSetupFor(const CommandLine &line, const PrintSession &session,
   // The list of printers comes up unasked; it must not ask anybody.
   if (passwords) setup.server.passwords = passwords->withoutAsking();
   setup.outputFile = line.output;
-  setup.jobRequest = [&line, passwords](const PrintSession &now) {
+  setup.jobRequest = [&line, passwords](PrintSession &now) {
     return jobRequestFor(line, now, passwords);
   };
   return setup;

@@ -10,7 +10,7 @@
 namespace orvek {
 
 /// What the window is told of command line and session; both must outlive the window.
-DialogSetup dialogSetupFor(const CommandLine &line, const PrintSession &session,
+DialogSetup dialogSetupFor(const CommandLine &line, PrintSession &session,
                            const std::shared_ptr<PasswordSource> &passwords = {});
 
 /// Runs the whole command line with a window, until the user closes it. A job that the user decided

@@ -50,7 +50,7 @@ struct DialogSetup {
 
   /// The job as the session has it. Where it goes is the window's business. Empty: a request that
   /// says nothing.
-  std::function<JobRequest(const PrintSession &)> jobRequest;
+  std::function<JobRequest(PrintSession &)> jobRequest;
 
   /// Asks for a queue.
   AskPrinter askPrinter;

@@ -23,11 +23,10 @@ constexpr QLatin1Char instanceMark('/');
 }  // namespace
 
 JobRequest PrintDialog::gatherRequest() {
-  m_session->perform([this] {
-    for (const auto &hosted : m_session->panels()) {
-      hosted->panel().saveValuesAndReturnError(nullptr);
-    }
-  });
+  {
+    const ActionScope action(*m_session);
+    m_session->panels().save();
+  }
   JobRequest request = m_setup.jobRequest ? m_setup.jobRequest(*m_session) : JobRequest();
   const QString &destination = m_setup.destination;
   request.queue = destination.isEmpty() ? QString() : destination.section(instanceMark, 0, 0);

@@ -65,10 +65,10 @@ void PrintDialog::moveTo(const Result<SessionSetup> &setup, const QString &desti
     return;
   }
   const Preset entered = presetOf(*m_session, {});
-  const JobSettings settings = m_session->jobSettings();
+  const JobSettings settings = m_session->job().settings();
   takeSession(opened.take(), destination);
   const QList<PresetMisfit> misfits = applyPreset(*m_session, entered);
-  m_session->setJobSettings(settings);
+  m_session->job().setSettings(settings);
   showMisfits(tr("Not everything fits this printer:"), misfits);
 }
 

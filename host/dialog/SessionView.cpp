@@ -64,8 +64,7 @@ void SessionView::addPages() {
   m_pages->addTab(new LazyPage(general, m_pages), tr("General"));
   addPanelPages();
   m_pages->setCurrentIndex(m_pages->count() > 1 ? 1 : 0);
-  QStringList claimed;
-  for (const auto &hosted : session.panels()) claimed << hosted->claimedOptions();
+  const QStringList claimed = session.panels().claimedOptions();
   const auto options = [&session, claimed](QWidget *parent) {
     return new OptionsPage(session, claimed, parent);
   };
@@ -73,9 +72,8 @@ void SessionView::addPages() {
 }
 
 void SessionView::addPanelPages() {
-  for (const auto &hosted : m_session.panels()) {
-    if (hosted->container() == nullptr || hosted->view() == nullptr) continue;
-    m_pages->addTab(new PanelPage(hosted->container(), m_pages), hosted->name());
+  for (const PanelPlace &place : m_session.panels().places()) {
+    m_pages->addTab(new PanelPage(place.container, m_pages), place.name);
   }
 }
 

@@ -50,7 +50,7 @@ QString orientationText(Orientation orientation) {
 
 // What the job settings and the layout say beside the printer's options.
 QList<SummaryLine> jobLines(const PrintSession &session) {
-  const JobSettings settings = session.jobSettings();
+  const JobSettings settings = session.job().settings();
   QList<SummaryLine> lines;
   if (settings.copies > 1) {
     lines << SummaryLine{Text::tr("Copies"), QString::number(settings.copies), true};
@@ -66,7 +66,7 @@ QList<SummaryLine> jobLines(const PrintSession &session) {
   if (settings.reverse) {
     lines << SummaryLine{Text::tr("Page order"), Text::tr("Last page first"), true};
   }
-  if (const int pages = session.pagesPerSheet(); pages > 1) {
+  if (const int pages = session.job().pagesPerSheet(); pages > 1) {
     lines << SummaryLine{Text::tr("Pages per sheet"), QString::number(pages), true};
   }
   return lines;
@@ -76,10 +76,8 @@ QList<SummaryLine> jobLines(const PrintSession &session) {
 QSet<QString> optionTitles(const PrintSession &session) {
   QSet<QString> titles;
   if (!session.printer()) return titles;
-  for (const auto &hosted : session.panels()) {
-    for (const QString &option : hosted->claimedOptions()) {
-      titles.insert(optionText(session.printer()->ppd(), option));
-    }
+  for (const QString &option : session.panels().claimedOptions()) {
+    titles.insert(optionText(session.printer()->ppd(), option));
   }
   return titles;
 }
@@ -106,7 +104,7 @@ QList<SummaryLine> summaryLines(const PrintSession &session) {
   QStringList order;
   QMap<QString, QString> changed = changedOptions(session, &order);
   QList<SummaryLine> lines;
-  for (const auto &[title, value] : session.summary()) {
+  for (const auto &[title, value] : session.panels().summary()) {
     SummaryLine line{title, value, changed.contains(title)};
     line.changed = line.changed || differs(defaults, line);
     changed.remove(title);

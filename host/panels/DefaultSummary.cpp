@@ -3,11 +3,7 @@
 
 #include "host/panels/DefaultSummary.h"
 
-#include <utility>
-
-#include "host/panels/PluginCallback.h"
 #include "host/ppd/Constraints.h"
-#include "platform/plugin/PDEPlugin.h"
 #include "platform/printing/PrintSession.h"
 
 namespace orvek {
@@ -35,43 +31,20 @@ void markUntouchedJob(Marks &marks) {
   }
 }
 
-SummaryText summaryOfNewPanels(LoadedPlugin &plugin, const std::shared_ptr<PluginCallback> &host) {
-  std::vector<std::unique_ptr<HostedPanel>> panels;
-  const QVariant type(QString::fromLatin1(printDialogPanelType));
-  for (const auto &panel : plugin.factory->PDEPanelsForType_withHostInfo(type, host)) {
-    if (panel) panels.emplace_back(std::make_unique<HostedPanel>(panel))->start();
-  }
-  return summaryOf(panels);
-}
-
 }  // namespace
 
-SummaryText summaryOf(const std::vector<std::unique_ptr<HostedPanel>> &panels) {
-  SummaryText lines;
-  for (const auto &hosted : panels) {
-    const QMap<QString, QString> info = hosted->panel().summaryInfo();
-    for (auto line = info.begin(); line != info.end(); ++line) {
-      lines.append({line.key(), line.value()});
-    }
-  }
-  return lines;
-}
-
-SummaryText defaultSummary(const std::vector<std::shared_ptr<LoadedPlugin>> &plugins, Marks &marks,
-                           bool panelsMayResize) {
+void DefaultSummary::learn(const PanelSet &panels, Marks &marks) {
   const MarksSnapshot before = marks.snapshot();
   markUntouchedJob(marks);
   Marker marker(marks);
   PrintSessionHandle session;
-  const PanelLoan loan{marks.ppd(), &session, std::make_shared<Ticket>()};
-  SummaryText lines;
-  for (const auto &plugin : plugins) {
-    const auto host = PluginCallback::make(&marker, loan, panelsMayResize);
-    lines << summaryOfNewPanels(*plugin, host);
-    host->detach();
+  {
+    PanelSet untouched(marker, {marks.ppd(), &session, std::make_shared<Ticket>()},
+                       panels.panelsMayResize());
+    untouched.open(panels.plugins());
+    m_lines = untouched.summary();
   }
   marks.restore(before);
-  return lines;
 }
 
 }  // namespace orvek

@@ -1,29 +1,30 @@
 // SPDX-License-Identifier: Apache-2.0
-// What panels say of a job that nobody changed. Makes panels of its own for that, and leaves the
-// session's as they are.
+// What panels say of a job that nobody changed: what a window compares a summary with.
 #pragma once
 
-#include <QList>
-#include <QPair>
-#include <QString>
-#include <memory>
-#include <vector>
+#include <optional>
 
-#include "host/panels/HostedPanel.h"
-#include "host/panels/PluginLoader.h"
+#include "host/panels/PanelSet.h"
 #include "host/ppd/Marks.h"
 
 namespace orvek {
 
-/// Title and value of each line of a panel's summary.
-using SummaryText = QList<QPair<QString, QString>>;
+/// Keeps those lines once they are known. Owns nothing else, and belongs to the interface's thread.
+class DefaultSummary {
+ public:
+  /// Nothing while they are not known.
+  const std::optional<SummaryText> &lines() const { return m_lines; }
 
-SummaryText summaryOf(const std::vector<std::unique_ptr<HostedPanel>> &panels);
+  /// For whoever knows them: a set of panels on an untouched job.
+  void know(const SummaryText &lines) { m_lines = lines; }
 
-/// The lines of the plug-ins' panels for an empty ticket and the PPD's defaults on the printer's
-/// equipment as it is marked. Costs what opening the panels costs. The marks are as before
-/// afterwards.
-SummaryText defaultSummary(const std::vector<std::shared_ptr<LoadedPlugin>> &plugins, Marks &marks,
-                           bool panelsMayResize);
+  /// Finds out what the plug-ins of these panels say for an empty ticket and the PPD's defaults on
+  /// the printer's equipment as it is marked. Makes panels of its own for that, which costs what
+  /// opening panels costs, and leaves the given ones alone. The marks are as before afterwards.
+  void learn(const PanelSet &panels, Marks &marks);
+
+ private:
+  std::optional<SummaryText> m_lines;
+};
 
 }  // namespace orvek

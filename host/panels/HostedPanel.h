@@ -12,7 +12,8 @@
 
 namespace orvek {
 
-/// Owns the panel (the last to do so) and the place of its view.
+/// Owns the panel (the last to do so) and the place of its view. Belongs to the interface's thread.
+/// A view that could not be loaded is null; nothing else fails.
 class HostedPanel {
  public:
   explicit HostedPanel(std::shared_ptr<PDEPanel> panel);

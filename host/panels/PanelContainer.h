@@ -7,7 +7,8 @@
 
 namespace orvek {
 
-/// Always as large as the view in it, which stands at its origin. The view stays its panel's.
+/// Always as large as the view in it, which stands at its origin. The view stays its
+/// panel's.
 class PanelContainer final : public QWidget {
  public:
   explicit PanelContainer(QWidget *parent = nullptr);

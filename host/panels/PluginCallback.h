@@ -9,7 +9,7 @@
 
 namespace orvek {
 
-/// What callback objects pass on to. Implemented by the session.
+/// What callback objects pass on to, on the interface's thread. Implemented by the session.
 class PanelListener {
  public:
   virtual ~PanelListener();
@@ -28,7 +28,9 @@ struct PanelLoan {
   std::shared_ptr<Ticket> ticket;
 };
 
-/// The callback object of a host that does not let panels change their size.
+/// The callback object of a host that does not let panels change their size. Borrows the listener
+/// and the loan until detach(), owns its plug-in's handle on the ticket, and is counted: panels and
+/// host keep it. Belongs to the interface's thread. Detached, it is inert.
 class PluginCallback : public PDEPluginCallback {
  public:
   /// Makes one; `resizing` decides whether it answers panelViewDidResize.
@@ -54,7 +56,7 @@ class PluginCallback : public PDEPluginCallback {
   std::unique_ptr<PrintSettings> m_settings;  // this plug-in's own writer
 };
 
-/// The callback object of a host that makes room for panels as they grow and shrink.
+/// As above, of a host that makes room for panels as they grow and shrink.
 class ResizingPluginCallback final : public PluginCallback, public PDEPanelResizeObserver {
  public:
   using PluginCallback::PluginCallback;

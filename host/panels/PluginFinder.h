@@ -10,8 +10,11 @@ namespace orvek {
 
 /// The folders and environment that decide where bundles are found.
 struct PluginPlaces {
-  QString programFolder;    ///< absolute: the folder of the running program
-  QString environmentPath;  ///< the value of ORVEK_PRINT_PLUGIN_PATH: folders separated by ":"
+  /// Absolute: the folder of the running program.
+  QString programFolder;
+
+  /// The value of ORVEK_PRINT_PLUGIN_PATH: folders separated by ":".
+  QString environmentPath;
 
   /// Those of the running program.
   static PluginPlaces ofThisProgram();

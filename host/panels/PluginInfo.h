@@ -10,12 +10,18 @@
 
 namespace orvek {
 
-/// The checked metadata of a bundle.
+/// The checked metadata of a bundle, which it shares.
 struct PluginInfo {
   std::shared_ptr<Bundle> bundle;
-  QString identifier;      ///< unique among plug-ins; the bundle's path where Info.json names none
-  QString principalClass;  ///< the factory's class, a C++ identifier
-  QString executable;      ///< absolute path of the code, inside the bundle
+
+  /// Unique among plug-ins; the bundle's path where Info.json names none.
+  QString identifier;
+
+  /// The factory's class, a C++ identifier.
+  QString principalClass;
+
+  /// Absolute path of the code, inside the bundle.
+  QString executable;
 };
 
 /// Reads and checks a bundle's Info.json: the factory's class, the code's file (a plain name of a

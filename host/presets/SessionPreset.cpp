@@ -47,20 +47,16 @@ void pickWords(PrintSession &session, const PresetFit &fit, const QMap<QString, 
     beside.append({choice.key(), choice.value()});
   }
   for (const QString &kept : keep) beside.append({kept, QString()});
-  for (const OptionChoice &option : asked) session.pickWord(option, beside);
-}
-
-void restorePanels(PrintSession &session) {
-  for (const auto &hosted : session.panels()) hosted->panel().restoreValuesAndReturnError(nullptr);
+  for (const OptionChoice &option : asked) session.job().pickWord(option, beside);
 }
 
 }  // namespace
 
-Preset presetOf(const PrintSession &session, const QString &name) {
+Preset presetOf(PrintSession &session, const QString &name) {
   Preset preset;
   preset.name = name;
   preset.printerModel = session.printer() ? session.printer()->modelName() : QString();
-  preset.ticket = session.ticketToKeep();
+  preset.ticket = session.job().ticketToKeep();
   for (const OptionChoice &mark : session.marks().differingFromDefaults()) {
     if (isInstalledEquipment(session.marks().ppd(), mark.option)) continue;
     preset.options.insert(mark.option, mark.choice);
@@ -71,15 +67,14 @@ Preset presetOf(const PrintSession &session, const QString &name) {
 QList<PresetMisfit> applyPreset(PrintSession &session, const Preset &preset,
                                 const QStringList &keep) {
   const PresetFit fit = fitPreset(preset, session.marks().ppd());
-  session.perform([&] {
-    writeTicket(session, fit, keep);
-    const QMap<QString, QString> choices = choicesOf(fit, session);
-    pickWords(session, fit, choices, keep);
-    for (auto choice = choices.begin(); choice != choices.end(); ++choice) {
-      if (!keep.contains(choice.key())) session.pick(choice.key(), choice.value());
-    }
-    restorePanels(session);
-  });
+  const ActionScope action(session);
+  writeTicket(session, fit, keep);
+  const QMap<QString, QString> choices = choicesOf(fit, session);
+  pickWords(session, fit, choices, keep);
+  for (auto choice = choices.begin(); choice != choices.end(); ++choice) {
+    if (!keep.contains(choice.key())) session.pick(choice.key(), choice.value());
+  }
+  session.panels().restore();
   return fit.misfits;
 }
 

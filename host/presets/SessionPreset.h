@@ -11,7 +11,7 @@ namespace orvek {
 
 /// The session as a preset: every mark that is not the PPD's default, installed equipment left out,
 /// and the whole ticket.
-Preset presetOf(const PrintSession &session, const QString &name);
+Preset presetOf(PrintSession &session, const QString &name);
 
 /// Puts a preset into the session, before or after its panels were opened: its ticket is written
 /// and each of its choices picked, so that constraints speak up as for a user's pick; open panels

@@ -43,7 +43,7 @@ PreviewState previewState(const PrintSession &session, int pageCount, QSizeF pag
   ppd_file_t *ppd = session.marks().ppd();
   state.booklet = bookletSettings(session.ticket().values());
   state.isSample = pageCount <= 0;
-  const QString ranges = state.isSample ? QString() : session.jobSettings().pageRanges;
+  const QString ranges = state.isSample ? QString() : session.job().settings().pageRanges;
   const QList<int> pages = pagesInRanges(ranges, state.isSample ? samplePages : pageCount);
   state.pages = static_cast<int>(pages.size());
   const QString marked = session.marks().marked(pageSizeOption);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Tries a pick on a copy of the marks' bookkeeping, takes it back, and puts the outcome into words.
+// Tries a pick, takes it back, and puts the outcome into words.
 
 #include "host/session/Availability.h"
 
@@ -96,7 +96,7 @@ ChoiceAvailability Availability::of(const QString &option, const QString &choice
   return answer;
 }
 
-ChoiceAvailability Availability::find(const OptionChoice &pick) const {
+ChoiceAvailability Availability::find(const OptionChoice &pick) {
   const std::optional<OptionChoice> wanted = m_session.marks().spelled(pick.option, pick.choice);
   if (!wanted) return {};
   const QList<OptionChoice> conflicts = conflictsOf(m_session.marks(), *wanted);
@@ -104,7 +104,7 @@ ChoiceAvailability Availability::find(const OptionChoice &pick) const {
 
   ppd_file_t *ppd = m_session.marks().ppd();
   const QList<OptionChoice> partners = partnersAmong(m_session.marks(), conflicts, *wanted);
-  Marks marks = m_session.marks();
+  Marks &marks = m_session.marks();
   const MarksSnapshot before = marks.snapshot();
   const Resolution resolution = markAndResolve(marks, *wanted);
   marks.restore(before);

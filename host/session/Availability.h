@@ -15,14 +15,21 @@ namespace orvek {
 /// What a pick of a choice would do.
 struct ChoiceAvailability {
   enum class Kind {
-    Usable,     ///< nothing but marking it
-    Displaces,  ///< other options would give way
-    Unusable    ///< it would be undone: equipment is missing, or nothing can give way
+    /// Nothing but marking it.
+    Usable,
+    /// Other options would give way.
+    Displaces,
+    /// It would be undone: equipment is missing, or nothing can give way.
+    Unusable
   };
   Kind kind = Kind::Usable;
-  QString reason;  ///< "needs the Finisher, which this printer doesn't have", "not with Saddle
-                   ///< fold"; null where usable
-  QString effect;  ///< what would give way: "Folding would be set to Off"; null where nothing would
+
+  /// "needs the Finisher, which this printer doesn't have", "not with Saddle fold"; null where
+  /// usable.
+  QString reason;
+
+  /// What would give way: "Folding would be set to Off"; null where nothing would.
+  QString effect;
 
   bool isUsable() const { return kind == Kind::Usable; }
 
@@ -30,7 +37,8 @@ struct ChoiceAvailability {
   QString words() const;
 };
 
-/// Answers for one session; remembers answers until the session changes.
+/// Answers for one session; remembers answers until the session changes. Belongs to the interface's
+/// thread; never fails.
 class Availability final : public QObject {
   Q_OBJECT
 
@@ -42,7 +50,7 @@ class Availability final : public QObject {
   ChoiceAvailability of(const QString &option, const QString &choice);
 
  private:
-  ChoiceAvailability find(const OptionChoice &pick) const;
+  ChoiceAvailability find(const OptionChoice &pick);
 
   PrintSession &m_session;
   QSet<QString> m_constrained;  // options that some constraint names, in lower case

@@ -69,7 +69,7 @@ Setting settingOf(const PrintSession &session, const ppd_option_t &option, Commo
 QString choiceInForce(const PrintSession &session, const SettingOffer &offer) {
   const QVariant asked = session.ticket().value(offer.attribute);
   if (asked.isValid()) return textReading(asked);
-  for (const OptionChoice &option : session.queueOptions()) {
+  for (const OptionChoice &option : session.origin().queueOptions) {
     if (option.option == offer.attribute) return option.choice;
   }
   return offer.standard;
@@ -80,7 +80,7 @@ Setting settingOf(const PrintSession &session, const SettingOffer &offer) {
 }
 
 std::optional<Setting> offered(const PrintSession &session, const Names &names) {
-  for (const SettingOffer &offer : session.offers()) {
+  for (const SettingOffer &offer : session.origin().offers) {
     if (offer.attribute == QLatin1String(names.attribute)) return settingOf(session, offer);
   }
   return std::nullopt;
@@ -112,7 +112,7 @@ std::optional<Setting> commonSetting(const PrintSession &session, CommonSetting 
 
 QList<Setting> furtherSettings(const PrintSession &session) {
   QList<Setting> settings;
-  for (const SettingOffer &offer : session.offers()) {
+  for (const SettingOffer &offer : session.origin().offers) {
     if (isFurther(offer)) settings << settingOf(session, offer);
   }
   return settings;
@@ -120,7 +120,8 @@ QList<Setting> furtherSettings(const PrintSession &session) {
 
 bool pickSetting(PrintSession &session, const Setting &setting, const QString &choice) {
   if (setting.isInPpd) return session.pick(setting.key, choice);
-  session.perform([&] { session.ticket().setValue(setting.key, choice); });
+  const ActionScope action(session);
+  session.ticket().setValue(setting.key, choice);
   return true;
 }
 

@@ -18,10 +18,17 @@ enum class CommonSetting { PaperSize, PaperSource, PaperType, Sides, Color, Qual
 
 /// One such setting of a session's printer.
 struct Setting {
-  QString key;    ///< the PPD's main keyword, or the IPP attribute
-  QString title;  ///< as the PPD names it; null where only IPP knows it
+  /// The PPD's main keyword, or the IPP attribute.
+  QString key;
+
+  /// As the PPD names it; null where only IPP knows it.
+  QString title;
+
   QList<SettingChoice> choices;
-  QString current;  ///< keyword of the choice in force; null: none
+
+  /// Keyword of the choice in force; null: none.
+  QString current;
+
   bool isInPpd = true;
 };
 

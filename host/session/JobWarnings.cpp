@@ -93,7 +93,7 @@ QStringList jobWarnings(const Marks &marks, const TicketValues &ticket, const Jo
 }
 
 QStringList jobWarnings(const PrintSession &session, int pages) {
-  return jobWarnings(session.marks(), session.ticket().values(), session.jobSettings(), pages);
+  return jobWarnings(session.marks(), session.ticket().values(), session.job().settings(), pages);
 }
 
 }  // namespace orvek

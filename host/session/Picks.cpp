@@ -15,7 +15,11 @@ std::optional<Resolution> Picks::pick(const QString &option, const QString &choi
   if (!wanted) return std::nullopt;
   Step step{m_marks.snapshot(), {}};
   const Resolution resolution = markAndResolve(m_marks, *wanted);
-  if (resolution.marked) record(*wanted, &step);
+  if (resolution.marked) {
+    record(*wanted, &step);
+  } else {
+    giveUp(*wanted, &step);
+  }
   for (const ChoiceChange &change : resolution.changes) {
     record({change.option, change.newChoice}, &step);
   }
@@ -29,6 +33,20 @@ void Picks::record(const OptionChoice &choice, Step *step) {
   if (old == recorded && old.metaType() == recorded.metaType()) return;
   step->ticket.insert(choice.option, old);
   m_ticket->setValue(choice.option, recorded);
+}
+
+// It may have been marked before, against the constraints: what is said not to be set must not go
+// into the job.
+void Picks::giveUp(const OptionChoice &choice, Step *step) {
+  if (m_marks.marked(choice.option) != choice.choice) return;
+  const ppd_option_t *option = ppdFindOption(m_marks.ppd(), choice.option.toUtf8().constData());
+  const auto standard = m_marks.spelled(choice.option, QString::fromUtf8(option->defchoice));
+  if (!standard || standard == choice || !conflictsOf(m_marks, *standard).isEmpty()) return;
+  m_marks.mark(standard->option, standard->choice);
+  const QVariant recorded = m_ticket->value(choice.option);
+  if (!recorded.isValid()) return;
+  step->ticket.insert(choice.option, recorded);
+  m_ticket->setValue(choice.option, QVariant());
 }
 
 void Picks::keep(Step step) {

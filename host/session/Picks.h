@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // Picks with all that they bring: marks, constraints, the ticket's record, and the step back.
-// The one place where a choice gets marked and recorded.
+// The one place where a choice that is picked gets marked and recorded.
 #pragma once
 
 #include <QMap>
@@ -16,7 +16,8 @@
 
 namespace orvek {
 
-/// Works on the marks of a borrowed PPD (may be null: no choice is known then) and on a ticket.
+/// Works on the marks of a borrowed PPD (may be null: no choice is known then) and on a ticket that
+/// it shares. Belongs to the interface's thread. What fails is a value: a pick that was undone.
 class Picks {
  public:
   Picks(ppd_file_t *ppd, std::shared_ptr<Ticket> ticket);
@@ -26,8 +27,9 @@ class Picks {
   Ticket &ticket() const { return *m_ticket; }
 
   /// Marks the choice, resolves its conflicts, and records it and whatever gave way in the ticket,
-  /// each under its option's keyword. An undone pick leaves marks and ticket as they were. Nothing
-  /// where the choice is empty or the PPD lacks it: nothing is marked or recorded then.
+  /// each under its option's keyword. An undone pick leaves marks and ticket as they were, unless
+  /// the choice was marked already: then its option goes back to its default and leaves the ticket.
+  /// Nothing where the choice is empty or the PPD lacks it: nothing is marked or recorded then.
   std::optional<Resolution> pick(const QString &option, const QString &choice);
 
   /// What is picked from here on belongs to another step.
@@ -43,10 +45,12 @@ class Picks {
  private:
   struct Step {
     MarksSnapshot marks;
-    QMap<QString, QVariant> ticket;  // values before; invalid: the key was absent
+    // Values before; invalid: the key was absent.
+    QMap<QString, QVariant> ticket;
   };
 
   void record(const OptionChoice &choice, Step *step);
+  void giveUp(const OptionChoice &choice, Step *step);
   void keep(Step step);
 
   Marks m_marks;

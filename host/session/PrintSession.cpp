@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// The session's setting up, its actions and what they lead to.
+// The session's setting up, its picks and what they lead to.
 
 #include "host/session/PrintSession.h"
 
@@ -7,80 +7,51 @@
 #include <utility>
 
 #include "host/ppd/Wording.h"
-#include "host/ticket/BookletSettings.h"
-#include "host/ticket/ServerWords.h"
-#include "platform/system/Log.h"
+#include "host/session/FirstMarks.h"
 
 namespace orvek {
-namespace {
-
-Failure unknownMark(const Marks &marks, const OptionChoice &mark) {
-  const QString what = QStringLiteral("--mark %1=%2").arg(mark.option, mark.choice);
-  const bool optionIsKnown =
-      ppdFindOption(marks.ppd(), mark.option.toUtf8().constData()) != nullptr;
-  return {FailureKind::Usage, what,
-          optionIsKnown ? QStringLiteral("the PPD's option %1 has no such choice").arg(mark.option)
-                        : QStringLiteral("the PPD has no such option")};
-}
-
-}  // namespace
 
 Result<std::unique_ptr<PrintSession>> PrintSession::begin(const SessionSetup &setup) {
   std::unique_ptr<PrintSession> session(new PrintSession(setup));
-  if (const Status marked = session->markAll(setup); !marked) return marked.failure();
+  if (const Status marked = session->markFirst(); !marked) return marked.failure();
   return session;
 }
 
 PrintSession::PrintSession(const SessionSetup &setup)
-    : m_printer(setup.printer),
-      m_destination(setup.destination),
+    : m_origin(setup),
       m_ticket(std::make_shared<Ticket>()),
-      m_picks(m_printer ? m_printer->ppd() : nullptr, m_ticket),
-      m_queueOptions(setup.queueOptions),
-      m_offers(setup.offers),
-      m_panelsMayResize(setup.panelsMayResize) {
-  setLogListener([this](const QString &line) {
-    if (!m_isLearning) m_log << line;
-  });
+      m_picks(m_origin.printer ? m_origin.printer->ppd() : nullptr, m_ticket),
+      m_job(*this),
+      m_action(*this),
+      m_panels(*this, {m_picks.marks().ppd(), &m_handle, m_ticket}, setup.panelsMayResize) {
   for (auto entry = setup.ticket.begin(); entry != setup.ticket.end(); ++entry) {
     m_ticket->setValue(entry.key(), entry.value());
   }
-  m_ticket->setChangeListener([this](const QString &) { endSoon(); });
 }
 
 PrintSession::~PrintSession() {
   m_ticket->setChangeListener({});
-  closePanels();
-  m_plugins.clear();
-  setLogListener({});
+  m_panels.close();
 }
 
-Status PrintSession::markAll(const SessionSetup &setup) {
-  Marks &marks = m_picks.marks();
-  marks.markDefaults();
-  markQueueOptions();
-  const TicketValues values = m_ticket->values();
-  // A choice by its own name counts before a word that speaks of the same.
-  for (const OptionChoice &meant : ServerWords::of(marks, {}, values).choices()) {
-    marks.mark(meant.option, meant.choice);
-  }
-  for (auto entry = values.begin(); entry != values.end(); ++entry) {
-    marks.mark(entry.key(), textReading(entry.value()));
-  }
-  for (const OptionChoice &mark : setup.marks) {
-    if (!marks.mark(mark.option, mark.choice)) return unknownMark(marks, mark);
-  }
+Status PrintSession::markFirst() {
+  const Result<QList<Resolution>> settled = orvek::markFirst(marks(), *m_ticket, m_origin);
+  if (!settled) return settled.failure();
+  for (const Resolution &resolution : settled.value()) notice(resolution);
+  // What the queue's words stand for is as good as said: whoever asks what the queue would do by
+  // itself finds it by the PPD's name.
+  m_origin.queueOptions = withMeanings(marks(), m_origin.queueOptions);
+  m_ticket->setChangeListener([this](const QString &) { m_action.noteChange(); });
   return {};
 }
 
-void PrintSession::addPlugin(std::shared_ptr<LoadedPlugin> plugin) {
-  m_plugins.push_back(std::move(plugin));
-}
-
-void PrintSession::openPanels() {
+void PrintSession::openPanels(PluginList plugins) {
   const bool isUntouched = !hasOtherTicketKeys();
-  perform([this] { makePanels(); });
-  if (isUntouched) m_defaultSummary = summary();
+  {
+    const ActionScope action(*this);
+    m_panels.open(std::move(plugins));
+  }
+  if (isUntouched) m_defaultSummary.know(m_panels.summary());
 }
 
 // Keys of the PPD are choices, and a choice is compared with the PPD's own default.
@@ -92,91 +63,35 @@ bool PrintSession::hasOtherTicketKeys() const {
 }
 
 void PrintSession::learnDefaultSummary() {
-  if (m_defaultSummary) return;
-  m_isLearning = true;
-  m_defaultSummary = orvek::defaultSummary(m_plugins, m_picks.marks(), m_panelsMayResize);
-  m_isLearning = false;
-}
-
-void PrintSession::reopenPanels() {
-  perform([this] {
-    closePanels();
-    makePanels();
-  });
-}
-
-void PrintSession::makePanels() {
-  // Panels show what a PPD has; without one theirs would be empty pages.
-  if (!m_printer) return;
-  const QVariant type(QString::fromLatin1(printDialogPanelType));
-  for (const auto &plugin : m_plugins) {
-    const PanelLoan loan{m_picks.marks().ppd(), &m_handle, m_ticket};
-    m_callbacks.push_back(PluginCallback::make(this, loan, m_panelsMayResize));
-    for (const auto &panel :
-         plugin->factory->PDEPanelsForType_withHostInfo(type, m_callbacks.back())) {
-      if (!panel) continue;
-      m_panels.emplace_back(std::make_unique<HostedPanel>(panel))->start();
-    }
-  }
-}
-
-void PrintSession::closePanels() {
-  m_panels.clear();
-  for (const auto &callback : m_callbacks) callback->detach();
-  m_callbacks.clear();
-}
-
-void PrintSession::perform(const std::function<void()> &action) {
-  if (m_actionDepth == 0) {
-    // An act of the window that still waits for its end is over by now.
-    if (m_endIsPending) endAction();
-    m_picks.beginStep();
-  }
-  ++m_actionDepth;
-  action();
-  if (--m_actionDepth == 0) endAction();
+  if (m_defaultSummary.lines()) return;
+  const SessionRecord::Pause pause(m_record);
+  m_defaultSummary.learn(m_panels, marks());
 }
 
 bool PrintSession::pick(const QString &option, const QString &choice) {
-  bool marked = false;
-  perform([&] {
-    marked = apply(option, choice);
-    if (marked) m_changedOptions << option;
-  });
+  const ActionScope action(*this);
+  const bool marked = apply(option, choice);
+  if (marked) m_changedOptions << option;
   return marked;
 }
 
-void PrintSession::setPagesPerSheet(int pages) {
-  perform([&] { m_ticket->setValue(layoutKey, pages); });
-}
-
-int PrintSession::pagesPerSheet() const {
-  return integerReading(m_ticket->value(layoutKey));
-}
-
 void PrintSession::undo() {
-  perform([this] { m_changedOptions << m_picks.undo(); });
-}
-
-SummaryText PrintSession::summary() const {
-  return summaryOf(m_panels);
+  const ActionScope action(*this);
+  m_changedOptions << m_picks.undo();
 }
 
 bool PrintSession::choiceAnnounced(const QString &option, const QString &choice) {
-  m_announced.append({option, choice.isEmpty() ? QString() : choice});
+  m_record.noteAnnouncement(option, choice);
   return apply(option, choice);
 }
 
 void PrintSession::panelResized() {
-  ++m_resizeCount;
-  for (const auto &hosted : m_panels) {
-    if (hosted->container() != nullptr) hosted->container()->makeRoom();
-  }
-  Q_EMIT panelViewResized();
+  m_record.noteResize();
+  m_panels.makeRoom();
 }
 
 bool PrintSession::apply(const QString &option, const QString &choice) {
-  endSoon();
+  m_action.noteChange();
   const std::optional<Resolution> resolution = m_picks.pick(option, choice);
   if (!resolution) return false;
   // Undone, the pick of a choice that was marked before has changed nothing.
@@ -188,7 +103,7 @@ bool PrintSession::apply(const QString &option, const QString &choice) {
 }
 
 void PrintSession::notice(const Resolution &resolution) {
-  QStringList words = wordsFor(m_picks.marks().ppd(), resolution);
+  QStringList words = wordsFor(marks().ppd(), resolution);
   // A restore may run into the same refusal again; it was said.
   words.removeIf([this](const QString &sentence) { return m_actionNotices.contains(sentence); });
   if (words.isEmpty()) return;
@@ -197,38 +112,21 @@ void PrintSession::notice(const Resolution &resolution) {
   Q_EMIT noticed(words);
 }
 
-// A user's act on a control of the window begins without anyone telling the session, and has ended
-// when control is back at the event loop.
-void PrintSession::endSoon() {
-  if (m_actionDepth > 0 || m_endIsPending) return;
-  m_endIsPending = true;
+void PrintSession::actionBegins() {
   m_picks.beginStep();
-  QMetaObject::invokeMethod(
-      this,
-      [this] {
-        if (m_endIsPending) endAction();
-      },
-      Qt::QueuedConnection);
 }
 
-void PrintSession::endAction() {
-  settle();
-  m_endIsPending = false;
-  m_actionNotices.clear();
-  Q_EMIT changed();
-}
-
-void PrintSession::settle() {
+void PrintSession::actionSettles() {
   const QStringList changedOptions = std::exchange(m_changedOptions, {});
   if (changedOptions.isEmpty()) return;
-  // Counts as part of the action: what panels announce now belongs to its step.
-  ++m_actionDepth;
-  for (const auto &hosted : m_panels) {
-    if (hosted->claimsAny(changedOptions)) hosted->panel().restoreValuesAndReturnError(nullptr);
-  }
-  --m_actionDepth;
+  m_panels.restoreClaiming(changedOptions);
   // Once is enough: a panel that was told twice would be told for ever.
   m_changedOptions.clear();
+}
+
+void PrintSession::actionEnded() {
+  m_actionNotices.clear();
+  Q_EMIT changed();
 }
 
 }  // namespace orvek

@@ -3,14 +3,15 @@
 #pragma once
 
 #include "host/printers/CupsConnection.h"
-#include "host/session/PrintSession.h"
+#include "host/session/SessionSetup.h"
 
 namespace orvek {
 
-/// Fills in the printer, the options saved for the queue and its user, and the destination.
-/// `destination` is "NAME" or "NAME/INSTANCE"; empty, it is the default. A queue without PPD gives
-/// a setup without printer, with what the queue offers over IPP. The rest of the setup stays. Fails
-/// where there is no such queue or no server that answers, and where the queue's PPD is invalid.
+/// Blocks while it asks the server; may be called on any thread. Fills in the printer, the options
+/// saved for the queue and its user, and the destination. `destination` is "NAME" or
+/// "NAME/INSTANCE"; empty, it is the default. A queue without PPD gives a setup without printer,
+/// with what the queue offers over IPP. The rest of the setup stays. Fails where there is no such
+/// queue or no server that answers, and where the queue's PPD is invalid.
 Status setUpForQueue(const ServerAccess &access, const QString &destination, SessionSetup *setup);
 
 }  // namespace orvek

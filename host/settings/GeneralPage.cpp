@@ -107,7 +107,7 @@ void GeneralPage::addLayoutRows() {
   });
   connect(m_pagesPerSheet, &QComboBox::activated, this, [this](int row) {
     const int pages = m_pagesPerSheet->itemData(row).toInt();
-    m_session.setPagesPerSheet(pages > 1 ? pages : 0);
+    m_session.job().setPagesPerSheet(pages > 1 ? pages : 0);
   });
 }
 
@@ -210,9 +210,9 @@ void GeneralPage::pickCustomPaper(const Setting &setting) {
 }
 
 void GeneralPage::changeJob(const std::function<void(JobSettings *)> &change) {
-  JobSettings job = m_session.jobSettings();
+  JobSettings job = m_session.job().settings();
   change(&job);
-  m_session.setJobSettings(job);
+  m_session.job().setSettings(job);
 }
 
 }  // namespace orvek

@@ -25,8 +25,8 @@ std::optional<CustomPaper> customPaperOf(const PrintSession &session,
 
 GeneralState generalState(const PrintSession &session) {
   GeneralState state;
-  state.job = session.jobSettings();
-  state.pagesPerSheet = std::max(1, session.pagesPerSheet());
+  state.job = session.job().settings();
+  state.pagesPerSheet = std::max(1, session.job().pagesPerSheet());
   for (const CommonSetting setting :
        {CommonSetting::PaperSize, CommonSetting::PaperSource, CommonSetting::PaperType,
         CommonSetting::Sides, CommonSetting::Color, CommonSetting::Quality}) {

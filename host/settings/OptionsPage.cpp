@@ -26,7 +26,7 @@ constexpr int gap = 8;
 
 QList<OptionGroup> groupsFor(const PrintSession &session, const QStringList &claimedKeys) {
   return optionGroups(session.marks().ppd(), claimedKeys + commonOptions(session),
-                      session.queueOptions());
+                      session.origin().queueOptions);
 }
 
 }  // namespace
@@ -155,12 +155,11 @@ void OptionsPage::setBack() {
 }
 
 void OptionsPage::setAllBack() {
-  m_session.perform([this] {
-    const QList<OptionChoice> changed = m_model->changed();
-    for (const OptionChoice &option : changed) {
-      m_session.pick(option.option, option.choice);
-    }
-  });
+  const ActionScope action(m_session);
+  const QList<OptionChoice> changed = m_model->changed();
+  for (const OptionChoice &option : changed) {
+    m_session.pick(option.option, option.choice);
+  }
 }
 
 }  // namespace orvek

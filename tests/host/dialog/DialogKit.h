@@ -56,8 +56,7 @@ class DialogTest : public ::testing::Test {
     if (!begun) return begun;
     auto plugin = loadPlugin(QStringLiteral(ORVEK_BUNDLE_DIR));
     if (!plugin) return plugin.failure();
-    begun.value()->addPlugin(std::make_shared<LoadedPlugin>(plugin.take()));
-    begun.value()->openPanels();
+    begun.value()->openPanels({std::make_shared<LoadedPlugin>(plugin.take())});
     return begun;
   }
 
@@ -66,7 +65,7 @@ class DialogTest : public ::testing::Test {
     dialogSetup.documentName = QStringLiteral("Finishing-Sample.pdf");
     dialogSetup.document.pages = 8;
     dialogSetup.outputFile = outputFile;
-    dialogSetup.jobRequest = [this](const PrintSession &now) { return requestFor(now); };
+    dialogSetup.jobRequest = [this](PrintSession &now) { return requestFor(now); };
     if (prepare) prepare(dialogSetup);
     dialog = std::make_unique<PrintDialog>(*session, std::move(dialogSetup));
     dialog->show();
@@ -74,10 +73,10 @@ class DialogTest : public ::testing::Test {
     ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog.get()));
   }
 
-  JobRequest requestFor(const PrintSession &now) const {
+  JobRequest requestFor(PrintSession &now) const {
     JobRequest request;
     request.files = files;
-    request.options = now.jobOptions();
+    request.options = now.job().options();
     if (now.printer()) request.ppdFile = now.printer()->path();
     return request;
   }

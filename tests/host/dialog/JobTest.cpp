@@ -42,7 +42,7 @@ class WindowJob : public DialogTest {
     JobSettings settings;
     settings.copies = 3;
     settings.collate = false;
-    session->setJobSettings(settings);
+    session->job().setSettings(settings);
     clickItem("staplingPopup", QStringLiteral("Two staples"));
   }
 

@@ -27,7 +27,7 @@ class WindowPassword : public DialogTest {
     server = std::make_unique<FrontServer>(*cups, Guarded::Everything);
     prepare = [this](DialogSetup &setup) {
       setup.destination = queue;
-      setup.jobRequest = [this](const PrintSession &now) {
+      setup.jobRequest = [this](PrintSession &now) {
         JobRequest request = requestFor(now);
         request.user = QStringLiteral("anna");
         request.server = server->hostAndPort();

@@ -143,11 +143,11 @@ TEST_F(PrinterChoice, TakesAlongWhatFitsAndSaysWhatDoesNot) {
   list();
   JobSettings settings;
   settings.copies = 3;
-  session->setJobSettings(settings);
+  session->job().setSettings(settings);
   clickItem("foldingPopup", QStringLiteral("Saddle fold"));
   pickPrinter(QStringLiteral("small"));
   ASSERT_NE(&dialog->session(), session.get());
-  EXPECT_EQ(dialog->session().jobSettings().copies, 3);
+  EXPECT_EQ(dialog->session().job().settings().copies, 3);
   EXPECT_EQ(dialog->session().marks().marked(QStringLiteral("OVKFolding")), QString());
   EXPECT_TRUE(notices().isVisible());
   EXPECT_GE(notices().sentences().size(), 2);

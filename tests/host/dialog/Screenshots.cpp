@@ -40,9 +40,8 @@ std::unique_ptr<PrintSession> openSession(const QString &ppd) {
   SessionSetup setup;
   setup.printer = PrinterDescription::open(ppd).take();
   auto session = PrintSession::begin(std::move(setup)).take();
-  session->addPlugin(
-      std::make_shared<LoadedPlugin>(loadPlugin(QStringLiteral(ORVEK_BUNDLE_DIR)).take()));
-  session->openPanels();
+  session->openPanels(
+      {std::make_shared<LoadedPlugin>(loadPlugin(QStringLiteral(ORVEK_BUNDLE_DIR)).take())});
   return session;
 }
 
@@ -61,7 +60,7 @@ class Shot {
     setup.askPrinter = [server](const QString &queue, const std::atomic<bool> &cancelled) {
       return ask(server, queue, cancelled);
     };
-    setup.jobRequest = [this](const PrintSession &now) { return request(now); };
+    setup.jobRequest = [this](PrintSession &now) { return request(now); };
     m_dialog = std::make_unique<PrintDialog>(*m_session, std::move(setup));
     m_dialog->show();
     QTest::qWait(settleTime);
@@ -209,10 +208,10 @@ class Shot {
                                                   : QStringLiteral("OVKStapling");
   }
 
-  JobRequest request(const PrintSession &now) const {
+  JobRequest request(PrintSession &now) const {
     JobRequest request;
     request.files = QStringList{source + "/samples/Finishing-Sample.pdf"};
-    request.options = now.jobOptions();
+    request.options = now.job().options();
     request.ppdFile = now.printer()->path();
     return request;
   }

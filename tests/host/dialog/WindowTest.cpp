@@ -56,9 +56,9 @@ TEST_F(Window, StaysOpenAndSaysWhyAJobFailed) {
 
 TEST_F(Window, GivesThePanelBackWhenItGoes) {
   open();
-  PanelContainer *container = session->panels().front()->container();
+  PanelContainer *container = session->panels().first()->container();
   dialog.reset();
-  ASSERT_EQ(session->panels().front()->container(), container);
+  ASSERT_EQ(session->panels().first()->container(), container);
   EXPECT_EQ(container->parentWidget(), nullptr);
   showWindow();
   EXPECT_NE(find<QWidget>("pdeView"), nullptr);

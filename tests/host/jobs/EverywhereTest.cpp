@@ -83,8 +83,8 @@ class Everywhere : public ::testing::Test {
     JobRequest request;
     request.files = QStringList{sampleDocument};
     request.queue = queueName;
-    request.options = session->jobOptions();
-    request.overruled = session->overruledOptions();
+    request.options = session->job().options();
+    request.overruled = session->job().overruledOptions();
     JobControl control;
     const auto outcome = submitToQueue(request, control);
     EXPECT_TRUE(outcome) << (outcome ? "" : outcome.failure().line().toStdString());

@@ -38,7 +38,10 @@ class BookletPreviewTest : public testing::Test {
   }
 
   void write(const char *key, const QVariant &value) {
-    session->perform([&] { session->ticket().setValue(QString::fromLatin1(key), value); });
+    {
+      const ActionScope action(*session);
+      session->ticket().setValue(QString::fromLatin1(key), value);
+    }
     QCoreApplication::processEvents();
   }
 
@@ -110,7 +113,7 @@ TEST_F(BookletPreviewTest, SaysThatNoPageIsPrinted) {
   write("OVKEnableBooklet", "True");
   JobSettings job;
   job.pageRanges = QStringLiteral("20-30");
-  session->setJobSettings(job);
+  session->job().setSettings(job);
   EXPECT_EQ(caption(), "No page of the document is printed.");
   EXPECT_FALSE(sheets()->isVisible());
 }

@@ -37,7 +37,7 @@ TEST_F(PreviewStateTest, ImposesTheDocumentsPages) {
 TEST_F(PreviewStateTest, ImposesOnlyThePagesThatAreAskedFor) {
   JobSettings job;
   job.pageRanges = QStringLiteral("5-8");
-  session->setJobSettings(job);
+  session->job().setSettings(job);
   EXPECT_EQ(state(8).sheets, (QList<ImposedSheet>{{{8, 5}, {6, 7}, 0}}));
 }
 
@@ -50,7 +50,7 @@ TEST_F(PreviewStateTest, HasNoSheetsWithoutABooklet) {
   session->ticket().setValue("OVKEnableBooklet", "False");
   EXPECT_TRUE(state().sheets.isEmpty());
   session->ticket().setValue("OVKEnableBooklet", "True");
-  session->setPagesPerSheet(2);
+  session->job().setPagesPerSheet(2);
   EXPECT_TRUE(state().sheets.isEmpty());
 }
 

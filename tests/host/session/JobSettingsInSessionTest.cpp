@@ -28,36 +28,36 @@ TEST(JobSettings, TravelWithTheSessionAndTellThatTheyChanged) {
   JobSettings settings;
   settings.copies = 5;
   settings.collate = false;
-  session->setJobSettings(settings);
+  session->job().setSettings(settings);
   EXPECT_EQ(changed.size(), 1);
-  EXPECT_EQ(session->jobSettings(), settings);
-  EXPECT_EQ(session->jobOptions(), (Options{{"copies", "5"}, {"Collate", "False"}}));
+  EXPECT_EQ(session->job().settings(), settings);
+  EXPECT_EQ(session->job().options(), (Options{{"copies", "5"}, {"Collate", "False"}}));
 }
 
 TEST(JobSettings, PickThePrintersOwnOptionForCollation) {
   const auto session = sessionOn(orvek6180());
-  JobSettings settings = session->jobSettings();
+  JobSettings settings = session->job().settings();
   EXPECT_TRUE(settings.collate);
   settings.collate = false;
-  session->setJobSettings(settings);
+  session->job().setSettings(settings);
   EXPECT_EQ(session->marks().marked("Collate"), "False");
-  EXPECT_EQ(session->jobOptions(), (Options{{"Collate", "False"}}));
+  EXPECT_EQ(session->job().options(), (Options{{"Collate", "False"}}));
 }
 
 TEST(JobSettings, FollowThePrintersOwnOptionForCollation) {
   const auto session = sessionOn(orvek6180());
   session->pick("Collate", "False");
-  EXPECT_FALSE(session->jobSettings().collate);
+  EXPECT_FALSE(session->job().settings().collate);
   session->undo();
-  EXPECT_TRUE(session->jobSettings().collate);
+  EXPECT_TRUE(session->job().settings().collate);
 }
 
 TEST(JobSettings, BeginAsACommandLineAsks) {
   const auto session = sessionOn(orvek6180());
-  EXPECT_TRUE(session->takeJobOption("page-ranges", "2-4").value());
-  EXPECT_FALSE(session->takeJobOption("PageSize", "A4").value());
-  EXPECT_EQ(session->jobSettings().pageRanges, "2-4");
-  EXPECT_EQ(session->jobOptions(), (Options{{"page-ranges", "2-4"}}));
+  EXPECT_TRUE(session->job().take("page-ranges", "2-4").value());
+  EXPECT_FALSE(session->job().take("PageSize", "A4").value());
+  EXPECT_EQ(session->job().settings().pageRanges, "2-4");
+  EXPECT_EQ(session->job().options(), (Options{{"page-ranges", "2-4"}}));
 }
 
 }  // namespace

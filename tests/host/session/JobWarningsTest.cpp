@@ -25,10 +25,10 @@ class JobWarnings : public testing::Test {
   }
 
   void setCopies(int copies, bool collate) {
-    JobSettings settings = session->jobSettings();
+    JobSettings settings = session->job().settings();
     settings.copies = copies;
     settings.collate = collate;
-    session->setJobSettings(settings);
+    session->job().setSettings(settings);
   }
 
   std::unique_ptr<PrintSession> session;
@@ -75,7 +75,7 @@ TEST_F(JobWarnings, CountOnlyThePagesThatAreAskedFor) {
   session->ticket().setValue("OVKEnableBooklet", "True");
   JobSettings settings;
   settings.pageRanges = QStringLiteral("1-60");
-  session->setJobSettings(settings);
+  session->job().setSettings(settings);
   EXPECT_EQ(jobWarnings(*session, 400), QStringList());
 }
 
@@ -85,7 +85,7 @@ TEST_F(JobWarnings, CountTheSheetsOfASaddleFoldByTheLayout) {
   session->pick("Duplex", "DuplexTumble");
   EXPECT_EQ(jobWarnings(*session, 30), QStringList());
   EXPECT_EQ(jobWarnings(*session, 31).size(), 1);
-  session->setPagesPerSheet(2);
+  session->job().setPagesPerSheet(2);
   EXPECT_EQ(jobWarnings(*session, 31), QStringList());
 }
 
@@ -97,7 +97,7 @@ TEST_F(JobWarnings, DoNotJudgeADocumentOfUnknownLength) {
 TEST_F(JobWarnings, NameRangesThatCanNotBeRead) {
   JobSettings settings;
   settings.pageRangesProblem = QStringLiteral("3-x: not a page range");
-  session->setJobSettings(settings);
+  session->job().setSettings(settings);
   EXPECT_EQ(jobWarnings(*session, 8), QStringList{"3-x: not a page range"});
 }
 
@@ -120,7 +120,7 @@ TEST(JobWarningsWithoutPpd, KnowNoStaples) {
   JobSettings settings;
   settings.copies = 2;
   settings.collate = false;
-  session->setJobSettings(settings);
+  session->job().setSettings(settings);
   EXPECT_EQ(jobWarnings(*session, 8), QStringList());
 }
 

@@ -51,21 +51,22 @@ TEST(PrintSession, RefusesAGivenMarkThatThePpdLacks) {
 
 TEST(PrintSession, RecordsAnAnnouncedChoiceInMarkAndTicket) {
   RecordedSession recorded;
-  recorded.session->perform([&] {
+  recorded.act([&] {
     EXPECT_TRUE(recorded.panel()->host().willChangePPDOptionKeyValue_ppdChoice("OVKPunching", "2"));
   });
   EXPECT_EQ(recorded.marked("OVKPunching"), "2");
   EXPECT_EQ(recorded.inTicket("OVKPunching"), QVariant("2"));
-  EXPECT_EQ(recorded.session->announced().last(), (QPair<QString, QString>{"OVKPunching", "2"}));
+  EXPECT_EQ(recorded.session->record().announced().last(),
+            (QPair<QString, QString>{"OVKPunching", "2"}));
 }
 
 TEST(PrintSession, CountsAnEmptyAnnouncementAndMarksNothing) {
   RecordedSession recorded;
   const MarksSnapshot before = recorded.session->marks().snapshot();
-  const auto count = recorded.session->announced().size();
+  const auto count = recorded.session->record().announced().size();
   EXPECT_FALSE(recorded.panel()->host().willChangePPDOptionKeyValue_ppdChoice("OVKPunching", ""));
-  EXPECT_EQ(recorded.session->announced().size(), count + 1);
-  EXPECT_TRUE(recorded.session->announced().last().second.isNull());
+  EXPECT_EQ(recorded.session->record().announced().size(), count + 1);
+  EXPECT_TRUE(recorded.session->record().announced().last().second.isNull());
   EXPECT_EQ(recorded.session->marks().snapshot(), before);
 }
 
@@ -73,7 +74,7 @@ TEST(PrintSession, HasAPanelRestoreOnceAfterConstraintsChangedItsOption) {
   RecordedSession recorded;
   recorded.session->pick("OVKStapling", "Front");
   const auto before = restores(recorded);
-  recorded.session->perform([&] {
+  recorded.act([&] {
     recorded.panel()->host().willChangePPDOptionKeyValue_ppdChoice("OVKFolding", "Saddle");
     EXPECT_EQ(restores(recorded), before) << "never from inside the panel's own call";
   });
@@ -85,7 +86,7 @@ TEST(PrintSession, HasAPanelRestoreOnceAfterConstraintsChangedItsOption) {
 TEST(PrintSession, DoesNotDisturbAPanelWhoseOptionsStayed) {
   RecordedSession recorded;
   const auto before = restores(recorded);
-  recorded.session->perform([&] {
+  recorded.act([&] {
     recorded.panel()->host().willChangePPDOptionKeyValue_ppdChoice("OVKFolding", "Saddle");
     recorded.panel()->host().willChangePPDOptionKeyValue_ppdChoice("OVKPunching", "2");
   });
@@ -97,7 +98,7 @@ TEST(PrintSession, HasAPanelRestoreAfterItsPickWasUndone) {
   setup.marks = {{"OVKOptionFinisher", "False"}};
   RecordedSession recorded(setup);
   const auto before = restores(recorded);
-  recorded.session->perform([&] {
+  recorded.act([&] {
     EXPECT_FALSE(
         recorded.panel()->host().willChangePPDOptionKeyValue_ppdChoice("OVKStapling", "Front"));
   });
@@ -106,29 +107,51 @@ TEST(PrintSession, HasAPanelRestoreAfterItsPickWasUndone) {
   EXPECT_FALSE(recorded.inTicket("OVKStapling").isValid());
 }
 
-TEST(PrintSession, RestoresOnceAfterTheStartWhenTheTicketContradictsItself) {
+TEST(PrintSession, RestoresOnceAfterTheStartWhenTheTicketContradictsAGivenMark) {
   SessionSetup setup;
-  setup.ticket = {{"OVKStapling", "Front"}, {"OVKFolding", "Saddle"}};
+  setup.ticket = {{"OVKFolding", "Saddle"}};
+  setup.marks = {{"OVKStapling", "Front"}, {"OVKFolding", "None"}};
   const RecordedSession recorded(setup);
   EXPECT_EQ(restores(recorded), 2);
   EXPECT_EQ(recorded.calls().mid(5), (QStringList{"restore", "willShow", "restore"}));
   EXPECT_TRUE(recorded.session->marks().conflicts().isEmpty());
 }
 
-TEST(PrintSession, DoesNotRestoreForAnUndonePickThatWasMarkedBefore) {
+TEST(PrintSession, SettlesATicketThatContradictsItselfBeforePanelsSeeIt) {
+  SessionSetup setup;
+  setup.ticket = {{"OVKStapling", "Front"}, {"OVKFolding", "Saddle"}};
+  const RecordedSession recorded(setup);
+  EXPECT_EQ(restores(recorded), 1);
+  EXPECT_TRUE(recorded.session->marks().conflicts().isEmpty());
+  EXPECT_EQ(recorded.session->notices().size(), 1);
+}
+
+TEST(PrintSession, DropsWhatTheTicketAsksOfMissingEquipmentBeforePanelsSeeIt) {
   SessionSetup setup;
   setup.marks = {{"OVKOptionFinisher", "False"}};
   setup.ticket = {{"OVKStapling", "Front"}};
   const RecordedSession recorded(setup);
-  EXPECT_EQ(recorded.marked("OVKStapling"), "Front");
+  EXPECT_EQ(recorded.marked("OVKStapling"), "None");
+  EXPECT_FALSE(recorded.inTicket("OVKStapling").isValid());
+  EXPECT_EQ(recorded.session->notices().size(), 1);
   EXPECT_EQ(restores(recorded), 1);
+}
+
+TEST(PrintSession, UndoesAPickThatWasMarkedAgainstTheEquipmentInMarkToo) {
+  SessionSetup setup;
+  setup.marks = {{"OVKOptionFinisher", "False"}, {"OVKStapling", "Front"}};
+  const RecordedSession recorded(setup);
+  EXPECT_FALSE(recorded.session->pick("OVKStapling", "Front"));
+  EXPECT_EQ(recorded.marked("OVKStapling"), "None");
+  EXPECT_TRUE(recorded.session->marks().conflicts().isEmpty());
+  EXPECT_FALSE(recorded.session->job().options().contains("OVKStapling"));
 }
 
 TEST(PrintSession, SaysTheSameRefusalOnlyOnceAnAction) {
   SessionSetup setup;
   setup.marks = {{"OVKOptionFinisher", "False"}};
   const RecordedSession recorded(setup);
-  recorded.session->perform([&] {
+  recorded.act([&] {
     recorded.panel()->host().willChangePPDOptionKeyValue_ppdChoice("OVKStapling", "Front");
     recorded.panel()->host().willChangePPDOptionKeyValue_ppdChoice("OVKStapling", "Front");
   });
@@ -148,7 +171,7 @@ TEST(PrintSession, TellsViewsInWordsWhatConstraintsDid) {
 TEST(PrintSession, TakesAnActionBackInOneStepAndShowsIt) {
   RecordedSession recorded;
   recorded.session->pick("OVKStapling", "Front");
-  recorded.session->perform([&] {
+  recorded.act([&] {
     recorded.panel()->host().willChangePPDOptionKeyValue_ppdChoice("OVKFolding", "Saddle");
   });
   const auto before = restores(recorded);
@@ -187,9 +210,9 @@ TEST(PrintSession, TellsViewsWhenTheTicketChanged) {
 TEST(PrintSession, MakesRoomForAPanelThatGrows) {
   RecordedSession recorded;
   recorded.panel()->resizeTo(320, 240);
-  EXPECT_EQ(recorded.session->resizeCount(), 1);
-  EXPECT_EQ(recorded.session->panels().front()->container()->size(), QSize(320, 240));
-  EXPECT_EQ(recorded.session->panels().front()->view()->pos(), QPoint(0, 0));
+  EXPECT_EQ(recorded.session->record().resizeCount(), 1);
+  EXPECT_EQ(recorded.session->panels().first()->container()->size(), QSize(320, 240));
+  EXPECT_EQ(recorded.session->panels().first()->view()->pos(), QPoint(0, 0));
 }
 
 TEST(PrintSession, IsAHostWithoutResizingWhereAskedTo) {
@@ -204,13 +227,13 @@ TEST(PrintSession, MakesPanelsAgainOnTheSamePpdAndTicketAndGoesOnCounting) {
   RecordedSession recorded;
   recorded.session->pick("OVKFolding", "Saddle");
   recorded.plugin->calls->clear();
-  const auto announced = recorded.session->announced().size();
-  recorded.session->reopenPanels();
+  const auto announced = recorded.session->record().announced().size();
+  recorded.act([&] { recorded.session->panels().reopen(); });
   EXPECT_EQ(recorded.calls(),
             (QStringList{"destroyed", "made", "panelView", "panelName", "panelKind",
                          "supportedPPDOptionKeys", "restore", "willShow"}));
   EXPECT_EQ(recorded.marked("OVKFolding"), "Saddle");
-  EXPECT_EQ(recorded.session->announced().size(), announced + 2);
+  EXPECT_EQ(recorded.session->record().announced().size(), announced + 2);
 }
 
 TEST(PrintSession, LeavesAnInertCallbackToAPanelThatOutlivesIt) {
@@ -230,23 +253,33 @@ TEST(PrintSession, LeavesAnInertCallbackToAPanelThatOutlivesIt) {
 TEST(PrintSession, WritesTheLayoutAsANumber) {
   RecordedSession recorded;
   const auto shows = recorded.calls().count("willShow");
-  recorded.session->setPagesPerSheet(4);
+  recorded.session->job().setPagesPerSheet(4);
   const QVariant value = recorded.inTicket("com.apple.print.PrintSettings.PMLayoutNUp");
   EXPECT_EQ(value.metaType().id(), QMetaType::Int);
-  EXPECT_EQ(recorded.session->pagesPerSheet(), 4);
+  EXPECT_EQ(recorded.session->job().pagesPerSheet(), 4);
   EXPECT_EQ(recorded.calls().count("willShow"), shows);
 }
 
 TEST(PrintSession, KeepsEveryLineOfTheLogAsItWasGiven) {
   const RecordedSession recorded;
   logLine(QStringLiteral("100% sure\n"));
-  EXPECT_EQ(recorded.session->log(), QStringList{"100% sure\n"});
+  EXPECT_EQ(recorded.session->record().log(), QStringList{"100% sure\n"});
+}
+
+TEST(PrintSession, HearsTheLogThroughTwoChangesOfPrinter) {
+  const auto first = PrintSession::begin({}).take();
+  auto second = PrintSession::begin({}).take();
+  const auto third = PrintSession::begin({}).take();
+  second.reset();
+  logLine(QStringLiteral("still heard"));
+  EXPECT_EQ(third->record().log(), QStringList{"still heard"});
+  EXPECT_EQ(first->record().log(), QStringList{"still heard"});
 }
 
 TEST(PrintSession, KnowsTheDefaultSummaryFromItsOwnPanelsWhereTheTicketIsEmpty) {
   const RecordedSession recorded;
   ASSERT_TRUE(recorded.session->defaultSummary());
-  EXPECT_EQ(*recorded.session->defaultSummary(), recorded.session->summary());
+  EXPECT_EQ(*recorded.session->defaultSummary(), recorded.session->panels().summary());
 }
 
 TEST(PrintSession, LearnsTheDefaultSummaryFromPanelsThatLeaveNoTrace) {
@@ -257,22 +290,22 @@ TEST(PrintSession, LearnsTheDefaultSummaryFromPanelsThatLeaveNoTrace) {
   ASSERT_FALSE(session.defaultSummary());
   const MarksSnapshot marks = session.marks().snapshot();
   const TicketValues ticket = session.ticket().values();
-  const auto announced = session.announced();
+  const auto announced = session.record().announced();
   session.learnDefaultSummary();
   ASSERT_TRUE(session.defaultSummary());
   const SummaryText unfolded{{"Folding", "None"}};
   EXPECT_EQ(*session.defaultSummary(), unfolded);
   EXPECT_EQ(session.marks().snapshot(), marks);
   EXPECT_EQ(session.ticket().values(), ticket);
-  EXPECT_EQ(session.announced(), announced);
+  EXPECT_EQ(session.record().announced(), announced);
 }
 
 TEST(PrintSession, LivesWithoutAPpd) {
   const auto session = PrintSession::begin(SessionSetup{}).take();
-  session->openPanels();
+  session->openPanels({});
   EXPECT_FALSE(session->pick("OVKFolding", "Saddle"));
-  EXPECT_TRUE(session->jobOptions().isEmpty());
-  EXPECT_TRUE(session->summary().isEmpty());
+  EXPECT_TRUE(session->job().options().isEmpty());
+  EXPECT_TRUE(session->panels().summary().isEmpty());
 }
 
 TEST(CustomValues, TravelWithAJobAndComeBackOnUndo) {
@@ -281,7 +314,7 @@ TEST(CustomValues, TravelWithAJobAndComeBackOnUndo) {
   const auto session = PrintSession::begin(setup).take();
   session->pick("Gamma", "Custom.1.5");
   session->pick("Gamma", "Custom.2");
-  EXPECT_EQ(session->jobOptions().value("Gamma"), "Custom.2");
+  EXPECT_EQ(session->job().options().value("Gamma"), "Custom.2");
   session->undo();
   EXPECT_EQ(session->marks().marked("Gamma"), "Custom.1.5");
 }

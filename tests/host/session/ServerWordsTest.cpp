@@ -27,7 +27,7 @@ class Words : public testing::Test {
 
   void ask(const OptionChoice &word, const QList<OptionChoice> &beside = {}) {
     session->ticket().setValue(word.option, word.choice);
-    session->pickWord(word, beside.isEmpty() ? QList<OptionChoice>{word} : beside);
+    session->job().pickWord(word, beside.isEmpty() ? QList<OptionChoice>{word} : beside);
   }
 
   QString marked(const char *option) { return session->marks().marked(option); }
@@ -51,7 +51,7 @@ TEST_F(Words, GoIntoTheJobAsTheyWereWritten) {
   begin();
   ask({"sides", "two-sided-short-edge"});
   ask({"media", "A5,tray-2"});
-  EXPECT_EQ(session->jobOptions(),
+  EXPECT_EQ(session->job().options(),
             (Options{{"sides", "two-sided-short-edge"}, {"media", "A5,tray-2"}}));
 }
 
@@ -61,9 +61,9 @@ TEST_F(Words, GiveWayToWhatIsPickedLater) {
   ask({"media", "A5,tray-2"});
   session->pick("Duplex", "None");
   session->pick("PageSize", "A4");
-  EXPECT_EQ(session->jobOptions(),
+  EXPECT_EQ(session->job().options(),
             (Options{{"Duplex", "None"}, {"PageSize", "A4"}, {"InputSlot", "Tray2"}}));
-  EXPECT_FALSE(session->ticketToKeep().contains("media"));
+  EXPECT_FALSE(session->job().ticketToKeep().contains("media"));
 }
 
 TEST_F(Words, AreBackOnceTheyAreTrueAgain) {
@@ -71,15 +71,15 @@ TEST_F(Words, AreBackOnceTheyAreTrueAgain) {
   ask({"sides", "two-sided-short-edge"});
   session->pick("Duplex", "None");
   session->undo();
-  EXPECT_EQ(session->jobOptions(), (Options{{"sides", "two-sided-short-edge"}}));
+  EXPECT_EQ(session->job().options(), (Options{{"sides", "two-sided-short-edge"}}));
 }
 
 TEST_F(Words, ThatAskForTheDefaultGiveWayAsWell) {
   begin();
   ask({"sides", "one-sided"});
-  EXPECT_EQ(session->jobOptions(), (Options{{"sides", "one-sided"}}));
+  EXPECT_EQ(session->job().options(), (Options{{"sides", "one-sided"}}));
   session->pick("Duplex", "DuplexTumble");
-  EXPECT_EQ(session->jobOptions(), (Options{{"Duplex", "DuplexTumble"}}));
+  EXPECT_EQ(session->job().options(), (Options{{"Duplex", "DuplexTumble"}}));
 }
 
 TEST_F(Words, ResolveConflictsAsAPickDoes) {
@@ -100,7 +100,7 @@ TEST_F(Words, ThatStandForNothingMarkNothing) {
   ask({"sides", "three-sided"});
   ask({"media-source", "tray-2"});
   EXPECT_EQ(session->marks().snapshot(), before);
-  EXPECT_EQ(session->jobOptions(),
+  EXPECT_EQ(session->job().options(),
             (Options{{"media", "papyrus"}, {"sides", "three-sided"}, {"media-source", "tray-2"}}));
 }
 
@@ -119,48 +119,48 @@ TEST_F(Words, NameACustomSizeWithItsValue) {
   session = PrintSession::begin(setup).take();
   ask({"media", "Custom.300x400"});
   EXPECT_EQ(marked("PageSize"), "Custom.300x400");
-  EXPECT_EQ(session->jobOptions(), (Options{{"media", "Custom.300x400"}}));
+  EXPECT_EQ(session->job().options(), (Options{{"media", "Custom.300x400"}}));
 }
 
 TEST_F(Words, OfAQueueMarkAndGoAlong) {
   begin({{"sides", "two-sided-long-edge"}, {"print-color-mode", "monochrome"}});
   EXPECT_EQ(marked("Duplex"), "DuplexNoTumble");
   EXPECT_EQ(marked("ColorModel"), "Gray");
-  EXPECT_EQ(session->jobOptions(),
+  EXPECT_EQ(session->job().options(),
             (Options{{"sides", "two-sided-long-edge"}, {"print-color-mode", "monochrome"}}));
-  EXPECT_TRUE(session->overruledOptions().isEmpty());
+  EXPECT_TRUE(session->job().overruledOptions().isEmpty());
 }
 
 TEST_F(Words, OfAQueueStayBehindOnceSomethingElseIsPicked) {
   begin({{"sides", "two-sided-long-edge"}, {"print-color-mode", "monochrome"}});
   session->pick("Duplex", "None");
-  EXPECT_EQ(session->jobOptions(),
+  EXPECT_EQ(session->job().options(),
             (Options{{"Duplex", "None"}, {"print-color-mode", "monochrome"}}));
-  EXPECT_EQ(session->overruledOptions(), QStringList{"sides"});
+  EXPECT_EQ(session->job().overruledOptions(), QStringList{"sides"});
 }
 
 TEST_F(Words, OfAQueueLoseAgainstTheSameWordAskedFor) {
   begin({{"sides", "two-sided-long-edge"}});
   ask({"sides", "one-sided"});
   EXPECT_EQ(marked("Duplex"), "None");
-  EXPECT_EQ(session->jobOptions().value("sides"), "one-sided");
+  EXPECT_EQ(session->job().options().value("sides"), "one-sided");
 }
 
 TEST_F(Words, OfATicketMarkUnlessItNamesTheOptionToo) {
   begin({}, {{"sides", "two-sided-long-edge"}, {"media", "A4"}, {"PageSize", "Legal"}});
   EXPECT_EQ(marked("Duplex"), "DuplexNoTumble");
   EXPECT_EQ(marked("PageSize"), "Legal");
-  EXPECT_EQ(session->jobOptions(),
+  EXPECT_EQ(session->job().options(),
             (Options{{"sides", "two-sided-long-edge"}, {"PageSize", "Legal"}}));
 }
 
 TEST_F(Words, MeanCollationToAPrinterThatCollates) {
   begin();
   const OptionChoice word{"multiple-document-handling", "separate-documents-uncollated-copies"};
-  EXPECT_FALSE(session->takeJobOption(word.option, word.choice).value());
+  EXPECT_FALSE(session->job().take(word.option, word.choice).value());
   ask(word);
   EXPECT_EQ(marked("Collate"), "False");
-  EXPECT_EQ(session->jobOptions(), (Options{{word.option, word.choice}}));
+  EXPECT_EQ(session->job().options(), (Options{{word.option, word.choice}}));
 }
 
 TEST(MeaningOfJobOptions, LeavesMarksAndSizesAsTheyWere) {
@@ -198,17 +198,17 @@ TEST(ServerWords, AreUntrueTogetherWhereTheyShareAnOption) {
 
 TEST_F(Words, ThatAskForTheUsualAreUntrueOnceItIsNot) {
   begin({{"print-color-mode", "color"}});
-  EXPECT_EQ(session->jobOptions(), (Options{{"print-color-mode", "color"}}));
+  EXPECT_EQ(session->job().options(), (Options{{"print-color-mode", "color"}}));
   session->pick("ColorModel", "Gray");
-  EXPECT_EQ(session->jobOptions(), (Options{{"ColorModel", "Gray"}}));
-  EXPECT_EQ(session->overruledOptions(), QStringList{"print-color-mode"});
+  EXPECT_EQ(session->job().options(), (Options{{"ColorModel", "Gray"}}));
+  EXPECT_EQ(session->job().overruledOptions(), QStringList{"print-color-mode"});
 }
 
 TEST_F(Words, LeaveTheOptionsOwnNameInTheJobWhereItWasNamedToo) {
   begin();
   ask({"media", "A5"});
   session->pick("PageSize", "A5");
-  EXPECT_EQ(session->jobOptions(), (Options{{"media", "A5"}, {"PageSize", "A5"}}));
+  EXPECT_EQ(session->job().options(), (Options{{"media", "A5"}, {"PageSize", "A5"}}));
 }
 
 }  // namespace

@@ -79,13 +79,13 @@ TEST_F(GeneralPageTest, TakesCopiesAndCollation) {
   copies->setFocus();
   copies->selectAll();
   QTest::keyClicks(copies, "12");
-  EXPECT_EQ(session->jobSettings().copies, 12);
+  EXPECT_EQ(session->job().settings().copies, 12);
   ASSERT_TRUE(collate->isEnabled());
   EXPECT_TRUE(collate->isChecked());
   QTest::keyClick(collate, Qt::Key_Space);
-  EXPECT_FALSE(session->jobSettings().collate);
+  EXPECT_FALSE(session->job().settings().collate);
   EXPECT_EQ(marked("Collate"), "False");
-  EXPECT_EQ(session->jobOptions().value("copies"), "12");
+  EXPECT_EQ(session->job().options().value("copies"), "12");
 }
 
 TEST_F(GeneralPageTest, TakesPageRangesAsTheyAreTyped) {
@@ -93,11 +93,11 @@ TEST_F(GeneralPageTest, TakesPageRangesAsTheyAreTyped) {
   QTest::keyClicks(ranges, "7, 1-3");
   EXPECT_EQ(ranges->text(), "7, 1-3");
   EXPECT_TRUE(find<QRadioButton>("somePages")->isChecked());
-  EXPECT_EQ(session->jobSettings().pageRanges, "1-3,7");
+  EXPECT_EQ(session->job().settings().pageRanges, "1-3,7");
   QTest::mouseClick(find<QRadioButton>("allPages"), Qt::LeftButton);
-  EXPECT_TRUE(session->jobSettings().pageRanges.isNull());
+  EXPECT_TRUE(session->job().settings().pageRanges.isNull());
   QTest::mouseClick(find<QRadioButton>("somePages"), Qt::LeftButton);
-  EXPECT_EQ(session->jobSettings().pageRanges, "1-3,7");
+  EXPECT_EQ(session->job().settings().pageRanges, "1-3,7");
 }
 
 TEST_F(GeneralPageTest, SaysWhatIsWrongWithARangeOnceItIsTyped) {
@@ -108,38 +108,38 @@ TEST_F(GeneralPageTest, SaysWhatIsWrongWithARangeOnceItIsTyped) {
   QTest::keyClick(ranges, Qt::Key_Return);
   EXPECT_TRUE(problem->isVisible());
   EXPECT_TRUE(problem->text().startsWith("3-x: ")) << problem->text().toStdString();
-  EXPECT_EQ(session->jobSettings().pageRangesProblem, problem->text());
-  EXPECT_TRUE(session->jobSettings().pageRanges.isNull());
+  EXPECT_EQ(session->job().settings().pageRangesProblem, problem->text());
+  EXPECT_TRUE(session->job().settings().pageRanges.isNull());
   ranges->selectAll();
   QTest::keyClicks(ranges, "3-5");
   EXPECT_FALSE(problem->isVisible());
-  EXPECT_TRUE(session->jobSettings().pageRangesProblem.isNull());
+  EXPECT_TRUE(session->job().settings().pageRangesProblem.isNull());
 }
 
 TEST_F(GeneralPageTest, StaysAtRangeWhileNothingIsTypedYet) {
   QTest::mouseClick(find<QRadioButton>("somePages"), Qt::LeftButton);
   EXPECT_TRUE(find<QRadioButton>("somePages")->isChecked());
   EXPECT_TRUE(find<QLineEdit>("pageRanges")->hasFocus());
-  EXPECT_TRUE(session->jobSettings().pageRanges.isNull());
+  EXPECT_TRUE(session->job().settings().pageRanges.isNull());
 }
 
 TEST_F(GeneralPageTest, TakesOrientationOrderAndLayout) {
   ASSERT_TRUE(pickText(find<QComboBox>("orientation"), "Landscape"));
   QTest::mouseClick(find<QCheckBox>("reverse"), Qt::LeftButton, {}, {5, 5});
   ASSERT_TRUE(pickText(find<QComboBox>("pagesPerSheet"), "4"));
-  EXPECT_EQ(session->jobOptions().value("orientation-requested"), "4");
-  EXPECT_EQ(session->jobOptions().value("outputorder"), "reverse");
-  EXPECT_EQ(session->jobOptions().value("number-up"), "4");
+  EXPECT_EQ(session->job().options().value("orientation-requested"), "4");
+  EXPECT_EQ(session->job().options().value("outputorder"), "reverse");
+  EXPECT_EQ(session->job().options().value("number-up"), "4");
   ASSERT_TRUE(pickText(find<QComboBox>("pagesPerSheet"), "1"));
-  EXPECT_EQ(session->pagesPerSheet(), 0);
+  EXPECT_EQ(session->job().pagesPerSheet(), 0);
 }
 
 TEST_F(GeneralPageTest, FollowsTheSession) {
   session->pick("PageSize", "Legal");
-  JobSettings job = session->jobSettings();
+  JobSettings job = session->job().settings();
   job.copies = 3;
   job.pageRanges = QStringLiteral("2-4");
-  session->setJobSettings(job);
+  session->job().setSettings(job);
   EXPECT_EQ(box("paperSize")->choice(), "Legal");
   EXPECT_EQ(find<QSpinBox>("copies")->value(), 3);
   EXPECT_EQ(find<QLineEdit>("pageRanges")->text(), "2-4");
@@ -219,11 +219,11 @@ TEST_F(GeneralPageTest, OffersWhatAQueueWithoutPpdCanDo) {
   ASSERT_TRUE(sides->isVisible());
   EXPECT_EQ(sides->choice(), "one-sided");
   ASSERT_TRUE(pickText(sides, "On"));
-  EXPECT_EQ(session->jobOptions().value("sides"), "two-sided-long-edge");
+  EXPECT_EQ(session->job().options().value("sides"), "two-sided-long-edge");
   EXPECT_EQ(sides->choice(), "two-sided-long-edge");
   EXPECT_EQ(box("output-bin")->currentText(), "Lower");
   ASSERT_TRUE(pickText(box("output-bin"), "Upper"));
-  EXPECT_EQ(session->jobOptions().value("output-bin"), "face-up");
+  EXPECT_EQ(session->job().options().value("output-bin"), "face-up");
   EXPECT_EQ(page->findChild<ChoiceBox *>("number-up"), nullptr);
 }
 

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: Apache-2.0
+// What the user or the host does, as one action: it begins a step that can be taken back as one,
+// and its end is where panels catch up and views are told.
+#pragma once
+
+#include <QObject>
+
+namespace orvek {
+
+class PrintSession;
+
+/// Who is told of actions. Implemented by the session.
+class ActionOwner {
+ public:
+  virtual ~ActionOwner();
+
+  /// The outermost action begins.
+  virtual void actionBegins() = 0;
+
+  /// It is about to end; what happens now still belongs to it.
+  virtual void actionSettles() = 0;
+
+  /// It has ended; another one may begin.
+  virtual void actionEnded() = 0;
+};
+
+/// Knows whether an action runs. Borrows its owner, which must outlive it; belongs to the
+/// interface's thread.
+class RunningAction final : public QObject {
+ public:
+  explicit RunningAction(ActionOwner &owner) : m_owner(owner) {}
+
+  /// Actions within one another are one.
+  void begin();
+  void end();
+
+  /// Something changed. Where no action runs, a user's act on a control of the window has begun
+  /// without anyone telling: an action that ends when control is back at the event loop.
+  void noteChange();
+
+ private:
+  void conclude();
+
+  ActionOwner &m_owner;
+  int m_depth = 0;
+  bool m_endIsPending = false;
+};
+
+/// While it lives, all that happens to the session is one action. At its end panels restore whose
+/// options were changed by constraints on the way, once, and never from inside the action. Borrows
+/// the session, which must outlive it.
+class ActionScope {
+ public:
+  explicit ActionScope(PrintSession &session);
+  ~ActionScope();
+  ActionScope(const ActionScope &) = delete;
+  ActionScope &operator=(const ActionScope &) = delete;
+
+ private:
+  PrintSession &m_session;
+};
+
+}  // namespace orvek

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: Apache-2.0
+// A ticket or preset that the printer's equipment rules out: what is said, shown and printed agree.
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QJsonArray>
+#include <QTemporaryDir>
+
+#include "tests/host/cli/Program.h"
+
+namespace orvek::test {
+namespace {
+
+class ProgramTicket : public testing::Test {
+ protected:
+  QString file(const QString &name, const QByteArray &bytes) {
+    QFile made(dir.filePath(name));
+    EXPECT_TRUE(made.open(QIODevice::WriteOnly));
+    made.write(bytes);
+    return made.fileName();
+  }
+
+  ProgramRun run(const QStringList &more) {
+    return runProgram(
+        QStringList{"--headless", "--ppd", ORVEK_SOURCE_DIR "/printers/Orvek-6180.ppd", "--inspect",
+                    "--output", dir.filePath("out.ps")} +
+            more + QStringList{ORVEK_SOURCE_DIR "/samples/Finishing-Sample.pdf"},
+        {{"XDG_CONFIG_HOME=" + dir.path(), "XDG_DATA_HOME=" + dir.path()}, {}, {}});
+  }
+
+  QByteArray printed() const {
+    QFile out(dir.filePath("out.ps"));
+    EXPECT_TRUE(out.open(QIODevice::ReadOnly));
+    return out.readAll();
+  }
+
+  void expectUnstapled(const ProgramRun &done) const {
+    ASSERT_EQ(done.status, 0) << done.errors.constData();
+    EXPECT_EQ(done.errors.count("Stapling was not set to One staple, front: it can't be combined "
+                                "with Finisher: Not installed\n"),
+              1);
+    const QJsonObject state = done.json();
+    EXPECT_EQ(state.value("marks").toObject().value("OVKStapling"), QJsonValue("None"));
+    EXPECT_FALSE(state.value("ticket").toObject().contains("OVKStapling"));
+    EXPECT_EQ(state.value("conflicts").toArray(), QJsonArray());
+    EXPECT_EQ(state.value("summary").toObject().value("Stapling"), QJsonValue("Off"));
+    EXPECT_EQ(state.value("selections").toObject().value("stapling"), QJsonValue("None"));
+    EXPECT_FALSE(printed().contains("/Staple 3"));
+  }
+
+  const QStringList noFinisher{"--mark", "OVKOptionFinisher=False"};
+  QTemporaryDir dir;
+};
+
+TEST_F(ProgramTicket, StaplesWhereItCan) {
+  const ProgramRun done = run({"--ticket", file("t.json", R"({"OVKStapling": "Front"})")});
+  ASSERT_EQ(done.status, 0) << done.errors.constData();
+  EXPECT_TRUE(printed().contains("/Staple 3"));
+}
+
+TEST_F(ProgramTicket, StaplesNothingWhereItSaysSo) {
+  expectUnstapled(
+      run(noFinisher + QStringList{"--ticket", file("t.json", R"({"OVKStapling": "Front"})")}));
+}
+
+TEST_F(ProgramTicket, StaplesNothingForAPresetEither) {
+  ASSERT_EQ(run({"--do", "staplingPopup=Front", "--save-preset", "stapled"}).status, 0);
+  expectUnstapled(run(noFinisher + QStringList{"--preset", "stapled"}));
+}
+
+TEST_F(ProgramTicket, StaplesNothingForAnOptionEither) {
+  expectUnstapled(run(noFinisher + QStringList{"-o", "OVKStapling=Front"}));
+}
+
+}  // namespace
+}  // namespace orvek::test
