@@ -13,7 +13,7 @@
 namespace orvek {
 namespace {
 
-Failure invalid(const Phrase &what, const Phrase &why) {
+Failure invalid(const QString &what, const Phrase &why) {
   return {FailureKind::Invalid, what, why};
 }
 

@@ -21,7 +21,7 @@ using namespace orvek::test;
 namespace {
 
 // No server answers there: the port takes no connections.
-const ServerAccess nobody{.server = QStringLiteral("127.0.0.1:1")};
+const ServerAccess nobody{QStringLiteral("127.0.0.1:1"), QString()};
 
 Failure ofFilters(const QByteArray &said) {
   FilterMessages messages;
@@ -37,6 +37,13 @@ JobRequest intoFile(const QString &ppd, const QString &document, const QString &
   return request;
 }
 
+JobRequest onNobodysQueue(const QString &document) {
+  JobRequest request;
+  request.files = QStringList{document};
+  request.server = nobody.server;
+  return request;
+}
+
 // One of each kind that a user can bring about in the window.
 QList<Failure> failuresOfTheWindow() {
   const QString ppd = QStringLiteral(ORVEK_SOURCE_DIR "/printers/Orvek-6180.ppd");
@@ -46,7 +53,7 @@ QList<Failure> failuresOfTheWindow() {
   JobControl control;
   return {
       listPrinters(nobody).failure(),
-      submitToQueue({.files = {document}, .server = nobody.server}, control).failure(),
+      submitToQueue(onNobodysQueue(document), control).failure(),
       printThroughFilters(intoFile(folder.path(), document, {}), control).failure(),
       printThroughFilters(intoFile(ppd, folder.path(), {}), control).failure(),
       printThroughFilters(intoFile(ppd, folder.filePath("none"), {}), control).failure(),

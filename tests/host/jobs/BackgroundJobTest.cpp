@@ -19,7 +19,14 @@ namespace {
 
 constexpr int patience = 5000;
 
-const JobRequest request{.files = {QStringLiteral("report.pdf")}};
+// Nothing of it is standard input.
+JobRequest requestForAFile() {
+  JobRequest request;
+  request.files = QStringList{QStringLiteral("report.pdf")};
+  return request;
+}
+
+const JobRequest request = requestForAFile();
 
 Result<JobOutcome> untilCancelled(const JobRequest &, JobControl &control) {
   while (!control.cancelled) QThread::msleep(1);
