@@ -12,7 +12,7 @@
 namespace orvek {
 namespace {
 
-Failure invalid(const QString &what, const QString &why) {
+Failure invalid(const QString &what, const Phrase &why) {
   return {FailureKind::Invalid, what, why};
 }
 
@@ -24,14 +24,16 @@ bool isIdentifier(const QString &name) {
 Status checkInterface(const QJsonObject &info, const QString &infoPath) {
   const QJsonValue version = info.value(QLatin1String("PluginInterface"));
   if (!version.isDouble()) {
-    return invalid(infoPath, QStringLiteral("\"PluginInterface\" must be a number"));
+    return invalid(infoPath, Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
+                                                      "\"PluginInterface\" must be a number")));
   }
   if (version.toDouble() == pluginInterfaceVersion) return {};
-  return invalid(infoPath,
-                 QStringLiteral("made for plug-in interface %1, this program has %2: install the "
-                                "plug-in that belongs to it")
-                     .arg(version.toDouble())
-                     .arg(pluginInterfaceVersion));
+  return invalid(
+      infoPath,
+      Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
+                               "made for plug-in interface %1, this program has %2: "
+                               "install the plug-in that belongs to it"),
+             {QString::number(version.toDouble()), QString::number(pluginInterfaceVersion)}));
 }
 
 // A name with a folder in it, or a link, could lead to code that is not the bundle's.
@@ -46,16 +48,21 @@ Result<QString> checkedExecutable(const QJsonObject &info, const Bundle &bundle,
                                   const QString &infoPath) {
   const QString name = info.value(QLatin1String("Executable")).toString();
   if (name.isEmpty()) {
-    return invalid(infoPath, QStringLiteral("\"Executable\" must name the plug-in's code file"));
+    return invalid(infoPath,
+                   Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
+                                            "\"Executable\" must name the plug-in's code file")));
   }
   if (!liesInside(bundle.path(), name)) {
     return invalid(
         infoPath,
-        QStringLiteral("\"Executable\" must be a file inside the bundle, not \"%1\"").arg(name));
+        Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
+                                 "\"Executable\" must be a file inside the bundle, not \"%1\""),
+               {name}));
   }
   const QString path = QDir(bundle.path()).filePath(name);
   if (!QFileInfo(path).isFile()) {
-    return invalid(path, QStringLiteral("the plug-in's code is missing"));
+    return invalid(path,
+                   Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "the plug-in's code is missing")));
   }
   return path;
 }
@@ -64,7 +71,9 @@ Result<QString> checkedExecutable(const QJsonObject &info, const Bundle &bundle,
 
 Result<PluginInfo> readPluginInfo(const QString &bundlePath) {
   const std::shared_ptr<Bundle> bundle = Bundle::atPath(bundlePath);
-  if (!bundle) return invalid(bundlePath, QStringLiteral("no such plug-in bundle (a folder)"));
+  if (!bundle)
+    return invalid(bundlePath, Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
+                                                        "no such plug-in bundle (a folder)")));
   const QString infoPath = QDir(bundlePath).filePath(QStringLiteral("Info.json"));
   if (!bundle->infoDictionary()) return invalid(infoPath, bundle->infoProblem());
   const QJsonObject &info = *bundle->infoDictionary();
@@ -73,7 +82,9 @@ Result<PluginInfo> readPluginInfo(const QString &bundlePath) {
     return interface.failure();
   const QString principalClass = info.value(QLatin1String("PrincipalClass")).toString();
   if (!isIdentifier(principalClass)) {
-    return invalid(infoPath, QStringLiteral("\"PrincipalClass\" must name the plug-in's class"));
+    return invalid(infoPath,
+                   Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
+                                            "\"PrincipalClass\" must name the plug-in's class")));
   }
   const Result<QString> executable = checkedExecutable(info, *bundle, infoPath);
   if (!executable) return executable.failure();

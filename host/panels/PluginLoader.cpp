@@ -12,14 +12,14 @@ namespace {
 
 using FactoryFunction = PDEPlugin *(*)();
 
-Failure broken(const QString &what, const QString &why) {
+Failure broken(const QString &what, const Phrase &why) {
   return {FailureKind::Invalid, what, why};
 }
 
 // The loader's message begins with the path, which the failure names anyway.
-QString loaderMessage(const QLibrary &code) {
-  return QStringLiteral("the plug-in's code can't be loaded (%1)")
-      .arg(code.errorString().simplified());
+Phrase loaderMessage(const QLibrary &code) {
+  return Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "the plug-in's code can't be loaded (%1)"),
+                {code.errorString().simplified()});
 }
 
 Result<std::unique_ptr<PDEPlugin>> makeFactory(const PluginInfo &info) {
@@ -30,11 +30,14 @@ Result<std::unique_ptr<PDEPlugin>> makeFactory(const PluginInfo &info) {
   const auto function = reinterpret_cast<FactoryFunction>(code.resolve(symbol.constData()));
   if (function == nullptr) {
     return broken(info.executable,
-                  QStringLiteral("has no factory for the class \"%1\"").arg(info.principalClass));
+                  Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "has no factory for the class \"%1\""),
+                         {info.principalClass}));
   }
   std::unique_ptr<PDEPlugin> factory(function());
   if (factory && factory->initWithBundle(info.bundle.get())) return factory;
-  return broken(info.executable, QStringLiteral("the plug-in's factory refused its bundle"));
+  return broken(
+      info.executable,
+      Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "the plug-in's factory refused its bundle")));
 }
 
 }  // namespace

@@ -15,6 +15,7 @@ constexpr const char *context = "orvek::Failure";
 // what goes wrong with files and connections.
 [[maybe_unused]] constexpr std::array sentencesFromElsewhere{
     QT_TRANSLATE_NOOP("orvek::Failure", "cancelled"),
+    QT_TRANSLATE_NOOP("orvek::Failure", "Bad file descriptor"),
     QT_TRANSLATE_NOOP("orvek::Failure", "Broken pipe"),
     QT_TRANSLATE_NOOP("orvek::Failure", "Connection refused"),
     QT_TRANSLATE_NOOP("orvek::Failure", "Connection reset by peer"),

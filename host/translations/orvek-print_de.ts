@@ -439,6 +439,50 @@
         <source>not a valid PPD file (%1)</source>
         <translation>keine gültige PPD-Datei (%1)</translation>
     </message>
+    <message>
+        <source>&quot;PluginInterface&quot; must be a number</source>
+        <translation>„PluginInterface“ muss eine Zahl sein</translation>
+    </message>
+    <message>
+        <source>made for plug-in interface %1, this program has %2: install the plug-in that belongs to it</source>
+        <translation>für die Plug-in-Schnittstelle %1 gemacht, dieses Programm hat %2: installieren Sie das passende Plug-in</translation>
+    </message>
+    <message>
+        <source>&quot;Executable&quot; must name the plug-in&apos;s code file</source>
+        <translation>„Executable“ muss die Programmdatei des Plug-ins nennen</translation>
+    </message>
+    <message>
+        <source>&quot;Executable&quot; must be a file inside the bundle, not &quot;%1&quot;</source>
+        <translation>„Executable“ muss eine Datei im Bündel sein, nicht „%1“</translation>
+    </message>
+    <message>
+        <source>the plug-in&apos;s code is missing</source>
+        <translation>die Programmdatei des Plug-ins fehlt</translation>
+    </message>
+    <message>
+        <source>no such plug-in bundle (a folder)</source>
+        <translation>kein solches Plug-in-Bündel (ein Ordner)</translation>
+    </message>
+    <message>
+        <source>&quot;PrincipalClass&quot; must name the plug-in&apos;s class</source>
+        <translation>„PrincipalClass“ muss die Klasse des Plug-ins nennen</translation>
+    </message>
+    <message>
+        <source>the plug-in&apos;s code can&apos;t be loaded (%1)</source>
+        <translation>die Programmdatei des Plug-ins kann nicht geladen werden (%1)</translation>
+    </message>
+    <message>
+        <source>has no factory for the class &quot;%1&quot;</source>
+        <translation>hat keine Fabrik für die Klasse „%1“</translation>
+    </message>
+    <message>
+        <source>the plug-in&apos;s factory refused its bundle</source>
+        <translation>die Fabrik des Plug-ins hat ihr Bündel abgelehnt</translation>
+    </message>
+    <message>
+        <source>Bad file descriptor</source>
+        <translation>Dateideskriptor ist ungültig</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>

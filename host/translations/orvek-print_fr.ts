@@ -439,6 +439,50 @@
         <source>not a valid PPD file (%1)</source>
         <translation>pas un fichier PPD valide (%1)</translation>
     </message>
+    <message>
+        <source>&quot;PluginInterface&quot; must be a number</source>
+        <translation>« PluginInterface » doit être un nombre</translation>
+    </message>
+    <message>
+        <source>made for plug-in interface %1, this program has %2: install the plug-in that belongs to it</source>
+        <translation>fait pour l’interface de module %1, ce programme a %2 : installez le module qui lui correspond</translation>
+    </message>
+    <message>
+        <source>&quot;Executable&quot; must name the plug-in&apos;s code file</source>
+        <translation>« Executable » doit nommer le fichier de code du module</translation>
+    </message>
+    <message>
+        <source>&quot;Executable&quot; must be a file inside the bundle, not &quot;%1&quot;</source>
+        <translation>« Executable » doit être un fichier du paquet, pas « %1 »</translation>
+    </message>
+    <message>
+        <source>the plug-in&apos;s code is missing</source>
+        <translation>le code du module manque</translation>
+    </message>
+    <message>
+        <source>no such plug-in bundle (a folder)</source>
+        <translation>pas de paquet de module de ce nom (un dossier)</translation>
+    </message>
+    <message>
+        <source>&quot;PrincipalClass&quot; must name the plug-in&apos;s class</source>
+        <translation>« PrincipalClass » doit nommer la classe du module</translation>
+    </message>
+    <message>
+        <source>the plug-in&apos;s code can&apos;t be loaded (%1)</source>
+        <translation>le code du module ne peut pas être chargé (%1)</translation>
+    </message>
+    <message>
+        <source>has no factory for the class &quot;%1&quot;</source>
+        <translation>n’a pas de fabrique pour la classe « %1 »</translation>
+    </message>
+    <message>
+        <source>the plug-in&apos;s factory refused its bundle</source>
+        <translation>la fabrique du module a refusé son paquet</translation>
+    </message>
+    <message>
+        <source>Bad file descriptor</source>
+        <translation>descripteur de fichier non valide</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>

@@ -439,6 +439,50 @@
         <source>not a valid PPD file (%1)</source>
         <translation>有効な PPD ファイルではありません (%1)</translation>
     </message>
+    <message>
+        <source>&quot;PluginInterface&quot; must be a number</source>
+        <translation>「PluginInterface」は数値でなければなりません</translation>
+    </message>
+    <message>
+        <source>made for plug-in interface %1, this program has %2: install the plug-in that belongs to it</source>
+        <translation>プラグインインターフェイス %1 用ですが、このプログラムは %2 です。対応するプラグインをインストールしてください</translation>
+    </message>
+    <message>
+        <source>&quot;Executable&quot; must name the plug-in&apos;s code file</source>
+        <translation>「Executable」にはプラグインのコードファイルを指定してください</translation>
+    </message>
+    <message>
+        <source>&quot;Executable&quot; must be a file inside the bundle, not &quot;%1&quot;</source>
+        <translation>「Executable」は「%1」ではなくバンドル内のファイルでなければなりません</translation>
+    </message>
+    <message>
+        <source>the plug-in&apos;s code is missing</source>
+        <translation>プラグインのコードがありません</translation>
+    </message>
+    <message>
+        <source>no such plug-in bundle (a folder)</source>
+        <translation>このプラグインバンドル (フォルダー) はありません</translation>
+    </message>
+    <message>
+        <source>&quot;PrincipalClass&quot; must name the plug-in&apos;s class</source>
+        <translation>「PrincipalClass」にはプラグインのクラスを指定してください</translation>
+    </message>
+    <message>
+        <source>the plug-in&apos;s code can&apos;t be loaded (%1)</source>
+        <translation>プラグインのコードを読み込めません (%1)</translation>
+    </message>
+    <message>
+        <source>has no factory for the class &quot;%1&quot;</source>
+        <translation>クラス「%1」のファクトリーがありません</translation>
+    </message>
+    <message>
+        <source>the plug-in&apos;s factory refused its bundle</source>
+        <translation>プラグインのファクトリーがバンドルを拒否しました</translation>
+    </message>
+    <message>
+        <source>Bad file descriptor</source>
+        <translation>ファイル記述子が無効です</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>

@@ -4,6 +4,7 @@
 #include "host/translations/FailureText.h"
 
 #include <QTranslator>
+#include <cerrno>
 
 #include "host/jobs/Document.h"
 #include "host/jobs/FilterChain.h"
@@ -114,8 +115,12 @@ TEST(FailureText, TranslatesThePartsOfASentenceToo) {
   QTranslator german;
   ASSERT_TRUE(german.load(QStringLiteral(":/translations/orvek-print_de.qm")));
   QCoreApplication::installTranslator(&german);
-  EXPECT_EQ(failureText(listPrinters(nobody).failure()),
-            QStringLiteral("127.0.0.1:1: dort antwortet kein Druckserver (Verbindungsaufbau "
+  const Failure failure{
+      FailureKind::Io, QStringLiteral("server:631"),
+      Phrase("no print server answers there (%1)", {Phrase::ofSystem(ECONNREFUSED)})};
+  EXPECT_EQ(failure.line(), "server:631: no print server answers there (Connection refused)");
+  EXPECT_EQ(failureText(failure),
+            QStringLiteral("server:631: dort antwortet kein Druckserver (Verbindungsaufbau "
                            "abgelehnt)"));
 }
 
