@@ -14,6 +14,8 @@
 #include "bench/device/Benches.h"
 #include "tests/Common/support/Replies.h"
 
+using namespace orvek::test;
+
 namespace bench {
 namespace {
 

@@ -11,6 +11,8 @@
 #include "Common/SimplePing.h"
 #include "tests/Common/support/GuardedBytes.h"
 
+using namespace orvek::test;
+
 namespace {
 
 unsigned short plainChecksum(const unsigned char *bytes, std::size_t length) {

@@ -3,6 +3,8 @@
 
 #include "tests/Common/support/Readers.h"
 
+using namespace orvek::test;
+
 namespace {
 
 const std::string pastEnd = "\ndecode error, name extends past end of packet\n";

@@ -5,6 +5,8 @@
 
 #include "tests/Common/support/Readers.h"
 
+using namespace orvek::test;
+
 namespace {
 
 const std::string ranOff = "decode error, ran off the buffer\n";

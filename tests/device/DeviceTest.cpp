@@ -16,6 +16,8 @@
 #include "tests/Common/support/OwnNetwork.h"
 #include "tests/Common/support/Responder.h"
 
+using namespace orvek::test;
+
 namespace {
 
 struct Outcome {

@@ -10,6 +10,8 @@
 #include "tests/Common/support/HttpServer.h"
 #include "tests/Common/support/OwnNetwork.h"
 
+using namespace orvek::test;
+
 namespace {
 
 using Clock = std::chrono::steady_clock;

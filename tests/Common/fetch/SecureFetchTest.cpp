@@ -15,6 +15,8 @@
 #include "platform/system/Gestalt.h"
 #include "tests/Common/support/OwnNetwork.h"
 
+using namespace orvek::test;
+
 namespace {
 
 QUrl url(const char *text) {

@@ -14,6 +14,8 @@
 #include "tests/Common/support/OwnNetwork.h"
 #include "tests/Common/support/Responder.h"
 
+using namespace orvek::test;
+
 namespace {
 
 using Clock = std::chrono::steady_clock;

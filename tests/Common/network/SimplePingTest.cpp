@@ -24,6 +24,8 @@
 #include "tests/Common/support/OwnNetwork.h"
 #include "tests/Common/support/Replies.h"
 
+using namespace orvek::test;
+
 namespace {
 
 using Clock = std::chrono::steady_clock;

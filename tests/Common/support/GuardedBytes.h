@@ -10,6 +10,8 @@
 #include <cstring>
 #include <span>
 
+namespace orvek::test {
+
 class GuardedBytes {
  public:
   explicit GuardedBytes(std::span<const unsigned char> bytes)
@@ -36,3 +38,5 @@ class GuardedBytes {
   std::size_t m_room;
   unsigned char *m_base = nullptr;
 };
+
+}  // namespace orvek::test

@@ -12,6 +12,7 @@
 #include <array>
 #include <chrono>
 
+namespace orvek::test {
 namespace {
 
 constexpr int pollMilliseconds = 20;
@@ -100,3 +101,5 @@ std::string httpAnswer(const std::string &body, const std::string &status,
   return "HTTP/1.1 " + status + "\r\n" + fields + "Content-Length: " + std::to_string(body.size()) +
          "\r\n\r\n" + body;
 }
+
+}  // namespace orvek::test

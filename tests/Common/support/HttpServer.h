@@ -10,6 +10,8 @@
 #include <thread>
 #include <vector>
 
+namespace orvek::test {
+
 /// One connection with its request read. Writing to a peer that has gone is no error.
 class HttpConnection {
  public:
@@ -55,3 +57,5 @@ class HttpServer {
 /// A whole answer with its length announced.
 std::string httpAnswer(const std::string &body, const std::string &status = "200 OK",
                        const std::string &fields = "");
+
+}  // namespace orvek::test

@@ -15,6 +15,7 @@
 #include <cstring>
 #include <fstream>
 
+namespace orvek::test {
 namespace {
 
 std::string reason;
@@ -122,3 +123,5 @@ int OwnNetwork::startOnPrinter(const std::string &command) {
   }
   _exit(127);
 }
+
+}  // namespace orvek::test

@@ -6,6 +6,8 @@
 #include <functional>
 #include <string>
 
+namespace orvek::test {
+
 class OwnNetwork {
  public:
   static constexpr const char *ownAddress = "10.99.0.2";
@@ -28,3 +30,5 @@ class OwnNetwork {
 /// Ends the test as skipped where there are no two hosts.
 #define NEEDS_OWN_NETWORK() \
   if (!OwnNetwork::whyNot().empty()) GTEST_SKIP() << OwnNetwork::whyNot()
+
+}  // namespace orvek::test

@@ -5,6 +5,8 @@
 
 #include "tests/Common/support/OwnNetwork.h"
 
+using namespace orvek::test;
+
 int main(int argc, char **argv) {
   testing::InitGoogleTest(&argc, argv);
   if (GTEST_FLAG_GET(list_tests)) return RUN_ALL_TESTS();

@@ -12,6 +12,8 @@
 #include "tests/Common/support/GuardedBytes.h"
 #include "tests/Common/support/Replies.h"
 
+namespace orvek::test {
+
 /// What a reader gave: its result, where the cursor is (from the reply's beginning), what it wrote.
 struct Reading {
   int result = 0;
@@ -86,3 +88,5 @@ inline Reading readText(const Bytes &reply, std::ptrdiff_t offset, unsigned int 
         return result;
       });
 }
+
+}  // namespace orvek::test

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+namespace orvek::test {
+
 using Bytes = std::vector<unsigned char>;
 
 /// `text` as it stands, without its terminating zero byte.
@@ -77,3 +79,5 @@ inline Bytes serviceReply() {
               recordHeader(typeSRV, data.size()), data, pointer(headerSize),
               recordHeader(typeTXT, text.size()), text);
 }
+
+}  // namespace orvek::test

@@ -14,6 +14,7 @@
 
 #include "tests/Common/support/OwnNetwork.h"
 
+namespace orvek::test {
 namespace {
 
 constexpr int waitMilliseconds = 20;
@@ -154,3 +155,5 @@ void resolveThrough(const Responder &server) {
   _res.retrans = 1;
   _res.retry = 1;
 }
+
+}  // namespace orvek::test

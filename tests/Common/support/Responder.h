@@ -12,6 +12,8 @@
 
 #include "tests/Common/support/Replies.h"
 
+namespace orvek::test {
+
 /// Answers each query with the messages that `answer(query, number)` gives, queries counted from 0.
 /// The name server sends a reply of more than 512 bytes as real ones do: its datagram is marked as
 /// truncated, and the query that then comes by connection is answered in full.
@@ -70,3 +72,5 @@ inline Bytes withIdentifierOf(const Bytes &query, Bytes reply) {
 
 /// Leads the ordinary resolver of the calling thread to `server`, and has it ask but once.
 void resolveThrough(const Responder &server);
+
+}  // namespace orvek::test

@@ -13,6 +13,8 @@
 #include "platform/network/Transfer.h"
 #include "tests/Common/support/HttpServer.h"
 
+using namespace orvek::test;
+
 namespace {
 
 using orvek::ReadStream;
