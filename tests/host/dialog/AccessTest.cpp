@@ -114,6 +114,24 @@ TEST_P(AccessIn, NoTwoControlsOfAPageHaveOneLetter) {
   }
 }
 
+TEST_P(AccessIn, EveryGeneralSettingHasALetter) {
+  open();
+  auto *pages = find<QTabWidget>("pages");
+  pages->setCurrentIndex(0);
+  QCoreApplication::processEvents();
+  QStringList texts;
+  for (const auto *label : pages->currentWidget()->findChildren<QLabel *>()) {
+    if (label->buddy() != nullptr && label->isVisible()) texts << label->text();
+  }
+  for (const auto *button : pages->currentWidget()->findChildren<QAbstractButton *>()) {
+    if (button->isVisible() && !button->text().isEmpty()) texts << button->text();
+  }
+  EXPECT_GE(texts.size(), 10);
+  for (const QString &text : texts) {
+    EXPECT_FALSE(QKeySequence::mnemonic(text).isEmpty()) << text.toStdString();
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(Each, AccessIn, ::testing::Values("en", "de", "fr", "ja"));
 
 TEST_F(Access, TabReachesEveryControlOfThePanel) {
