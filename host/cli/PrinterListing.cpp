@@ -30,10 +30,10 @@ ServerAccess serverAccess(const CommandLine &line,
 
 Status listPrintersAsAsked(const CommandLine &line) {
   const auto passwords = std::make_shared<PasswordSource>(askOnTerminal);
-  const Result<QList<Queue>> printers = listPrinters(serverAccess(line, passwords));
-  if (!printers) return printers.failure();
+  const Result<QList<Queue>> queues = listPrinters(serverAccess(line, passwords));
+  if (!queues) return queues.failure();
   QString text;
-  for (const Queue &queue : printers.value()) {
+  for (const Queue &queue : queues.value()) {
     QStringList fields{field(queue.destination()), field(stateOf(queue)), field(queue.location)};
     if (queue.isDefault) fields << QStringLiteral("default");
     text += fields.join(QLatin1Char('\t')) + QLatin1Char('\n');

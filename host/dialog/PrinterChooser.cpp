@@ -82,7 +82,7 @@ void PrinterChooser::refresh() {
 void PrinterChooser::take(const Answer &answer) {
   m_problem = answer ? QString() : failureText(answer.failure());
   // Queues that were known stay on offer when the server stops answering.
-  if (answer) m_printers = answer.value();
+  if (answer) m_queues = answer.value();
   fill(m_destination);
   Q_EMIT listed();
 }
@@ -119,7 +119,7 @@ void PrinterChooser::fill(const QString &destination) {
   } else {
     addNote(tr("File (needs a printer description)"));
   }
-  for (const Queue &queue : m_printers) {
+  for (const Queue &queue : m_queues) {
     m_menu->addItem(titleOf(queue), queue.destination());
     const int row = m_menu->count() - 1;
     m_menu->setItemData(row, detailOf(queue), Qt::ToolTipRole);
@@ -148,7 +148,7 @@ void PrinterChooser::showDetail() {
   const QString file = m_fileIsPossible ? tr("Prints into a file")
                                         : tr("Choose a printer, or open a printer description");
   QString detail = m_destination.isEmpty() ? file : m_problem;
-  for (const Queue &queue : m_printers) {
+  for (const Queue &queue : m_queues) {
     if (queue.destination() == m_destination && m_problem.isNull()) detail = detailOf(queue);
   }
   if (!m_asking.isNull()) detail = m_asking;

@@ -14,6 +14,9 @@ namespace orvek {
 
 class ElidedLabel;
 
+/// Asks the server on a thread of its own, which ends before the chooser does; where the server
+/// fails, the menu says why in the user's language. Belongs to its parent, owns its child controls,
+/// and lives on the interface's thread.
 class PrinterChooser final : public QWidget {
   Q_OBJECT
 
@@ -58,7 +61,7 @@ class PrinterChooser final : public QWidget {
   void showDetail();
 
   ServerAccess m_access;
-  QList<Queue> m_printers;
+  QList<Queue> m_queues;
   /// Why there is no list; null: there is one, or nobody asked yet.
   QString m_problem;
   QString m_destination;

@@ -146,23 +146,23 @@ Result<JobOutcome> submitToQueue(const JobRequest &request, JobControl &control)
   if (!begin) return begin.failure();
   auto connection = CupsConnection::open(accessOf(request, &control.cancelled));
   if (!connection) return connection.failure();
-  const auto printer = findPrinter(*connection.value(), destinationOf(request));
-  if (!printer) return control.cancelled ? jobCancelled() : printer.failure();
+  const auto queue = findPrinter(*connection.value(), destinationOf(request));
+  if (!queue) return control.cancelled ? jobCancelled() : queue.failure();
 
   CupsOptions options(effectiveOptions(request));
-  options.addMissing(savedOptions(printer.value(), request));
-  const QString queue = printer.value().name;
-  Submission job{control, *connection.value(), queue.toUtf8(), options, begin.take(), 0, {}};
-  if (Status created = createJob(job, printer.value(), request); !created) return created.failure();
+  options.addMissing(savedOptions(queue.value(), request));
+  const QString name = queue.value().name;
+  Submission job{control, *connection.value(), name.toUtf8(), options, begin.take(), 0, {}};
+  if (Status created = createJob(job, queue.value(), request); !created) return created.failure();
   if (Status sent = sendAll(job, files); !sent) {
     // The connection may be in the middle of a document; only a new one can be used to cancel.
     connection.value().reset();
     ServerAccess quietly = accessOf(request, nullptr);
     if (quietly.passwords) quietly.passwords = quietly.passwords->withoutAsking();
-    (void)cancelJob(quietly, queue, job.jobId);
+    (void)cancelJob(quietly, name, job.jobId);
     return sent.failure();
   }
-  return JobOutcome{job.jobId, queue, job.progress.documents, job.progress.bytes};
+  return JobOutcome{job.jobId, name, job.progress.documents, job.progress.bytes};
 }
 
 Status cancelJob(const ServerAccess &access, const QString &queue, int jobId) {

@@ -150,13 +150,13 @@ Result<QList<Queue>> listPrinters(const ServerAccess &access) {
     return connection.value()->lastFailure(connection.value()->serverName());
   }
   const auto messages = stateMessages(connection.value()->http());
-  QList<Queue> printers;
-  printers.reserve(destinations.count());
+  QList<Queue> queues;
+  queues.reserve(destinations.count());
   for (const cups_dest_t &destination : destinations) {
-    printers << queueFrom(destination);
-    printers.last().stateMessage = messages.value(printers.last().name);
+    queues << queueFrom(destination);
+    queues.last().stateMessage = messages.value(queues.last().name);
   }
-  return printers;
+  return queues;
 }
 
 Result<Queue> findPrinter(const ServerAccess &access, const QString &destination) {

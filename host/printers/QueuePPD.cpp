@@ -57,8 +57,8 @@ Status keep(const PPDAnswer &fetched, const QString &path) {
 
 /// No PPD is an answer as long as there is such a queue.
 Result<QString> withoutPPD(const CupsConnection &connection, const QString &queue) {
-  const auto printer = findPrinter(connection, queue);
-  if (!printer) return printer.failure();
+  const auto found = findPrinter(connection, queue);
+  if (!found) return found.failure();
   return QString();
 }
 

@@ -34,9 +34,9 @@ class PrinterList : public ::testing::Test {
   }
 
   std::string defaultName() const {
-    const auto printer = findPrinter({}, QString());
-    return printer ? printer.value().destination().toStdString()
-                   : printer.failure().line().toStdString();
+    const auto queue = findPrinter({}, QString());
+    return queue ? queue.value().destination().toStdString()
+                   : queue.failure().line().toStdString();
   }
 
   void lpoptions(const QStringList &arguments) const {
@@ -48,10 +48,10 @@ class PrinterList : public ::testing::Test {
 };
 
 TEST_F(PrinterList, ListsQueuesByNameWithWhatPeopleKnowThemBy) {
-  const auto printers = listPrinters({});
-  ASSERT_TRUE(printers) << printers.failure().line().toStdString();
-  ASSERT_EQ(printers.value().size(), 2);
-  const Queue &queue = printers.value()[0];
+  const auto queues = listPrinters({});
+  ASSERT_TRUE(queues) << queues.failure().line().toStdString();
+  ASSERT_EQ(queues.value().size(), 2);
+  const Queue &queue = queues.value()[0];
   EXPECT_EQ(queue.name, firstQueue);
   EXPECT_EQ(queue.info, QStringLiteral("Büro first"));
   EXPECT_EQ(queue.location, QStringLiteral("Room 1"));
@@ -65,23 +65,23 @@ TEST_F(PrinterList, SaysWhyAPrinterIsStopped) {
   cups->run(QStringLiteral("cupsreject"), {firstQueue});
   cups->run(QStringLiteral("cupsdisable"),
             {QStringLiteral("-r"), QStringLiteral("Being moved"), firstQueue});
-  const auto printers = listPrinters({});
-  ASSERT_TRUE(printers);
-  const Queue &queue = printers.value()[0];
+  const auto queues = listPrinters({});
+  ASSERT_TRUE(queues);
+  const Queue &queue = queues.value()[0];
   EXPECT_EQ(stateInWords(queue), QStringLiteral("Stopped, takes no jobs"));
   EXPECT_EQ(queue.reasons, QStringList{QStringLiteral("Paused")});
   EXPECT_EQ(queue.stateMessage, QStringLiteral("Being moved"));
-  EXPECT_TRUE(printers.value()[1].stateMessage.isNull());
+  EXPECT_TRUE(queues.value()[1].stateMessage.isNull());
 }
 
 TEST_F(PrinterList, ListsInstancesWithTheirOptions) {
   lpoptions({QStringLiteral("-p"), firstQueue + QStringLiteral("/draft"), QStringLiteral("-o"),
              QStringLiteral("OVKTonerSaving=True")});
-  const auto printers = listPrinters({});
-  ASSERT_TRUE(printers);
-  ASSERT_EQ(printers.value().size(), 3);
-  EXPECT_EQ(printers.value()[1].destination(), QStringLiteral("first/draft"));
-  EXPECT_EQ(printers.value()[1].options.value(QStringLiteral("OVKTonerSaving")),
+  const auto queues = listPrinters({});
+  ASSERT_TRUE(queues);
+  ASSERT_EQ(queues.value().size(), 3);
+  EXPECT_EQ(queues.value()[1].destination(), QStringLiteral("first/draft"));
+  EXPECT_EQ(queues.value()[1].options.value(QStringLiteral("OVKTonerSaving")),
             QStringLiteral("True"));
 }
 
@@ -103,10 +103,10 @@ TEST_F(PrinterList, TakesTheDefaultInTheOrderThatLpDoes) {
 TEST_F(PrinterList, MarksTheDefaultInTheList) {
   cups->run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), firstQueue});
   qputenv("LPDEST", "second");
-  const auto printers = listPrinters({});
-  ASSERT_TRUE(printers);
-  EXPECT_FALSE(printers.value()[0].isDefault);
-  EXPECT_TRUE(printers.value()[1].isDefault);
+  const auto queues = listPrinters({});
+  ASSERT_TRUE(queues);
+  EXPECT_FALSE(queues.value()[0].isDefault);
+  EXPECT_TRUE(queues.value()[1].isDefault);
 }
 
 TEST_F(PrinterList, SaysWhichVariableNamesAPrinterThatDoesNotExist) {
@@ -115,25 +115,25 @@ TEST_F(PrinterList, SaysWhichVariableNamesAPrinterThatDoesNotExist) {
 }
 
 TEST_F(PrinterList, SaysThatAPrinterDoesNotExist) {
-  const auto printer = findPrinter({}, QStringLiteral("gone"));
-  ASSERT_FALSE(printer);
-  EXPECT_EQ(printer.failure().what, QStringLiteral("gone"));
-  EXPECT_TRUE(printer.failure().why.startsWith(QStringLiteral("no such printer on ")));
+  const auto queue = findPrinter({}, QStringLiteral("gone"));
+  ASSERT_FALSE(queue);
+  EXPECT_EQ(queue.failure().what, QStringLiteral("gone"));
+  EXPECT_TRUE(queue.failure().why.startsWith(QStringLiteral("no such printer on ")));
 }
 
 TEST_F(PrinterList, ReachesAServerByHostAndPort) {
   qputenv("CUPS_SERVER", "/nowhere.sock");
-  const auto printers = listPrinters({cups->hostAndPort(), {}, nullptr});
-  ASSERT_TRUE(printers) << printers.failure().line().toStdString();
-  EXPECT_EQ(printers.value().size(), 2);
+  const auto queues = listPrinters({cups->hostAndPort(), {}, nullptr});
+  ASSERT_TRUE(queues) << queues.failure().line().toStdString();
+  EXPECT_EQ(queues.value().size(), 2);
 }
 
 TEST_F(PrinterList, SaysThatNoServerAnswers) {
   cups->stop();
-  const auto printers = listPrinters({});
-  ASSERT_FALSE(printers);
-  EXPECT_EQ(printers.failure().what, cups->socket());
-  EXPECT_TRUE(printers.failure().why.startsWith(QStringLiteral("no print server answers there")));
+  const auto queues = listPrinters({});
+  ASSERT_FALSE(queues);
+  EXPECT_EQ(queues.failure().what, cups->socket());
+  EXPECT_TRUE(queues.failure().why.startsWith(QStringLiteral("no print server answers there")));
 }
 
 TEST_F(PrinterList, AnswersAgainAfterTheServerWasRestarted) {
@@ -148,13 +148,13 @@ TEST_F(PrinterList, GivesUpOnAServerThatHangs) {
   cups->pause();
   QElapsedTimer clock;
   clock.start();
-  const auto printers = listPrinters({QString(), QString(), nullptr, 1s});
+  const auto queues = listPrinters({QString(), QString(), nullptr, 1s});
   const qint64 elapsed = clock.elapsed();
   cups->resume();
-  ASSERT_FALSE(printers);
+  ASSERT_FALSE(queues);
   EXPECT_LT(elapsed, longestMilliseconds);
-  EXPECT_TRUE(printers.failure().why.contains(QStringLiteral("stopped answering")))
-      << printers.failure().line().toStdString();
+  EXPECT_TRUE(queues.failure().why.contains(QStringLiteral("stopped answering")))
+      << queues.failure().line().toStdString();
 }
 
 TEST_F(PrinterList, GivesUpOnAServerThatHangsWhenAskedForOneQueue) {
@@ -162,14 +162,14 @@ TEST_F(PrinterList, GivesUpOnAServerThatHangsWhenAskedForOneQueue) {
   cups->pause();
   QElapsedTimer clock;
   clock.start();
-  const auto printer =
+  const auto queue =
       findPrinter({cups->hostAndPort(), QString(), nullptr, 1s}, QStringLiteral("gone"));
   const qint64 elapsed = clock.elapsed();
   cups->resume();
-  ASSERT_FALSE(printer);
+  ASSERT_FALSE(queue);
   EXPECT_LT(elapsed, longestMilliseconds);
-  EXPECT_TRUE(printer.failure().why.contains(QStringLiteral("stopped answering")))
-      << printer.failure().line().toStdString();
+  EXPECT_TRUE(queue.failure().why.contains(QStringLiteral("stopped answering")))
+      << queue.failure().line().toStdString();
 }
 
 TEST_F(PrinterList, EndsItsWaitWhenCancelled) {
@@ -178,11 +178,12 @@ TEST_F(PrinterList, EndsItsWaitWhenCancelled) {
   cups->pause();
   QElapsedTimer clock;
   clock.start();
-  const auto printers = listPrinters({QString(), QString(), &cancelled});
+  const auto queues = listPrinters({QString(), QString(), &cancelled});
   const qint64 elapsed = clock.elapsed();
   cups->resume();
-  ASSERT_FALSE(printers);
-  EXPECT_EQ(printers.failure().why, QStringLiteral("cancelled"));
+  ASSERT_FALSE(queues);
+  EXPECT_EQ(queues.failure().kind, FailureKind::Cancelled);
+  EXPECT_EQ(queues.failure().why, QStringLiteral("cancelled"));
   EXPECT_LT(elapsed, longestMilliseconds);
 }
 
@@ -202,30 +203,30 @@ TEST(PrinterListOfManyQueues, ComesQuickly) {
   const PrivateCups cups(PrivateCupsSetup{{}, manyQueues(queueCount)});
   QElapsedTimer clock;
   clock.start();
-  const auto printers = listPrinters({});
+  const auto queues = listPrinters({});
   RecordProperty("milliseconds", static_cast<int>(clock.elapsed()));
-  ASSERT_TRUE(printers) << printers.failure().line().toStdString();
-  EXPECT_EQ(printers.value().size(), queueCount);
+  ASSERT_TRUE(queues) << queues.failure().line().toStdString();
+  EXPECT_EQ(queues.value().size(), queueCount);
   EXPECT_LT(clock.elapsed(), longestMilliseconds);
 }
 
 TEST(PrinterListOfAnEmptyServer, IsEmptyAndNoFailure) {
   if (!PrivateCups::obstacle().isEmpty()) GTEST_SKIP() << PrivateCups::obstacle().toStdString();
   const PrivateCups cups;
-  const auto printers = listPrinters({});
-  ASSERT_TRUE(printers) << printers.failure().line().toStdString();
-  EXPECT_TRUE(printers.value().isEmpty());
+  const auto queues = listPrinters({});
+  ASSERT_TRUE(queues) << queues.failure().line().toStdString();
+  EXPECT_TRUE(queues.value().isEmpty());
 }
 
 TEST(PrinterListOfAServerThatRefuses, FailsInWords) {
   if (!PrivateCups::obstacle().isEmpty()) GTEST_SKIP() << PrivateCups::obstacle().toStdString();
   const PrivateCups cups(PrivateCupsSetup{
       "<Limit All>\nAuthType Basic\nRequire user nobody\n</Limit>\n", manyQueues(1)});
-  const auto printers = listPrinters({});
-  ASSERT_FALSE(printers);
+  const auto queues = listPrinters({});
+  ASSERT_FALSE(queues);
   EXPECT_TRUE(
-      printers.failure().why.startsWith(QStringLiteral("the print server does not allow it")))
-      << printers.failure().line().toStdString();
+      queues.failure().why.startsWith(QStringLiteral("the print server does not allow it")))
+      << queues.failure().line().toStdString();
 }
 
 TEST(ReasonInWords, DropsTheSeverity) {
