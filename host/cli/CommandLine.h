@@ -14,7 +14,7 @@
 
 namespace orvek {
 
-/// Everything a command line may say. A null text was not given.
+/// Everything a command line may say. A null text was not given. Plain data.
 struct CommandLine {
   // As in lp
   /// -d DEST[/INSTANCE]

@@ -10,6 +10,7 @@
 #include <QSaveFile>
 
 #include "host/cli/Window.h"
+#include "host/dialog/PrintDialog.h"
 
 namespace orvek {
 namespace {

@@ -12,6 +12,7 @@
 #include "host/cli/PrintJob.h"
 #include "host/cli/SessionStart.h"
 #include "host/dialog/PasswordDialog.h"
+#include "host/dialog/PrintDialog.h"
 #include "host/jobs/Document.h"
 #include "host/jobs/QueueJob.h"
 #include "host/translations/FailureText.h"

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "host/cli/CommandLine.h"
-#include "host/dialog/PrintDialog.h"
+#include "host/dialog/DialogSetup.h"
 #include "host/session/PrintSession.h"
 #include "platform/system/Result.h"
 

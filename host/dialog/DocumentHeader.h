@@ -12,6 +12,8 @@ namespace orvek {
 
 class ElidedLabel;
 
+/// A picture, a name and a line about it. Belongs to its parent, owns its child controls, and lives
+/// on the interface's thread.
 class DocumentHeader final : public QWidget {
   Q_OBJECT
 

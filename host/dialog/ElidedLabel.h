@@ -6,7 +6,8 @@
 
 namespace orvek {
 
-/// The whole text is the tool tip and the accessible name.
+/// The whole text is the tool tip and the accessible name. Belongs to its parent; for the
+/// interface's thread.
 class ElidedLabel final : public QLabel {
   Q_OBJECT
 

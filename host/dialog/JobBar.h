@@ -21,6 +21,8 @@ struct JobBarState {
   bool operator==(const JobBarState &) const = default;
 };
 
+/// Emits what was asked for and does nothing by itself. Belongs to its parent, owns its child
+/// controls, and lives on the interface's thread.
 class JobBar final : public QWidget {
   Q_OBJECT
 

@@ -7,6 +7,8 @@
 
 namespace orvek {
 
+/// Empty until it is shown for the first time, when it makes its content and owns it. Belongs to
+/// its parent and lives on the interface's thread.
 class LazyPage final : public QWidget {
   Q_OBJECT
 

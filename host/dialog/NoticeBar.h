@@ -12,7 +12,8 @@ class QToolButton;
 
 namespace orvek {
 
-/// Hidden while it has nothing to say. Screen readers are told when it speaks.
+/// Hidden while it has nothing to say. Screen readers are told when it speaks. Belongs to its
+/// parent, owns its child controls, and lives on the interface's thread.
 class NoticeBar final : public QFrame {
   Q_OBJECT
 

@@ -14,7 +14,8 @@ class QLineEdit;
 
 namespace orvek {
 
-/// The window: the user's name is filled in, the password is not shown.
+/// The window: the user's name is filled in, the password is not shown. Belongs to its parent, owns
+/// its child controls, and lives on the interface's thread.
 class PasswordDialog final : public QDialog {
   Q_OBJECT
 
@@ -28,7 +29,8 @@ class PasswordDialog final : public QDialog {
   QLineEdit *m_password;
 };
 
-/// Shows the window on the thread that this object lives on. It must outlive whoever may ask.
+/// Shows the window on the thread that this object lives on. It must outlive whoever may ask. It
+/// may be asked from any thread, which waits; an answer that was not given is a failure.
 class PasswordWindow final : public QObject {
   Q_OBJECT
 

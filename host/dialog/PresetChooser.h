@@ -15,6 +15,8 @@ class QToolButton;
 
 namespace orvek {
 
+/// Shares the store, whose failures it emits. Belongs to its parent, owns its child controls, and
+/// lives on the interface's thread.
 class PresetChooser final : public QWidget {
   Q_OBJECT
 

@@ -16,6 +16,8 @@
 #include "host/dialog/DocumentHeader.h"
 #include "host/dialog/JobBar.h"
 #include "host/dialog/NoticeBar.h"
+#include "host/dialog/PresetChooser.h"
+#include "host/dialog/PrinterChooser.h"
 #include "host/dialog/SessionView.h"
 #include "host/jobs/BackgroundJob.h"
 #include "host/translations/FailureText.h"

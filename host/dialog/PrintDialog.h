@@ -11,17 +11,12 @@
 #pragma once
 
 #include <QDialog>
-#include <functional>
 #include <memory>
 #include <optional>
 
-#include "host/dialog/PresetChooser.h"
-#include "host/dialog/PrinterChooser.h"
-#include "host/jobs/DocumentInfo.h"
-#include "host/jobs/JobRequest.h"
+#include "host/dialog/DialogSetup.h"
 #include "host/presets/SessionPreset.h"
-#include "host/session/PrintSession.h"
-#include "platform/system/Result.h"
+#include "host/printers/BackgroundTask.h"
 
 namespace orvek {
 
@@ -29,41 +24,13 @@ class BackgroundJob;
 class DocumentHeader;
 class JobBar;
 class NoticeBar;
+class PresetChooser;
+class PrinterChooser;
 class SessionView;
 
-/// What a window is made for, besides the session.
-struct DialogSetup {
-  /// Gives what a session on another printer begins with. Is called on a thread of its own, and
-  /// ends soon after `cancelled` was set.
-  using AskPrinter = std::function<Result<SessionSetup>(const QString &destinationOrPath,
-                                                        const std::atomic<bool> &cancelled)>;
-
-  /// For people.
-  QString documentName;
-  /// What is known of it; more may come with setDocument.
-  DocumentInfo document;
-  /// "NAME/INSTANCE" of the session's queue; empty: into a file.
-  QString destination;
-  /// Where a job goes that goes to no queue; null: Print asks for a file.
-  QString outputFile;
-  ServerAccess server;
-
-  /// The job as the session has it. Where it goes is the window's business. Empty: a request that
-  /// says nothing.
-  std::function<JobRequest(PrintSession &)> jobRequest;
-
-  /// Asks for a queue.
-  AskPrinter askPrinter;
-  /// Reads the PPD file of this path.
-  AskPrinter readDescription;
-
-  /// Begins a session with what was asked for, its panels open.
-  std::function<Result<std::unique_ptr<PrintSession>>(const SessionSetup &)> beginSession;
-
-  /// Null: no presets.
-  std::shared_ptr<PresetStore> presets;
-};
-
+/// Borrows the first session and owns those that it begins itself. Failures are shown above the
+/// pages, in the user's language. Lives on the interface's thread; questions and jobs run on
+/// threads of their own, which end before it does.
 class PrintDialog final : public QDialog {
   Q_OBJECT
 

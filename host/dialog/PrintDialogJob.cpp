@@ -8,6 +8,7 @@
 #include "host/dialog/JobBar.h"
 #include "host/dialog/NoticeBar.h"
 #include "host/dialog/PrintDialog.h"
+#include "host/dialog/PrinterChooser.h"
 #include "host/dialog/ProgressText.h"
 #include "host/jobs/BackgroundJob.h"
 #include "host/jobs/FilterChain.h"

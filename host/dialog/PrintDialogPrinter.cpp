@@ -8,7 +8,9 @@
 #include <utility>
 
 #include "host/dialog/NoticeBar.h"
+#include "host/dialog/PresetChooser.h"
 #include "host/dialog/PrintDialog.h"
+#include "host/dialog/PrinterChooser.h"
 #include "host/dialog/SessionView.h"
 
 namespace orvek {

@@ -17,7 +17,8 @@ namespace orvek {
 class BookletPreview;
 class SummaryView;
 
-/// Borrows the session, which must outlive the view, and its panels' containers.
+/// Borrows the session, which must outlive the view, and its panels' containers. Belongs to its
+/// parent, owns its child controls, and lives on the interface's thread.
 class SessionView final : public QWidget {
   Q_OBJECT
 

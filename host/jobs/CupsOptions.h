@@ -12,7 +12,8 @@
 
 namespace orvek {
 
-/// Owns the array. Names are compared as libcups does, without regard to case.
+/// Owns the array. Names are compared as libcups does, without regard to case. Use it on one
+/// thread; nothing of it fails.
 class CupsOptions {
  public:
   explicit CupsOptions(const QMap<QString, QString> &options);

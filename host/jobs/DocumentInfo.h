@@ -8,6 +8,8 @@
 
 namespace orvek {
 
+/// What is known of one document. Plain data, for any thread; what could not be learned is unknown,
+/// never a failure.
 struct DocumentInfo {
   /// For people: the file's name, or "(stdin)".
   QString name;

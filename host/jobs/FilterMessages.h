@@ -10,7 +10,8 @@
 namespace orvek {
 
 /// Takes standard error as it comes, in pieces of any size, and remembers only what a failure's
-/// reason needs, so that a talkative filter costs no memory.
+/// reason needs, so that a talkative filter costs no memory. A value without borrowed parts; use it
+/// on one thread.
 class FilterMessages {
  public:
   void add(const QByteArray &bytes);

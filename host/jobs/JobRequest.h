@@ -13,7 +13,8 @@
 
 namespace orvek {
 
-/// One job, for a queue or for a file.
+/// One job, for a queue or for a file. Plain data that a job's thread gets a copy of; passwords
+/// alone are shared.
 struct JobRequest {
   /// Documents in order; none, or "-", is standard input.
   QStringList files;

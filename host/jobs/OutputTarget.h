@@ -12,7 +12,9 @@
 namespace orvek {
 
 /// A file that appears whole or not at all, or a device, pipe or standard stream that takes bytes
-/// as they come. Dropped without commit() a file leaves what stood there before.
+/// as they come. Dropped without commit() a file leaves what stood there before. Owns its
+/// descriptor; use it on one thread. What fails says so with the target's name and the system's
+/// reason.
 class OutputTarget {
  public:
   /// Opens `path`. "-" is standard output. Fails with the system's reason.

@@ -13,6 +13,7 @@ namespace orvek {
 /// Bytes without a name until commit(), where the file system knows such files: a program that is
 /// killed leaves nothing behind. Elsewhere a file beside the place, which a killed program leaves
 /// there. What stood in the place, its permissions and a link that leads to it, is kept until then.
+/// Owns its descriptor; use it on one thread.
 class PendingFile {
  public:
   /// Fails with the system's reason alone, `what` left empty; so does commit().

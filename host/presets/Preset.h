@@ -11,7 +11,7 @@
 
 namespace orvek {
 
-/// What a user saved under a name.
+/// What a user saved under a name. Plain data.
 struct Preset {
   QString name;
   /// The printer it was made with; for messages.

@@ -22,6 +22,7 @@ struct PresetMisfit {
   QString line() const;
 };
 
+/// What fits a printer and what does not. Plain data.
 struct PresetFit {
   /// What fits, spelled as the PPD spells it.
   QMap<QString, QString> options;

@@ -19,7 +19,9 @@ struct PresetListing {
 };
 
 /// The user's presets, and for each queue what was used last. Reads and writes at every call, so
-/// that two programs can share the folder. A damaged file is reported and never written over.
+/// that two programs can share the folder. A damaged file is reported and never written over. Holds
+/// no file open and has no locks; copies may be used on several threads. Failures name the preset
+/// or its file.
 class PresetStore {
  public:
   /// The folder holds `presets` and `last-used`; it is made when first written to.

@@ -14,7 +14,9 @@
 namespace orvek {
 
 /// An open connection. libcups keeps server and user per thread: use a connection, and every
-/// libcups call about its server, on the thread that opened it, and one connection at a time.
+/// libcups call about its server, on the thread that opened it, and one connection at a time. Owns
+/// libcups' connection; shares the passwords; borrows the flag that cancels it. Calls that fail are
+/// put into words by lastFailure().
 class CupsConnection {
  public:
   /// Fails where the server is unknown or does not answer within a few seconds.

@@ -7,7 +7,7 @@
 
 namespace orvek {
 
-/// A server's answer.
+/// A server's answer. Plain data.
 struct PPDAnswer {
   /// OK; NOT_MODIFIED; NOT_FOUND; why not.
   http_status_t status = HTTP_STATUS_ERROR;

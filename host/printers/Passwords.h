@@ -15,6 +15,7 @@
 
 namespace orvek {
 
+/// An answer to the question for a password. Plain data.
 struct Credentials {
   QString user;
   QString password;
@@ -31,7 +32,8 @@ struct PasswordQuestion {
 };
 
 /// Asks whoever is there, and keeps answers for as long as the program runs, so that nobody is
-/// asked twice for one server. May be used from any thread.
+/// asked twice for one server. May be used from any thread. Shared by all who may have to ask.
+/// Where nobody answers, a failure says why.
 class PasswordSource {
  public:
   /// Waits for an answer. A failure says why there is none, and must come soon once `cancelled`
@@ -66,6 +68,7 @@ class PasswordSource {
 };
 
 /// The answers to one connection's server: the one that is kept first, then a few of the user's.
+/// Shares the source. Belongs to its connection and its thread.
 class PasswordRounds {
  public:
   /// A null source: nobody can be asked.

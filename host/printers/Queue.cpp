@@ -4,6 +4,8 @@
 #include "host/printers/Queue.h"
 
 #include <QCoreApplication>
+#include <algorithm>
+#include <iterator>
 
 namespace orvek {
 namespace {
@@ -13,41 +15,55 @@ struct Text {
   Q_DECLARE_TR_FUNCTIONS(orvek::Queue)
 };
 
+struct KnownReason {
+  QLatin1String keyword;
+  const char *words;
+};
+
 /// Keywords of RFC 8011 and of CUPS that people meet, without their severity.
-const QMap<QString, QString> &knownReasons() {
-  static const QMap<QString, QString> reasons{
-      {QStringLiteral("connecting-to-device"), Text::tr("Connecting to the printer")},
-      {QStringLiteral("cover-open"), Text::tr("A cover is open")},
-      {QStringLiteral("cups-insecure-filter"),
-       Text::tr("The printer's filter can be changed by others and is not run")},
-      {QStringLiteral("cups-missing-filter"), Text::tr("The printer's filter is missing")},
-      {QStringLiteral("door-open"), Text::tr("A door is open")},
-      {QStringLiteral("input-tray-missing"), Text::tr("A paper tray is missing")},
-      {QStringLiteral("marker-supply-empty"), Text::tr("Toner or ink is empty")},
-      {QStringLiteral("marker-supply-low"), Text::tr("Toner or ink is low")},
-      {QStringLiteral("marker-waste-almost-full"), Text::tr("The waste container is almost full")},
-      {QStringLiteral("marker-waste-full"), Text::tr("The waste container is full")},
-      {QStringLiteral("media-empty"), Text::tr("Out of paper")},
-      {QStringLiteral("media-jam"), Text::tr("Paper jam")},
-      {QStringLiteral("media-low"), Text::tr("Paper is low")},
-      {QStringLiteral("media-needed"), Text::tr("Paper has to be put in")},
-      {QStringLiteral("moving-to-paused"), Text::tr("Stopping")},
-      {QStringLiteral("offline"), Text::tr("The printer is offline")},
-      {QStringLiteral("other"), Text::tr("The printer reports a problem")},
-      {QStringLiteral("output-area-almost-full"), Text::tr("The output tray is almost full")},
-      {QStringLiteral("output-area-full"), Text::tr("The output tray is full")},
-      {QStringLiteral("output-tray-missing"), Text::tr("The output tray is missing")},
-      {QStringLiteral("paused"), Text::tr("Paused")},
-      {QStringLiteral("shutdown"), Text::tr("The printer is switched off")},
-      {QStringLiteral("spool-area-full"), Text::tr("The printer's memory is full")},
-      {QStringLiteral("stopped-partly"), Text::tr("Part of the printer is stopped")},
-      {QStringLiteral("stopping"), Text::tr("Stopping")},
-      {QStringLiteral("timed-out"), Text::tr("The printer does not answer")},
-      {QStringLiteral("toner-empty"), Text::tr("Toner is empty")},
-      {QStringLiteral("toner-low"), Text::tr("Toner is low")},
-  };
-  return reasons;
-}
+constexpr KnownReason knownReasons[] = {
+    {QLatin1String("connecting-to-device"),
+     QT_TRANSLATE_NOOP("orvek::Queue", "Connecting to the printer")},
+    {QLatin1String("cover-open"), QT_TRANSLATE_NOOP("orvek::Queue", "A cover is open")},
+    {QLatin1String("cups-insecure-filter"),
+     QT_TRANSLATE_NOOP("orvek::Queue",
+                       "The printer's filter can be changed by others and is not run")},
+    {QLatin1String("cups-missing-filter"),
+     QT_TRANSLATE_NOOP("orvek::Queue", "The printer's filter is missing")},
+    {QLatin1String("door-open"), QT_TRANSLATE_NOOP("orvek::Queue", "A door is open")},
+    {QLatin1String("input-tray-missing"),
+     QT_TRANSLATE_NOOP("orvek::Queue", "A paper tray is missing")},
+    {QLatin1String("marker-supply-empty"),
+     QT_TRANSLATE_NOOP("orvek::Queue", "Toner or ink is empty")},
+    {QLatin1String("marker-supply-low"), QT_TRANSLATE_NOOP("orvek::Queue", "Toner or ink is low")},
+    {QLatin1String("marker-waste-almost-full"),
+     QT_TRANSLATE_NOOP("orvek::Queue", "The waste container is almost full")},
+    {QLatin1String("marker-waste-full"),
+     QT_TRANSLATE_NOOP("orvek::Queue", "The waste container is full")},
+    {QLatin1String("media-empty"), QT_TRANSLATE_NOOP("orvek::Queue", "Out of paper")},
+    {QLatin1String("media-jam"), QT_TRANSLATE_NOOP("orvek::Queue", "Paper jam")},
+    {QLatin1String("media-low"), QT_TRANSLATE_NOOP("orvek::Queue", "Paper is low")},
+    {QLatin1String("media-needed"), QT_TRANSLATE_NOOP("orvek::Queue", "Paper has to be put in")},
+    {QLatin1String("moving-to-paused"), QT_TRANSLATE_NOOP("orvek::Queue", "Stopping")},
+    {QLatin1String("offline"), QT_TRANSLATE_NOOP("orvek::Queue", "The printer is offline")},
+    {QLatin1String("other"), QT_TRANSLATE_NOOP("orvek::Queue", "The printer reports a problem")},
+    {QLatin1String("output-area-almost-full"),
+     QT_TRANSLATE_NOOP("orvek::Queue", "The output tray is almost full")},
+    {QLatin1String("output-area-full"),
+     QT_TRANSLATE_NOOP("orvek::Queue", "The output tray is full")},
+    {QLatin1String("output-tray-missing"),
+     QT_TRANSLATE_NOOP("orvek::Queue", "The output tray is missing")},
+    {QLatin1String("paused"), QT_TRANSLATE_NOOP("orvek::Queue", "Paused")},
+    {QLatin1String("shutdown"), QT_TRANSLATE_NOOP("orvek::Queue", "The printer is switched off")},
+    {QLatin1String("spool-area-full"),
+     QT_TRANSLATE_NOOP("orvek::Queue", "The printer's memory is full")},
+    {QLatin1String("stopped-partly"),
+     QT_TRANSLATE_NOOP("orvek::Queue", "Part of the printer is stopped")},
+    {QLatin1String("stopping"), QT_TRANSLATE_NOOP("orvek::Queue", "Stopping")},
+    {QLatin1String("timed-out"), QT_TRANSLATE_NOOP("orvek::Queue", "The printer does not answer")},
+    {QLatin1String("toner-empty"), QT_TRANSLATE_NOOP("orvek::Queue", "Toner is empty")},
+    {QLatin1String("toner-low"), QT_TRANSLATE_NOOP("orvek::Queue", "Toner is low")},
+};
 
 QString withoutSeverity(QString keyword) {
   for (const auto &severity :
@@ -71,7 +87,10 @@ QString Queue::destination() const {
 QString reasonInWords(const QString &keyword) {
   if (keyword == QStringLiteral("none")) return {};
   const QString plain = withoutSeverity(keyword);
-  return knownReasons().value(plain, wordsOf(plain));
+  const auto *known =
+      std::find_if(std::begin(knownReasons), std::end(knownReasons),
+                   [&plain](const KnownReason &reason) { return reason.keyword == plain; });
+  return known == std::end(knownReasons) ? wordsOf(plain) : Text::tr(known->words);
 }
 
 QString stateInWords(const Queue &queue) {

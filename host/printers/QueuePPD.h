@@ -7,7 +7,8 @@
 
 namespace orvek {
 
-/// Where PPD files of queues are kept.
+/// Where PPD files of queues are kept. Holds no file open and may be used on any thread; failures
+/// name the queue or the file.
 class QueuePPD {
  public:
   explicit QueuePPD(const QString &cacheFolder = standardFolder());

@@ -7,6 +7,7 @@
 
 namespace orvek {
 
+/// One value of a setting that a queue offers. Plain data.
 struct SettingChoice {
   QString keyword;
   /// For people.

@@ -15,6 +15,7 @@
 
 namespace orvek {
 
+/// Closes libcups' connections.
 struct HttpCloser {
   void operator()(http_t *http) const { httpClose(http); }
 };
@@ -23,7 +24,8 @@ struct HttpCloser {
 using HttpHandle = std::unique_ptr<http_t, HttpCloser>;
 
 /// Ends every wait of one connection once the other side has neither taken nor given a byte for a
-/// while. Must outlive the connection.
+/// while. Must outlive the connection. Borrows the flag that cancels; belongs to the connection's
+/// thread.
 class WaitLimit {
  public:
   /// `cancelled` (may be null) ends every wait, too.

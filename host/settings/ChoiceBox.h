@@ -9,6 +9,8 @@
 
 namespace orvek {
 
+/// Borrows the availability, which must outlive it. Belongs to its parent, owns its child controls,
+/// and lives on the interface's thread.
 class ChoiceBox final : public QComboBox {
   Q_OBJECT
 

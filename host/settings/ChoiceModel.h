@@ -11,6 +11,8 @@
 
 namespace orvek {
 
+/// Borrows the availability, which must outlive it. Belongs to its parent and lives on the
+/// interface's thread; a row that is not there has no data.
 class ChoiceModel final : public QAbstractListModel {
   Q_OBJECT
 

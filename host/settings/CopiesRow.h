@@ -11,6 +11,8 @@ class QSpinBox;
 
 namespace orvek {
 
+/// Shows settings and says what the user changes. Belongs to its parent, owns its child controls,
+/// and lives on the interface's thread.
 class CopiesRow final : public QWidget {
   Q_OBJECT
 

@@ -11,6 +11,8 @@ class QDoubleSpinBox;
 
 namespace orvek {
 
+/// Shows a size and says what the user changes; keeps to the printer's limits. Belongs to its
+/// parent, owns its child controls, and lives on the interface's thread.
 class CustomSizeRow final : public QWidget {
   Q_OBJECT
 

@@ -13,6 +13,8 @@ class QLabel;
 
 namespace orvek {
 
+/// One field for each parameter; what is wrong with a value stands below it. Belongs to its parent,
+/// owns its child controls, and lives on the interface's thread.
 class CustomValueForm final : public QWidget {
   Q_OBJECT
 

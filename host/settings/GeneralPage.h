@@ -22,8 +22,10 @@ class CopiesRow;
 class CustomSizeRow;
 class PagesRow;
 
-/// Copies and collation, pages and their order; paper size, source and type; orientation,
-/// two-sided, pages per sheet; colour, quality. A row that the printer has nothing for is hidden.
+/// Copies and collation, pages and their order; paper size, source and type; orientation, two-
+/// sided, pages per sheet; colour, quality. A row that the printer has nothing for is hidden.
+/// Borrows the session, which must outlive it. Belongs to its parent, owns its child controls, and
+/// lives on the interface's thread.
 class GeneralPage final : public QWidget {
   Q_OBJECT
 

@@ -20,6 +20,7 @@ struct CustomPaper {
   CustomPaperLimits limits;
 };
 
+/// What the page of general settings shows. Plain data.
 struct GeneralState {
   JobSettings job;
   int pagesPerSheet = 1;

@@ -12,6 +12,7 @@
 
 namespace orvek {
 
+/// One option of the printer with its choices. Plain data.
 struct OptionEntry {
   QString keyword;
   /// For people.
@@ -20,6 +21,7 @@ struct OptionEntry {
   QString standard;
 };
 
+/// Options under one title. Plain data.
 struct OptionGroup {
   QString text;
   QList<OptionEntry> options;

@@ -10,6 +10,8 @@
 
 namespace orvek {
 
+/// Borrows the session, which must outlive it. Belongs to its parent and lives on the interface's
+/// thread; an index that is not its own has no data.
 class OptionsModel final : public QAbstractItemModel {
   Q_OBJECT
 

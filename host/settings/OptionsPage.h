@@ -19,6 +19,8 @@ class CustomValueForm;
 class OptionsModel;
 class OptionsView;
 
+/// Borrows the session, which must outlive it. Belongs to its parent, owns its child controls, and
+/// lives on the interface's thread.
 class OptionsPage final : public QWidget {
   Q_OBJECT
 

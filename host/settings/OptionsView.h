@@ -12,7 +12,8 @@ namespace orvek {
 class OptionsModel;
 
 /// Draws a choice with an arrow, and edits it in a pop-up whose greyed choices have their reasons.
-/// An option that is on or off has a check box.
+/// An option that is on or off has a check box. Belongs to its parent and lives on the interface's
+/// thread.
 class ChoiceDelegate final : public QStyledItemDelegate {
   Q_OBJECT
 
@@ -39,6 +40,8 @@ class ChoiceDelegate final : public QStyledItemDelegate {
   Availability *m_availability;
 };
 
+/// Shows the model, which must outlive it. Belongs to its parent, owns its child controls, and
+/// lives on the interface's thread.
 class OptionsView final : public QTreeView {
   Q_OBJECT
 

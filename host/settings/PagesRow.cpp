@@ -38,6 +38,12 @@ PagesRow::PagesRow(QWidget *parent)
   m_problem->setTextFormat(Qt::PlainText);
   m_problem->setWordWrap(true);
   setFocusProxy(m_all);
+  arrange();
+  connectControls();
+  updateControls();
+}
+
+void PagesRow::arrange() {
   auto *grid = new QGridLayout(this);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setHorizontalSpacing(gap);
@@ -47,6 +53,9 @@ PagesRow::PagesRow(QWidget *parent)
   grid->addWidget(m_ranges, 0, problemColumn);
   grid->addWidget(m_problem, 1, problemColumn);
   grid->setColumnStretch(problemColumn, 1);
+}
+
+void PagesRow::connectControls() {
   connect(m_all, &QRadioButton::clicked, this, &PagesRow::pick);
   connect(m_some, &QRadioButton::clicked, this, [this] {
     m_ranges->setFocus(Qt::OtherFocusReason);
@@ -61,7 +70,6 @@ PagesRow::PagesRow(QWidget *parent)
     m_isTyping = false;
     updateControls();
   });
-  updateControls();
 }
 
 void PagesRow::pick() {

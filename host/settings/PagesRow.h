@@ -12,6 +12,9 @@ class QRadioButton;
 
 namespace orvek {
 
+/// Shows page ranges and says what the user types; what is wrong with that stands below the field,
+/// in the user's language. Belongs to its parent, owns its child controls, and lives on the
+/// interface's thread.
 class PagesRow final : public QWidget {
   Q_OBJECT
 
@@ -26,6 +29,8 @@ class PagesRow final : public QWidget {
   void rangesPicked(const QString &ranges, const QString &problem);
 
  private:
+  void arrange();
+  void connectControls();
   void pick();
   void updateControls();
 

@@ -7,6 +7,7 @@
 #include <QMessageBox>
 #include <QTimer>
 
+#include "host/dialog/PresetChooser.h"
 #include "tests/host/dialog/DialogKit.h"
 
 using namespace orvek;

@@ -12,6 +12,7 @@
 #include <QStandardItemModel>
 #include <QTimer>
 
+#include "host/dialog/PrinterChooser.h"
 #include "host/session/QueueSetup.h"
 #include "tests/host/dialog/DialogKit.h"
 #include "tests/support/PrivateCups.h"

@@ -20,6 +20,7 @@
 #include <functional>
 
 #include "host/dialog/PrintDialog.h"
+#include "host/dialog/PrinterChooser.h"
 #include "host/panels/PluginLoader.h"
 #include "host/ppd/Wording.h"
 #include "host/session/QueueSetup.h"

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: Apache-2.0
+// What the window is told when it is made. Needs no widgets.
+#pragma once
+
+#include <QString>
+#include <atomic>
+#include <functional>
+#include <memory>
+
+#include "host/jobs/DocumentInfo.h"
+#include "host/jobs/JobRequest.h"
+#include "host/presets/PresetStore.h"
+#include "host/printers/ServerAccess.h"
+#include "host/session/PrintSession.h"
+#include "platform/system/Result.h"
+
+namespace orvek {
+
+/// What a window is made for, besides the session.
+struct DialogSetup {
+  /// Gives what a session on another printer begins with. Is called on a thread of its own, and
+  /// ends soon after `cancelled` was set.
+  using AskPrinter = std::function<Result<SessionSetup>(const QString &destinationOrPath,
+                                                        const std::atomic<bool> &cancelled)>;
+
+  /// For people.
+  QString documentName;
+  /// What is known of it; more may come with setDocument.
+  DocumentInfo document;
+  /// "NAME/INSTANCE" of the session's queue; empty: into a file.
+  QString destination;
+  /// Where a job goes that goes to no queue; null: Print asks for a file.
+  QString outputFile;
+  ServerAccess server;
+
+  /// The job as the session has it. Where it goes is the window's business. Empty: a request that
+  /// says nothing.
+  std::function<JobRequest(PrintSession &)> jobRequest;
+
+  /// Asks for a queue.
+  AskPrinter askPrinter;
+  /// Reads the PPD file of this path.
+  AskPrinter readDescription;
+
+  /// Begins a session with what was asked for, its panels open.
+  std::function<Result<std::unique_ptr<PrintSession>>(const SessionSetup &)> beginSession;
+
+  /// Null: no presets.
+  std::shared_ptr<PresetStore> presets;
+};
+
+}  // namespace orvek
