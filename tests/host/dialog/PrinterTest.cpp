@@ -14,6 +14,7 @@
 
 #include "host/dialog/PrinterChooser.h"
 #include "host/session/QueueSetup.h"
+#include "platform/system/Log.h"
 #include "tests/host/dialog/DialogKit.h"
 #include "tests/support/PrivateCups.h"
 
@@ -137,6 +138,17 @@ TEST_F(PrinterChoice, SendsPicksToTheQueueAndTellsTheJobsNumber) {
   QFile bytes(server->printedBy(QStringLiteral("big")));
   ASSERT_TRUE(bytes.open(QIODevice::ReadOnly));
   EXPECT_TRUE(bytes.readAll().contains("%%BeginFeature: *OVKFolding Saddle"));
+}
+
+TEST_F(PrinterChoice, HearsTheLogAfterASecondChangeToo) {
+  open();
+  list();
+  pickPrinter(QStringLiteral("small"));
+  pickPrinter(QStringLiteral("big"));
+  logLine(QStringLiteral("still heard"));
+  EXPECT_EQ(dialog->session().record().log().value(0),
+            QStringLiteral("initWithCallback: finishing\n"));
+  EXPECT_EQ(dialog->session().record().log().last(), QStringLiteral("still heard"));
 }
 
 TEST_F(PrinterChoice, TakesAlongWhatFitsAndSaysWhatDoesNot) {

@@ -10,6 +10,7 @@
 #include "host/jobs/QueueJob.h"
 #include "host/printers/QueuePPD.h"
 #include "host/session/CommonSettings.h"
+#include "host/session/PrintSession.h"
 #include "host/session/QueueSetup.h"
 #include "tests/support/IppPrinter.h"
 #include "tests/support/PrivateCups.h"
