@@ -8,7 +8,7 @@
 namespace orvek {
 
 /// Always as large as the view in it, which stands at its origin. The view stays its
-/// panel's.
+/// panel's. Belongs to the interface's thread; nothing fails.
 class PanelContainer final : public QWidget {
  public:
   explicit PanelContainer(QWidget *parent = nullptr);

@@ -21,7 +21,8 @@ class PanelListener {
   virtual void panelResized() = 0;
 };
 
-/// What the session lends to panels through a callback object; each may be null.
+/// What the session lends to panels through a callback object, whose ticket it shares; each may be
+/// null.
 struct PanelLoan {
   ppd_file_t *ppd = nullptr;
   PMPrintSession session = nullptr;

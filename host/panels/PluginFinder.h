@@ -8,7 +8,7 @@
 
 namespace orvek {
 
-/// The folders and environment that decide where bundles are found.
+/// The folders and environment that decide where bundles are found. Plain data.
 struct PluginPlaces {
   /// Absolute: the folder of the running program.
   QString programFolder;

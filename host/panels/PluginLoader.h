@@ -23,7 +23,8 @@ struct LoadedPlugin {
 /// Loads one bundle and hands the bundle to its factory. Invalid failures name bundle and file.
 Result<LoadedPlugin> loadPlugin(const QString &bundlePath);
 
-/// What came of looking for installed plug-ins: the sound ones, and what is wrong with the others.
+/// What came of looking for installed plug-ins: the sound ones, which it shares, and what is wrong
+/// with the others.
 struct PluginHarvest {
   QList<std::shared_ptr<LoadedPlugin>> plugins;
   QList<Failure> failures;

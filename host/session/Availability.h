@@ -12,7 +12,7 @@
 
 namespace orvek {
 
-/// What a pick of a choice would do.
+/// What a pick of a choice would do. Plain data.
 struct ChoiceAvailability {
   enum class Kind {
     /// Nothing but marking it.

@@ -16,7 +16,7 @@ class PrintSession;
 
 enum class CommonSetting { PaperSize, PaperSource, PaperType, Sides, Color, Quality };
 
-/// One such setting of a session's printer.
+/// One such setting of a session's printer. Plain data.
 struct Setting {
   /// The PPD's main keyword, or the IPP attribute.
   QString key;
