@@ -187,8 +187,9 @@ class Writer {
       return true;
     }
     const auto given = m_queue->take<std::int64_t>();
-    if (given)
+    if (given) {
       *size = static_cast<int>(std::clamp<std::int64_t>(*given, -widestField, widestField));
+    }
     return given.has_value();
   }
 
