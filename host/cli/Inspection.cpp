@@ -4,6 +4,7 @@
 #include "host/cli/Inspection.h"
 
 #include <QJsonArray>
+#include <QWidget>
 
 #include "host/cli/ControlInspection.h"
 

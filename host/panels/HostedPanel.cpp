@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "host/panels/PanelContainer.h"
+
 namespace orvek {
 
 HostedPanel::HostedPanel(std::shared_ptr<PDEPanel> panel)
@@ -33,6 +35,14 @@ void HostedPanel::start() {
 void HostedPanel::loadView() {
   m_view = m_panel->panelView();
   if (m_container) m_container->hold(m_view);
+}
+
+QWidget *HostedPanel::view() const {
+  return m_view;
+}
+
+PanelContainer *HostedPanel::container() const {
+  return m_container;
 }
 
 bool HostedPanel::claimsAny(const QStringList &options) const {

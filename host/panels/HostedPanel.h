@@ -2,15 +2,19 @@
 // One panel as the session holds it: the panel, its place, and what it said of itself.
 #pragma once
 
+#include <QPointer>
 #include <QString>
 #include <QStringList>
 #include <memory>
 
-#include "host/panels/PanelContainer.h"
 #include "platform/plugin/PDEInspection.h"
 #include "platform/plugin/PDEPanel.h"
 
+class QWidget;
+
 namespace orvek {
+
+class PanelContainer;
 
 /// Owns the panel (the last to do so) and the place of its view. Belongs to the interface's thread.
 /// A view that could not be loaded is null; nothing else fails.
@@ -33,10 +37,10 @@ class HostedPanel {
   PDEPanel &panel() const { return *m_panel; }
 
   /// The root view; null where it could not be loaded.
-  QWidget *view() const { return m_view; }
+  QWidget *view() const;
 
   /// Where the view stands; lent to whoever shows it, and taken back when the panel goes.
-  PanelContainer *container() const { return m_container; }
+  PanelContainer *container() const;
 
   const QString &name() const { return m_name; }
   const QString &kind() const { return m_kind; }

@@ -5,6 +5,8 @@
 
 #include <utility>
 
+#include "host/panels/PanelContainer.h"
+
 namespace orvek {
 
 PanelSet::PanelSet(PanelListener &listener, PanelLoan loan, bool panelsMayResize)

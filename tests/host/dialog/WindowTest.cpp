@@ -3,6 +3,7 @@
 
 #include <QFile>
 
+#include "host/panels/PanelContainer.h"
 #include "tests/host/dialog/DialogKit.h"
 
 using namespace orvek;

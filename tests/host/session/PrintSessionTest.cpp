@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QSignalSpy>
 
+#include "host/panels/PanelContainer.h"
 #include "platform/system/Log.h"
 #include "tests/host/session/SessionKit.h"
 
