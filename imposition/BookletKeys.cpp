@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: Apache-2.0
+// One rule per kind of value; the keys' defaults stand in the structure.
+
+#include "imposition/BookletKeys.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+
+namespace orvek::imposition {
+namespace {
+
+bool isSpace(char c) {
+  return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+std::string lowerCase(std::string text) {
+  for (char &c : text)
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  return text;
+}
+
+// CUPS does not keep the letters of a boolean: "False" on a command line reaches filters as
+// "false".
+bool isOff(const std::string &value) {
+  const std::string word = lowerCase(value);
+  return word == "false" || word == "off" || word == "no" || word == "0";
+}
+
+bool flag(const ValueOf &valueOf, const char *key) {
+  const auto value = valueOf(key);
+  return value && !isOff(*value);
+}
+
+int number(const ValueOf &valueOf, const char *key, int absent) {
+  const auto value = valueOf(key);
+  return value ? leadingInteger(*value) : absent;
+}
+
+bool hasSeveralPagesPerSheet(const ValueOf &valueOf) {
+  return number(valueOf, layoutNUpKey, 0) != 0 || number(valueOf, numberUpKey, 1) > 1;
+}
+
+}  // namespace
+
+int leadingInteger(const std::string &text) {
+  auto c = std::find_if_not(text.begin(), text.end(), isSpace);
+  const bool negative = c != text.end() && *c == '-';
+  if (c != text.end() && (*c == '-' || *c == '+')) ++c;
+  constexpr std::int64_t beyond = std::int64_t{std::numeric_limits<std::int32_t>::max()} + 1;
+  std::int64_t value = 0;
+  for (; c != text.end() && *c >= '0' && *c <= '9'; ++c)
+    value = std::min(value * 10 + (*c - '0'), beyond);
+  return static_cast<int>(negative ? -value : std::min(value, beyond - 1));
+}
+
+BookletKeys readBookletKeys(const ValueOf &valueOf) {
+  BookletKeys keys;
+  keys.enabled = flag(valueOf, enableBookletKey) && !hasSeveralPagesPerSheet(valueOf);
+  keys.rightToLeft = flag(valueOf, rightToLeftKey);
+  keys.pageBorders = flag(valueOf, pageBordersKey);
+  keys.gutter = std::clamp(number(valueOf, gutterKey, keys.gutter), 0, largestGutter);
+  keys.creep = std::clamp(number(valueOf, creepKey, keys.creep), -largestCreep, largestCreep);
+  keys.targetPaper = number(valueOf, targetPaperSizeKey, keys.targetPaper);
+  return keys;
+}
+
+std::optional<int> targetPaperChoice(int targetPaper, int pageSizeChoices) {
+  if (targetPaper < 1 || targetPaper >= pageSizeChoices) return std::nullopt;
+  return targetPaper - 1;
+}
+
+}  // namespace orvek::imposition

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: Apache-2.0
+// Sizes, and how one fits into another.
+
+#include "imposition/Geometry.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvek::imposition {
+namespace {
+
+bool isLength(double length) {
+  return std::isfinite(length) && length > 0;
+}
+
+}  // namespace
+
+bool isDrawable(Size size) {
+  return isLength(size.width) && isLength(size.height);
+}
+
+Size scaledInto(Size size, Size room) {
+  if (!isDrawable(size) || !isDrawable(room)) return {};
+  const double scale = std::min(room.width / size.width, room.height / size.height);
+  return {size.width * scale, size.height * scale};
+}
+
+}  // namespace orvek::imposition
