@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: Apache-2.0
+// How CUPS calls a filter.
+#pragma once
+
+#include <span>
+#include <string>
+#include <vector>
+
+#include "platform/system/Result.h"
+
+namespace orvek::driver {
+
+/// The arguments of one call. All texts as CUPS gave them.
+struct FilterCall {
+  std::string printer;  ///< what stands in the program's own place
+  std::string job;
+  std::string user;
+  std::string title;
+  std::string copies;
+  std::string options;
+  std::string file;  ///< empty: the document comes by standard input
+
+  /// For another filter, its own name or path left out.
+  std::vector<std::string> arguments() const;
+};
+
+/// Fails, with the usage, unless there are five or six arguments besides the program's own place.
+Result<FilterCall> readFilterCall(std::span<char *const> arguments);
+
+/// What a document is by its first bytes.
+enum class DocumentKind { PDF, PostScript };
+
+/// Looks at the beginning of the call's file or, without taking anything from it, of standard
+/// input. Whatever is not PostScript counts as PDF.
+DocumentKind documentKind(const FilterCall &call);
+
+}  // namespace orvek::driver

@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: Apache-2.0
+// From pages to sheets. The one door through which libqpdf's exceptions would leave is here.
+
+#include "driver/Imposer.h"
+
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFAcroFormDocumentHelper.hh>
+#include <qpdf/QPDFPageDocumentHelper.hh>
+#include <qpdf/QPDFWriter.hh>
+
+#include <algorithm>
+#include <exception>
+#include <vector>
+
+#include "driver/PageForm.h"
+#include "driver/PageTree.h"
+#include "driver/SheetContents.h"
+#include "imposition/Booklet.h"
+#include "imposition/Paper.h"
+
+namespace orvek::driver {
+namespace {
+
+using imposition::Face;
+using imposition::Size;
+
+constexpr Size usualPaper{595, 842};
+
+Failure failure(const QString &why) {
+  return {FailureKind::Io, QStringLiteral("the document"), why};
+}
+
+/// What libqpdf says may quote the document.
+QString oneLine(const std::string &text) {
+  constexpr qsizetype longest = 200;
+  return QString::fromUtf8(text.c_str()).simplified().left(longest);
+}
+
+Failure failureOf(const QPDFExc &error) {
+  if (error.getErrorCode() == qpdf_e_password)
+    return failure(
+        QStringLiteral("it is encrypted with a password; print it from a program that "
+                       "opens it with that password"));
+  return failure(QStringLiteral("it is damaged beyond repair: ") +
+                 oneLine(error.getMessageDetail()));
+}
+
+using Pages = std::vector<QPDFPageObjectHelper>;
+
+/// Whether there were any.
+bool drawAnnotations(QPDF &document, Pages &pages) {
+  const bool areThere = std::any_of(pages.begin(), pages.end(), [](QPDFPageObjectHelper &page) {
+    return page.getObjectHandle().hasKey("/Annots");
+  });
+  if (!areThere) return false;
+  QPDFAcroFormDocumentHelper(document).generateAppearancesIfNeeded();
+  QPDFPageDocumentHelper(document).flattenAnnotations(an_print);
+  return true;
+}
+
+/// Has neither operators that draw nor anything to draw.
+bool isFiller(QPDFPageObjectHelper page) {
+  QPDFObjectHandle forms = page.getAttribute("/Resources", false).getKeyIfDict("/XObject");
+  if (forms.isDictionary() && !forms.getKeys().empty()) return false;
+  QPDFObjectHandle contents = page.getObjectHandle().getKey("/Contents");
+  if (!contents.isStream()) return contents.isNull();
+  constexpr std::size_t longest = 64;
+  const auto data = contents.getStreamData();
+  if (data->getSize() > longest) return false;
+  const std::string text(reinterpret_cast<const char *>(data->getBuffer()), data->getSize());
+  return text.find_first_not_of("qQ \t\r\n") == std::string::npos;
+}
+
+void dropFiller(Pages &pages) {
+  const bool isEven = pages.size() % 2 == 0;
+  if (isEven && isFiller(pages.front())) pages.erase(pages.begin());
+}
+
+/// `isFiltered`: some streams have yet to be worked on, which libqpdf does where it decodes them.
+void write(QPDF &document, std::FILE *sheets, bool isFiltered) {
+  QPDFWriter writer(document);
+  writer.setOutputFile("sheets", sheets, false);
+  writer.setPreserveEncryption(false);
+  // It is read once, at once, on this machine.
+  if (!isFiltered) writer.setDecodeLevel(qpdf_dl_none);
+  writer.setCompressStreams(isFiltered);
+  writer.setObjectStreamMode(qpdf_o_disable);
+  writer.write();
+}
+
+std::vector<PageForm> formsOf(const Pages &pages, Size paper) {
+  std::vector<PageForm> forms;
+  forms.reserve(pages.size());
+  FormsMade made;
+  for (const QPDFPageObjectHelper &page : pages) forms.push_back(formOf(page, paper, &made));
+  return forms;
+}
+
+std::vector<QPDFObjectHandle> sidesOf(QPDF &document, const std::vector<PageForm> &forms,
+                                      Size paper, const imposition::BookletKeys &keys) {
+  std::vector<Size> sizes;
+  sizes.reserve(forms.size());
+  for (const PageForm &form : forms) sizes.push_back(form.size);
+  const imposition::ImposedJob job = imposition::imposeBooklet(sizes, paper, keys);
+  const SheetPaper sheet{paper, job.side};
+  std::vector<QPDFObjectHandle> sides;
+  sides.reserve(2 * job.sheets.size());
+  for (const auto &[front, back] : job.sheets) {
+    sides.push_back(pageOf(document, front, Face::Front, sheet, forms));
+    sides.push_back(pageOf(document, back, Face::Back, sheet, forms));
+  }
+  return sides;
+}
+
+/// The same for every sheet, so that the booklet can be folded.
+Size paperFor(const BookletRequest &request, const Pages &pages) {
+  if (request.paper && imposition::isDrawable(*request.paper)) return *request.paper;
+  FormsMade made;
+  return formOf(pages.front(), usualPaper, &made).size;
+}
+
+Result<int> impose(QPDF &document, std::FILE *sheets, const BookletRequest &request) {
+  auto pages = pagesOf(document);
+  if (!pages) return pages.failure();
+  if (request.mayBeginWithFiller) dropFiller(pages.value());
+  const bool hasAnnotations = drawAnnotations(document, pages.value());
+  const Size paper = paperFor(request, pages.value());
+  const auto sides = sidesOf(document, formsOf(pages.value(), paper), paper, request.keys);
+  replacePages(document, sides);
+  write(document, sheets, hasAnnotations);
+  if (std::fflush(sheets) != 0) return failure(QStringLiteral("its sheets can't be written"));
+  return static_cast<int>(sides.size());
+}
+
+}  // namespace
+
+Result<int> imposeDocument(std::FILE *document, std::FILE *sheets, const BookletRequest &request) {
+  try {
+    QPDF pdf;
+    pdf.setSuppressWarnings(true);
+    pdf.processFile("document", document, false);
+    return impose(pdf, sheets, request);
+  } catch (const QPDFExc &error) {
+    return failureOf(error);
+  } catch (const std::exception &error) {
+    return failure(oneLine(error.what()));
+  }
+}
+
+}  // namespace orvek::driver

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: Apache-2.0
+// Makes a booklet's sheets of a PDF document. No exception leaves it.
+#pragma once
+
+#include <cstdio>
+#include <optional>
+
+#include "imposition/BookletKeys.h"
+#include "imposition/Geometry.h"
+#include "platform/system/Result.h"
+
+namespace orvek::driver {
+
+struct BookletRequest {
+  imposition::BookletKeys keys;
+  /// The sheet as the printer feeds it. Nothing: as the document's first page is displayed.
+  std::optional<imposition::Size> paper;
+  /// The document was turned round for two-sided sheets, and may begin with the blank page that
+  /// evened it out. That page is none of the document's own.
+  bool mayBeginWithFiller = false;
+};
+
+/// Reads `document`, which must be seekable, and writes to `sheets` a PDF with a page for each side
+/// of each sheet, as they are printed one after the other: front, back, front ... Pages become form
+/// XObjects: nothing is turned into pixels, fonts and colours stay. Annotations and form fields
+/// that printing shows are drawn into their pages. Both files stay the caller's.
+///
+/// Gives the number of sides. Failures, in one line: the document is encrypted with a password; it
+/// can't be repaired; it has no pages; its page tree runs in circles; `sheets` can't be written.
+Result<int> imposeDocument(std::FILE *document, std::FILE *sheets, const BookletRequest &request);
+
+}  // namespace orvek::driver

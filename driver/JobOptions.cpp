@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: Apache-2.0
+// Over libcups' own reader, so that no text means another thing here than to the other filters.
+
+#include "driver/JobOptions.h"
+
+#include <span>
+#include <string_view>
+
+namespace orvek::driver {
+namespace {
+
+/// What would end a value, or be taken for something else, has a backslash before it. Collections
+/// are read up to their closing brace as they are.
+std::string quoted(std::string_view value) {
+  if (value.starts_with('{')) return std::string(value);
+  std::string text;
+  for (const char c : value) {
+    if (std::string_view(" \t\n\\'\"").find(c) != std::string_view::npos) text += '\\';
+    text += c;
+  }
+  return text.empty() ? "\"\"" : text;
+}
+
+}  // namespace
+
+JobOptions::JobOptions(const std::string &text) {
+  m_count = cupsParseOptions(text.c_str(), 0, &m_options);
+}
+
+JobOptions::~JobOptions() {
+  cupsFreeOptions(m_count, m_options);
+}
+
+std::optional<std::string> JobOptions::value(const char *name) const {
+  const char *found = cupsGetOption(name, m_count, m_options);
+  if (found == nullptr) return std::nullopt;
+  return found;
+}
+
+void JobOptions::set(const char *name, const char *value) {
+  m_count = cupsAddOption(name, value, m_count, &m_options);
+}
+
+void JobOptions::remove(std::initializer_list<const char *> names) {
+  for (const char *name : names) m_count = cupsRemoveOption(name, m_count, &m_options);
+}
+
+std::string JobOptions::text() const {
+  std::string all;
+  for (const cups_option_t &option : std::span(m_options, static_cast<std::size_t>(m_count))) {
+    if (!all.empty()) all += ' ';
+    all += std::string(option.name) + '=' + quoted(option.value);
+  }
+  return all;
+}
+
+void JobOptions::mark(ppd_file_t *ppd) const {
+  ppdMarkDefaults(ppd);
+  cupsMarkOptions(ppd, m_count, m_options);
+}
+
+}  // namespace orvek::driver

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: Apache-2.0
+// A job's options as CUPS hands them to filters: one text of names and values.
+#pragma once
+
+#include <initializer_list>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "platform/printing/PPD.h"
+// clang-format off
+#include <cups/cups.h>
+// clang-format on
+
+namespace orvek::driver {
+
+/// Names are compared without regard to case, as CUPS does. An option without a value is a boolean:
+/// "name" is "true", "noname" is "false".
+class JobOptions {
+ public:
+  explicit JobOptions(const std::string &text);
+  ~JobOptions();
+  JobOptions(const JobOptions &) = delete;
+  JobOptions &operator=(const JobOptions &) = delete;
+
+  std::optional<std::string> value(const char *name) const;
+  void set(const char *name, const char *value);
+  void remove(std::initializer_list<const char *> names);
+
+  /// The options in the form that the constructor reads.
+  std::string text() const;
+
+  /// Marks a PPD with them, over its defaults.
+  void mark(ppd_file_t *ppd) const;
+
+ private:
+  int m_count = 0;
+  cups_option_t *m_options = nullptr;
+};
+
+}  // namespace orvek::driver

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: Apache-2.0
+// The paper of a booklet's sheets.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "driver/JobOptions.h"
+#include "imposition/BookletKeys.h"
+#include "imposition/Geometry.h"
+
+namespace orvek::driver {
+
+struct JobPaper {
+  imposition::Size size;  ///< as the printer names it: portrait paper is higher than wide
+  std::string pageSize;   ///< the PageSize choice that the target paper means; empty: the job's own
+};
+
+/// The sheet's paper by the PPD, the job's options and the booklet's target paper. Nothing where
+/// the PPD can't be read or knows no size for it: the document's own pages have to tell then.
+std::optional<JobPaper> paperOf(const std::string &ppdFile, const JobOptions &options,
+                                const imposition::BookletKeys &keys);
+
+}  // namespace orvek::driver

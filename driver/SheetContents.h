@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: Apache-2.0
+// The pages of the imposed document: one for each side of each sheet.
+#pragma once
+
+#include <qpdf/QPDF.hh>
+#include <span>
+
+#include "driver/PageForm.h"
+#include "imposition/Booklet.h"
+#include "imposition/Paper.h"
+
+namespace orvek::driver {
+
+/// Where sides are drawn.
+struct SheetPaper {
+  imposition::Size paper;  ///< as the printer feeds it
+  imposition::Size side;   ///< as it is held
+};
+
+/// A new page, of the paper's size, that shows a side. `pages` are all that the side may name, the
+/// first one's number being 1.
+QPDFObjectHandle pageOf(QPDF &document, const imposition::Side &side, imposition::Face face,
+                        const SheetPaper &paper, std::span<const PageForm> pages);
+
+}  // namespace orvek::driver

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: Apache-2.0
+// Files that are gone when the driver is.
+#pragma once
+
+#include <cstdio>
+#include <memory>
+#include <string>
+
+#include "platform/system/Result.h"
+
+namespace orvek::driver {
+
+struct CloseFile {
+  void operator()(std::FILE *file) const { std::fclose(file); }
+};
+using File = std::unique_ptr<std::FILE, CloseFile>;
+
+/// A file for reading and writing that has no name: however the driver ends, nothing stays.
+Result<File> namelessFile();
+
+/// A nameless file with everything that a descriptor still has to give, ready to be read.
+Result<File> spooled(int descriptor);
+
+/// Writes everything from a file's descriptor on to another.
+Status copyOut(std::FILE *file, int descriptor);
+
+/// Opens a file for reading.
+Result<File> openedFile(const std::string &path);
+
+/// A file with a name, for programs that take nothing else. Goes with the object, and when the job
+/// is cancelled; one at a time.
+class NamedFile {
+ public:
+  NamedFile(const NamedFile &) = delete;
+  NamedFile &operator=(const NamedFile &) = delete;
+  ~NamedFile();
+
+  static Result<std::unique_ptr<NamedFile>> with(const std::string &contents);
+  const std::string &path() const { return m_path; }
+
+ private:
+  explicit NamedFile(std::string path);
+  std::string m_path;
+};
+
+}  // namespace orvek::driver

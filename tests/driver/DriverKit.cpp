@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: Apache-2.0
+// Lays out the folder and runs programs.
+
+#include "tests/driver/DriverKit.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+
+#include "driver/StandardFilters.h"
+#include "driver/StandardPPD.h"
+#include "tests/support/CapturingFilter.h"
+
+namespace orvek::testing {
+namespace {
+
+constexpr int patience = 100000;
+
+const QStringList kFolders{QStringLiteral("/usr/sbin"), QStringLiteral("/usr/bin"),
+                           QStringLiteral("/sbin"), QStringLiteral("/bin")};
+
+constexpr auto everybodyReads = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
+constexpr auto everybodyRuns = QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther;
+
+QString filterTool() {
+  return QStandardPaths::findExecutable(QStringLiteral("cupsfilter"), kFolders);
+}
+
+QByteArray filterLine(const char *type, const QString &filter) {
+  return QByteArray("*cupsFilter2: \"") + type + " application/vnd.cups-postscript 0 " +
+         filter.toUtf8() + "\"\n";
+}
+
+Printed finish(QProcess &process, const QByteArray &input) {
+  EXPECT_TRUE(process.waitForStarted(patience));
+  process.write(input);
+  process.closeWriteChannel();
+  EXPECT_TRUE(process.waitForFinished(patience));
+  Printed printed;
+  printed.exitStatus = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+  printed.output = process.readAllStandardOutput();
+  printed.messages = QString::fromUtf8(process.readAllStandardError()).split(u'\n');
+  return printed;
+}
+
+}  // namespace
+
+QString bookletFilter() {
+  return QStringLiteral(ORVEK_BOOKLET_FILTER);
+}
+
+DriverKit::DriverKit() {
+  QFile::setPermissions(m_folder.path(), everybodyReads | everybodyRuns | QFile::WriteOwner);
+  EXPECT_TRUE(QFile::copy(bookletFilter(), filter()));
+  QFile::setPermissions(filter(), everybodyReads | everybodyRuns);
+  const QByteArray plain = QByteArray::fromStdString(
+      driver::withoutFilterLines(contentsOf(orvekPPD(QStringLiteral("6180"))).toStdString()));
+  writeContents(plainPPD(), plain);
+  const QByteArray before = "*LanguageLevel:";
+  const QByteArray lines = filterLine("application/vnd.cups-pdf", filter()) +
+                           filterLine("application/postscript", filter()) + before;
+  writeContents(ppd(), QByteArray(plain).replace(before, lines));
+}
+
+QString DriverKit::write(const QString &name, const std::string &contents) const {
+  writeContents(path(name), QByteArray::fromStdString(contents));
+  QFile::setPermissions(path(name), everybodyReads | QFile::WriteOwner);
+  return path(name);
+}
+
+QStringList Printed::lines(const QString &prefix) const {
+  QStringList found;
+  for (const QString &line : messages)
+    if (line.startsWith(prefix)) found << line.mid(prefix.size());
+  return found;
+}
+
+QString obstacleToFilters() {
+  if (filterTool().isEmpty()) return QStringLiteral("cupsfilter is not installed");
+  for (const char *filter : {"pdftopdf", "pdftops", "pstops", "gstopdf"})
+    if (driver::standardFilterPath(filter).empty())
+      return QStringLiteral("the filter %1 is not installed").arg(QString::fromLatin1(filter));
+  return {};
+}
+
+Printed printThrough(const QString &ppd, const QStringList &options, const QString &file) {
+  QStringList arguments{QStringLiteral("-e"), QStringLiteral("-p"), ppd, QStringLiteral("-m"),
+                        QStringLiteral("printer/foo")};
+  for (const QString &option : options) {
+    if (option.startsWith(u'-'))
+      arguments << option.split(u' ');
+    else
+      arguments << QStringLiteral("-o") << option;
+  }
+  QProcess process;
+  process.start(filterTool(), arguments << file);
+  return finish(process, {});
+}
+
+Printed runDriverAlone(const DriverKit &kit, const QString &options, const QString &file,
+                       const QByteArray &input, const QStringList &before) {
+  QStringList arguments = before;
+  arguments << QStringLiteral("1") << QStringLiteral("somebody") << QStringLiteral("a title")
+            << QStringLiteral("1") << options;
+  if (!file.isEmpty()) arguments << file;
+  auto environment = QProcessEnvironment::systemEnvironment();
+  environment.insert(QStringLiteral("PPD"), kit.ppd());
+  environment.insert(QStringLiteral("TMPDIR"), kit.path(QString()));
+  QProcess process;
+  process.setProcessEnvironment(environment);
+  process.start(kit.filter(), arguments);
+  return finish(process, input);
+}
+
+QByteArray withoutDates(const QByteArray &postScript) {
+  static const QRegularExpression dates(
+      QStringLiteral("D:[0-9]{14}|[0-9-]{10}T[0-9:]{8}|CreationDate:? [^\\n]*"));
+  return QString::fromLatin1(postScript).remove(dates).toLatin1();
+}
+
+}  // namespace orvek::testing

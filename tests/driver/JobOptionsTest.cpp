@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: Apache-2.0
+// Options as the scheduler writes them.
+
+#include "driver/JobOptions.h"
+
+#include <gtest/gtest.h>
+
+#include "driver/Booklet.h"
+#include "driver/JobPaper.h"
+#include "tests/support/CapturingFilter.h"
+
+namespace orvek::driver {
+namespace {
+
+TEST(JobOptions, ReadBooleansInTheirShortForm) {
+  const JobOptions options("OVKEnableBooklet noOVKRightToLeft OVKGutter=36");
+  EXPECT_EQ(options.value("OVKEnableBooklet"), "true");
+  EXPECT_EQ(options.value("OVKRightToLeft"), "false");
+  EXPECT_EQ(options.value("OVKGutter"), "36");
+  EXPECT_EQ(options.value("OVKCreep"), std::nullopt);
+}
+
+TEST(JobOptions, FindNamesInLettersOfEitherCase) {
+  EXPECT_EQ(JobOptions("ovkgutter=36").value("OVKGutter"), "36");
+}
+
+TEST(JobOptions, AreTheSameOnceWrittenAndReadAgain) {
+  const JobOptions options(
+      "title=a\\ b\\'c quoted=\"x y\" empty= media-col={media-size={x-dimension=1 y-dimension=2}} "
+      "path=a\\\\b flag");
+  const JobOptions again(options.text());
+  for (const char *name : {"title", "quoted", "empty", "media-col", "path", "flag"})
+    EXPECT_EQ(again.value(name), options.value(name)) << name;
+}
+
+TEST(SheetOptions, TurnSheetsOverAtTheShortEdgeWhateverTheJobSaid) {
+  JobOptions options(
+      "sides=two-sided-long-edge Duplex=None Collate=False collate=false OVKJog=True");
+  prepareForSheets(&options, "");
+  EXPECT_EQ(options.value("sides"), "two-sided-short-edge");
+  EXPECT_EQ(options.value("Duplex"), "DuplexTumble");
+  EXPECT_EQ(options.value("Collate"), "True");
+  EXPECT_EQ(options.value("OVKJog"), "True");
+}
+
+TEST(SheetOptions, DoNothingTwice) {
+  JobOptions options("page-ranges=1-4 outputorder=reverse landscape number-up=1 OVKEnableBooklet");
+  prepareForSheets(&options, "");
+  for (const char *done : {"page-ranges", "outputorder", "landscape", "number-up"})
+    EXPECT_EQ(options.value(done), std::nullopt) << done;
+}
+
+TEST(SheetOptions, NameTheTargetPaperAndNoOther) {
+  JobOptions options("media=A5 PageRegion=A6 media-col={media-size-name=x}");
+  prepareForSheets(&options, "A3");
+  EXPECT_EQ(options.value("PageSize"), "A3");
+  for (const char *other : {"media", "PageRegion", "media-col"})
+    EXPECT_EQ(options.value(other), std::nullopt) << other;
+}
+
+TEST(SheetOptions, KeepTheJobsPaperWithoutATarget) {
+  JobOptions options("media=A5");
+  prepareForSheets(&options, "");
+  EXPECT_EQ(options.value("media"), "A5");
+}
+
+std::optional<JobPaper> paperWith(const std::string &options, int targetPaper = 0) {
+  imposition::BookletKeys keys;
+  keys.targetPaper = targetPaper;
+  const std::string ppd = orvek::testing::orvekPPD(QStringLiteral("6180")).toStdString();
+  return paperOf(ppd, JobOptions(options), keys);
+}
+
+TEST(JobPaper, IsWhatTheJobAsksFor) {
+  EXPECT_EQ(paperWith("").value().size, (imposition::Size{595, 842}));
+  EXPECT_EQ(paperWith("media=A5").value().size, (imposition::Size{420, 595}));
+  EXPECT_EQ(paperWith("PageSize=Letter").value().size, (imposition::Size{612, 792}));
+  EXPECT_EQ(paperWith("PageSize=Custom.300x500").value().size, (imposition::Size{300, 500}));
+}
+
+TEST(JobPaper, IsTheTargetPaperWhereOneIsChosen) {
+  const auto paper = paperWith("media=A5", 1);
+  ASSERT_TRUE(paper);
+  EXPECT_EQ(paper->pageSize, "A3");
+  EXPECT_EQ(paper->size, (imposition::Size{842, 1191}));
+  EXPECT_EQ(paperWith("", 15).value().pageSize, "EnvC5");
+}
+
+TEST(JobPaper, IsTheJobsOwnForATargetThatIsNone) {
+  for (const int target : {-1, 0, 16, 1000}) {
+    EXPECT_EQ(paperWith("media=A5", target).value().size, (imposition::Size{420, 595}));
+    EXPECT_EQ(paperWith("media=A5", target).value().pageSize, "");
+  }
+}
+
+TEST(JobPaper, IsUnknownWithoutAPPD) {
+  EXPECT_FALSE(paperOf("", JobOptions("media=A5"), {}));
+  EXPECT_FALSE(paperOf("/nowhere.ppd", JobOptions("media=A5"), {}));
+}
+
+}  // namespace
+}  // namespace orvek::driver

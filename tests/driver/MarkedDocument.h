@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: Apache-2.0
+// PDF documents of a test's own: each page carries its number as a colour, its edge as an outline,
+// and a mark at its top.
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "imposition/Geometry.h"
+
+namespace orvek::testing {
+
+/// A page of such a document.
+struct MarkedPage {
+  imposition::Size size{595, 842};  ///< as displayed
+  int rotate = 0;                   ///< how the page gets there: its /Rotate
+  double around = 0;  ///< points that the media box has beyond the crop box on each side
+};
+
+/// The bytes of a PDF file of these objects; the first is object 1, the catalog.
+std::string pdfOf(const std::vector<std::string> &objects, const std::string &trailerExtras = {});
+
+/// A stream object's text.
+std::string streamOf(const std::string &contents, const std::string &dictionary = {});
+
+/// A document of such pages, numbered from 1.
+std::string markedDocument(const std::vector<MarkedPage> &pages);
+std::string markedDocument(int pages);
+
+/// The colour of a page's number, 0 to 255 each. Good for 1 to 125.
+std::array<int, 3> colourOf(int page);
+
+/// The number that a colour stands for, 0 for none.
+int pageOf(int red, int green, int blue);
+
+}  // namespace orvek::testing
