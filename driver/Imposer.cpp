@@ -3,13 +3,13 @@
 
 #include "driver/Imposer.h"
 
-#include <qpdf/QPDF.hh>
+#include "driver/Qpdf.h"
+// Only after it:
+#include <algorithm>
+#include <exception>
 #include <qpdf/QPDFAcroFormDocumentHelper.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFWriter.hh>
-
-#include <algorithm>
-#include <exception>
 #include <vector>
 
 #include "driver/PageForm.h"

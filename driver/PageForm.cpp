@@ -3,8 +3,6 @@
 
 #include "driver/PageForm.h"
 
-#include <qpdf/QPDF.hh>
-
 #include <algorithm>
 #include <cmath>
 

@@ -2,13 +2,10 @@
 // A page as something that can be drawn on another. Exceptions of libqpdf pass through.
 #pragma once
 
-#include <qpdf/QPDFMatrix.hh>
-#include <qpdf/QPDFObjectHandle.hh>
-#include <qpdf/QPDFPageObjectHelper.hh>
-
 #include <map>
 #include <string>
 
+#include "driver/Qpdf.h"
 #include "imposition/Geometry.h"
 
 namespace orvek::driver {

@@ -2,10 +2,9 @@
 // A document's pages, from trees that may be malformed. Exceptions of libqpdf pass through.
 #pragma once
 
-#include <qpdf/QPDF.hh>
-#include <qpdf/QPDFPageObjectHelper.hh>
 #include <vector>
 
+#include "driver/Qpdf.h"
 #include "platform/system/Result.h"
 
 namespace orvek::driver {

@@ -2,7 +2,6 @@
 // The pages of the imposed document: one for each side of each sheet.
 #pragma once
 
-#include <qpdf/QPDF.hh>
 #include <span>
 
 #include "driver/PageForm.h"

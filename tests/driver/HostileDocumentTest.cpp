@@ -4,13 +4,14 @@
 #include <gtest/gtest.h>
 
 #include <QString>
-#include <qpdf/QPDF.hh>
-#include <qpdf/QPDFWriter.hh>
 #include <string>
 
 #include "driver/Imposer.h"
+#include "driver/Qpdf.h"
 #include "driver/TemporaryFile.h"
 #include "tests/driver/MarkedDocument.h"
+// Only after Qpdf.h:
+#include <qpdf/QPDFWriter.hh>
 
 namespace orvek::driver {
 namespace {
