@@ -150,14 +150,16 @@ std::string standardFilterPath(const std::string &name) {
 Result<int> runStandardFilters(const std::vector<std::string> &names, const FilterCall &call,
                                int input, int output) {
   std::vector<RunningFilter> running;
-  const Status started = startAll(names, call, input, output, &running);
-  Result<int> result = 0;
+  Status good = startAll(names, call, input, output, &running);
+  int status = 0;
+  // All are waited for, whatever the first ones gave.
   for (const RunningFilter &filter : running) {
-    Result<int> ended = outcome(filter);
-    if (result && result.value() == 0) result = std::move(ended);
+    const Result<int> ended = outcome(filter);
+    if (!ended && good) good = ended.failure();
+    if (ended && status == 0) status = ended.value();
   }
-  if (!started) return started.failure();
-  return result;
+  if (!good) return good.failure();
+  return status;
 }
 
 }  // namespace orvek::driver

@@ -13,7 +13,7 @@ namespace orvek::driver {
 /// told the call's file. The first reads from `input` where the call has no file, the last writes
 /// to `output`; both stay the caller's. Waits until all have ended.
 ///
-/// Failures, of the first filter that has one: it is not installed, could not be started, or died
+/// Failures, the first there is: a filter is not installed, could not be started, or died
 /// of a signal. A filter that ends with a status other than 0 has said why itself; the status is
 /// the result.
 Result<int> runStandardFilters(const std::vector<std::string> &names, const FilterCall &call,
