@@ -79,7 +79,8 @@ int statusOf(pid_t process) {
     const pid_t ended = ::waitpid(process, &status, isCancelled() ? WNOHANG : 0);
     if (ended == process || (ended < 0 && errno != EINTR)) break;
     if (ended < 0) continue;
-    if (waited >= graceMilliseconds) ::kill(-process, SIGKILL);
+    // Again and again: a program that the filter was just starting may have missed it.
+    ::kill(-process, waited >= graceMilliseconds ? SIGKILL : SIGTERM);
     waited += pauseMilliseconds;
     pause();
   }
