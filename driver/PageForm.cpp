@@ -58,7 +58,7 @@ QPDFObjectHandle formStream(QPDFPageObjectHelper page) {
   return page.getFormXObjectForPage(false);
 }
 
-QPDFObjectHandle dictionaryOr(QPDFObjectHandle object, QPDFObjectHandle other) {
+QPDFObjectHandle dictionaryOr(QPDFObjectHandle object, const QPDFObjectHandle &other) {
   return object.isDictionary() ? object : other;
 }
 
@@ -75,7 +75,7 @@ void describeForm(QPDFObjectHandle dictionary, QPDFPageObjectHelper page, const 
   dictionary.replaceKey("/Group", dictionaryOr(group, QPDFObjectHandle::newNull()));
 }
 
-QPDFObjectHandle makeForm(QPDFPageObjectHelper page, const Rectangle &box) {
+QPDFObjectHandle makeForm(const QPDFPageObjectHelper &page, const Rectangle &box) {
   QPDFObjectHandle form = formStream(page);
   if (form.isStream()) describeForm(form.getDict(), page, box);
   return form;
@@ -90,7 +90,7 @@ std::string nameOfParts(QPDFPageObjectHelper page, const Rectangle &box) {
          QPDFObjectHandle::newArray(box).unparse();
 }
 
-QPDFObjectHandle madeForm(QPDFPageObjectHelper page, const Rectangle &box, FormsMade *made) {
+QPDFObjectHandle madeForm(const QPDFPageObjectHelper &page, const Rectangle &box, FormsMade *made) {
   const std::string parts = nameOfParts(page, box);
   if (parts.empty()) return makeForm(page, box);
   const auto [form, isNew] = made->try_emplace(parts);
@@ -125,7 +125,7 @@ QPDFMatrix turned(int degrees, Size size) {
   }
 }
 
-PageForm formOf(QPDFPageObjectHelper page, Size paper, FormsMade *made) {
+PageForm formOf(const QPDFPageObjectHelper &page, Size paper, FormsMade *made) {
   const Rectangle box = visibleBox(page, paper);
   const Size size = sizeOf(box);
   const int turn = turnOf(page);

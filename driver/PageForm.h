@@ -24,7 +24,7 @@ using FormsMade = std::map<std::string, QPDFObjectHandle>;
 /// The page's visible part is its crop box, as far as that lies in the media box. A page whose
 /// boxes have no usable size counts as one of `paper`'s size. Contents in one stream are not copied
 /// and stay compressed as they are.
-PageForm formOf(QPDFPageObjectHelper page, imposition::Size paper, FormsMade *made);
+PageForm formOf(const QPDFPageObjectHelper &page, imposition::Size paper, FormsMade *made);
 
 /// Turns, clockwise by 0, 90, 180 or 270 degrees, a box with its lower left corner at 0, 0, such
 /// that the corner of the turned box comes to lie there again. `size` is that of the box unturned.
