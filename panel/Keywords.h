@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
 // Every name the panel shares with PPDs, tickets, strings and bundles, each written once. Those
-// that hosts know as well stand in the contract: its keys of the booklet come with this header.
+// that hosts know as well stand in the contract: its keys of the booklet and of finishing come with
+// this header.
 #pragma once
 
 #include <QLatin1String>
 
 #include "platform/plugin/BookletKeys.h"
+#include "platform/plugin/FinishingKeywords.h"
 
 namespace orvek {
 
-/// PPD options the panel takes charge of, and the paper size it only reads.
-inline constexpr const char *staplingKeyword = "OVKStapling";
-inline constexpr const char *foldingKeyword = "OVKFolding";
+/// PPD options the panel takes charge of beside stapling and folding, and the paper size it only
+/// reads.
 inline constexpr const char *punchKeyword = "OVKPunching";
 inline constexpr const char *paperDestKeyword = "OutputBin";
 inline constexpr const char *offsetKeyword = "OVKJog";
