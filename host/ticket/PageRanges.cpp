@@ -75,6 +75,18 @@ void sortAndJoin(QList<Range> *ranges) {
   *ranges = joined;
 }
 
+// The one grammar: ranges with commas between, in any order.
+Result<QList<Range>> readRanges(const QString &text) {
+  QList<Range> ranges;
+  for (const QString &part : plainSigns(text).split(QLatin1Char(','))) {
+    const std::optional<Range> range = readRange(part);
+    if (!range) return noRange(part);
+    ranges.append(*range);
+  }
+  sortAndJoin(&ranges);
+  return ranges;
+}
+
 QString written(const Range &range) {
   const QString first = QString::number(range.first);
   if (range.first == range.last) return first;
@@ -86,26 +98,17 @@ QString written(const Range &range) {
 
 Result<QString> normalizedPageRanges(const QString &text) {
   if (text.trimmed().isEmpty()) return QString();
-  QList<Range> ranges;
-  for (const QString &part : plainSigns(text).split(QLatin1Char(','))) {
-    const std::optional<Range> range = readRange(part);
-    if (!range) return noRange(part);
-    ranges.append(*range);
-  }
-  sortAndJoin(&ranges);
+  const Result<QList<Range>> ranges = readRanges(text);
+  if (!ranges) return ranges.failure();
   QStringList words;
-  for (const Range &range : ranges) words << written(range);
+  for (const Range &range : ranges.value()) words << written(range);
   return words.join(QLatin1Char(','));
 }
 
 QList<int> pagesInRanges(const QString &pageRanges, int pageCount) {
-  QList<Range> ranges;
-  for (const QString &part : pageRanges.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
-    if (const std::optional<Range> range = readRange(part)) ranges.append(*range);
-  }
-  if (ranges.isEmpty()) ranges.append(Range());
+  const Result<QList<Range>> ranges = readRanges(pageRanges);
   QList<int> pages;
-  for (const Range &range : ranges) {
+  for (const Range &range : ranges ? ranges.value() : QList<Range>{Range()}) {
     for (int page = range.first; page <= std::min(range.last, pageCount); ++page) pages << page;
   }
   return pages;

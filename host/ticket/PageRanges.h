@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// Page ranges as people type them and as CUPS takes them. Pure functions.
+// Page ranges as people type them and as CUPS takes them. Pure functions over one
+// grammar.
 #pragma once
 
 #include <QList>
@@ -13,7 +14,8 @@ namespace orvek {
 /// ranges. Null for an empty text: all pages. A Usage failure says which part makes no sense.
 Result<QString> normalizedPageRanges(const QString &text);
 
-/// The pages, from 1, that normalized ranges take of a document; all of them for null ranges.
+/// The pages, from 1 and ascending, that the ranges take of a document; all of them for ranges that
+/// are null or make no sense.
 QList<int> pagesInRanges(const QString &pageRanges, int pageCount);
 
 }  // namespace orvek

@@ -65,5 +65,12 @@ TEST(PageRanges, PicksThePagesOfADocument) {
   EXPECT_EQ(pagesInRanges(QString(), 3), (QList<int>{1, 2, 3}));
 }
 
+TEST(PageRanges, PicksPagesByTheSameGrammarInWhichTheyAreTyped) {
+  for (const char *text : {"7,1-3", "1–3;7", " 2-3 , 1-2,7,7"}) {
+    EXPECT_EQ(pagesInRanges(QString::fromUtf8(text), 8), (QList<int>{1, 2, 3, 7})) << text;
+  }
+  EXPECT_EQ(pagesInRanges("7,x", 2), (QList<int>{1, 2}));
+}
+
 }  // namespace
 }  // namespace orvek::test
