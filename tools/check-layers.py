@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Fails on every #include edge that tools/layers.json does not allow.
+"""Fails on every #include edge that tools/layers.json does not allow, and on names used outside their room.
 
 usage: check-layers.py [--root FOLDER] [--rules FILE]
 """
@@ -49,19 +49,40 @@ def edge_problem(room, quoted, target, rules):
     return f'"{target}": {room}/ may include {may}, not {entered}/'
 
 
-def door_problem(path, target, rules):
+def is_kept_out(path, rule):
+    """Whether a rule that lets few files in keeps this one out. A rule may hold within one folder only."""
+    if not path.startswith(rule.get("within", "")):
+        return False
+    return not any(path.startswith(file) if file.endswith("/") else path == file for file in rule["files"])
+
+
+def door_problem(path, quoted, target, rules):
     """Why this file must not include a header that has one door only."""
     rule = rules["onlyIn"].get(target)
-    if rule is None or path in rule["files"]:
+    if rule is None or not is_kept_out(path, rule):
         return None
-    return f'<{target}>: include "{rule["instead"]}" instead'
+    written = f'"{target}"' if quoted else f"<{target}>"
+    return f'{written}: include "{rule["instead"]}" instead'
+
+
+def used_names(path, text, rules):
+    """(line number, why) of names that came in with another header and are not for this file."""
+    for rule in rules.get("usedOnlyIn", []):
+        if not is_kept_out(path, rule):
+            continue
+        for number, line in enumerate(text.splitlines(), start=1):
+            match = re.search(rule["names"], line.split("//")[0])
+            if match:
+                yield number, f'{match.group(0)}: {rule["instead"]}'
 
 
 def check_file(path, room, text, rules):
     for number, quoted, target in includes(text):
-        problem = edge_problem(room, quoted, target, rules) or door_problem(path, target, rules)
+        problem = edge_problem(room, quoted, target, rules) or door_problem(path, quoted, target, rules)
         if problem:
             yield f"{path}:{number}: {problem}"
+    for number, problem in used_names(path, text, rules):
+        yield f"{path}:{number}: {problem}"
 
 
 def main():

@@ -54,15 +54,15 @@ void picks(const QString &folder) {
     setup.printer = orvek::PrinterDescription::open(path).take();
     const auto session = orvek::PrintSession::begin(setup).take();
     const auto other = orvek::PrinterDescription::open(path).take();
-    ppdMarkDefaults(other->ppd());
+    ppdMarkDefaults(other->lend());
     const auto inTurn = [](const auto &pick) {
       for (int i = 0; i < works; ++i) pick(excluding[i % 2]);
     };
     const Pair times = compare(
         rounds, [&] { inTurn([&](const Pick &pick) { session->pick(pick.option, pick.choice); }); },
-        [&] { inTurn([&](const Pick &pick) { pickBare(other->ppd(), pick); }); });
-    require(session->marks().ppd(), excluding[1], excluding[0]);
-    require(other->ppd(), excluding[1], excluding[0]);
+        [&] { inTurn([&](const Pick &pick) { pickBare(other->lend(), pick); }); });
+    require(session->printer()->lend(), excluding[1], excluding[0]);
+    require(other->lend(), excluding[1], excluding[0]);
     line("pick, " + std::to_string(options) + " options", "libcups", times, works, "us", goal);
   }
 }

@@ -8,11 +8,10 @@
 #include "host/cli/PrinterListing.h"
 #include "host/panels/PluginFinder.h"
 #include "host/session/QueueSetup.h"
+#include "host/ticket/JobOptionNames.h"
 
 namespace orvek {
 namespace {
-
-const QString pagesPerSheetOption = QStringLiteral("number-up");
 
 Status gatherPrinter(const CommandLine &line, const std::shared_ptr<PasswordSource> &passwords,
                      const std::atomic<bool> *cancelled, SessionSetup *setup) {
@@ -62,8 +61,7 @@ Status applyJobOption(const OptionChoice &option, const QList<OptionChoice> &bes
 Status applyOption(const OptionChoice &option, const QList<OptionChoice> &beside,
                    PrintSession &session) {
   if (option.option == pagesPerSheetOption) return applyPagesPerSheet(option, session);
-  const QByteArray keyword = option.option.toUtf8();
-  if (ppdFindOption(session.marks().ppd(), keyword.constData()) == nullptr) {
+  if (!session.marks().printer().has(option.option)) {
     return applyJobOption(option, beside, session);
   }
   if (!session.marks().spelled(option.option, option.choice)) {

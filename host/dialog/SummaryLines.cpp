@@ -7,7 +7,6 @@
 #include <QSet>
 #include <algorithm>
 
-#include "host/ppd/Constraints.h"
 #include "host/ppd/Wording.h"
 
 namespace orvek {
@@ -17,12 +16,12 @@ namespace {
 QMap<QString, QString> changedOptions(const PrintSession &session, QStringList *order) {
   QMap<QString, QString> changed;
   if (!session.printer()) return changed;
-  ppd_file_t *ppd = session.printer()->ppd();
+  const PrinterDescription &printer = *session.printer();
   for (const OptionChoice &mark : session.marks().differingFromDefaults()) {
-    if (isInstalledEquipment(ppd, mark.option)) continue;
-    const QString title = optionText(ppd, mark.option);
+    if (printer.isEquipment(mark.option)) continue;
+    const QString title = optionText(printer, mark.option);
     *order << title;
-    changed.insert(title, choiceText(ppd, mark));
+    changed.insert(title, choiceText(printer, mark));
   }
   return changed;
 }
@@ -77,7 +76,7 @@ QSet<QString> optionTitles(const PrintSession &session) {
   QSet<QString> titles;
   if (!session.printer()) return titles;
   for (const QString &option : session.panels().claimedOptions()) {
-    titles.insert(optionText(session.printer()->ppd(), option));
+    titles.insert(optionText(*session.printer(), option));
   }
   return titles;
 }

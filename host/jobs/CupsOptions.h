@@ -2,10 +2,7 @@
 // Holds an option array of libcups.
 #pragma once
 
-#include "platform/printing/PPD.h"
-// clang-format off
 #include <cups/cups.h>
-// clang-format on
 
 #include <QMap>
 #include <QString>

@@ -3,7 +3,7 @@
 
 #include "host/panels/DefaultSummary.h"
 
-#include "host/ppd/Constraints.h"
+#include "host/ppd/MarksTrial.h"
 #include "platform/printing/PrintSession.h"
 
 namespace orvek {
@@ -27,24 +27,23 @@ void markUntouchedJob(Marks &marks) {
   const QList<OptionChoice> now = marks.all();
   marks.markDefaults();
   for (const OptionChoice &mark : now) {
-    if (isInstalledEquipment(marks.ppd(), mark.option)) marks.mark(mark.option, mark.choice);
+    if (marks.printer().isEquipment(mark.option)) marks.mark(mark.option, mark.choice);
   }
 }
 
 }  // namespace
 
 void DefaultSummary::learn(const PanelSet &panels, Marks &marks) {
-  const MarksSnapshot before = marks.snapshot();
+  const MarksTrial trial(marks);
   markUntouchedJob(marks);
   Marker marker(marks);
   PrintSessionHandle session;
   {
-    PanelSet untouched(marker, {marks.ppd(), &session, std::make_shared<Ticket>()},
+    PanelSet untouched(marker, {marks.printer().lend(), &session, std::make_shared<Ticket>()},
                        panels.panelsMayResize());
     untouched.open(panels.plugins());
     m_lines = untouched.summary();
   }
-  marks.restore(before);
 }
 
 }  // namespace orvek

@@ -24,6 +24,7 @@ class PanelListener {
 /// What the session lends to panels through a callback object, whose ticket it shares; each may be
 /// null.
 struct PanelLoan {
+  /// PrinterDescription::lend(): the only place outside host/ppd that knows libcups' type.
   ppd_file_t *ppd = nullptr;
   PMPrintSession session = nullptr;
   std::shared_ptr<Ticket> ticket;

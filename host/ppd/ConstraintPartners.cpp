@@ -4,50 +4,76 @@
 #include "host/ppd/ConstraintPartners.h"
 
 #include <QStringList>
+#include <functional>
+
+#include "host/ppd/CustomChoice.h"
+#include "platform/printing/PPD.h"
 
 namespace orvek {
 namespace {
 
-bool same(const QString &one, const QString &other) {
-  return one.compare(other, Qt::CaseInsensitive) == 0;
-}
-
 bool pairNamesBoth(const ppd_const_t &pair, const QString &one, const QString &other) {
-  const QString first = QString::fromUtf8(pair.option1);
-  const QString second = QString::fromUtf8(pair.option2);
-  return (same(first, one) && same(second, other)) || (same(first, other) && same(second, one));
+  return (sameKeyword(pair.option1, one) && sameKeyword(pair.option2, other)) ||
+         (sameKeyword(pair.option1, other) && sameKeyword(pair.option2, one));
 }
 
-// "*OVKStapling Front *OVKFolding Saddle" names the words that begin with an asterisk.
-bool listNames(const QString &constraint, const QString &option) {
-  const QStringList words = constraint.simplified().split(QLatin1Char(' '));
-  return words.contains(QLatin1Char('*') + option, Qt::CaseInsensitive);
-}
-
-bool someListNamesBoth(ppd_file_t *ppd, const QString &one, const QString &other) {
+// "*OVKStapling Front *OVKFolding Saddle" names the words that begin with an asterisk. True as soon
+// as the visitor is.
+bool visitLists(const PrinterDescription &printer,
+                const std::function<bool(const QStringList &words)> &visit) {
   const char *keyword = "cupsUIConstraints";
-  for (const ppd_attr_t *attribute = ppdFindAttr(ppd, keyword, nullptr); attribute != nullptr;
-       attribute = ppdFindNextAttr(ppd, keyword, nullptr)) {
-    const QString constraint = QString::fromUtf8(attribute->value);
-    if (listNames(constraint, one) && listNames(constraint, other)) return true;
+  for (const ppd_attr_t *attribute = ppdFindAttr(printer.lend(), keyword, nullptr);
+       attribute != nullptr; attribute = ppdFindNextAttr(printer.lend(), keyword, nullptr)) {
+    if (visit(QString::fromUtf8(attribute->value).simplified().split(u' '))) return true;
   }
   return false;
 }
 
+bool listNames(const QStringList &words, const QString &option) {
+  return words.contains(u'*' + option, Qt::CaseInsensitive);
+}
+
+void addName(QSet<QString> *names, const QString &name) {
+  const QString lower = name.toLower();
+  names->insert(lower);
+  // A custom value is constrained under a name of its own, as a choice of the option itself.
+  const QLatin1String custom = CustomChoice::constraintPrefix;
+  if (lower.startsWith(custom, Qt::CaseInsensitive)) names->insert(lower.mid(custom.size()));
+}
+
 }  // namespace
 
-bool areConstrained(ppd_file_t *ppd, const QString &one, const QString &other) {
-  for (int i = 0; i < ppd->num_consts; ++i) {
+bool areConstrained(const PrinterDescription &printer, const QString &one, const QString &other) {
+  const ppd_file_t *ppd = printer.lend();
+  for (int i = 0; ppd != nullptr && i < ppd->num_consts; ++i) {
     if (pairNamesBoth(ppd->consts[i], one, other)) return true;
   }
-  return someListNamesBoth(ppd, one, other);
+  return visitLists(printer, [&](const QStringList &words) {
+    return listNames(words, one) && listNames(words, other);
+  });
+}
+
+QSet<QString> constrainedOptions(const PrinterDescription &printer) {
+  QSet<QString> names;
+  const ppd_file_t *ppd = printer.lend();
+  for (int i = 0; ppd != nullptr && i < ppd->num_consts; ++i) {
+    addName(&names, QString::fromUtf8(ppd->consts[i].option1));
+    addName(&names, QString::fromUtf8(ppd->consts[i].option2));
+  }
+  visitLists(printer, [&](const QStringList &words) {
+    for (const QString &word : words) {
+      if (word.startsWith(u'*')) addName(&names, word.mid(1));
+    }
+    return false;
+  });
+  return names;
 }
 
 OptionChoice partnerOf(const Marks &marks, const OptionChoice &side, const OptionChoice &pick) {
-  if (areConstrained(marks.ppd(), side.option, pick.option)) return pick;
+  if (areConstrained(marks.printer(), side.option, pick.option)) return pick;
   for (const OptionChoice &conflict : marks.conflicts()) {
-    if (same(conflict.option, side.option)) continue;
-    if (areConstrained(marks.ppd(), side.option, conflict.option)) return conflict;
+    if (sameKeyword(conflict.option, side.option)) continue;
+    if (areConstrained(marks.printer(), side.option, conflict.option)) return conflict;
   }
   return pick;
 }
@@ -56,8 +82,8 @@ QList<OptionChoice> partnersAmong(const Marks &marks, const QList<OptionChoice> 
                                   const OptionChoice &pick) {
   QList<OptionChoice> partners = conflicts;
   partners.removeIf([&](const OptionChoice &conflict) {
-    return same(conflict.option, pick.option) ||
-           !areConstrained(marks.ppd(), conflict.option, pick.option);
+    return sameKeyword(conflict.option, pick.option) ||
+           !areConstrained(marks.printer(), conflict.option, pick.option);
   });
   return partners.isEmpty() ? conflicts : partners;
 }

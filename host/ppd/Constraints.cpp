@@ -3,25 +3,24 @@
 
 #include "host/ppd/Constraints.h"
 
-#include <cups/cups.h>
-
 #include <algorithm>
 #include <optional>
 
 #include "host/ppd/ConstraintPartners.h"
+#include "host/ppd/CustomChoice.h"
+#include "host/ppd/MarksTrial.h"
+#include "platform/printing/PPD.h"
 
 namespace orvek {
 namespace {
 
-constexpr const char *installedEquipmentGroup = "InstallableOptions";
-
 // Owns an option list of libcups.
-class CupsOptions {
+class OptionArray {
  public:
-  CupsOptions() = default;
-  ~CupsOptions() { cupsFreeOptions(m_count, m_options); }
-  CupsOptions(const CupsOptions &) = delete;
-  CupsOptions &operator=(const CupsOptions &) = delete;
+  OptionArray() = default;
+  ~OptionArray() { cupsFreeOptions(m_count, m_options); }
+  OptionArray(const OptionArray &) = delete;
+  OptionArray &operator=(const OptionArray &) = delete;
 
   QList<OptionChoice> list() const {
     QList<OptionChoice> all;
@@ -35,22 +34,18 @@ class CupsOptions {
   cups_option_t *m_options = nullptr;
 };
 
-// Constraints know a custom choice by this spelling only, whatever its values are.
 QByteArray constrainedName(const QString &choice) {
-  return choice.startsWith(QLatin1Char('{')) ? QByteArray("Custom.values") : choice.toUtf8();
+  const std::optional<CustomChoice> custom = CustomChoice::read(choice);
+  return (custom ? custom->constrainedName() : choice).toUtf8();
 }
 
 std::optional<QList<OptionChoice>> resolutionOf(const Marks &marks, const OptionChoice &pick) {
-  CupsOptions changed;
-  const int resolved = cupsResolveConflicts(marks.ppd(), pick.option.toUtf8().constData(),
-                                            constrainedName(pick.choice).constData(),
-                                            &changed.m_count, &changed.m_options);
+  OptionArray changed;
+  const int resolved = cupsResolveConflicts(
+      marks.printer().lend(), pick.option.toUtf8().constData(),
+      constrainedName(pick.choice).constData(), &changed.m_count, &changed.m_options);
   if (resolved == 0) return std::nullopt;
   return changed.list();
-}
-
-bool sameKeyword(const QString &one, const QString &other) {
-  return one.compare(other, Qt::CaseInsensitive) == 0;
 }
 
 // The marks a resolution would really move; the pick itself and what already stands are none.
@@ -72,7 +67,7 @@ std::optional<QList<ChoiceChange>> changesAmong(const Marks &marks,
 
 bool touchesInstalledEquipment(const Marks &marks, const QList<ChoiceChange> &changes) {
   return std::any_of(changes.begin(), changes.end(), [&](const ChoiceChange &change) {
-    return isInstalledEquipment(marks.ppd(), change.option);
+    return marks.printer().isEquipment(change.option);
   });
 }
 
@@ -89,14 +84,16 @@ void namePartners(const Marks &marks, QList<ChoiceChange> *changes, const Option
   }
 }
 
-bool resolve(Marks &marks, const MarksSnapshot &before, Resolution *result) {
+// A trial of its own would cost a pick a second copy of the marks, a third of its time where there
+// are thousands of options.
+bool resolve(Marks &marks, MarksTrial &trial, Resolution *result) {
   const auto resolution = resolutionOf(marks, result->pick);
   if (!resolution) return false;
   std::optional<QList<ChoiceChange>> changes = changesAmong(marks, *resolution, result->pick);
   if (!changes || touchesInstalledEquipment(marks, *changes)) return false;
   namePartners(marks, &*changes, result->pick);
   if (!apply(marks, *changes, result->pick)) {
-    marks.restore(before);
+    trial.startAgain();
     marks.mark(result->pick.option, result->pick.choice);
     return false;
   }
@@ -104,44 +101,32 @@ bool resolve(Marks &marks, const MarksSnapshot &before, Resolution *result) {
   return true;
 }
 
-void undo(Marks &marks, const MarksSnapshot &before, const QList<OptionChoice> &conflicts,
-          Resolution *result) {
-  result->marked = false;
-  result->incompatible = partnersAmong(marks, conflicts, result->pick);
-  marks.restore(before);
-}
-
 }  // namespace
 
 QList<OptionChoice> conflictsOf(const Marks &marks, const OptionChoice &pick) {
-  CupsOptions found;
-  found.m_count = cupsGetConflicts(marks.ppd(), pick.option.toUtf8().constData(),
+  OptionArray found;
+  found.m_count = cupsGetConflicts(marks.printer().lend(), pick.option.toUtf8().constData(),
                                    constrainedName(pick.choice).constData(), &found.m_options);
   return found.list();
 }
 
 Resolution markAndResolve(Marks &marks, const OptionChoice &pick) {
   Resolution result{pick, true, {}, {}};
-  const MarksSnapshot before = marks.snapshot();
+  MarksTrial trial(marks);
   marks.mark(pick.option, pick.choice);
   const QList<OptionChoice> conflicts = conflictsOf(marks, pick);
-  if (conflicts.isEmpty() || resolve(marks, before, &result) || !marks.isInConflict(pick.option)) {
+  if (conflicts.isEmpty() || resolve(marks, trial, &result) || !marks.isInConflict(pick.option)) {
+    trial.keep();
     return result;
   }
-  undo(marks, before, conflicts, &result);
+  result.marked = false;
+  result.incompatible = partnersAmong(marks, conflicts, pick);
   return result;
 }
 
-bool isInstalledEquipment(ppd_file_t *ppd, const QString &option) {
-  for (int i = 0; i < ppd->num_groups; ++i) {
-    const ppd_group_t &group = ppd->groups[i];
-    if (qstricmp(group.name, installedEquipmentGroup) != 0) continue;
-    return std::any_of(group.options, group.options + group.num_options,
-                       [&](const ppd_option_t &candidate) {
-                         return sameKeyword(QString::fromUtf8(candidate.keyword), option);
-                       });
-  }
-  return false;
+Resolution tryPick(Marks &marks, const OptionChoice &pick) {
+  const MarksTrial trial(marks);
+  return markAndResolve(marks, pick);
 }
 
 }  // namespace orvek

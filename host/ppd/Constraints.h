@@ -10,22 +10,27 @@
 
 namespace orvek {
 
-/// One option that gave way: its mark before and after, and the other side of the conflict.
+/// One option that gave way: its mark before and after, and the other side of the conflict. Plain
+/// data.
 struct ChoiceChange {
   QString option;
-  QString oldChoice;  ///< null where nothing was marked
+  /// Null where nothing was marked.
+  QString oldChoice;
   QString newChoice;
   OptionChoice partner;
 
   bool operator==(const ChoiceChange &) const = default;
 };
 
-/// What became of a pick.
+/// What became of a pick. Plain data.
 struct Resolution {
   OptionChoice pick;
-  bool marked = false;               ///< false: undone, all marks are as they were
-  QList<ChoiceChange> changes;       ///< what gave way, in the PPD's order; empty where undone
-  QList<OptionChoice> incompatible;  ///< where undone: what the pick can't be combined with
+  /// False: undone, all marks are as they were.
+  bool marked = false;
+  /// What gave way, in the PPD's order; empty where undone.
+  QList<ChoiceChange> changes;
+  /// Where undone: what the pick can't be combined with.
+  QList<OptionChoice> incompatible;
 };
 
 /// What takes part in a constraint that the pick would violate, the pick itself included; the marks
@@ -39,7 +44,7 @@ QList<OptionChoice> conflictsOf(const Marks &marks, const OptionChoice &pick);
 /// hinders nothing.
 Resolution markAndResolve(Marks &marks, const OptionChoice &pick);
 
-/// True for an option of the PPD's group of installed equipment.
-bool isInstalledEquipment(ppd_file_t *ppd, const QString &option);
+/// What markAndResolve() would come to. The marks are as before afterwards.
+Resolution tryPick(Marks &marks, const OptionChoice &pick);
 
 }  // namespace orvek

@@ -1,41 +1,27 @@
 // SPDX-License-Identifier: Apache-2.0
-// libcups' spelling of custom values, written and read.
+// Parameters and values between the PPD, a choice's spelling, and people.
 
 #include "host/ppd/CustomValue.h"
-
-#include <cups/cups.h>
 
 #include <QCoreApplication>
 #include <QLocale>
 #include <algorithm>
-#include <array>
 #include <optional>
+
+#include "host/ppd/CustomChoice.h"
+#include "host/ppd/LengthUnit.h"
+#include "platform/printing/PPD.h"
 
 namespace orvek {
 namespace {
 
 constexpr int shownDecimals = 2;
-constexpr double pointsPerInch = 72;
-constexpr double pointsPerCentimetre = pointsPerInch / 2.54;
-const QString customPrefix = QStringLiteral("Custom.");
 const QString paperOption = QStringLiteral("PageSize");
 
 /// The texts of this file, for translation.
 struct Text {
   Q_DECLARE_TR_FUNCTIONS(orvek::CustomValue)
 };
-
-struct LengthUnit {
-  const char *name;
-  double points;
-};
-constexpr std::array<LengthUnit, 7> lengthUnits{{{"", 1},
-                                                 {"pt", 1},
-                                                 {"in", pointsPerInch},
-                                                 {"ft", 12 * pointsPerInch},
-                                                 {"cm", pointsPerCentimetre},
-                                                 {"mm", pointsPerCentimetre / 10},
-                                                 {"m", pointsPerCentimetre * 100}}};
 
 CustomParameter parameterOf(const ppd_cparam_t &found) {
   using Kind = CustomParameter::Kind;
@@ -78,10 +64,8 @@ std::optional<double> pointsIn(const QString &text) {
   const auto isOfUnit = [](QChar letter) { return letter.isLetter(); };
   const qsizetype digits = std::find_if(length.begin(), length.end(), isOfUnit) - length.begin();
   const std::optional<double> number = numberIn(length.left(digits));
-  for (const LengthUnit &unit : lengthUnits) {
-    if (number && length.mid(digits) == QLatin1String(unit.name)) return *number * unit.points;
-  }
-  return std::nullopt;
+  const std::optional<double> unit = pointsPerUnit(length.mid(digits));
+  return number && unit ? std::optional(*number * *unit) : std::nullopt;
 }
 
 QString plainNumber(double number) {
@@ -94,12 +78,6 @@ QString readValue(const CustomParameter &parameter, const QString &text) {
   const bool isLength = parameter.kind == CustomParameter::Kind::Length;
   const std::optional<double> number = isLength ? pointsIn(text) : numberIn(text);
   return number ? plainNumber(*number) : QString();
-}
-
-QString quoted(QString text) {
-  text.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
-  text.replace(QLatin1Char('"'), QLatin1String("\\\""));
-  return QLatin1Char('"') + text + QLatin1Char('"');
 }
 
 QString numberText(double number) {
@@ -134,10 +112,10 @@ QString textProblem(const CustomParameter &parameter, const QString &value) {
 
 }  // namespace
 
-QList<CustomParameter> customParameters(ppd_file_t *ppd, const QString &option) {
+QList<CustomParameter> customParameters(const PrinterDescription &printer, const QString &option) {
   QList<CustomParameter> parameters;
-  if (ppd == nullptr || option.compare(paperOption, Qt::CaseInsensitive) == 0) return parameters;
-  ppd_coption_t *custom = ppdFindCustomOption(ppd, option.toUtf8().constData());
+  if (sameKeyword(option, paperOption)) return parameters;
+  ppd_coption_t *custom = ppdFindCustomOption(printer.lend(), option.toUtf8().constData());
   if (custom == nullptr) return parameters;
   QList<ppd_cparam_t *> found;
   for (ppd_cparam_t *each = ppdFirstCustomParam(custom); each != nullptr;
@@ -152,43 +130,33 @@ QList<CustomParameter> customParameters(ppd_file_t *ppd, const QString &option) 
 }
 
 QString customChoice(const QList<CustomParameter> &parameters, const CustomValues &values) {
-  if (parameters.size() == 1) return customPrefix + values.value(parameters.first().name);
+  if (parameters.size() == 1) {
+    return CustomChoice::ofValue(values.value(parameters.first().name)).text();
+  }
   QStringList parts;
   for (const CustomParameter &parameter : parameters) {
     const auto value = values.constFind(parameter.name);
     if (value == values.constEnd()) continue;
-    parts << parameter.name + QLatin1Char('=') + (parameter.isNumber() ? *value : quoted(*value));
+    const QString written = parameter.isNumber() ? *value : CustomChoice::quoted(*value);
+    parts << parameter.name + QLatin1Char('=') + written;
   }
-  return QLatin1Char('{') + parts.join(QLatin1Char(' ')) + QLatin1Char('}');
-}
-
-bool isCustomChoice(const QString &choice) {
-  return choice.compare(customPrefix.chopped(1), Qt::CaseInsensitive) == 0 ||
-         hasCustomValues(choice);
-}
-
-bool hasCustomValues(const QString &choice) {
-  return choice.startsWith(customPrefix, Qt::CaseInsensitive) ||
-         choice.startsWith(QLatin1Char('{'));
+  return CustomChoice::ofParts(parts).text();
 }
 
 CustomValues customValues(const QList<CustomParameter> &parameters, const QString &choice) {
   CustomValues values;
-  if (parameters.isEmpty() || !hasCustomValues(choice)) return values;
-  if (!choice.startsWith(QLatin1Char('{'))) {
-    const QString value = readValue(parameters.first(), choice.mid(customPrefix.size()));
-    if (!value.isNull()) values.insert(parameters.first().name, value);
-    return values;
-  }
-  cups_option_t *options = nullptr;
-  const int count = cupsParseOptions(choice.toUtf8().constData(), 0, &options);
+  const std::optional<CustomChoice> custom = CustomChoice::read(choice);
+  if (parameters.isEmpty() || !custom) return values;
+  CustomValues given = custom->values();
+  if (!custom->value().isNull()) given.insert(parameters.first().name, custom->value());
   for (const CustomParameter &parameter : parameters) {
-    const char *text = cupsGetOption(parameter.name.toUtf8().constData(), count, options);
-    const QString value =
-        text == nullptr ? QString() : readValue(parameter, QString::fromUtf8(text));
+    const auto text = std::find_if(given.keyBegin(), given.keyEnd(), [&](const QString &name) {
+      return sameKeyword(name, parameter.name);
+    });
+    if (text == given.keyEnd()) continue;
+    const QString value = readValue(parameter, given.value(*text));
     if (!value.isNull()) values.insert(parameter.name, value);
   }
-  cupsFreeOptions(count, options);
   return values;
 }
 
@@ -201,8 +169,8 @@ QString customValueProblem(const CustomParameter &parameter, const QString &valu
            valueText(parameter, plainNumber(parameter.most)));
 }
 
-QString customValueText(ppd_file_t *ppd, const OptionChoice &choice) {
-  const QList<CustomParameter> parameters = customParameters(ppd, choice.option);
+QString customValueText(const PrinterDescription &printer, const OptionChoice &choice) {
+  const QList<CustomParameter> parameters = customParameters(printer, choice.option);
   const CustomValues values = customValues(parameters, choice.choice);
   QStringList words;
   for (const CustomParameter &parameter : parameters) {

@@ -1,53 +1,40 @@
 // SPDX-License-Identifier: Apache-2.0
 // Which choice of each PPD option is marked: marking, asking, remembering and going back.
 // Touches the marks of a borrowed PPD and nothing else.
+//
+//   Marking and asking          Marks.cpp
+//   Remembering, going back     MarksSnapshot.cpp; trying: MarksTrial.h
+//   What a job's options mean   JobMeaning.cpp
 #pragma once
 
 #include <QList>
 #include <QMap>
 #include <QString>
 #include <QStringList>
-#include <memory>
 #include <optional>
 
-#include "platform/printing/PPD.h"
+#include "host/ppd/Keyword.h"
+#include "host/ppd/MarksSnapshot.h"
+#include "host/ppd/PrinterDescription.h"
+
+struct ppd_choice_s;
 
 namespace orvek {
 
-/// A PPD option's main keyword and the keyword of one of its choices (null: none).
-struct OptionChoice {
-  QString option;
-  QString choice;
-
-  bool operator==(const OptionChoice &) const = default;
-};
-
-/// All marks of a PPD at one moment. Belongs to that PPD and must not outlive it; compares equal to
-/// another one of the same PPD where the same choices are marked, with the same custom values.
-class MarksSnapshot {
- public:
-  bool operator==(const MarksSnapshot &other) const;
-
- private:
-  friend class Marks;
-
-  QList<ppd_choice_t *> choices() const;
-
-  // A copy of the PPD's own list of marks. Copying that is what a pick can afford where there are
-  // thousands of options; walking it is not.
-  std::shared_ptr<cups_array_t> m_marked;
-  QMap<QString, QString> m_customValues;  // as in Marks
-};
-
 /// The marks of one PPD. Keywords are compared without regard to case and handed out as the PPD
 /// spells them; a custom value ("Custom.200x300", "{Angle=90 ...}") as it was given. One choice of
-/// an option is marked at a time, also where the PPD allows several ("PickMany").
+/// an option is marked at a time, also where the PPD allows several ("PickMany"). Whatever moves
+/// marks, if only for a moment, is not const. Nothing fails. For one thread at a time, with all
+/// that looks at the same PPD.
 class Marks {
  public:
-  /// Borrows the PPD, which must outlive this object.
-  explicit Marks(ppd_file_t *ppd) : m_ppd(ppd) {}
+  /// Borrows the printer, which must outlive this object. There is one Marks for a printer. Of
+  /// PrinterDescription::none() no choice is known, and nothing can be marked.
+  explicit Marks(const PrinterDescription &printer);
+  Marks(const Marks &) = delete;
+  Marks &operator=(const Marks &) = delete;
 
-  ppd_file_t *ppd() const { return m_ppd; }
+  const PrinterDescription &printer() const { return m_printer; }
 
   void markDefaults();
 
@@ -77,8 +64,9 @@ class Marks {
   /// The choices that libcups marks for a job's options: PPD keywords, and the print server's words
   /// for what a PPD has under names of its own ("media", "sides", "print-quality"). Where both name
   /// one option the keyword wins, and of two words of one name the later. Options that stand for no
-  /// choice give nothing. The marks stay as they are. Spelled as the PPD spells them, in its order.
-  QList<OptionChoice> meaningOf(const QList<OptionChoice> &jobOptions) const;
+  /// choice give nothing. All marks are away meanwhile, and afterwards as before. Spelled as the
+  /// PPD spells them, in its order.
+  QList<OptionChoice> meaningOf(const QList<OptionChoice> &jobOptions);
 
   MarksSnapshot snapshot() const;
   void restore(const MarksSnapshot &snapshot);
@@ -87,11 +75,13 @@ class Marks {
   QStringList differingFrom(const MarksSnapshot &snapshot) const;
 
  private:
-  QString choiceName(const ppd_choice_t *choice) const;
-  QList<OptionChoice> named(const QList<ppd_choice_t *> &choices) const;
-  void unmark(ppd_choice_t *choice);
+  QString choiceName(const ppd_choice_s *choice) const;
+  QList<OptionChoice> named(const QList<ppd_choice_s *> &choices) const;
+  void takeAllMarks();
+  void markCustomValuesAgain();
 
-  ppd_file_t *m_ppd;
+  const PrinterDescription &m_printer;
+  ppd_file_s *m_ppd;
   QMap<QString, QString> m_customValues;  // option to what its "Custom" choice stands for
 };
 

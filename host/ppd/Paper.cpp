@@ -5,25 +5,13 @@
 
 #include <QLocale>
 #include <QRegularExpression>
-#include <array>
+
+#include "host/ppd/CustomChoice.h"
+#include "host/ppd/LengthUnit.h"
+#include "platform/printing/PPD.h"
 
 namespace orvek {
 namespace {
-
-constexpr double pointsPerInch = 72;
-constexpr double pointsPerMillimetre = pointsPerInch / 25.4;
-
-struct CupsUnit {
-  const char *name;
-  double points;
-};
-constexpr std::array<CupsUnit, 7> cupsUnits{{{"", 1},
-                                             {"pt", 1},
-                                             {"in", pointsPerInch},
-                                             {"mm", pointsPerMillimetre},
-                                             {"cm", 10 * pointsPerMillimetre},
-                                             {"m", 1000 * pointsPerMillimetre},
-                                             {"ft", 12 * pointsPerInch}}};
 
 QString number(double value, int decimals) {
   return QString::number(value, 'f', decimals);
@@ -31,14 +19,15 @@ QString number(double value, int decimals) {
 
 }  // namespace
 
-QSizeF paperSize(ppd_file_t *ppd, const QString &choice) {
+QSizeF paperSize(const PrinterDescription &printer, const QString &choice) {
   if (const std::optional<QSizeF> custom = customPaperSize(choice)) return *custom;
-  if (ppd == nullptr || choice.isEmpty()) return {};
-  const ppd_size_t *size = ppdPageSize(ppd, choice.toUtf8().constData());
+  if (printer.lend() == nullptr || choice.isEmpty()) return {};
+  const ppd_size_t *size = ppdPageSize(printer.lend(), choice.toUtf8().constData());
   return size == nullptr ? QSizeF() : QSizeF(size->width, size->length);
 }
 
-std::optional<CustomPaperLimits> customPaperLimits(ppd_file_t *ppd) {
+std::optional<CustomPaperLimits> customPaperLimits(const PrinterDescription &printer) {
+  const ppd_file_t *ppd = printer.lend();
   if (ppd == nullptr || ppd->variable_sizes == 0) return std::nullopt;
   return CustomPaperLimits{{ppd->custom_min[0], ppd->custom_min[1]},
                            {ppd->custom_max[0], ppd->custom_max[1]}};
@@ -50,28 +39,21 @@ PaperUnit PaperUnit::ofLocale() {
 }
 
 QString customPaperChoice(QSizeF size, const PaperUnit &unit) {
-  return QStringLiteral("Custom.%1x%2%3")
-      .arg(number(size.width() / unit.points, unit.decimals),
-           number(size.height() / unit.points, unit.decimals), QString::fromLatin1(unit.cupsName));
+  const QString width = number(size.width() / unit.points, unit.decimals);
+  const QString height = number(size.height() / unit.points, unit.decimals);
+  return CustomChoice::ofValue(width + u'x' + height + QLatin1String(unit.cupsName)).text();
 }
 
 std::optional<QSizeF> customPaperSize(const QString &choice) {
-  static const QRegularExpression pattern(
-      QStringLiteral("\\ACustom\\.([0-9.]+)x([0-9.]+)([a-z]*)\\z"),
-      QRegularExpression::CaseInsensitiveOption);
-  const QRegularExpressionMatch match = pattern.match(choice);
+  static const QRegularExpression pattern(QStringLiteral("\\A([0-9.]+)x([0-9.]+)([a-z]*)\\z"),
+                                          QRegularExpression::CaseInsensitiveOption);
+  const std::optional<CustomChoice> custom = CustomChoice::read(choice);
+  if (!custom) return std::nullopt;
+  const QRegularExpressionMatch match = pattern.match(custom->value());
   if (!match.hasMatch()) return std::nullopt;
   const QSizeF size(match.captured(1).toDouble(), match.captured(2).toDouble());
-  for (const CupsUnit &unit : cupsUnits) {
-    if (match.captured(3).compare(QLatin1String(unit.name), Qt::CaseInsensitive) != 0) continue;
-    return size.isEmpty() ? std::nullopt : std::optional(size * unit.points);
-  }
-  return std::nullopt;
-}
-
-bool isCustomPaper(const QString &choice) {
-  return choice.compare(QLatin1String("Custom"), Qt::CaseInsensitive) == 0 ||
-         choice.startsWith(QLatin1String("Custom."), Qt::CaseInsensitive);
+  const std::optional<double> unit = pointsPerUnit(match.captured(3));
+  return unit && !size.isEmpty() ? std::optional(size * *unit) : std::nullopt;
 }
 
 }  // namespace orvek

@@ -6,26 +6,31 @@
 #include <QString>
 #include <optional>
 
-#include "platform/printing/PPD.h"
+#include "host/ppd/PrinterDescription.h"
 
 namespace orvek {
 
 /// The size that a choice of PageSize stands for ("A4", "Custom.200x300mm"). Empty where the PPD
 /// does not know it.
-QSizeF paperSize(ppd_file_t *ppd, const QString &choice);
+QSizeF paperSize(const PrinterDescription &printer, const QString &choice);
 
-/// The smallest and largest custom size; nothing where the PPD has none.
+/// The smallest and largest custom size. Plain data.
 struct CustomPaperLimits {
   QSizeF least;
   QSizeF most;
 };
-std::optional<CustomPaperLimits> customPaperLimits(ppd_file_t *ppd);
 
-/// The unit that people of a place measure paper in.
+/// Nothing where the printer takes no custom sizes.
+std::optional<CustomPaperLimits> customPaperLimits(const PrinterDescription &printer);
+
+/// The unit that people of a place measure paper in. Plain data.
 struct PaperUnit {
-  const char *cupsName;  ///< "mm" or "in"
-  double points;         ///< one unit, in points
-  int decimals;          ///< that make sense to show
+  /// "mm" or "in", as CUPS writes it.
+  const char *cupsName;
+  /// One unit, in points.
+  double points;
+  /// How many decimals make sense to show.
+  int decimals;
 
   static PaperUnit ofLocale();
 };
@@ -35,8 +40,5 @@ QString customPaperChoice(QSizeF size, const PaperUnit &unit);
 
 /// The size of a "Custom.WIDTHxHEIGHT" choice; nothing for any other choice.
 std::optional<QSizeF> customPaperSize(const QString &choice);
-
-/// True for a custom choice, with or without a size.
-bool isCustomPaper(const QString &choice);
 
 }  // namespace orvek

@@ -3,17 +3,18 @@
 
 #include "host/ppd/PrinterDescription.h"
 
-#include <cups/language.h>
-
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
 #include <utility>
 
+#include "platform/printing/PPD.h"
+
 namespace orvek {
 namespace {
 
 constexpr int languageLetters = 2;
+constexpr const char *equipmentGroup = "InstallableOptions";
 
 // libcups has one answer for a file it can't read and for one that is no PPD, so reading is tried
 // first.
@@ -61,6 +62,21 @@ void localize(ppd_file_t *ppd) {
   if (hasTexts) ppdLocalize(ppd);
 }
 
+QString textOf(const ppd_group_t &group) {
+  return QString::fromUtf8(group.text[0] != '\0' ? group.text : group.name);
+}
+
+// libcups sorts the options of subgroups into the group itself; the interface has them all the
+// same.
+bool holds(const ppd_group_t &group, const QByteArray &option) {
+  return std::any_of(group.options, group.options + group.num_options,
+                     [&](const ppd_option_t &each) {
+                       return qstricmp(each.keyword, option.constData()) == 0;
+                     }) ||
+         std::any_of(group.subgroups, group.subgroups + group.num_subgroups,
+                     [&](const ppd_group_t &inner) { return holds(inner, option); });
+}
+
 }  // namespace
 
 Result<std::shared_ptr<PrinterDescription>> PrinterDescription::open(const QString &path) {
@@ -75,7 +91,12 @@ Result<std::shared_ptr<PrinterDescription>> PrinterDescription::open(const QStri
   return std::shared_ptr<PrinterDescription>(new PrinterDescription(path, ppd));
 }
 
-PrinterDescription::PrinterDescription(QString path, ppd_file_t *ppd)
+const PrinterDescription &PrinterDescription::none() {
+  static const PrinterDescription nothing({}, nullptr);
+  return nothing;
+}
+
+PrinterDescription::PrinterDescription(QString path, ppd_file_s *ppd)
     : m_path(std::move(path)), m_ppd(ppd) {}
 
 PrinterDescription::~PrinterDescription() {
@@ -83,7 +104,56 @@ PrinterDescription::~PrinterDescription() {
 }
 
 QString PrinterDescription::modelName() const {
+  if (m_ppd == nullptr) return {};
   return QString::fromUtf8(m_ppd->nickname != nullptr ? m_ppd->nickname : m_ppd->modelname);
+}
+
+void PrinterDescription::append(const ppd_group_s &group, const QString &text,
+                                QList<PrinterOptionGroup> *groups) {
+  PrinterOptionGroup found{text, {}};
+  found.options.reserve(group.num_options);
+  for (int i = 0; i < group.num_options; ++i) {
+    found.options.append(PrinterOption(&group.options[i]));
+  }
+  if (!found.options.isEmpty()) groups->append(found);
+  for (int i = 0; i < group.num_subgroups; ++i) {
+    const ppd_group_t &inner = group.subgroups[i];
+    append(inner, text + QStringLiteral(" – ") + textOf(inner), groups);
+  }
+}
+
+QList<PrinterOptionGroup> PrinterDescription::options() const {
+  QList<PrinterOptionGroup> groups;
+  for (int i = 0; m_ppd != nullptr && i < m_ppd->num_groups; ++i) {
+    append(m_ppd->groups[i], textOf(m_ppd->groups[i]), &groups);
+  }
+  return groups;
+}
+
+PrinterOption PrinterDescription::option(const QString &keyword) const {
+  return PrinterOption(ppdFindOption(m_ppd, keyword.toUtf8().constData()));
+}
+
+std::optional<OptionChoice> PrinterDescription::spelled(const QString &option,
+                                                        const QString &choice) const {
+  const PrinterOption found = this->option(option);
+  const QString name = found.spelled(choice);
+  if (name.isNull()) return std::nullopt;
+  return OptionChoice{found.keyword(), name};
+}
+
+bool PrinterDescription::isEquipment(const QString &option) const {
+  const QByteArray keyword = option.toUtf8();
+  for (int i = 0; m_ppd != nullptr && i < m_ppd->num_groups; ++i) {
+    const ppd_group_t &group = m_ppd->groups[i];
+    if (qstricmp(group.name, equipmentGroup) == 0 && holds(group, keyword)) return true;
+  }
+  return false;
+}
+
+QString PrinterDescription::attribute(const char *keyword) const {
+  const ppd_attr_t *found = ppdFindAttr(m_ppd, keyword, nullptr);
+  return found == nullptr ? QString() : QString::fromUtf8(found->value);
 }
 
 }  // namespace orvek

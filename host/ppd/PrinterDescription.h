@@ -3,27 +3,35 @@
 // session. May touch the file system and libcups; knows nothing of marks.
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <memory>
+#include <optional>
 
-#include "platform/printing/PPD.h"
+#include "host/ppd/Keyword.h"
+#include "host/ppd/PrinterOption.h"
 #include "platform/system/Result.h"
+
+struct ppd_file_s;
+struct ppd_group_s;
 
 namespace orvek {
 
-/// Owns a parsed PPD. What it hands out is lent and lives as long as this object.
+/// Owns a parsed PPD. What it hands out is lent and lives as long as this object; all but open() is
+/// without failure, and what the PPD lacks is null, empty or nothing. For one thread at a time, and
+/// may be opened on one and handed to another.
 class PrinterDescription {
  public:
   /// Opens and localizes the PPD (plain or gzip). Failures: Io where the file can't be read,
   /// Invalid, with the line, where it is no PPD.
   static Result<std::shared_ptr<PrinterDescription>> open(const QString &path);
 
+  /// The description of a printer of which nothing is known: it has no options.
+  static const PrinterDescription &none();
+
   ~PrinterDescription();
   PrinterDescription(const PrinterDescription &) = delete;
   PrinterDescription &operator=(const PrinterDescription &) = delete;
-
-  /// The parsed PPD; never null.
-  ppd_file_t *ppd() const { return m_ppd; }
 
   /// The file it was read from, as it was named.
   const QString &path() const { return m_path; }
@@ -31,11 +39,41 @@ class PrinterDescription {
   /// The model's name for people: *NickName, else *ModelName. Null where the PPD names neither.
   QString modelName() const;
 
+  /// Every option, in the PPD's groups and order.
+  QList<PrinterOptionGroup> options() const;
+
+  /// The option of this keyword, without regard to case; absent where the PPD lacks it.
+  PrinterOption option(const QString &keyword) const;
+  bool has(const QString &option) const { return bool(this->option(option)); }
+
+  /// The option's choices, in the PPD's order.
+  QList<PrinterChoice> choices(const QString &option) const {
+    return this->option(option).choices();
+  }
+
+  /// The option and choice as the PPD spells them; nothing where the PPD lacks either, or for an
+  /// empty choice.
+  std::optional<OptionChoice> spelled(const QString &option, const QString &choice) const;
+
+  /// True for an option of the PPD's group of installed equipment, or of a group within it.
+  bool isEquipment(const QString &option) const;
+
+  /// The value of the first line "*KEYWORD: value" or "*KEYWORD word: value"; null where there is
+  /// none.
+  QString attribute(const char *keyword) const;
+
+  /// The parsed PPD itself; null of none(). The one loan of it: to panels, as their contract has
+  /// it, and to this room, which calls libcups with it. Whoever marks in it is a Marks.
+  ppd_file_s *lend() const { return m_ppd; }
+
  private:
-  PrinterDescription(QString path, ppd_file_t *ppd);
+  PrinterDescription(QString path, ppd_file_s *ppd);
+
+  static void append(const ppd_group_s &group, const QString &text,
+                     QList<PrinterOptionGroup> *groups);
 
   QString m_path;
-  ppd_file_t *m_ppd;
+  ppd_file_s *m_ppd;
 };
 
 }  // namespace orvek

@@ -15,50 +15,48 @@ struct Text {
   Q_DECLARE_TR_FUNCTIONS(orvek::Wording)
 };
 
-QString sentence(ppd_file_t *ppd, const ChoiceChange &change) {
+QString sentence(const PrinterDescription &printer, const ChoiceChange &change) {
   return Text::tr("%1 was set to %2: it can't be combined with %3")
-      .arg(optionText(ppd, change.option), choiceText(ppd, {change.option, change.newChoice}),
-           namedChoice(ppd, change.partner));
+      .arg(optionText(printer, change.option),
+           choiceText(printer, {change.option, change.newChoice}),
+           namedChoice(printer, change.partner));
 }
 
-QString refusal(ppd_file_t *ppd, const Resolution &resolution) {
+QString refusal(const PrinterDescription &printer, const Resolution &resolution) {
   QStringList partners;
-  for (const OptionChoice &partner : resolution.incompatible) partners << namedChoice(ppd, partner);
+  for (const OptionChoice &partner : resolution.incompatible)
+    partners << namedChoice(printer, partner);
   return Text::tr("%1 was not set to %2: it can't be combined with %3")
-      .arg(optionText(ppd, resolution.pick.option), choiceText(ppd, resolution.pick),
+      .arg(optionText(printer, resolution.pick.option), choiceText(printer, resolution.pick),
            partners.join(QStringLiteral(", ")));
 }
 
 }  // namespace
 
-QString optionText(ppd_file_t *ppd, const QString &option) {
-  const ppd_option_t *found = ppdFindOption(ppd, option.toUtf8().constData());
-  const QString text = found == nullptr ? QString() : QString::fromUtf8(found->text);
+QString optionText(const PrinterDescription &printer, const QString &option) {
+  const QString text = printer.option(option).text();
   return text.isEmpty() ? option : text;
 }
 
-QString choiceText(ppd_file_t *ppd, const OptionChoice &choice) {
-  ppd_option_t *option = ppdFindOption(ppd, choice.option.toUtf8().constData());
-  if (option == nullptr || choice.choice.isEmpty()) return choice.choice;
-  const ppd_choice_t *found = ppdFindChoice(option, choice.choice.toUtf8().constData());
-  const QString text = found == nullptr ? QString() : QString::fromUtf8(found->text);
-  if (text.isEmpty()) return choice.choice;
-  const QString values = customValueText(ppd, choice);
-  return values.isNull() ? text : text + QStringLiteral(": ") + values;
+QString choiceText(const PrinterDescription &printer, const OptionChoice &choice) {
+  const std::optional<PrinterChoice> found = printer.option(choice.option).choice(choice.choice);
+  if (!found || found->text.isEmpty()) return choice.choice;
+  const QString values = customValueText(printer, choice);
+  return values.isNull() ? found->text : found->text + QStringLiteral(": ") + values;
 }
 
-QString namedChoice(ppd_file_t *ppd, const OptionChoice &choice) {
-  const ppd_option_t *option = ppdFindOption(ppd, choice.option.toUtf8().constData());
-  const QString text = choiceText(ppd, choice);
-  const bool selfExplaining = option != nullptr && option->ui != PPD_UI_BOOLEAN &&
-                              !isInstalledEquipment(ppd, choice.option);
-  return selfExplaining ? text : optionText(ppd, choice.option) + QStringLiteral(": ") + text;
+QString namedChoice(const PrinterDescription &printer, const OptionChoice &choice) {
+  const PrinterOption option = printer.option(choice.option);
+  const QString text = choiceText(printer, choice);
+  const bool selfExplaining =
+      option && option.kind() != OptionKind::Boolean && !printer.isEquipment(choice.option);
+  return selfExplaining ? text : optionText(printer, choice.option) + QStringLiteral(": ") + text;
 }
 
-QStringList wordsFor(ppd_file_t *ppd, const Resolution &resolution) {
-  if (!resolution.marked) return {refusal(ppd, resolution)};
+QStringList wordsFor(const PrinterDescription &printer, const Resolution &resolution) {
+  if (!resolution.marked) return {refusal(printer, resolution)};
   QStringList words;
-  for (const ChoiceChange &change : resolution.changes) words << sentence(ppd, change);
+  for (const ChoiceChange &change : resolution.changes) words << sentence(printer, change);
   return words;
 }
 

@@ -4,8 +4,8 @@
 
 #include <QList>
 
+#include "host/ppd/PrinterDescription.h"
 #include "host/presets/Preset.h"
-#include "platform/printing/PPD.h"
 
 namespace orvek {
 
@@ -32,9 +32,9 @@ struct PresetFit {
   QList<PresetMisfit> misfits;
 };
 
-/// Fits `preset` to the printer of `ppd` (borrowed; null is a printer without options). Installed
+/// Fits `preset` to the printer. Installed
 /// equipment belongs to a printer and not to a preset, so a preset never changes it. Whether the
 /// choices go together is for the printer's constraints and not looked at here.
-PresetFit fitPreset(const Preset &preset, ppd_file_t *ppd);
+PresetFit fitPreset(const Preset &preset, const PrinterDescription &printer);
 
 }  // namespace orvek

@@ -5,8 +5,6 @@
 
 #include <algorithm>
 
-#include "host/ppd/Constraints.h"
-
 namespace orvek {
 namespace {
 
@@ -58,7 +56,7 @@ Preset presetOf(PrintSession &session, const QString &name) {
   preset.printerModel = session.printer() ? session.printer()->modelName() : QString();
   preset.ticket = session.job().ticketToKeep();
   for (const OptionChoice &mark : session.marks().differingFromDefaults()) {
-    if (isInstalledEquipment(session.marks().ppd(), mark.option)) continue;
+    if (session.marks().printer().isEquipment(mark.option)) continue;
     preset.options.insert(mark.option, mark.choice);
   }
   return preset;
@@ -66,7 +64,7 @@ Preset presetOf(PrintSession &session, const QString &name) {
 
 QList<PresetMisfit> applyPreset(PrintSession &session, const Preset &preset,
                                 const QStringList &keep) {
-  const PresetFit fit = fitPreset(preset, session.marks().ppd());
+  const PresetFit fit = fitPreset(preset, session.marks().printer());
   const ActionScope action(session);
   writeTicket(session, fit, keep);
   const QMap<QString, QString> choices = choicesOf(fit, session);

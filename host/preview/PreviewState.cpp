@@ -25,11 +25,9 @@ struct Words {
 
 // The menu that the ticket's number counts begins with "as the job" and leaves out the PPD's last.
 QString targetPaper(const PrintSession &session, int number) {
-  const ppd_option_t *option = ppdFindOption(session.marks().ppd(), "PageSize");
-  if (option == nullptr || number < 1 || number >= option->num_choices) {
-    return session.marks().marked(pageSizeOption);
-  }
-  return QString::fromUtf8(option->choices[number - 1].choice);
+  const QList<PrinterChoice> sizes = session.marks().printer().choices(pageSizeOption);
+  return number < 1 || number >= sizes.size() ? session.marks().marked(pageSizeOption)
+                                              : sizes[number - 1].keyword;
 }
 
 QString pageInWords(int page) {
@@ -40,7 +38,7 @@ QString pageInWords(int page) {
 
 PreviewState previewState(const PrintSession &session, int pageCount, QSizeF pageSize) {
   PreviewState state;
-  ppd_file_t *ppd = session.marks().ppd();
+  const PrinterDescription &printer = session.marks().printer();
   state.booklet = bookletSettings(session.ticket().values());
   state.isSample = pageCount <= 0;
   const QString ranges = state.isSample ? QString() : session.job().settings().pageRanges;
@@ -48,10 +46,10 @@ PreviewState previewState(const PrintSession &session, int pageCount, QSizeF pag
   state.pages = static_cast<int>(pages.size());
   const QString marked = session.marks().marked(pageSizeOption);
   const QString target = targetPaper(session, state.booklet.targetPaper);
-  state.paper = paperSize(ppd, target);
+  state.paper = paperSize(printer, target);
   if (state.paper.isEmpty()) state.paper = a4;
-  if (!target.isNull()) state.paperName = choiceText(ppd, {pageSizeOption, target});
-  state.page = pageSize.isEmpty() ? paperSize(ppd, marked) : pageSize;
+  if (!target.isNull()) state.paperName = choiceText(printer, {pageSizeOption, target});
+  state.page = pageSize.isEmpty() ? paperSize(printer, marked) : pageSize;
   if (state.page.isEmpty()) state.page = a4;
   if (state.booklet.enabled) state.sheets = imposeBooklet(pages, state.booklet);
   return state;

@@ -2,11 +2,7 @@
 // How long a connection of libcups may stand still.
 #pragma once
 
-// The printing interface comes first: it takes the deprecations of libcups' headers off.
-#include "platform/printing/PPD.h"
-// clang-format off
 #include <cups/cups.h>
-// clang-format on
 
 #include <QElapsedTimer>
 #include <atomic>

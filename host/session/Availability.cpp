@@ -10,66 +10,35 @@
 namespace orvek {
 namespace {
 
-bool isOff(const QString &choice) {
-  for (const char *off : {"False", "None", "Off", "NotInstalled"}) {
-    if (choice.compare(QLatin1String(off), Qt::CaseInsensitive) == 0) return true;
-  }
-  return false;
-}
-
-QString reasonFor(ppd_file_t *ppd, const OptionChoice &partner) {
-  if (isInstalledEquipment(ppd, partner.option) && isOff(partner.choice)) {
+QString reasonFor(const PrinterDescription &printer, const OptionChoice &partner) {
+  if (printer.isEquipment(partner.option) &&
+      isAnyOf(partner.choice, {"False", "None", "Off", "NotInstalled"})) {
     return Availability::tr("needs the %1, which this printer doesn't have")
-        .arg(optionText(ppd, partner.option));
+        .arg(optionText(printer, partner.option));
   }
-  return Availability::tr("not with %1").arg(namedChoice(ppd, partner));
+  return Availability::tr("not with %1").arg(namedChoice(printer, partner));
 }
 
 // Equipment first: where it is missing, nothing else matters.
-QString reasonFor(ppd_file_t *ppd, const QList<OptionChoice> &partners) {
+QString reasonFor(const PrinterDescription &printer, const QList<OptionChoice> &partners) {
   QStringList equipment;
   QStringList others;
   for (const OptionChoice &partner : partners) {
-    QStringList &list = isInstalledEquipment(ppd, partner.option) ? equipment : others;
-    const QString reason = reasonFor(ppd, partner);
+    QStringList &list = printer.isEquipment(partner.option) ? equipment : others;
+    const QString reason = reasonFor(printer, partner);
     if (!list.contains(reason)) list << reason;
   }
   return (equipment.isEmpty() ? others : equipment).join(QStringLiteral(", "));
 }
 
-QString effectOf(ppd_file_t *ppd, const Resolution &resolution) {
+QString effectOf(const PrinterDescription &printer, const Resolution &resolution) {
   QStringList changes;
   for (const ChoiceChange &change : resolution.changes) {
     changes << Availability::tr("%1 would be set to %2")
-                   .arg(optionText(ppd, change.option),
-                        choiceText(ppd, {change.option, change.newChoice}));
+                   .arg(optionText(printer, change.option),
+                        choiceText(printer, {change.option, change.newChoice}));
   }
   return changes.isEmpty() ? QString() : changes.join(QStringLiteral(", "));
-}
-
-void addName(QSet<QString> *names, const QString &name) {
-  // A custom value is constrained under a name of its own, as a choice of the option itself.
-  static const QString custom = QStringLiteral("custom");
-  const QString lower = name.toLower();
-  names->insert(lower);
-  if (lower.startsWith(custom)) names->insert(lower.mid(custom.size()));
-}
-
-QSet<QString> constrainedOptions(ppd_file_t *ppd) {
-  QSet<QString> names;
-  if (ppd == nullptr) return names;
-  for (int i = 0; i < ppd->num_consts; ++i) {
-    addName(&names, QString::fromUtf8(ppd->consts[i].option1));
-    addName(&names, QString::fromUtf8(ppd->consts[i].option2));
-  }
-  const char *keyword = "cupsUIConstraints";
-  for (const ppd_attr_t *attribute = ppdFindAttr(ppd, keyword, nullptr); attribute != nullptr;
-       attribute = ppdFindNextAttr(ppd, keyword, nullptr)) {
-    for (const QString &word : QString::fromUtf8(attribute->value).simplified().split(u' ')) {
-      if (word.startsWith(u'*')) addName(&names, word.mid(1));
-    }
-  }
-  return names;
 }
 
 }  // namespace
@@ -82,7 +51,7 @@ QString ChoiceAvailability::words() const {
 Availability::Availability(PrintSession &session, QObject *parent)
     : QObject(parent),
       m_session(session),
-      m_constrained(constrainedOptions(session.marks().ppd())) {
+      m_constrained(constrainedOptions(session.marks().printer())) {
   connect(&session, &PrintSession::changed, this, [this] { m_answers.clear(); });
 }
 
@@ -102,18 +71,15 @@ ChoiceAvailability Availability::find(const OptionChoice &pick) {
   const QList<OptionChoice> conflicts = conflictsOf(m_session.marks(), *wanted);
   if (conflicts.isEmpty()) return {};
 
-  ppd_file_t *ppd = m_session.marks().ppd();
+  const PrinterDescription &printer = m_session.marks().printer();
   const QList<OptionChoice> partners = partnersAmong(m_session.marks(), conflicts, *wanted);
-  Marks &marks = m_session.marks();
-  const MarksSnapshot before = marks.snapshot();
-  const Resolution resolution = markAndResolve(marks, *wanted);
-  marks.restore(before);
+  const Resolution resolution = tryPick(m_session.marks(), *wanted);
 
   ChoiceAvailability answer;
   answer.kind =
       resolution.marked ? ChoiceAvailability::Kind::Displaces : ChoiceAvailability::Kind::Unusable;
-  answer.reason = reasonFor(ppd, partners);
-  answer.effect = effectOf(ppd, resolution);
+  answer.reason = reasonFor(printer, partners);
+  answer.effect = effectOf(printer, resolution);
   return answer;
 }
 

@@ -7,8 +7,9 @@
 #include <array>
 #include <vector>
 
-#include "host/ppd/Wording.h"
+#include "host/ppd/CustomChoice.h"
 #include "host/session/PrintSession.h"
+#include "host/ticket/JobOptionNames.h"
 
 namespace orvek {
 namespace {
@@ -34,33 +35,27 @@ const std::array<Names, 6> &allNames() {
 }
 
 constexpr const char *manualFeedSize = "PageRegion";
-constexpr const char *customChoice = "Custom";
-constexpr const char *pagesPerSheetAttribute = "number-up";  // the ticket's layout says it
 
-const ppd_option_t *optionFor(ppd_file_t *ppd, const Names &names) {
+PrinterOption optionFor(const PrinterDescription &printer, const Names &names) {
   for (const char *keyword : names.options) {
-    const ppd_option_t *option = ppdFindOption(ppd, keyword);
-    if (option != nullptr && option->ui != PPD_UI_PICKMANY) return option;
+    const PrinterOption option = printer.option(QLatin1String(keyword));
+    if (option && option.kind() != OptionKind::PickMany) return option;
   }
-  return nullptr;
+  return {};
 }
 
 // A custom value can be shown where there are fields for it: for the paper's size.
-bool canBeShown(const ppd_choice_t &choice, CommonSetting setting) {
-  return setting == CommonSetting::PaperSize || qstricmp(choice.choice, customChoice) != 0;
+bool canBeShown(const PrinterChoice &choice, CommonSetting setting) {
+  return setting == CommonSetting::PaperSize || !isCustomChoice(choice.keyword);
 }
 
-Setting settingOf(const PrintSession &session, const ppd_option_t &option, CommonSetting which) {
+Setting settingOf(const PrintSession &session, const PrinterOption &option, CommonSetting which) {
   Setting setting;
-  setting.key = QString::fromUtf8(option.keyword);
-  setting.title = optionText(session.marks().ppd(), setting.key);
+  setting.key = option.keyword();
+  setting.title = option.text();
   setting.current = session.marks().marked(setting.key);
-  for (int i = 0; i < option.num_choices; ++i) {
-    const ppd_choice_t &choice = option.choices[i];
-    if (!canBeShown(choice, which)) continue;
-    const QString keyword = QString::fromUtf8(choice.choice);
-    const QString text = QString::fromUtf8(choice.text);
-    setting.choices.append({keyword, text.isEmpty() ? keyword : text});
+  for (const PrinterChoice &choice : option.choices()) {
+    if (canBeShown(choice, which)) setting.choices.append({choice.keyword, choice.text});
   }
   return setting;
 }
@@ -87,9 +82,8 @@ std::optional<Setting> offered(const PrintSession &session, const Names &names) 
 }
 
 bool isFurther(const SettingOffer &offer) {
-  if (offer.attribute == QLatin1String(pagesPerSheetAttribute) || offer.choices.size() < 2) {
-    return false;
-  }
+  // The ticket's layout says the pages per sheet.
+  if (offer.attribute == pagesPerSheetOption || offer.choices.size() < 2) return false;
   return std::none_of(allNames().begin(), allNames().end(), [&](const Names &names) {
     return offer.attribute == QLatin1String(names.attribute);
   });
@@ -101,8 +95,8 @@ std::optional<Setting> commonSetting(const PrintSession &session, CommonSetting 
   const Names &names = allNames()[static_cast<std::size_t>(which)];
   std::optional<Setting> setting;
   if (session.printer()) {
-    const ppd_option_t *option = optionFor(session.marks().ppd(), names);
-    if (option != nullptr) setting = settingOf(session, *option, which);
+    const PrinterOption option = optionFor(*session.printer(), names);
+    if (option) setting = settingOf(session, option, which);
   } else {
     setting = offered(session, names);
   }
@@ -129,10 +123,11 @@ QStringList commonOptions(const PrintSession &session) {
   QStringList keywords;
   if (!session.printer()) return keywords;
   for (const Names &names : allNames()) {
-    const ppd_option_t *option = optionFor(session.marks().ppd(), names);
-    if (option != nullptr) keywords << QString::fromUtf8(option->keyword);
+    if (const PrinterOption option = optionFor(*session.printer(), names)) {
+      keywords << option.keyword();
+    }
   }
-  keywords << QString::fromLatin1(collateOption) << QString::fromLatin1(manualFeedSize);
+  keywords << QString(collateOption) << QString::fromLatin1(manualFeedSize);
   return keywords;
 }
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "host/ppd/MarksTrial.h"
 #include "host/ticket/ServerWords.h"
 
 namespace orvek {
@@ -20,19 +21,9 @@ struct Wish {
   QList<std::pair<QString, Source>> choices;
 };
 
-bool same(const QString &one, const QString &other) {
-  return one.compare(other, Qt::CaseInsensitive) == 0;
-}
-
-bool isNamedAmong(const QList<OptionChoice> &options, const QString &keyword) {
-  return std::any_of(options.begin(), options.end(),
-                     [&](const OptionChoice &option) { return same(option.option, keyword); });
-}
-
 Failure unknownMark(const Marks &marks, const OptionChoice &mark) {
   const QString what = QStringLiteral("--mark %1=%2").arg(mark.option, mark.choice);
-  const bool optionIsKnown =
-      ppdFindOption(marks.ppd(), mark.option.toUtf8().constData()) != nullptr;
+  const bool optionIsKnown = marks.printer().has(mark.option);
   return {FailureKind::Usage, what,
           optionIsKnown ? QStringLiteral("the PPD's option %1 has no such choice").arg(mark.option)
                         : QStringLiteral("the PPD has no such option")};
@@ -79,7 +70,7 @@ class Asked {
     add(marks, m_words, Source::TicketWord, &wishes);
     add(marks, m_ticket, Source::Ticket, &wishes);
     std::stable_partition(wishes.begin(), wishes.end(), [&](const Wish &wish) {
-      return isInstalledEquipment(marks.ppd(), wish.option);
+      return marks.printer().isEquipment(wish.option);
     });
     return wishes;
   }
@@ -129,9 +120,8 @@ class Settlement {
   }
 
   Resolution pick(const OptionChoice &choice, Source source) {
-    const MarksSnapshot before = m_marks.snapshot();
+    if (source == Source::Queue) return pickSparingGivenMarks(choice);
     Resolution resolution = markAndResolve(m_marks, choice);
-    if (source == Source::Queue) return sparingGivenMarks(std::move(resolution), before);
     for (const ChoiceChange &change : resolution.changes) {
       removeFromTicket(change.option);  // where it may stand in other letters
       m_ticket.setValue(change.option, change.newChoice);
@@ -139,19 +129,23 @@ class Settlement {
     return resolution;
   }
 
-  Resolution sparingGivenMarks(Resolution resolution, const MarksSnapshot &before) {
+  Resolution pickSparingGivenMarks(const OptionChoice &choice) {
+    MarksTrial trial(m_marks);
+    const Resolution resolution = markAndResolve(m_marks, choice);
     QList<OptionChoice> given;
     for (const ChoiceChange &change : resolution.changes) {
       if (m_asked.isGiven(change.option)) given.append({change.option, change.oldChoice});
     }
-    if (given.isEmpty()) return resolution;
-    m_marks.restore(before);
+    if (given.isEmpty()) {
+      trial.keep();
+      return resolution;
+    }
     return {resolution.pick, false, {}, given};
   }
 
   void removeFromTicket(const QString &option) {
     for (const QString &key : m_ticket.values().keys()) {
-      if (same(key, option)) m_ticket.setValue(key, QVariant());
+      if (sameKeyword(key, option)) m_ticket.setValue(key, QVariant());
     }
   }
 

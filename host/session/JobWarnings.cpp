@@ -11,25 +11,22 @@
 #include "host/session/PrintSession.h"
 #include "host/ticket/BookletSettings.h"
 #include "host/ticket/PageRanges.h"
+#include "platform/plugin/FinishingKeywords.h"
 #include "platform/printing/PrintSettings.h"
 
 namespace orvek {
 namespace {
 
 constexpr int usualMaximumSheets = 15;
-constexpr const char *maximumSheetsAttribute = "OVKBookletMaximumSheets";
-constexpr std::array<const char *, 3> staplingOptions{"OVKStapling", "Stapling", "StapleLocation"};
-constexpr const char *foldingOption = "OVKFolding";
-constexpr const char *saddleFold = "Saddle";
+constexpr std::array<const char *, 3> staplingOptions{staplingKeyword, "Stapling",
+                                                      "StapleLocation"};
 
 struct Words {
   Q_DECLARE_TR_FUNCTIONS(orvek::JobWarnings)
 };
 
 bool isOff(const QString &choice) {
-  return choice.isEmpty() || choice.compare(QLatin1String("None"), Qt::CaseInsensitive) == 0 ||
-         choice.compare(QLatin1String("False"), Qt::CaseInsensitive) == 0 ||
-         choice.compare(QLatin1String("Off"), Qt::CaseInsensitive) == 0;
+  return isAnyOf(choice, {"", "None", "False", "Off"});
 }
 
 QString staplesUncollated(const Marks &marks, const JobSettings &settings) {
@@ -40,12 +37,11 @@ QString staplesUncollated(const Marks &marks, const JobSettings &settings) {
   if (stapling == staplingOptions.end()) return {};
   const QString option = QString::fromLatin1(*stapling);
   return Words::tr("%1 with copies that are not collated: equal pages would be stapled together")
-      .arg(namedChoice(marks.ppd(), {option, marks.marked(option)}));
+      .arg(namedChoice(marks.printer(), {option, marks.marked(option)}));
 }
 
 bool isSaddleFolded(const Marks &marks) {
-  return marks.marked(QString::fromLatin1(foldingOption))
-             .compare(QLatin1String(saddleFold), Qt::CaseInsensitive) == 0;
+  return sameKeyword(marks.marked(QLatin1String(foldingKeyword)), saddleFold);
 }
 
 bool isTwoSided(const Marks &marks) {
@@ -55,7 +51,7 @@ bool isTwoSided(const Marks &marks) {
 // Without the booklet's page order the sheets are what the layout makes them.
 int sheetsOf(const Marks &marks, const TicketValues &ticket, int pages) {
   if (bookletSettings(ticket).enabled) return bookletSheets(pages);
-  const int perSide = std::max(1, integerReading(ticket.value(layoutKey)));
+  const int perSide = std::max(1, integerReading(ticket.value(layoutNUpKey)));
   const int perSheet = perSide * (isTwoSided(marks) ? 2 : 1);
   return pages <= 0 ? 0 : (pages - 1) / perSheet + 1;
 }
@@ -63,7 +59,7 @@ int sheetsOf(const Marks &marks, const TicketValues &ticket, int pages) {
 QString tooManySheets(const Marks &marks, const TicketValues &ticket, int pages) {
   if (!warningsDependOnPages(marks, ticket)) return {};
   const int sheets = sheetsOf(marks, ticket, pages);
-  const int most = maximumBookletSheets(marks.ppd());
+  const int most = maximumBookletSheets(marks.printer());
   if (sheets <= most) return {};
   return Words::tr("A booklet of %1 sheets is more than the printer folds at once: at most %2")
       .arg(sheets)
@@ -72,10 +68,8 @@ QString tooManySheets(const Marks &marks, const TicketValues &ticket, int pages)
 
 }  // namespace
 
-int maximumBookletSheets(ppd_file_t *ppd) {
-  const ppd_attr_t *attribute =
-      ppd == nullptr ? nullptr : ppdFindAttr(ppd, maximumSheetsAttribute, nullptr);
-  const int sheets = attribute == nullptr ? 0 : leadingInteger(QString::fromUtf8(attribute->value));
+int maximumBookletSheets(const PrinterDescription &printer) {
+  const int sheets = leadingInteger(printer.attribute(maximumBookletSheetsAttribute));
   return sheets > 0 ? sheets : usualMaximumSheets;
 }
 

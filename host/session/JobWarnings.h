@@ -29,6 +29,6 @@ bool warningsDependOnPages(const Marks &marks, const TicketValues &ticket);
 
 /// How many sheets the printer folds into one booklet: *OVKBookletMaximumSheets of its PPD, or what
 /// booklet makers commonly do.
-int maximumBookletSheets(ppd_file_t *ppd);
+int maximumBookletSheets(const PrinterDescription &printer);
 
 }  // namespace orvek

@@ -7,8 +7,8 @@
 
 namespace orvek {
 
-Picks::Picks(ppd_file_t *ppd, std::shared_ptr<Ticket> ticket)
-    : m_marks(ppd), m_ticket(std::move(ticket)) {}
+Picks::Picks(const PrinterDescription &printer, std::shared_ptr<Ticket> ticket)
+    : m_marks(printer), m_ticket(std::move(ticket)) {}
 
 std::optional<Resolution> Picks::pick(const QString &option, const QString &choice) {
   const std::optional<OptionChoice> wanted = m_marks.spelled(option, choice);
@@ -39,8 +39,8 @@ void Picks::record(const OptionChoice &choice, Step *step) {
 // into the job.
 void Picks::giveUp(const OptionChoice &choice, Step *step) {
   if (m_marks.marked(choice.option) != choice.choice) return;
-  const ppd_option_t *option = ppdFindOption(m_marks.ppd(), choice.option.toUtf8().constData());
-  const auto standard = m_marks.spelled(choice.option, QString::fromUtf8(option->defchoice));
+  const QString usual = m_marks.printer().option(choice.option).defaultChoice();
+  const auto standard = m_marks.spelled(choice.option, usual);
   if (!standard || standard == choice || !conflictsOf(m_marks, *standard).isEmpty()) return;
   m_marks.mark(standard->option, standard->choice);
   const QVariant recorded = m_ticket->value(choice.option);

@@ -20,7 +20,7 @@ namespace orvek {
 /// it shares. Belongs to the interface's thread. What fails is a value: a pick that was undone.
 class Picks {
  public:
-  Picks(ppd_file_t *ppd, std::shared_ptr<Ticket> ticket);
+  Picks(const PrinterDescription &printer, std::shared_ptr<Ticket> ticket);
 
   Marks &marks() { return m_marks; }
   const Marks &marks() const { return m_marks; }

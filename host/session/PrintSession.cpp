@@ -20,10 +20,10 @@ Result<std::unique_ptr<PrintSession>> PrintSession::begin(const SessionSetup &se
 PrintSession::PrintSession(const SessionSetup &setup)
     : m_origin(setup),
       m_ticket(std::make_shared<Ticket>()),
-      m_picks(m_origin.printer ? m_origin.printer->ppd() : nullptr, m_ticket),
+      m_picks(m_origin.printer ? *m_origin.printer : PrinterDescription::none(), m_ticket),
       m_job(*this),
       m_action(*this),
-      m_panels(*this, {m_picks.marks().ppd(), &m_handle, m_ticket}, setup.panelsMayResize) {
+      m_panels(*this, {marks().printer().lend(), &m_handle, m_ticket}, setup.panelsMayResize) {
   for (auto entry = setup.ticket.begin(); entry != setup.ticket.end(); ++entry) {
     m_ticket->setValue(entry.key(), entry.value());
   }
@@ -57,9 +57,8 @@ void PrintSession::openPanels(PluginList plugins) {
 // Keys of the PPD are choices, and a choice is compared with the PPD's own default.
 bool PrintSession::hasOtherTicketKeys() const {
   const QStringList keys = m_ticket->values().keys();
-  return std::any_of(keys.begin(), keys.end(), [this](const QString &key) {
-    return ppdFindOption(marks().ppd(), key.toUtf8().constData()) == nullptr;
-  });
+  return std::any_of(keys.begin(), keys.end(),
+                     [this](const QString &key) { return !marks().printer().has(key); });
 }
 
 void PrintSession::learnDefaultSummary() {
@@ -103,7 +102,7 @@ bool PrintSession::apply(const QString &option, const QString &choice) {
 }
 
 void PrintSession::notice(const Resolution &resolution) {
-  QStringList words = wordsFor(marks().ppd(), resolution);
+  QStringList words = wordsFor(marks().printer(), resolution);
   // A restore may run into the same refusal again; it was said.
   words.removeIf([this](const QString &sentence) { return m_actionNotices.contains(sentence); });
   if (words.isEmpty()) return;

@@ -3,34 +3,21 @@
 
 #include "host/session/SessionJob.h"
 
-#include <algorithm>
-
-#include "host/ppd/CustomValue.h"
 #include "host/session/PrintSession.h"
-#include "host/ticket/BookletSettings.h"
+#include "host/ticket/JobOptionNames.h"
 #include "host/ticket/JobOptions.h"
 #include "host/ticket/ServerWords.h"
+#include "platform/plugin/BookletKeys.h"
 
 namespace orvek {
-namespace {
-
-bool isNamedAmong(const QList<OptionChoice> &options, const QString &keyword) {
-  return std::any_of(options.begin(), options.end(), [&](const OptionChoice &option) {
-    return option.option.compare(keyword, Qt::CaseInsensitive) == 0;
-  });
-}
-
-}  // namespace
-
 bool SessionJob::printerCollates() const {
-  return ppdFindOption(m_session.marks().ppd(), collateOption) != nullptr;
+  return m_session.marks().printer().has(collateOption);
 }
 
 JobSettings SessionJob::settings() const {
   JobSettings settings = m_settings;
   if (!printerCollates()) return settings;
-  const QString marked = m_session.marks().marked(QString::fromLatin1(collateOption));
-  settings.collate = marked.compare(QLatin1String("False"), Qt::CaseInsensitive) != 0;
+  settings.collate = !sameKeyword(m_session.marks().marked(collateOption), "False");
   return settings;
 }
 
@@ -39,7 +26,7 @@ void SessionJob::setSettings(const JobSettings &newSettings) {
   const ActionScope action(m_session);
   m_settings = newSettings;
   if (!printerCollates() || !collateChanges) return;
-  m_session.pick(QString::fromLatin1(collateOption),
+  m_session.pick(collateOption,
                  newSettings.collate ? QStringLiteral("True") : QStringLiteral("False"));
 }
 
@@ -74,12 +61,12 @@ void SessionJob::pickUnrecorded(const OptionChoice &choice) {
 }
 
 int SessionJob::pagesPerSheet() const {
-  return integerReading(m_session.ticket().value(layoutKey));
+  return integerReading(m_session.ticket().value(layoutNUpKey));
 }
 
 void SessionJob::setPagesPerSheet(int pages) {
   const ActionScope action(m_session);
-  m_session.ticket().setValue(layoutKey, pages);
+  m_session.ticket().setValue(layoutNUpKey, pages);
 }
 
 TicketValues SessionJob::ticketToKeep() {
@@ -87,11 +74,7 @@ TicketValues SessionJob::ticketToKeep() {
 }
 
 QStringList SessionJob::optionsWithCustomValues() const {
-  QStringList options;
-  for (const OptionChoice &mark : m_session.marks().all()) {
-    if (hasCustomValues(mark.choice)) options << mark.option;
-  }
-  return options;
+  return orvek::optionsWithCustomValues(m_session.marks());
 }
 
 QStringList SessionJob::overruledOptions() {
@@ -100,13 +83,8 @@ QStringList SessionJob::overruledOptions() {
 }
 
 QMap<QString, QString> SessionJob::options() {
-  QMap<QString, QString> options = jobOptionsFor(m_session.marks(), m_session.origin().queueOptions,
-                                                 m_session.ticket().values(), pagesPerSheet());
-  JobSettings settings = m_settings;
-  // The printer's own option, among the marks, says it already.
-  if (printerCollates()) settings.collate = true;
-  options.insert(toOptions(settings, m_asked));
-  return options;
+  return jobOptionsFor(m_session.marks(), {m_session.origin().queueOptions,
+                                           m_session.ticket().values(), m_settings, m_asked});
 }
 
 }  // namespace orvek

@@ -9,7 +9,7 @@
 #include <QStringList>
 
 #include "host/ppd/Marks.h"
-#include "host/ticket/JobSettings.h"
+#include "host/ticket/AskedOptions.h"
 #include "host/ticket/TicketFile.h"
 
 namespace orvek {

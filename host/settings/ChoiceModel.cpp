@@ -29,7 +29,7 @@ void ChoiceModel::refresh() {
 
 int ChoiceModel::rowOf(const QString &keyword) const {
   for (int row = 0; row < rowCount(); ++row) {
-    if (m_choices[row].keyword.compare(keyword, Qt::CaseInsensitive) == 0) return row;
+    if (sameKeyword(m_choices[row].keyword, keyword)) return row;
   }
   return -1;
 }

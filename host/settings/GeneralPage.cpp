@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 #include <array>
 
+#include "host/ppd/CustomChoice.h"
 #include "host/session/Availability.h"
 #include "host/settings/ChoiceBox.h"
 #include "host/settings/CopiesRow.h"
@@ -182,8 +183,8 @@ void GeneralPage::showChoice(const ChoiceRow &row, const std::optional<Setting> 
   m_form->setRowVisible(row.box, setting.has_value());
   if (!setting) return;
   row.box->setChoices(setting->key, setting->choices);
-  const bool isCustom = row.setting == paperSizePlace && isCustomPaper(setting->current);
-  row.box->setChoice(isCustom ? QStringLiteral("Custom") : setting->current);
+  const bool isPaper = row.setting == paperSizePlace;
+  row.box->setChoice(isPaper ? listedChoice(setting->current) : setting->current);
 }
 
 void GeneralPage::showCustomPaper(const std::optional<CustomPaper> &paper) {
@@ -194,7 +195,7 @@ void GeneralPage::showCustomPaper(const std::optional<CustomPaper> &paper) {
 void GeneralPage::pickChoice(int place, const QString &choice) {
   const std::optional<Setting> setting = m_state.settings[place];
   if (!setting) return;
-  if (place == paperSizePlace && choice == QLatin1String("Custom")) {
+  if (place == paperSizePlace && choice == CustomChoice::keyword) {
     pickCustomPaper(*setting);
   } else {
     pickSetting(m_session, *setting, choice);
@@ -203,10 +204,10 @@ void GeneralPage::pickChoice(int place, const QString &choice) {
 
 // A custom size begins as large as the paper that it replaces.
 void GeneralPage::pickCustomPaper(const Setting &setting) {
-  ppd_file_t *ppd = m_session.marks().ppd();
-  const std::optional<CustomPaperLimits> limits = customPaperLimits(ppd);
-  if (limits) m_customSize->setSize(paperSize(ppd, setting.current), *limits);
-  pickSetting(m_session, setting, limits ? m_customSize->choice() : QStringLiteral("Custom"));
+  const PrinterDescription &printer = m_session.marks().printer();
+  const std::optional<CustomPaperLimits> limits = customPaperLimits(printer);
+  if (limits) m_customSize->setSize(paperSize(printer, setting.current), *limits);
+  pickSetting(m_session, setting, limits ? m_customSize->choice() : QString(CustomChoice::keyword));
 }
 
 void GeneralPage::changeJob(const std::function<void(JobSettings *)> &change) {

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "host/ppd/CustomChoice.h"
 #include "host/session/PrintSession.h"
 
 namespace orvek {
@@ -12,11 +13,11 @@ namespace {
 
 std::optional<CustomPaper> customPaperOf(const PrintSession &session,
                                          const std::optional<Setting> &paperSetting) {
-  if (!paperSetting || !isCustomPaper(paperSetting->current)) return std::nullopt;
-  ppd_file_t *ppd = session.marks().ppd();
-  const std::optional<CustomPaperLimits> limits = customPaperLimits(ppd);
+  if (!paperSetting || !isCustomChoice(paperSetting->current)) return std::nullopt;
+  const PrinterDescription &printer = session.marks().printer();
+  const std::optional<CustomPaperLimits> limits = customPaperLimits(printer);
   if (!limits) return std::nullopt;
-  QSizeF size = paperSize(ppd, paperSetting->current);
+  QSizeF size = paperSize(printer, paperSetting->current);
   if (size.isEmpty()) size = limits->least;
   return CustomPaper{size, *limits};
 }

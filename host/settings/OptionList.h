@@ -28,21 +28,18 @@ struct OptionGroup {
 };
 
 /// Every option but those left out (keywords, without regard to case), in the PPD's groups and
-/// order; groups without options are dropped. Nothing without a PPD.
-QList<OptionGroup> optionGroups(ppd_file_t *ppd, const QStringList &leftOut,
+/// order; groups without options are dropped.
+QList<OptionGroup> optionGroups(const PrinterDescription &printer, const QStringList &leftOut,
                                 const QList<OptionChoice> &queueOptions);
 
 /// The choices of an option for people. A custom choice ends in "…", since it asks for values; one
 /// that asks for none, or for a paper size, is left out.
-QList<SettingChoice> choicesOf(ppd_file_t *ppd, const QString &option);
-
-/// True for an option that is on or off: its choices are "True" and "False".
-bool isSwitch(ppd_file_t *ppd, const QString &option);
+QList<SettingChoice> choicesOf(const PrinterDescription &printer, const QString &option);
 
 /// True where the mark is not the entry's standard.
 bool isChanged(const Marks &marks, const OptionEntry &entry);
 
 /// What a search looks in: text, keyword and choices of the option, a line each.
-QString searchText(ppd_file_t *ppd, const OptionEntry &entry);
+QString searchText(const PrinterDescription &printer, const OptionEntry &entry);
 
 }  // namespace orvek

@@ -19,7 +19,7 @@ QList<QStringList> searchTexts(const PrintSession &session, const QList<OptionGr
   for (const OptionGroup &group : groups) {
     QStringList ofGroup;
     for (const OptionEntry &entry : group.options) {
-      ofGroup << searchText(session.marks().ppd(), entry);
+      ofGroup << searchText(session.marks().printer(), entry);
     }
     texts << ofGroup;
   }
@@ -91,7 +91,7 @@ bool OptionsModel::isChangedAt(const QModelIndex &index) const {
 bool OptionsModel::isSwitchAt(const QModelIndex &index) const {
   const OptionEntry *entry = entryAt(index);
   return entry != nullptr && index.column() == ChoiceColumn &&
-         isSwitch(m_session.marks().ppd(), entry->keyword);
+         m_session.marks().printer().option(entry->keyword).isSwitch();
 }
 
 void OptionsModel::findChanged() {
@@ -125,12 +125,12 @@ int OptionsModel::columnCount(const QModelIndex &) const {
 
 QString OptionsModel::choiceTextOf(const OptionEntry &entry) const {
   const QString marked = m_session.marks().marked(entry.keyword);
-  return choiceText(m_session.marks().ppd(), {entry.keyword, marked});
+  return choiceText(m_session.marks().printer(), {entry.keyword, marked});
 }
 
 QString OptionsModel::description(const OptionEntry &entry) const {
   if (!isChanged(m_session.marks(), entry)) return {};
-  const QString standard = choiceText(m_session.marks().ppd(), {entry.keyword, entry.standard});
+  const QString standard = choiceText(m_session.marks().printer(), {entry.keyword, entry.standard});
   return tr("Changed; by itself: %1").arg(standard);
 }
 

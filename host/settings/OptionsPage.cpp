@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "host/ppd/CustomChoice.h"
 #include "host/ppd/CustomValue.h"
 #include "host/session/CommonSettings.h"
 #include "host/settings/CustomValueForm.h"
@@ -25,7 +26,7 @@ constexpr int margin = 12;
 constexpr int gap = 8;
 
 QList<OptionGroup> groupsFor(const PrintSession &session, const QStringList &claimedKeys) {
-  return optionGroups(session.marks().ppd(), claimedKeys + commonOptions(session),
+  return optionGroups(session.marks().printer(), claimedKeys + commonOptions(session),
                       session.origin().queueOptions);
 }
 
@@ -129,7 +130,7 @@ void OptionsPage::updateCustomValues() {
   if (isCustom || option != m_customOption) m_customOption = QString();
   const bool isOpen = isCustom || !m_customOption.isNull();
   const auto parameters =
-      isOpen ? customParameters(m_session.marks().ppd(), option) : QList<CustomParameter>();
+      isOpen ? customParameters(m_session.marks().printer(), option) : QList<CustomParameter>();
   if (isCustom) m_custom->show(parameters, customValues(parameters, marked));
   m_custom->setVisible(!parameters.isEmpty());
   // Fields that were made just now stand last in the window's order.
@@ -142,7 +143,7 @@ void OptionsPage::updateCustomValues() {
 void OptionsPage::askForCustomValues(const QString &option) {
   if (!isCustomChoice(m_session.marks().marked(option))) {
     m_customOption = option;
-    m_custom->show(customParameters(m_session.marks().ppd(), option), {});
+    m_custom->show(customParameters(m_session.marks().printer(), option), {});
     updateCustomValues();
     m_custom->offer();
   }

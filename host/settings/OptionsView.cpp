@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QTimer>
 
+#include "host/ppd/CustomChoice.h"
 #include "host/ppd/CustomValue.h"
 #include "host/settings/ChoiceBox.h"
 #include "host/settings/OptionsModel.h"
@@ -86,7 +87,7 @@ QWidget *ChoiceDelegate::createEditor(QWidget *parent, const QStyleOptionViewIte
   if (entry == nullptr) return nullptr;
   auto *box = new ChoiceBox(m_availability, parent);
   box->setAccessibleName(entry->text);
-  box->setChoices(entry->keyword, choicesOf(m_session.marks().ppd(), entry->keyword));
+  box->setChoices(entry->keyword, choicesOf(m_session.marks().printer(), entry->keyword));
   auto *self = const_cast<ChoiceDelegate *>(this);  // the base asks for editors in a const call
   const QString option = entry->keyword;
   connect(box, &ChoiceBox::choicePicked, self,
@@ -109,7 +110,7 @@ void ChoiceDelegate::setEditorData(QWidget *editor, const QModelIndex &index) co
   auto *box = qobject_cast<ChoiceBox *>(editor);
   if (entry == nullptr || box == nullptr) return;
   const QString marked = m_session.marks().marked(entry->keyword);
-  box->setChoice(isCustomChoice(marked) ? QStringLiteral("Custom") : marked);
+  box->setChoice(listedChoice(marked));
 }
 
 // A pick is made when it is made; an editor that is merely left changes nothing.

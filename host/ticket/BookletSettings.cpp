@@ -10,32 +10,31 @@
 namespace orvek {
 namespace {
 
-constexpr int largestGutter = 144;
-constexpr int largestCreep = 36;
 constexpr int pagesPerSheet = 4;
 
-bool flag(const TicketValues &ticket, const char *key) {
-  const QVariant value = ticket.value(QString::fromLatin1(key));
-  return value.isValid() && textReading(value) != QStringLiteral("False");
+bool flag(const TicketValues &ticket, QLatin1String key) {
+  const QVariant value = ticket.value(key);
+  return value.isValid() && textReading(value) != falseValue;
 }
 
-int number(const TicketValues &ticket, const char *key, int absent) {
-  const QVariant value = ticket.value(QString::fromLatin1(key));
-  return value.isValid() ? integerReading(value) : absent;
+int number(const TicketValues &ticket, QLatin1String key, const BookletNumber &range) {
+  const QVariant value = ticket.value(key);
+  return value.isValid() ? std::clamp(integerReading(value), range.least, range.most)
+                         : range.absent;
 }
 
 }  // namespace
 
 BookletSettings bookletSettings(const TicketValues &ticket) {
   BookletSettings booklet;
-  const bool severalPagesPerSheet = integerReading(ticket.value(layoutKey)) != 0;
-  booklet.enabled = flag(ticket, "OVKEnableBooklet") && !severalPagesPerSheet;
-  booklet.rightToLeft = flag(ticket, "OVKRightToLeft");
-  booklet.pageBorders = flag(ticket, "OVKPrintPageBorders");
-  booklet.gutter = std::clamp(number(ticket, "OVKGutter", booklet.gutter), 0, largestGutter);
-  booklet.creep =
-      std::clamp(number(ticket, "OVKCreep", booklet.creep), -largestCreep, largestCreep);
-  booklet.targetPaper = number(ticket, "OVKTargetPaperSize", booklet.targetPaper);
+  const bool severalPagesPerSheet = integerReading(ticket.value(layoutNUpKey)) != 0;
+  booklet.enabled = flag(ticket, enableBookletKey) && !severalPagesPerSheet;
+  booklet.rightToLeft = flag(ticket, rightToLeftKey);
+  booklet.pageBorders = flag(ticket, pageBordersKey);
+  booklet.gutter = number(ticket, gutterKey, gutterRange);
+  booklet.creep = number(ticket, creepKey, creepRange);
+  const QVariant paper = ticket.value(targetPaperSizeKey);
+  booklet.targetPaper = paper.isValid() ? integerReading(paper) : jobsOwnPaper;
   return booklet;
 }
 

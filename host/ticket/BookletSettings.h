@@ -1,26 +1,24 @@
 // SPDX-License-Identifier: Apache-2.0
-// The booklet as a ticket describes it. Reads values only.
+// The booklet as a ticket describes it. Pure functions, over values only.
 #pragma once
 
-#include <QLatin1String>
-
 #include "host/ticket/TicketFile.h"
+#include "platform/plugin/BookletKeys.h"
 
 namespace orvek {
 
-/// Pages on a sheet, 0 for one: where the host's own layout control and the panels meet.
-inline constexpr QLatin1String layoutKey("com.apple.print.PrintSettings.PMLayoutNUp");
-
-/// Lengths are points.
+/// Plain data; keys and ranges are the contract's (BookletKeys.h). Lengths are points.
 struct BookletSettings {
-  bool enabled = false;      ///< OVKEnableBooklet, and not several pages per sheet
-  bool rightToLeft = false;  ///< OVKRightToLeft
-  bool pageBorders = false;  ///< OVKPrintPageBorders
-  int gutter = 24;           ///< OVKGutter: between the two pages at the fold, 0 to 144
-  int creep = 0;        ///< OVKCreep: how far the innermost sheet's pages move towards the fold
-                        ///< (negative: away from it), -36 to 36
-  int targetPaper = 0;  ///< OVKTargetPaperSize: 0 fits the current job, k is the k-th choice of
-                        ///< the PPD's PageSize; negative: none
+  /// Asked for, and not several pages per sheet.
+  bool enabled = false;
+  bool rightToLeft = false;
+  bool pageBorders = false;
+  /// Between the two pages at the fold.
+  int gutter = gutterRange.absent;
+  /// How far the innermost sheet's pages move towards the fold; below zero, away from it.
+  int creep = creepRange.absent;
+  /// 0 fits the current job, k is the k-th choice of the PPD's PageSize; below zero: none.
+  int targetPaper = jobsOwnPaper;
 
   bool operator==(const BookletSettings &) const = default;
 };

@@ -11,14 +11,6 @@
 namespace orvek {
 namespace {
 
-bool sameName(const QString &one, const QString &other) {
-  return one.compare(other, Qt::CaseInsensitive) == 0;
-}
-
-bool isKeyword(const Marks &marks, const QString &name) {
-  return ppdFindOption(marks.ppd(), name.toUtf8().constData()) != nullptr;
-}
-
 struct Values {
   const char *word;
   std::array<const char *, 3> values;
@@ -34,13 +26,13 @@ constexpr std::array<Values, 3> valuesOfSilentWords{{
 QList<OptionChoice> wordInAllItsValues(const OptionChoice &word) {
   QList<OptionChoice> all{word};
   for (const Values &known : valuesOfSilentWords) {
-    if (!sameName(QLatin1String(known.word), word.option)) continue;
+    if (!sameKeyword(known.word, word.option)) continue;
     for (const char *value : known.values) all.append({word.option, QLatin1String(value)});
   }
   return all;
 }
 
-QStringList optionsOf(const Marks &marks, const OptionChoice &word) {
+QStringList optionsOf(Marks &marks, const OptionChoice &word) {
   QStringList options;
   for (const OptionChoice &value : wordInAllItsValues(word)) {
     for (const OptionChoice &choice : marks.meaningOf({value})) options << choice.option;
@@ -61,11 +53,11 @@ bool touchesAny(const ServerWord &word, const QList<ServerWord> &others) {
 
 }  // namespace
 
-ServerWords::ServerWords(const Marks &marks, const QList<OptionChoice> &jobOptions) {
+ServerWords::ServerWords(Marks &marks, const QList<OptionChoice> &jobOptions) {
   QList<OptionChoice> asked;
   for (const OptionChoice &option : jobOptions) {
-    if (isKeyword(marks, option.option)) continue;
-    m_words.removeIf([&](const ServerWord &word) { return sameName(word.name, option.option); });
+    if (marks.printer().has(option.option)) continue;
+    m_words.removeIf([&](const ServerWord &word) { return sameKeyword(word.name, option.option); });
     const QStringList options = optionsOf(marks, option);
     if (!options.isEmpty()) m_words.append({option.option, option.choice, options});
   }
@@ -73,7 +65,7 @@ ServerWords::ServerWords(const Marks &marks, const QList<OptionChoice> &jobOptio
   m_choices = marks.meaningOf(asked);
 }
 
-ServerWords ServerWords::of(const Marks &marks, const QList<OptionChoice> &queueOptions,
+ServerWords ServerWords::of(Marks &marks, const QList<OptionChoice> &queueOptions,
                             const TicketValues &ticket) {
   QList<OptionChoice> options = queueOptions;
   for (auto entry = ticket.begin(); entry != ticket.end(); ++entry) {
@@ -87,9 +79,9 @@ QString ServerWords::expected(const QString &option, const Marks &marks) const {
   for (const OptionChoice &choice : m_choices) {
     if (choice.option == option) return choice.choice;
   }
-  const ppd_option_t *found = ppdFindOption(marks.ppd(), option.toUtf8().constData());
-  const auto standard = marks.spelled(option, QString::fromUtf8(found->defchoice));
-  return standard ? standard->choice : marks.marked(option);
+  const PrinterOption found = marks.printer().option(option);
+  const QString standard = found.spelled(found.defaultChoice());
+  return standard.isNull() ? marks.marked(option) : standard;
 }
 
 bool ServerWords::isTrue(const ServerWord &word, const Marks &marks) const {
@@ -113,7 +105,7 @@ QList<ServerWord> ServerWords::untrue(const Marks &marks) const {
   return untrue;
 }
 
-TicketValues withoutUntrueWords(const Marks &marks, TicketValues ticket) {
+TicketValues withoutUntrueWords(Marks &marks, TicketValues ticket) {
   for (const ServerWord &word : ServerWords::of(marks, {}, ticket).untrue(marks))
     ticket.remove(word.name);
   return ticket;

@@ -14,22 +14,23 @@ namespace orvek {
 
 /// One word, as it was written, with the PPD's options that it speaks of. Some that leave an option
 /// at its default speak of it all the same: "print-color-mode" of the color model, whatever its
-/// value.
+/// value. Plain data.
 struct ServerWord {
   QString name;
   QString value;
   QStringList options;
 };
 
-/// The words among a job's options.
+/// The words among a job's options. Keeps copies and borrows nothing; the marks are asked once,
+/// which moves them for a moment. Nothing fails. On the thread of the marks.
 class ServerWords {
  public:
   /// Passes over what is no word: PPD keywords, and options that stand for no mark. Of two words of
   /// one name the later counts.
-  ServerWords(const Marks &marks, const QList<OptionChoice> &jobOptions);
+  ServerWords(Marks &marks, const QList<OptionChoice> &jobOptions);
 
   /// Of a queue's options and a ticket, the ticket's word counts.
-  static ServerWords of(const Marks &marks, const QList<OptionChoice> &queueOptions,
+  static ServerWords of(Marks &marks, const QList<OptionChoice> &queueOptions,
                         const TicketValues &ticket);
 
   /// All words, with the choices that they stand for together: quality and color share options.
@@ -49,6 +50,6 @@ class ServerWords {
 };
 
 /// A ticket without the words that no longer say what is marked.
-TicketValues withoutUntrueWords(const Marks &marks, TicketValues ticket);
+TicketValues withoutUntrueWords(Marks &marks, TicketValues ticket);
 
 }  // namespace orvek

@@ -19,7 +19,7 @@ Failure invalid(const QString &what, const Phrase &why) {
 
 Failure notJson(const QByteArray &json, const QString &name, const QJsonParseError &error) {
   const auto line = json.left(error.offset).count('\n') + 1;
-  return invalid(name + QLatin1Char(':') + QString::number(line),
+  return invalid(QString(name + QLatin1Char(':') + QString::number(line)),
                  Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "not a ticket: JSON expected (%1)"),
                         {Phrase::ofSystem(error.errorString())}));
 }

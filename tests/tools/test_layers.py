@@ -131,6 +131,25 @@ class Layers(MadeUpTree):
         self.include("tests/host/A.cpp", "<cups/ppd.h>")
         self.assert_one_violation(CHECKER, "tests/host/A.cpp:3: <cups/ppd.h>: include \"platform/")
 
+    def test_inside_the_host_the_ppd_interface_is_for_one_room_and_the_panels_loan(self):
+        for path in ["host/ppd/A.cpp", "host/panels/PluginCallback.h", "panel/A.cpp", "tests/host/A.cpp"]:
+            self.source(path, '#include "platform/printing/PPD.h"\nppd_file_t *ppd = ppdOpenFile(name);')
+        self.assert_clean(CHECKER)
+        for path in ["host/session/A.cpp", "host/panels/HostedPanel.cpp"]:
+            with self.subTest(path=path):
+                self.include(path, '"platform/printing/PPD.h"')
+                self.assert_one_violation(CHECKER, f'{path}:3: "platform/printing/PPD.h": include "host/ppd/')
+                self.include(path, "<vector>")
+
+    def test_names_of_the_ppd_interface_are_refused_where_another_header_brings_them_in(self):
+        for line in ["ppd_option_t *option;", "struct ppd_file_s;", "ppdMarkDefaults(printer.lend());",
+                     "cupsResolveConflicts(ppd, a, b, &c, &d);"]:
+            with self.subTest(line=line):
+                self.source("host/session/A.cpp", line)
+                self.assert_one_violation(CHECKER, "host/session/A.cpp:3: ")
+        self.source("host/session/A.cpp", "request.ppdFile = checkPPDFile(ppd); // ppdFindOption() of libcups")
+        self.assert_clean(CHECKER)
+
     def test_other_headers_of_libcups_are_open_to_all(self):
         self.include("host/ppd/A.cpp", "<cups/cups.h>")
         self.assert_clean(CHECKER)

@@ -237,7 +237,7 @@ QPalette darkPalette() {
 // The option's name in the language of the pictures.
 QString punchUnit() {
   const auto printer = PrinterDescription::open(source + "/printers/Orvek-6180.ppd").take();
-  return optionText(printer->ppd(), QStringLiteral("OVKOptionPunch"));
+  return optionText(*printer, QStringLiteral("OVKOptionPunch"));
 }
 
 // With a print server of its own, where there can be one.

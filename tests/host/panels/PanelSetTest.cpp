@@ -42,11 +42,11 @@ class PanelSetTest : public testing::Test {
   }
 
   std::shared_ptr<PrinterDescription> printer = openTestPpd(QStringLiteral("finisher.ppd"));
-  Marks marks{printer->ppd()};
+  Marks marks{*printer};
   std::shared_ptr<Ticket> ticket = std::make_shared<Ticket>();
   Listener listener;
   PluginList plugins;
-  PanelSet panels{listener, {printer->ppd(), nullptr, ticket}, true};
+  PanelSet panels{listener, {printer->lend(), nullptr, ticket}, true};
 };
 
 TEST_F(PanelSetTest, OpensPanelsInThePluginsOrder) {

@@ -20,10 +20,10 @@ class Constraints : public testing::TestWithParam<const char *> {
     return markAndResolve(marks, {option, choice});
   }
 
-  QStringList words(const Resolution &resolution) { return wordsFor(printer->ppd(), resolution); }
+  QStringList words(const Resolution &resolution) { return wordsFor(*printer, resolution); }
 
   std::shared_ptr<PrinterDescription> printer = openTestPpd(QString::fromLatin1(GetParam()));
-  Marks marks{printer->ppd()};
+  Marks marks{*printer};
 };
 
 TEST_P(Constraints, LeaveAPickWithoutConflictsAlone) {
@@ -101,6 +101,16 @@ TEST_P(Constraints, NeverChangeTheInstalledEquipment) {
   EXPECT_EQ(marks.marked("OVKOptionFinisher"), "False");
 }
 
+TEST_P(Constraints, ComeToTheSameWhenAPickIsOnlyTried) {
+  marks.mark("OVKStapling", "Front");
+  const MarksSnapshot before = marks.snapshot();
+  const Resolution tried = tryPick(marks, {"OVKFolding", "Saddle"});
+  EXPECT_EQ(marks.snapshot(), before);
+  const Resolution picked = pick("OVKFolding", "Saddle");
+  EXPECT_EQ(tried.marked, picked.marked);
+  EXPECT_EQ(tried.changes, picked.changes);
+}
+
 INSTANTIATE_TEST_SUITE_P(BothForms, Constraints,
                          testing::Values("finisher.ppd", "finisher-uiconstraints.ppd"),
                          [](const auto &form) {
@@ -110,7 +120,7 @@ INSTANTIATE_TEST_SUITE_P(BothForms, Constraints,
 
 TEST(ConstraintsThatCannotBeResolved, HinderNoPickThatHasNoPartInThem) {
   auto printer = openTestPpd(QStringLiteral("stuck.ppd"));
-  Marks marks(printer->ppd());
+  Marks marks(*printer);
   marks.markDefaults();
   marks.mark("OVKOptionFinisher", "False");
   marks.mark("OVKOptionTray", "True");
@@ -122,20 +132,12 @@ TEST(ConstraintsThatCannotBeResolved, HinderNoPickThatHasNoPartInThem) {
 
 TEST(ConstraintsThatCannotBeResolved, UndoAPickWhoseResolutionNamesAChoiceThatThePpdLacks) {
   auto printer = openTestPpd(QStringLiteral("no-default.ppd"));
-  Marks marks(printer->ppd());
+  Marks marks(*printer);
   marks.markDefaults();
   marks.mark("OVKFolding", "Saddle");
   EXPECT_FALSE(markAndResolve(marks, {"OVKStapling", "Front"}).marked);
   EXPECT_EQ(marks.marked("OVKFolding"), "Saddle");
   EXPECT_EQ(marks.marked("OVKStapling"), "None");
-}
-
-TEST(InstalledEquipment, IsTheGroupOfInstallableOptions) {
-  auto printer = openTestPpd(QStringLiteral("finisher.ppd"));
-  EXPECT_TRUE(isInstalledEquipment(printer->ppd(), "OVKOptionFinisher"));
-  EXPECT_TRUE(isInstalledEquipment(printer->ppd(), "ovkoptionpunch"));
-  EXPECT_FALSE(isInstalledEquipment(printer->ppd(), "OVKStapling"));
-  EXPECT_FALSE(isInstalledEquipment(printer->ppd(), "Unknown"));
 }
 
 }  // namespace

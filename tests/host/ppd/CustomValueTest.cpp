@@ -8,7 +8,9 @@
 
 #include <cstdlib>
 
+#include "host/ppd/Constraints.h"
 #include "host/ppd/Wording.h"
+#include "platform/printing/PPD.h"
 #include "tests/host/ppd/TestPrinters.h"
 #include "tests/support/Printers.h"
 
@@ -22,19 +24,19 @@ class CustomValueTest : public testing::Test {
   CustomValueTest() { marks.markDefaults(); }
 
   QList<CustomParameter> parameters(const char *option) {
-    return customParameters(printer->ppd(), QLatin1String(option));
+    return customParameters(*printer, QLatin1String(option));
   }
 
   // What the printer would be sent.
   QByteArray emitted() {
-    char *text = ppdEmitString(printer->ppd(), PPD_ORDER_ANY, 0);
+    char *text = ppdEmitString(printer->lend(), PPD_ORDER_ANY, 0);
     QByteArray code(text);
     std::free(text);
     return code;
   }
 
   std::shared_ptr<PrinterDescription> printer = openTestPpd(QStringLiteral("values.ppd"));
-  Marks marks{printer->ppd()};
+  Marks marks{*printer};
 };
 
 TEST_F(CustomValueTest, AreAskedForInThePpdsOrder) {
@@ -53,7 +55,7 @@ TEST_F(CustomValueTest, AreAskedForInThePpdsOrder) {
 TEST_F(CustomValueTest, AreNotAskedForWhereThereIsNoCustomChoice) {
   EXPECT_TRUE(parameters("Stamps").isEmpty());
   EXPECT_TRUE(parameters("Missing").isEmpty());
-  EXPECT_TRUE(customParameters(nullptr, "Mark").isEmpty());
+  EXPECT_TRUE(customParameters(PrinterDescription::none(), "Mark").isEmpty());
 }
 
 TEST_F(CustomValueTest, ComeBackFromTheirSpelling) {
@@ -69,6 +71,7 @@ TEST_F(CustomValueTest, MayHaveUnitsWhereTheyAreLengths) {
   const CustomValues inch = customValues(parameters("Mark"), "{Size=0.5in Angle=x}");
   EXPECT_EQ(inch.value("Size"), "36");
   EXPECT_FALSE(inch.contains("Angle"));
+  EXPECT_EQ(customValues(parameters("Mark"), "{size=1IN}").value("Size"), "72");
 }
 
 TEST_F(CustomValueTest, ReachThePrinterAsGiven) {
@@ -85,8 +88,8 @@ TEST_F(CustomValueTest, ReachThePrinterAsGiven) {
 TEST_F(CustomValueTest, AreSaidInWordsWithoutSecrets) {
   const QString mark =
       customChoice(parameters("Mark"), {{"Text", "Draft"}, {"Angle", "90"}, {"Size", "20.5"}});
-  EXPECT_EQ(choiceText(printer->ppd(), {"Mark", mark}), "Custom: Draft, 90, 20.5 pt");
-  EXPECT_EQ(choiceText(printer->ppd(), {"Pin", "Custom.0123"}), "With a code: ••••");
+  EXPECT_EQ(choiceText(*printer, {"Mark", mark}), "Custom: Draft, 90, 20.5 pt");
+  EXPECT_EQ(choiceText(*printer, {"Pin", "Custom.0123"}), "With a code: ••••");
 }
 
 TEST_F(CustomValueTest, KeepToTheLimitsOfThePpd) {

@@ -15,7 +15,7 @@ class MarksTest : public testing::Test {
   MarksTest() { marks.markDefaults(); }
 
   std::shared_ptr<PrinterDescription> printer = openTestPpd(QStringLiteral("finisher.ppd"));
-  Marks marks{printer->ppd()};
+  Marks marks{*printer};
 };
 
 TEST_F(MarksTest, StandAtThePpdsDefaultsAtFirst) {
@@ -82,7 +82,7 @@ TEST_F(MarksTest, NameInstalledEquipmentAmongConflicts) {
 
 TEST_F(MarksTest, KeepACustomValueAsItWasGiven) {
   auto custom = openTestPpd(QStringLiteral("custom.ppd"));
-  Marks customMarks(custom->ppd());
+  Marks customMarks(*custom);
   customMarks.markDefaults();
   ASSERT_TRUE(customMarks.mark("PageSize", "Custom.200x300"));
   EXPECT_EQ(customMarks.marked("PageSize"), "Custom.200x300");
@@ -93,7 +93,7 @@ TEST_F(MarksTest, KeepACustomValueAsItWasGiven) {
 }
 
 TEST(MarksWithoutPpd, KnowNothing) {
-  Marks marks(nullptr);
+  Marks marks(PrinterDescription::none());
   marks.markDefaults();
   EXPECT_FALSE(marks.mark("OVKStapling", "Front"));
   EXPECT_TRUE(marks.all().isEmpty());

@@ -51,7 +51,7 @@ QString textOfTray(const QByteArray &language, const QByteArray &prefix) {
   QString text;
   std::thread([&] {
     const auto printer = PrinterDescription::open(translated.fileName()).take();
-    text = QString::fromUtf8(ppdFindOption(printer->ppd(), "OutputBin")->text);
+    text = printer->option("OutputBin").text();
   }).join();
   qputenv("LANG", "C.UTF-8");
   std::setlocale(LC_ALL, locale.c_str());

@@ -12,12 +12,6 @@
 namespace orvek::test {
 namespace {
 
-using PPDFile = std::unique_ptr<ppd_file_t, decltype(&ppdClose)>;
-
-PPDFile openModel(const QString &model) {
-  return {ppdOpenFile(orvek::test::orvekPPD(model).toUtf8().constData()), &ppdClose};
-}
-
 Preset presetOf(const QMap<QString, QString> &options) {
   return {QStringLiteral("p"), {}, options, {{QStringLiteral("OVKGutter"), QStringLiteral("9")}}};
 }
@@ -30,12 +24,13 @@ QStringList linesOf(const PresetFit &fit) {
 
 class PresetFitTest : public ::testing::Test {
  protected:
-  PPDFile ppd = openModel(QStringLiteral("6180"));
+  std::shared_ptr<PrinterDescription> printer =
+      PrinterDescription::open(orvekPPD(QStringLiteral("6180"))).take();
 };
 
 TEST_F(PresetFitTest, TakesWhatThePrinterHasAsItSpellsIt) {
   const auto fit =
-      fitPreset(presetOf({{QStringLiteral("ovkfolding"), QStringLiteral("SADDLE")}}), ppd.get());
+      fitPreset(presetOf({{QStringLiteral("ovkfolding"), QStringLiteral("SADDLE")}}), *printer);
   EXPECT_EQ(fit.options.value(QStringLiteral("OVKFolding")), QStringLiteral("Saddle"));
   EXPECT_TRUE(fit.misfits.isEmpty());
   EXPECT_EQ(fit.ticket.size(), 1);
@@ -43,7 +38,7 @@ TEST_F(PresetFitTest, TakesWhatThePrinterHasAsItSpellsIt) {
 
 TEST_F(PresetFitTest, NamesAnOptionThatThePrinterLacks) {
   const auto fit =
-      fitPreset(presetOf({{QStringLiteral("Glossy"), QStringLiteral("On")}}), ppd.get());
+      fitPreset(presetOf({{QStringLiteral("Glossy"), QStringLiteral("On")}}), *printer);
   EXPECT_EQ(linesOf(fit),
             QStringList{QStringLiteral("Glossy=On: this printer has no option \"Glossy\"")});
 }
@@ -51,7 +46,7 @@ TEST_F(PresetFitTest, NamesAnOptionThatThePrinterLacks) {
 TEST_F(PresetFitTest, NamesAChoiceThatThePrinterLacksAndTakesTheRest) {
   const auto fit = fitPreset(presetOf({{QStringLiteral("OVKFolding"), QStringLiteral("Zigzag")},
                                        {QStringLiteral("PageSize"), QStringLiteral("A4")}}),
-                             ppd.get());
+                             *printer);
   EXPECT_EQ(linesOf(fit), QStringList{QStringLiteral(
                               "OVKFolding=Zigzag: \"Folding\" of this printer has no choice "
                               "\"Zigzag\"")});
@@ -61,7 +56,7 @@ TEST_F(PresetFitTest, NamesAChoiceThatThePrinterLacksAndTakesTheRest) {
 
 TEST_F(PresetFitTest, LeavesInstalledEquipmentAlone) {
   const auto fit = fitPreset(
-      presetOf({{QStringLiteral("OVKOptionFinisher"), QStringLiteral("True")}}), ppd.get());
+      presetOf({{QStringLiteral("OVKOptionFinisher"), QStringLiteral("True")}}), *printer);
   EXPECT_TRUE(fit.options.isEmpty());
   ASSERT_EQ(fit.misfits.size(), 1);
   EXPECT_EQ(fit.misfits[0].why,
@@ -69,8 +64,8 @@ TEST_F(PresetFitTest, LeavesInstalledEquipmentAlone) {
 }
 
 TEST_F(PresetFitTest, TakesOnlyTheTicketWithoutAPPD) {
-  const auto fit =
-      fitPreset(presetOf({{QStringLiteral("OVKFolding"), QStringLiteral("Saddle")}}), nullptr);
+  const auto fit = fitPreset(presetOf({{QStringLiteral("OVKFolding"), QStringLiteral("Saddle")}}),
+                             PrinterDescription::none());
   EXPECT_TRUE(fit.options.isEmpty());
   EXPECT_EQ(fit.misfits.size(), 1);
   EXPECT_EQ(fit.ticket.size(), 1);

@@ -65,8 +65,9 @@ TEST_F(PreviewStateTest, FitsTheCurrentJobOrTakesTheTargetPaper) {
 }
 
 TEST_F(PreviewStateTest, TakesTheJobsPaperWhereTheTicketsNumberIsBeyondTheMenu) {
-  const ppd_option_t *sizes = ppdFindOption(session->marks().ppd(), "PageSize");
-  for (const int number : {-1, sizes->num_choices, 999}) {
+  const auto sizes = static_cast<int>(session->marks().printer().choices("PageSize").size());
+  ASSERT_GT(sizes, 1);
+  for (const int number : {-1, sizes, 999}) {
     session->ticket().setValue("OVKTargetPaperSize", number);
     EXPECT_EQ(state().paperName, "A4") << number;
   }

@@ -16,6 +16,7 @@
 
 #include "host/printers/QueueAttributes.h"
 #include "host/printers/SettingTitles.h"
+#include "platform/printing/PPD.h"
 #include "tests/support/CapturingFilter.h"
 #include "tests/support/FrontServer.h"
 #include "tests/support/PrivateCups.h"

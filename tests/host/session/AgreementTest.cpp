@@ -17,16 +17,15 @@ const QMap<QString, QString> selectionNames{{"OVKStapling", "stapling"},
                                             {"OVKPunching", "punch"},
                                             {"OutputBin", "paperDest"}};
 
-QList<OptionChoice> choicesIn(const ppd_group_t &group) {
+QList<OptionChoice> choicesOf(const PrinterDescription &printer) {
   QList<OptionChoice> choices;
-  for (int i = 0; i < group.num_options; ++i) {
-    const ppd_option_t &option = group.options[i];
-    for (int k = 0; k < option.num_choices; ++k) {
-      choices.append(
-          {QString::fromUtf8(option.keyword), QString::fromUtf8(option.choices[k].choice)});
+  for (const PrinterOptionGroup &group : printer.options()) {
+    for (const PrinterOption &option : group.options) {
+      for (const PrinterChoice &choice : option.choices()) {
+        choices.append({option.keyword(), choice.keyword});
+      }
     }
   }
-  for (int i = 0; i < group.num_subgroups; ++i) choices << choicesIn(group.subgroups[i]);
   return choices;
 }
 
@@ -41,16 +40,14 @@ class Agreement : public testing::TestWithParam<const char *> {
     printer =
         PrinterDescription::open(QStringLiteral(ORVEK_SOURCE_DIR "/printers/") + GetParam()).take();
     plugin = std::make_shared<LoadedPlugin>(loadPlugin(QStringLiteral(ORVEK_BUNDLE_DIR)).take());
-    for (int i = 0; i < printer->ppd()->num_groups; ++i) {
-      all << choicesIn(printer->ppd()->groups[i]);
-    }
+    all = choicesOf(*printer);
   }
 
   /// Those where ticket and mark, beside the defaults, bring a conflict that the mark alone does
   /// not.
   QList<Pair> conflictingPairs() {
     QList<Pair> pairs;
-    Marks marks(printer->ppd());
+    Marks marks(*printer);
     for (const OptionChoice &mark : all) {
       const QList<OptionChoice> own = conflictsOfMark(mark);
       for (const OptionChoice &ticket : all) {
@@ -65,7 +62,7 @@ class Agreement : public testing::TestWithParam<const char *> {
   }
 
   QList<OptionChoice> conflictsOfMark(const OptionChoice &mark) {
-    Marks marks(printer->ppd());
+    Marks marks(*printer);
     marks.markDefaults();
     marks.mark(mark.option, mark.choice);
     return marks.conflicts();
@@ -89,7 +86,7 @@ class Agreement : public testing::TestWithParam<const char *> {
     expectJobAsMarked(*session, pair);
     expectPanelAsMarked(*session);
     EXPECT_FALSE(session->notices().isEmpty());
-    if (isInstalledEquipment(printer->ppd(), pair.mark.option)) {
+    if (printer->isEquipment(pair.mark.option)) {
       EXPECT_EQ(session->marks().marked(pair.mark.option), pair.mark.choice);
     }
   }
@@ -139,8 +136,8 @@ class Agreement : public testing::TestWithParam<const char *> {
       const QString marked = session.marks().marked(name.key());
       if (marked.isNull()) continue;
       EXPECT_EQ(selections.value(name.value()), marked) << name.key().toStdString();
-      const QString title = optionText(printer->ppd(), name.key());
-      EXPECT_EQ(summary.value(title), choiceText(printer->ppd(), {name.key(), marked}));
+      const QString title = optionText(*printer, name.key());
+      EXPECT_EQ(summary.value(title), choiceText(*printer, {name.key(), marked}));
     }
   }
 

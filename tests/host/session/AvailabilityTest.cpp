@@ -104,9 +104,9 @@ TEST_F(AvailabilityTest, FollowsTheSession) {
 TEST_F(AvailabilityTest, AgreesWithWhatAPickDoes) {
   begin6180({{"OVKOptionFinisher", "False"}});
   for (const char *option : {"OVKStapling", "OVKFolding", "OVKPunching", "OutputBin", "Duplex"}) {
-    const ppd_option_t *found = ppdFindOption(session->marks().ppd(), option);
-    for (int i = 0; i < found->num_choices; ++i) {
-      const QString choice = QString::fromUtf8(found->choices[i].choice);
+    const QList<PrinterChoice> choices = session->marks().printer().choices(option);
+    ASSERT_FALSE(choices.isEmpty());
+    for (const auto &[choice, text] : choices) {
       const ChoiceAvailability said = availability->of(option, choice);
       const QStringList before = session->notices();
       EXPECT_EQ(session->pick(option, choice), said.kind != Kind::Unusable) << choice.toStdString();

@@ -20,13 +20,14 @@ class FirstMarks : public testing::Test {
     }
     const Result<QList<Resolution>> settled = markFirst(marks, ticket, setup);
     ASSERT_TRUE(settled.ok());
-    for (const Resolution &resolution : settled.value()) said << wordsFor(marks.ppd(), resolution);
+    for (const Resolution &resolution : settled.value())
+      said << wordsFor(marks.printer(), resolution);
   }
 
   QString marked(const char *option) const { return marks.marked(option); }
 
   std::shared_ptr<PrinterDescription> printer = openTestPpd(QStringLiteral("finisher.ppd"));
-  Marks marks{printer->ppd()};
+  Marks marks{*printer};
   Ticket ticket;
   QStringList said;
 };
@@ -100,7 +101,7 @@ TEST_F(FirstMarks, LetTheQueuesChoiceGiveWayToTheTickets) {
 TEST(FirstMarksOfAQueue, AreInForceAgainWhereTheTicketsChoiceIsDropped) {
   const auto printer =
       PrinterDescription::open(QStringLiteral(ORVEK_SOURCE_DIR "/printers/Orvek-6180.ppd")).take();
-  Marks marks(printer->ppd());
+  Marks marks(*printer);
   Ticket ticket;
   ticket.setValue("OVKPunching", "2Hole");
   const SessionSetup setup{.ticket = ticket.values(),

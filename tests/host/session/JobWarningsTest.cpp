@@ -111,8 +111,8 @@ TEST(MaximumBookletSheets, AreThePrintersOrWhatIsUsual) {
   changed.write(original.readAll().replace("*OVKBookletMaximumSheets: \"15\"",
                                            "*OVKBookletMaximumSheets: \"3\""));
   changed.close();
-  EXPECT_EQ(maximumBookletSheets(PrinterDescription::open(path).take()->ppd()), 3);
-  EXPECT_EQ(maximumBookletSheets(nullptr), 15);
+  EXPECT_EQ(maximumBookletSheets(*PrinterDescription::open(path).take()), 3);
+  EXPECT_EQ(maximumBookletSheets(PrinterDescription::none()), 15);
 }
 
 TEST(JobWarningsWithoutPpd, KnowNoStaples) {

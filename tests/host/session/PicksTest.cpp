@@ -16,7 +16,7 @@ class PicksTest : public testing::Test {
 
   std::shared_ptr<PrinterDescription> printer = openTestPpd(QStringLiteral("finisher.ppd"));
   std::shared_ptr<Ticket> ticket = std::make_shared<Ticket>();
-  Picks picks{printer->ppd(), ticket};
+  Picks picks{*printer, ticket};
 };
 
 TEST_F(PicksTest, RecordAChoiceAsThePpdSpellsIt) {

@@ -165,26 +165,26 @@ TEST_F(Words, MeanCollationToAPrinterThatCollates) {
 
 TEST(MeaningOfJobOptions, LeavesMarksAndSizesAsTheyWere) {
   const auto printer = openTestPpd("custom.ppd");
-  Marks marks(printer->ppd());
+  Marks marks(*printer);
   marks.markDefaults();
   marks.mark("PageSize", "Custom.200x300");
   const MarksSnapshot before = marks.snapshot();
-  const float width = ppdPageWidth(printer->ppd(), nullptr);
+  const float width = ppdPageWidth(printer->lend(), nullptr);
   EXPECT_EQ(marks.meaningOf({{"media", "Custom.300x400"}, {"sides", "one-sided"}}),
             (QList<OptionChoice>{{"PageSize", "Custom.300x400"}}));
   EXPECT_EQ(marks.snapshot(), before);
-  EXPECT_EQ(ppdPageWidth(printer->ppd(), nullptr), width);
+  EXPECT_EQ(ppdPageWidth(printer->lend(), nullptr), width);
 }
 
 TEST(MeaningOfJobOptions, IsNothingWithoutAPpd) {
-  EXPECT_TRUE(Marks(nullptr).meaningOf({{"media", "A4"}}).isEmpty());
+  EXPECT_TRUE(Marks(PrinterDescription::none()).meaningOf({{"media", "A4"}}).isEmpty());
 }
 
 // Quality and color choose a printer's presets together: the one changed, the other would choose
 // anew.
 TEST(ServerWords, AreUntrueTogetherWhereTheyShareAnOption) {
   const auto printer = openTestPpd("quality.ppd");
-  Marks marks(printer->ppd());
+  Marks marks(*printer);
   marks.markDefaults();
   const ServerWords words =
       ServerWords::of(marks, {}, {{"print-quality", 5}, {"print-color-mode", "monochrome"}});

@@ -33,7 +33,7 @@ TEST(BookletSettings, KeepNumbersWithinTheirRanges) {
 }
 
 TEST(BookletSettings, GiveWayToSeveralPagesPerSheet) {
-  const TicketValues ticket{{"OVKEnableBooklet", "True"}, {layoutKey, 2}};
+  const TicketValues ticket{{"OVKEnableBooklet", "True"}, {layoutNUpKey, 2}};
   EXPECT_FALSE(bookletSettings(ticket).enabled);
 }
 

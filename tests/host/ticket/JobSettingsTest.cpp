@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Job settings and their names in CUPS.
 
-#include "host/ticket/JobSettings.h"
+#include "host/ticket/JobOptions.h"
 
 #include <gtest/gtest.h>
 
@@ -11,16 +11,16 @@ namespace {
 using Options = QMap<QString, QString>;
 
 TEST(JobSettings, SayNothingWhereNothingDiffers) {
-  EXPECT_EQ(toOptions(JobSettings()), Options());
+  EXPECT_EQ(jobSettingOptions(JobSettings()), Options());
 }
 
 TEST(JobSettings, SpeakInTheNamesOfCups) {
   JobSettings settings{3, false, "1-3,7", Orientation::ReverseLandscape, true, {}};
-  EXPECT_EQ(toOptions(settings), (Options{{"copies", "3"},
-                                          {"Collate", "False"},
-                                          {"page-ranges", "1-3,7"},
-                                          {"orientation-requested", "5"},
-                                          {"outputorder", "reverse"}}));
+  EXPECT_EQ(jobSettingOptions(settings), (Options{{"copies", "3"},
+                                                  {"Collate", "False"},
+                                                  {"page-ranges", "1-3,7"},
+                                                  {"orientation-requested", "5"},
+                                                  {"outputorder", "reverse"}}));
 }
 
 TEST(JobSettings, AreReadFromTheOptionsOfACommandLine) {
@@ -59,7 +59,7 @@ TEST(JobSettings, KeepTheWordsTheyWereAskedIn) {
   AskedOptions asked;
   ASSERT_TRUE(asked.take("landscape", "true").ok());
   ASSERT_TRUE(asked.take("collate", "true").ok());
-  EXPECT_EQ(toOptions(asked.settings, asked),
+  EXPECT_EQ(jobSettingOptions(asked.settings, asked),
             (Options{{"landscape", "true"}, {"collate", "true"}}));
 }
 
@@ -69,7 +69,7 @@ TEST(JobSettings, DropTheWordsOfWhatWasChangedSince) {
   ASSERT_TRUE(asked.take("copies", "2").ok());
   JobSettings changed = asked.settings;
   changed.orientation = Orientation::Automatic;
-  EXPECT_EQ(toOptions(changed, asked), (Options{{"copies", "2"}}));
+  EXPECT_EQ(jobSettingOptions(changed, asked), (Options{{"copies", "2"}}));
 }
 
 }  // namespace
