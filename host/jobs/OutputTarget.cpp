@@ -62,10 +62,14 @@ Result<std::unique_ptr<OutputTarget>> OutputTarget::open(const QString &path) {
     if (target->m_stream < 0) return target->failure(Phrase::ofSystem(errno));
     return target;
   }
-  auto file = PendingFile::open(path);
-  if (!file) return target->failure(file.failure().why);
-  target->m_file = file.take();
-  return target;
+  // Replacing needs no right to write into what is replaced; whoever took that right away meant it.
+  const QByteArray place = QFile::encodeName(path);
+  if (::access(place.constData(), F_OK) == 0 && ::access(place.constData(), W_OK) != 0) {
+    return target->failure(Phrase::ofSystem(errno));
+  }
+  target->m_file = std::make_unique<QSaveFile>(path);
+  if (target->m_file->open(QIODevice::WriteOnly)) return target;
+  return target->failure(Phrase::ofSystem(target->m_file->errorString()));
 }
 
 Status OutputTarget::writeToFile(const QByteArray &bytes) {
@@ -94,9 +98,8 @@ Result<qsizetype> OutputTarget::writeSomeToStream(const char *bytes, qsizetype c
 }
 
 Status OutputTarget::commit() {
-  if (!m_file) return {};
-  const Status committed = m_file->commit();
-  return committed ? committed : Status(failure(committed.failure().why));
+  if (!m_file || m_file->commit()) return {};
+  return failure(Phrase::ofSystem(m_file->errorString()));
 }
 
 }  // namespace orvek

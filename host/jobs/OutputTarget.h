@@ -3,10 +3,10 @@
 // whole.
 #pragma once
 
+#include <QSaveFile>
 #include <QString>
 #include <memory>
 
-#include "host/jobs/PendingFile.h"
 #include "platform/system/Result.h"
 
 namespace orvek {
@@ -42,7 +42,7 @@ class OutputTarget {
 
   QString m_path;
   int m_stream = -1;
-  std::unique_ptr<PendingFile> m_file;
+  std::unique_ptr<QSaveFile> m_file;
 };
 
 template <typename KeepWaiting>
