@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "host/panels/DefaultSummary.h"
+#include "host/panels/PanelContainer.h"
 #include "tests/host/panels/RecordingPlugin.h"
 #include "tests/host/ppd/TestPrinters.h"
 
