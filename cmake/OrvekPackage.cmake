@@ -1,28 +1,35 @@
 # SPDX-License-Identifier: Apache-2.0
-# What other projects build against: libraries, headers and the CMake package OrvekFinishing. It all
-# belongs to the component "development", which can be installed without the programs.
+# What is installed, in two components: "runtime" is what programs need to run, "development" what other
+# projects build against: headers, static libraries and the CMake package OrvekFinishing.
 
 include(CMakePackageConfigHelpers)
 
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME runtime)
 set(ORVEK_PACKAGE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/OrvekFinishing")
 
-# orvek_install_library(TARGET NAME): installs it as OrvekFinishing::NAME.
-function(orvek_install_library target name)
-  set_target_properties(${target} PROPERTIES EXPORT_NAME ${name})
-  install(TARGETS ${target} EXPORT OrvekFinishing
-          LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development
-          ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development)
+# orvek_find_libraries_in(TARGET FOLDER): once installed, TARGET finds our libraries in FOLDER ("." is its
+# own), wherever the whole is moved to. Who packages has the last word with CMAKE_INSTALL_RPATH.
+function(orvek_find_libraries_in target folder)
+  if(NOT DEFINED CMAKE_INSTALL_RPATH)
+    string(REGEX REPLACE "/\\.$" "" place "$ORIGIN/${folder}")
+    set_target_properties(${target} PROPERTIES INSTALL_RPATH "${place}")
+  endif()
 endfunction()
 
-# orvek_install_headers(FOLDER): installs its headers under include/orvek/FOLDER, except those that show
-# what a library is made of.
-function(orvek_install_headers folder)
-  install(DIRECTORY "${CMAKE_SOURCE_DIR}/${folder}/"
-          DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/orvek/${folder}" COMPONENT development
-          FILES_MATCHING PATTERN "*.h"
-          PATTERN "Transfer.h" EXCLUDE
-          PATTERN "InactivityLimit.h" EXCLUDE
-          PATTERN "ReplyCursor.h" EXCLUDE)
+# orvek_install_library(TARGET NAME HEADERS ...): installs it as OrvekFinishing::NAME, and those of its
+# headers that don't show what the library is made of, under include/orvek as in the source tree.
+function(orvek_install_library target name)
+  list(TRANSFORM ARGN PREPEND "${CMAKE_CURRENT_SOURCE_DIR}/" OUTPUT_VARIABLE headers)
+  target_sources(${target} PUBLIC
+    FILE_SET HEADERS BASE_DIRS "${CMAKE_SOURCE_DIR}" FILES ${headers})
+  set_target_properties(${target} PROPERTIES
+    EXPORT_NAME ${name} VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+  orvek_find_libraries_in(${target} ".")
+  install(TARGETS ${target} EXPORT OrvekFinishing
+          LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+                  COMPONENT runtime NAMELINK_COMPONENT development
+          ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development
+          FILE_SET HEADERS DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/orvek" COMPONENT development)
 endfunction()
 
 configure_package_config_file("${CMAKE_CURRENT_LIST_DIR}/OrvekFinishingConfig.cmake.in"

@@ -10,7 +10,6 @@ if(NOT CMAKE_BUILD_TYPE)
   set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "" FORCE)
 endif()
 
-option(ORVEK_TESTS "Build the tests" ON)
 option(ORVEK_BENCH "Build the benchmarks" OFF)
 option(ORVEK_FUZZ "Build the fuzzers (needs clang)" OFF)
 option(ORVEK_CCACHE "Compile through ccache, where it is installed" OFF)
@@ -21,8 +20,6 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(ORVEK_BUNDLE_DIR "${CMAKE_BINARY_DIR}/OrvekFinishing.bundle")
-# From bin/, from beside each other and from a plug-in bundle, wherever the whole is moved to.
-set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR};$ORIGIN;$ORIGIN/../../..")
 set(ORVEK_PLUGIN_INSTALL_DIR "${CMAKE_INSTALL_LIBDIR}/orvek-print/plugins")
 
 # ccache must be told that a precompiled header may be used by a source that defines more.
@@ -46,8 +43,8 @@ endif()
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets UiTools)
 find_package(Cups REQUIRED)
 
-enable_testing()
-if(ORVEK_TESTS)
+include(CTest)
+if(BUILD_TESTING)
   find_package(GTest REQUIRED)
   find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
   include(GoogleTest)
