@@ -12,7 +12,7 @@
 #include "tests/driver/Picture.h"
 #include "tests/support/CapturingFilter.h"
 
-namespace orvek::testing {
+namespace orvek::test {
 namespace {
 
 using imposition::BookletKeys;
@@ -182,4 +182,4 @@ TEST_F(BookletPrint, SaysInOneLineWhatIsWrongWithADocument) {
 }
 
 }  // namespace
-}  // namespace orvek::testing
+}  // namespace orvek::test

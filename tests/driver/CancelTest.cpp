@@ -12,7 +12,7 @@
 #include "tests/driver/DriverKit.h"
 #include "tests/driver/MarkedDocument.h"
 
-namespace orvek::testing {
+namespace orvek::test {
 namespace {
 
 constexpr int patience = 10000;
@@ -77,4 +77,4 @@ TEST_F(Cancel, EndsTheFilterThatPrints) {
 }
 
 }  // namespace
-}  // namespace orvek::testing
+}  // namespace orvek::test

@@ -14,7 +14,7 @@
 #include "driver/StandardPPD.h"
 #include "tests/support/CapturingFilter.h"
 
-namespace orvek::testing {
+namespace orvek::test {
 namespace {
 
 constexpr int patience = 100000;
@@ -121,4 +121,4 @@ QByteArray withoutDates(const QByteArray &postScript) {
   return QString::fromLatin1(postScript).remove(dates).toLatin1();
 }
 
-}  // namespace orvek::testing
+}  // namespace orvek::test

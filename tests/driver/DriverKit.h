@@ -10,7 +10,7 @@
 
 #include "imposition/BookletKeys.h"
 
-namespace orvek::testing {
+namespace orvek::test {
 
 /// The driver's program in the build tree.
 QString bookletFilter();
@@ -58,4 +58,4 @@ Printed runDriverAlone(const DriverKit &kit, const QString &options, const QStri
 /// PostScript without the moments at which it was made.
 QByteArray withoutDates(const QByteArray &postScript);
 
-}  // namespace orvek::testing
+}  // namespace orvek::test

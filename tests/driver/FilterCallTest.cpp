@@ -43,7 +43,7 @@ TEST(FilterCall, IsRefusedWithTooFewOrTooManyArguments) {
 DocumentKind kindOf(const QByteArray &contents) {
   const QTemporaryDir folder;
   const QString file = folder.filePath(QStringLiteral("document"));
-  orvek::testing::writeContents(file, contents);
+  orvek::test::writeContents(file, contents);
   FilterCall call;
   call.file = file.toStdString();
   return documentKind(call);

@@ -16,8 +16,8 @@
 namespace orvek::driver {
 namespace {
 
-using orvek::testing::markedDocument;
-using orvek::testing::pdfOf;
+using orvek::test::markedDocument;
+using orvek::test::pdfOf;
 
 Result<int> impose(const std::string &document) {
   const File input = namelessFile().take();

@@ -20,25 +20,24 @@ namespace {
 
 using imposition::BookletKeys;
 using imposition::Size;
-using orvek::testing::expectedSides;
-using orvek::testing::expectSeen;
-using orvek::testing::look;
-using orvek::testing::markedDocument;
-using orvek::testing::MarkedPage;
-using orvek::testing::SeenSide;
+using orvek::test::expectedSides;
+using orvek::test::expectSeen;
+using orvek::test::look;
+using orvek::test::markedDocument;
+using orvek::test::MarkedPage;
+using orvek::test::SeenSide;
 
 constexpr Size a4{595, 842};
 
 class Imposer : public ::testing::Test {
  protected:
   void SetUp() override {
-    if (!orvek::testing::obstacleToLooking().empty())
-      GTEST_SKIP() << orvek::testing::obstacleToLooking();
+    if (!orvek::test::obstacleToLooking().empty()) GTEST_SKIP() << orvek::test::obstacleToLooking();
   }
 
   std::vector<SeenSide> imposed(const std::string &document, const BookletRequest &request) {
     const QString in = folder.filePath(QStringLiteral("in.pdf"));
-    orvek::testing::writeContents(in, QByteArray::fromStdString(document));
+    orvek::test::writeContents(in, QByteArray::fromStdString(document));
     const std::string out = folder.filePath(QStringLiteral("out.pdf")).toStdString();
     const File input(std::fopen(in.toUtf8().constData(), "rb"));
     const File output(std::fopen(out.c_str(), "wb"));
@@ -98,12 +97,11 @@ TEST_F(Imposer, TakesItsPaperFromTheFirstPageWhereNothingElseTells) {
 }
 
 TEST_F(Imposer, DropsTheBlankPageThatEvenedAReversedDocumentOut) {
-  const std::string document = orvek::testing::pdfOf(
+  const std::string document = orvek::test::pdfOf(
       {"<</Type/Catalog/Pages 2 0 R>>", "<</Type/Pages/Count 2/Kids[3 0 R 4 0 R]>>",
        "<</Type/Page/Parent 2 0 R/MediaBox[0 0 100 200]/Contents 5 0 R/Resources<</XObject<<>>>>>>",
        "<</Type/Page/Parent 2 0 R/MediaBox[0 0 100 200]/Contents 6 0 R>>",
-       orvek::testing::streamOf("q\nQ\n"),
-       orvek::testing::streamOf(".3 .3 .3 rg 0 0 100 200 re f")});
+       orvek::test::streamOf("q\nQ\n"), orvek::test::streamOf(".3 .3 .3 rg 0 0 100 200 re f")});
   const auto pageOne = [](const std::vector<SeenSide> &sides) { return sides.at(0).pages.size(); };
   EXPECT_EQ(pageOne(imposed(document, {{}, a4, true})), 1U);
   EXPECT_EQ(pageOne(imposed(document, {{}, a4, false})), 0U);
@@ -116,15 +114,15 @@ std::string onePage(const std::string &pageEntries, std::vector<std::string> obj
                   "/DA(/Helv 12 Tf)/DR<</Font<</Helv 6 0 R>>>>>>>>",
                   "<</Type/Pages/Count 1/Kids[3 0 R]/MediaBox[0 0 595 842]>>",
                   "<</Type/Page/Parent 2 0 R" + pageEntries + ">>"});
-  return orvek::testing::pdfOf(objects);
+  return orvek::test::pdfOf(objects);
 }
 
 const std::string filled = ".2745098 .2745098 .2745098 rg 0 0 595 842 re f";
 
 TEST_F(Imposer, JoinsContentsThatComeInPieces) {
   const auto seen =
-      imposed(onePage("/Contents[4 0 R 5 0 R]", {orvek::testing::streamOf(filled.substr(0, 30)),
-                                                 orvek::testing::streamOf(filled.substr(30))}),
+      imposed(onePage("/Contents[4 0 R 5 0 R]", {orvek::test::streamOf(filled.substr(0, 30)),
+                                                 orvek::test::streamOf(filled.substr(30))}),
               {{}, a4, false});
   ASSERT_EQ(seen.at(0).pages.size(), 1U);
   EXPECT_EQ(seen[0].pages[0].page, 1);
@@ -132,7 +130,7 @@ TEST_F(Imposer, JoinsContentsThatComeInPieces) {
 
 TEST_F(Imposer, KeepsAnnotationsThatPrintingShows) {
   const std::string appearance =
-      orvek::testing::streamOf(filled, "/Type/XObject/Subtype/Form/BBox[0 0 595 842]");
+      orvek::test::streamOf(filled, "/Type/XObject/Subtype/Form/BBox[0 0 595 842]");
   const auto seen =
       imposed(onePage("/Annots[4 0 R]", {"<</Type/Annot/Subtype/Square/F 4/Rect[0 0 595 842]"
                                          "/AP<</N 5 0 R>>>>",
@@ -144,7 +142,7 @@ TEST_F(Imposer, KeepsAnnotationsThatPrintingShows) {
 
 TEST_F(Imposer, DrawsTheValuesOfFormFields) {
   const std::vector<std::string> objects{
-      orvek::testing::streamOf(""),
+      orvek::test::streamOf(""),
       "<</Type/Annot/Subtype/Widget/FT/Tx/T(a)/V(WWWWWWWW)/F 4/Rect[100 100 500 700]"
       "/DA(/Helv 200 Tf 0.2745 g)/MK<<>>>>",
       "<</Type/Font/Subtype/Type1/BaseFont/Helvetica/Encoding/WinAnsiEncoding>>"};
@@ -159,10 +157,10 @@ TEST_F(Imposer, FramesPagesWhereAskedTo) {
   keys.pageBorders = true;
   const QString out = folder.filePath(QStringLiteral("out.pdf"));
   imposed(document, {keys, a4, false});
-  EXPECT_TRUE(orvek::testing::contentsOf(out).contains(" re S"));
+  EXPECT_TRUE(orvek::test::contentsOf(out).contains(" re S"));
   keys.pageBorders = false;
   imposed(document, {keys, a4, false});
-  EXPECT_FALSE(orvek::testing::contentsOf(out).contains(" re S"));
+  EXPECT_FALSE(orvek::test::contentsOf(out).contains(" re S"));
 }
 
 }  // namespace

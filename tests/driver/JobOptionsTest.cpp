@@ -67,7 +67,7 @@ TEST(SheetOptions, KeepTheJobsPaperWithoutATarget) {
 std::optional<JobPaper> paperWith(const std::string &options, int targetPaper = 0) {
   imposition::BookletKeys keys;
   keys.targetPaper = targetPaper;
-  const std::string ppd = orvek::testing::orvekPPD(QStringLiteral("6180")).toStdString();
+  const std::string ppd = orvek::test::orvekPPD(QStringLiteral("6180")).toStdString();
   return paperOf(ppd, JobOptions(options), keys);
 }
 

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <cstdio>
 
-namespace orvek::testing {
+namespace orvek::test {
 namespace {
 
 constexpr int steps = 5;
@@ -111,4 +111,4 @@ std::string markedDocument(int pages) {
   return markedDocument(std::vector<MarkedPage>(static_cast<std::size_t>(pages)));
 }
 
-}  // namespace orvek::testing
+}  // namespace orvek::test

@@ -9,7 +9,7 @@
 
 #include "imposition/Geometry.h"
 
-namespace orvek::testing {
+namespace orvek::test {
 
 /// A page of such a document.
 struct MarkedPage {
@@ -34,4 +34,4 @@ std::array<int, 3> colourOf(int page);
 /// The number that a colour stands for, 0 for none.
 int pageOf(int red, int green, int blue);
 
-}  // namespace orvek::testing
+}  // namespace orvek::test

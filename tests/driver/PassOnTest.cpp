@@ -9,7 +9,7 @@
 #include "tests/driver/MarkedDocument.h"
 #include "tests/support/CapturingFilter.h"
 
-namespace orvek::testing {
+namespace orvek::test {
 namespace {
 
 class PassOn : public ::testing::Test {
@@ -76,4 +76,4 @@ TEST_F(PassOn, TakesTheDocumentByStandardInputAndLeavesNothingBehind) {
 }
 
 }  // namespace
-}  // namespace orvek::testing
+}  // namespace orvek::test

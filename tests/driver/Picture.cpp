@@ -17,7 +17,7 @@
 #include "tests/driver/MarkedDocument.h"
 #include "tests/support/CapturingFilter.h"
 
-namespace orvek::testing {
+namespace orvek::test {
 namespace {
 
 using imposition::Frame;
@@ -170,4 +170,4 @@ void expectSeen(const std::vector<SeenSide> &seen, const std::vector<SeenSide> &
   }
 }
 
-}  // namespace orvek::testing
+}  // namespace orvek::test

@@ -9,7 +9,7 @@
 #include "imposition/Booklet.h"
 #include "imposition/Geometry.h"
 
-namespace orvek::testing {
+namespace orvek::test {
 
 /// A page as it is seen on a side as it came out of the printer. Points, from the upper left.
 struct SeenPage {
@@ -35,4 +35,4 @@ std::vector<SeenSide> expectedSides(const imposition::ImposedJob &job, impositio
 /// Compares page by page: numbers and turns exactly, edges within 2 points.
 void expectSeen(const std::vector<SeenSide> &seen, const std::vector<SeenSide> &expected);
 
-}  // namespace orvek::testing
+}  // namespace orvek::test

@@ -12,7 +12,7 @@
 #include "tests/support/CapturingFilter.h"
 #include "tests/support/PrivateCups.h"
 
-namespace orvek::testing {
+namespace orvek::test {
 namespace {
 
 using imposition::BookletKeys;
@@ -73,4 +73,4 @@ TEST_F(Queue, LeavesOtherJobsAlone) {
 }
 
 }  // namespace
-}  // namespace orvek::testing
+}  // namespace orvek::test

@@ -14,8 +14,8 @@
 namespace orvek::driver {
 namespace {
 
-using orvek::testing::contentsOf;
-using orvek::testing::writeContents;
+using orvek::test::contentsOf;
+using orvek::test::writeContents;
 
 class StandardPPDs : public ::testing::Test {
  protected:

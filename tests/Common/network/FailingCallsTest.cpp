@@ -18,6 +18,8 @@
 #include "tests/Common/support/OwnNetwork.h"
 #include "tests/Common/support/Responder.h"
 
+using namespace orvek::test;
+
 namespace {
 
 class FailingEcho : public testing::Test {

@@ -15,6 +15,8 @@
 #include "tests/Common/support/OwnNetwork.h"
 #include "tests/Common/support/Responder.h"
 
+using namespace orvek::test;
+
 namespace {
 
 constexpr int classIN = 1;

@@ -33,53 +33,60 @@ Function *next(const char *name, Function * /*like*/) {
 
 }  // namespace
 
-FailingCall::FailingCall(const char *function, int error, int before) {
+orvek::test::FailingCall::FailingCall(const char *function, int error, int before) {
   failing = function;
   failure = error;
   callsBefore = before;
 }
 
-FailingCall::~FailingCall() {
+orvek::test::FailingCall::~FailingCall() {
   failing = nullptr;
 }
 
 // The library declares some of their arguments as never null, and this one may be called with any.
-#define ORVEK_MAY_FAIL(function, failed, ...)                                             \
-  {                                                                                       \
-    if (failsNow(#function)) return failed;                                               \
-    static const auto real = next(#function, static_cast<decltype(function) *>(nullptr)); \
-    return real(__VA_ARGS__);                                                             \
-  }
+#define ORVEK_MAY_FAIL(function, failed, ...)                                           \
+  if (failsNow(#function)) return failed;                                               \
+  static const auto real = next(#function, static_cast<decltype(function) *>(nullptr)); \
+  return real(__VA_ARGS__)
 
 extern "C" {
 
-int socket(int domain, int type, int protocol) noexcept
-    ORVEK_MAY_FAIL(socket, -1, domain, type, protocol)
+int socket(int domain, int type, int protocol) noexcept {
+  ORVEK_MAY_FAIL(socket, -1, domain, type, protocol);
+}
 
-        int bind(int descriptor, const sockaddr *address, socklen_t size) noexcept
-    ORVEK_MAY_FAIL(bind, -1, descriptor, address, size)
+int bind(int descriptor, const sockaddr *address, socklen_t size) noexcept {
+  ORVEK_MAY_FAIL(bind, -1, descriptor, address, size);
+}
 
-        int setsockopt(int descriptor, int level, int name, const void *value,
-                       socklen_t size) noexcept
-    ORVEK_MAY_FAIL(setsockopt, -1, descriptor, level, name, value, size)
+int setsockopt(int descriptor, int level, int name, const void *value, socklen_t size) noexcept {
+  ORVEK_MAY_FAIL(setsockopt, -1, descriptor, level, name, value, size);
+}
 
-        ssize_t sendto(int descriptor, const void *bytes, size_t count, int flags,
-                       const sockaddr *to, socklen_t size)
-            ORVEK_MAY_FAIL(sendto, -1, descriptor, bytes, count, flags, to, size)
+ssize_t sendto(int descriptor, const void *bytes, size_t count, int flags, const sockaddr *to,
+               socklen_t size) {
+  ORVEK_MAY_FAIL(sendto, -1, descriptor, bytes, count, flags, to, size);
+}
 
-                ssize_t
-    recvfrom(int descriptor, void *bytes, size_t count, int flags, sockaddr *from, socklen_t *size)
-        ORVEK_MAY_FAIL(recvfrom, -1, descriptor, bytes, count, flags, from, size)
+ssize_t recvfrom(int descriptor, void *bytes, size_t count, int flags, sockaddr *from,
+                 socklen_t *size) {
+  ORVEK_MAY_FAIL(recvfrom, -1, descriptor, bytes, count, flags, from, size);
+}
 
-            int poll(pollfd *waiting, nfds_t count, int limit)
-                ORVEK_MAY_FAIL(poll, -1, waiting, count, limit)
+int poll(pollfd *waiting, nfds_t count, int limit) {
+  ORVEK_MAY_FAIL(poll, -1, waiting, count, limit);
+}
 
-                    int getifaddrs(ifaddrs **list) noexcept ORVEK_MAY_FAIL(getifaddrs, -1, list)
+int getifaddrs(ifaddrs **list) noexcept {
+  ORVEK_MAY_FAIL(getifaddrs, -1, list);
+}
 
-                        protoent *getprotobyname(const char *name)
-                            ORVEK_MAY_FAIL(getprotobyname, nullptr, name)
+protoent *getprotobyname(const char *name) {
+  ORVEK_MAY_FAIL(getprotobyname, nullptr, name);
+}
 
-                                int gettimeofday(timeval *time, void *zone) noexcept
-    ORVEK_MAY_FAIL(gettimeofday, -1, time, zone)
+int gettimeofday(timeval *time, void *zone) noexcept {
+  ORVEK_MAY_FAIL(gettimeofday, -1, time, zone);
+}
 
 }  // extern "C"

@@ -3,6 +3,8 @@
 // to do at a test's wish.
 #pragma once
 
+namespace orvek::test {
+
 /// While it lives, one call of `function` from this thread fails: the one after `before` others.
 /// `error` is what errno is set to; 0 leaves it alone. One at a time; linked into a program, it
 /// stands in front of socket, bind, setsockopt, sendto, recvfrom, poll, getifaddrs, getprotobyname
@@ -14,3 +16,5 @@ class FailingCall {
   FailingCall(const FailingCall &) = delete;
   FailingCall &operator=(const FailingCall &) = delete;
 };
+
+}  // namespace orvek::test
