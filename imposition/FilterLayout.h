@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: Apache-2.0
+// Where the print system's standard filters put a document's pages: which pages share a side, how
+// they are turned, scaled and placed. A model of those filters' own rules, so that a preview need
+// not run them; tests compare it with them.
+#pragma once
+
+#include <span>
+#include <string>
+#include <vector>
+
+#include "imposition/Booklet.h"
+#include "imposition/Geometry.h"
+
+namespace orvek::imposition {
+
+/// How pages meet paper of another size ("print-scaling").
+enum class Scaling {
+  Automatic,  ///< as large as they are; all fitted where one of them is larger than the paper
+  None,       ///< as large as they are, cut off at the paper's edges
+  Fit,        ///< as large as the printable area lets them be
+  Fill,       ///< the printable area is filled, and what sticks out cut off
+};
+
+/// How pages are turned ("orientation-requested", RFC 8011).
+enum class Turning { Portrait, Landscape, ReverseLandscape, ReversePortrait };
+
+enum class Parity { All, Odd, Even };
+
+struct PageRange {
+  int first = 1;
+  int last = 0;  ///< 0: open
+
+  bool operator==(const PageRange &) const = default;
+};
+
+/// Which of the sides that the filters make are printed, and in which order. Sides are counted, not
+/// the document's pages: with four pages on each, the range 2-2 stands for pages 5 to 8.
+struct SideSelection {
+  std::vector<PageRange> ranges;  ///< none: all
+  Parity parity = Parity::All;
+  bool reverse = false;
+  bool twoSided = false;  ///< a reversed job begins with a blank side where their number is odd
+
+  bool operator==(const SideSelection &) const = default;
+};
+
+/// What of a job the standard filters carry out.
+struct FilterJob {
+  Size paper;       ///< as the printer feeds it
+  Frame printable;  ///< on that paper; empty: all of it
+  Turning turning = Turning::Portrait;
+  bool landscapeTurnsRight = false;  ///< the PPD's LandscapeOrientation is Minus90
+  int pagesPerSide = 1;              ///< one that the filters don't know counts as 1
+  std::string order;                 ///< "number-up-layout"; empty: "lrtb"
+  Scaling scaling = Scaling::Automatic;
+  SideSelection sides;
+
+  bool operator==(const FilterJob &) const = default;
+};
+
+/// One side of the paper as the printer feeds it. Pages may reach beyond it; their clip does not.
+struct FilteredSide {
+  std::vector<PlacedPage> pages;
+};
+
+/// The sides in the order in which they are printed. `pages` are sizes as displayed; a page without
+/// a size is placed as an empty frame. (The filters put square pages that have a quarter turn of
+/// their own off the middle; here they stand in it.) Nothing for no pages, or for paper without a
+/// size.
+std::vector<FilteredSide> layOutAsFiltered(std::span<const Size> pages, const FilterJob &job);
+
+/// Whether the filters put so many pages on a side.
+bool isKnownPagesPerSide(int pages);
+
+}  // namespace orvek::imposition

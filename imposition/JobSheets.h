@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: Apache-2.0
+// A whole job as it will come out of the printer: every printed side in the order of printing, with
+// its pages and with what the finisher leaves on it.
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "imposition/BookletKeys.h"
+#include "imposition/FilterLayout.h"
+#include "imposition/Finishing.h"
+#include "imposition/Paper.h"
+
+namespace orvek::imposition {
+
+struct SheetJob {
+  FilterJob filters;
+  bool twoSided = false;
+  bool turnsOverShortEdge = false;  ///< two-sided, the back's top where the front's foot is
+  BookletKeys booklet;              ///< enabled: it is two-sided, whatever the job says
+  Size bookletPaper;                ///< the booklet's sheets; empty: the job's paper
+  Finishing finishing;
+
+  bool operator==(const SheetJob &) const = default;
+};
+
+/// A side held such that its first page stands upright; a blank one as the sheet's other side is,
+/// or else as it is fed.
+struct PrintedSide {
+  int sheet = 1;
+  Face face = Face::Front;
+  Size size;
+  std::vector<PlacedPage> pages;  ///< with their turn against the first of them; none: blank
+  std::vector<Mark> marks;
+  std::vector<Line> folds;
+};
+
+/// The job's sides for a document whose pages, as displayed, have these sizes. One set: copies are
+/// not repeated. A sheet whose back nothing is printed on has no back side.
+std::vector<PrintedSide> printedSides(std::span<const Size> pages, const SheetJob &job);
+
+/// How many sheets of paper so many sides take, the last one counted whole.
+int sheetCount(const std::vector<PrintedSide> &sides);
+
+}  // namespace orvek::imposition

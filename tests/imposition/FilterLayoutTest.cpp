@@ -1,0 +1,238 @@
+// SPDX-License-Identifier: Apache-2.0
+// The model of the standard filters against the filters themselves: the same random jobs go through
+// pdftopdf, and pages are looked for where the model says they are.
+
+#include "imposition/FilterLayout.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <random>
+
+#include "imposition/CellOrder.h"
+#include "tests/support/NumberedPages.h"
+
+namespace orvek::imposition {
+namespace {
+
+constexpr const char *filter = "/usr/lib/cups/filter/pdftopdf";
+constexpr double tolerance = 2;
+constexpr int randomJobs = 60;
+
+struct PaperName {
+  const char *name;
+  Size size;
+};
+constexpr PaperName papers[] = {{"A4", {595, 842}},
+                                {"A3", {842, 1191}},
+                                {"A5", {420, 595}},
+                                {"Letter", {612, 792}},
+                                {"Legal", {612, 1008}},
+                                {"Env10", {297, 684}},
+                                {"Custom.842x595", {842, 595}}};
+constexpr double margin = 12;  // of the PPD's papers
+
+const std::vector<QSizeF> pageSizes{{595, 842},  {842, 595}, {420, 595}, {595, 420}, {612, 792},
+                                    {842, 1191}, {300, 300}, {700, 500}, {600, 842}};
+
+struct RandomJob {
+  FilterJob job;
+  QStringList options;
+  QList<test::NumberedPage> pages;
+};
+
+template <typename T>
+T any(std::mt19937 &random, const std::vector<T> &values) {
+  return values[std::uniform_int_distribution<std::size_t>(0, values.size() - 1)(random)];
+}
+
+void choosePages(std::mt19937 &random, RandomJob *job) {
+  const int count = std::uniform_int_distribution<int>(1, 9)(random);
+  const bool isMixed = any<bool>(random, {true, false});
+  QSizeF size = any(random, pageSizes);
+  for (int i = 0; i < count; ++i) {
+    if (isMixed) size = any(random, pageSizes);
+    // The filters themselves lose the middle of square pages that have a quarter turn.
+    const bool isSquare = size.width() == size.height();
+    job->pages.append({size, isSquare ? 0 : any<int>(random, {0, 0, 0, 90, 180, 270}), {}, {}});
+  }
+  if (any<int>(random, {0, 1, 2}) == 0) job->pages[0].trim = QRectF(40, 60, 200, 190);
+}
+
+void chooseSides(std::mt19937 &random, RandomJob *job) {
+  SideSelection &sides = job->job.sides;
+  switch (any<int>(random, {0, 0, 1, 2})) {
+    case 1:
+      sides.ranges = {{1, 2}};
+      job->options << QStringLiteral("page-ranges=1-2");
+      break;
+    case 2:
+      sides.ranges = {{1, 1}, {3, 0}};
+      job->options << QStringLiteral("page-ranges=1,3-");
+      break;
+    default:
+      break;
+  }
+  sides.parity = any<Parity>(random, {Parity::All, Parity::All, Parity::All, Parity::Odd});
+  if (sides.parity == Parity::Odd) job->options << QStringLiteral("page-set=odd");
+  sides.reverse = any<bool>(random, {false, true});
+  if (sides.reverse) job->options << QStringLiteral("outputorder=reverse");
+  sides.twoSided = any<bool>(random, {false, true});
+  if (sides.twoSided) job->options << QStringLiteral("Duplex=DuplexNoTumble");
+}
+
+RandomJob randomJob(unsigned seed) {
+  std::mt19937 random(seed);
+  RandomJob job;
+  choosePages(random, &job);
+  chooseSides(random, &job);
+  const PaperName paper = any(random, std::vector<PaperName>(std::begin(papers), std::end(papers)));
+  job.job.paper = paper.size;
+  job.job.printable = {margin, margin, paper.size.width - 2 * margin,
+                       paper.size.height - 2 * margin};
+  job.options << QStringLiteral("PageSize=%1").arg(QString::fromLatin1(paper.name));
+  job.job.pagesPerSide = any<int>(random, {1, 1, 1, 2, 2, 3, 4, 6, 8, 9, 10, 12, 15, 16, 5});
+  if (job.job.pagesPerSide > 1)
+    job.options << QStringLiteral("number-up=%1").arg(job.job.pagesPerSide);
+  job.job.order = any<std::string>(random, {"", "", "rltb", "tblr", "btrl", "lrbt"});
+  if (!job.job.order.empty())
+    job.options << QStringLiteral("number-up-layout=%1").arg(QString::fromStdString(job.job.order));
+  const int orientation = any<int>(random, {0, 0, 0, 3, 4, 5, 6});
+  if (orientation > 0) {
+    job.job.turning = static_cast<Turning>(orientation - 3);
+    job.options << QStringLiteral("orientation-requested=%1").arg(orientation);
+  }
+  job.job.scaling = any<Scaling>(
+      random, {Scaling::Automatic, Scaling::Automatic, Scaling::None, Scaling::Fit, Scaling::Fill});
+  const char *words[] = {"auto", "none", "fit", "fill"};
+  job.options << QStringLiteral("print-scaling=%1")
+                     .arg(QString::fromLatin1(words[static_cast<int>(job.job.scaling)]));
+  return job;
+}
+
+QList<test::FoundSide> filtered(const QTemporaryDir &folder, const RandomJob &job) {
+  const QString in = folder.filePath(QStringLiteral("in.pdf"));
+  const QString out = folder.filePath(QStringLiteral("out.pdf"));
+  QFile file(in);
+  if (!file.open(QIODevice::WriteOnly)) return {};
+  file.write(test::numberedPdf(job.pages));
+  file.close();
+  QProcess process;
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert(QStringLiteral("PPD"),
+                     QStringLiteral(ORVEK_SOURCE_DIR "/printers/Orvek-6180.ppd"));
+  environment.insert(QStringLiteral("CONTENT_TYPE"), QStringLiteral("application/pdf"));
+  process.setProcessEnvironment(environment);
+  process.setStandardOutputFile(out);
+  process.start(QString::fromLatin1(filter),
+                {QStringLiteral("1"), QStringLiteral("user"), QStringLiteral("title"),
+                 QStringLiteral("1"), job.options.join(QLatin1Char(' ')), in});
+  process.waitForFinished(-1);
+  return test::findPages(out);
+}
+
+Size shownSize(const test::NumberedPage &page) {
+  const QSizeF size = page.trim.isEmpty() ? page.size : page.trim.size();
+  if (page.turn % 180 != 0) return {size.height(), size.width()};
+  return {size.width(), size.height()};
+}
+
+QRectF rect(const Frame &frame) {
+  return {frame.x, frame.y, frame.width, frame.height};
+}
+
+void expectNear(const QRectF &found, const QRectF &expected) {
+  EXPECT_NEAR(found.left(), expected.left(), tolerance);
+  EXPECT_NEAR(found.top(), expected.top(), tolerance);
+  EXPECT_NEAR(found.right(), expected.right(), tolerance);
+  EXPECT_NEAR(found.bottom(), expected.bottom(), tolerance);
+}
+
+void expectSame(const test::FoundSide &found, FilteredSide expected, Size paper) {
+  auto &pages = expected.pages;
+  // Blank sides that even a job out may lie the other way round.
+  if (!pages.empty()) {
+    EXPECT_NEAR(found.size.width(), paper.width, tolerance);
+    EXPECT_NEAR(found.size.height(), paper.height, tolerance);
+  }
+  std::erase_if(pages, [](const PlacedPage &page) {
+    return rect(page.frame).intersected(rect(page.clip)).isEmpty();
+  });
+  std::sort(pages.begin(), pages.end(),
+            [](const PlacedPage &one, const PlacedPage &other) { return one.page < other.page; });
+  ASSERT_EQ(found.pages.size(), static_cast<qsizetype>(pages.size()));
+  for (std::size_t i = 0; i < pages.size(); ++i) {
+    const test::FoundPage &page = found.pages[static_cast<qsizetype>(i)];
+    SCOPED_TRACE("page " + std::to_string(page.page));
+    EXPECT_EQ(page.page, pages[i].page);
+    expectNear(page.frame, rect(pages[i].frame).intersected(rect(pages[i].clip)));
+    const bool isWhole = rect(pages[i].clip).adjusted(-1, -1, 1, 1).contains(rect(pages[i].frame));
+    if (isWhole) {
+      EXPECT_EQ(page.turn.value_or(-1), pages[i].turn);
+    }
+  }
+}
+
+void expectAsFiltered(unsigned seed) {
+  const RandomJob job = randomJob(seed);
+  SCOPED_TRACE("seed " + std::to_string(seed) + ": " +
+               job.options.join(QLatin1Char(' ')).toStdString());
+  std::vector<Size> sizes;
+  for (const test::NumberedPage &page : job.pages) sizes.push_back(shownSize(page));
+  const QTemporaryDir folder;
+  const QList<test::FoundSide> found = filtered(folder, job);
+  const std::vector<FilteredSide> sides = layOutAsFiltered(sizes, job.job);
+  ASSERT_EQ(found.size(), static_cast<qsizetype>(sides.size()));
+  for (std::size_t i = 0; i < sides.size(); ++i) {
+    SCOPED_TRACE("side " + std::to_string(i + 1));
+    expectSame(found[static_cast<qsizetype>(i)], sides[i], job.job.paper);
+  }
+}
+
+TEST(FilterLayout, PutsPagesWhereTheFiltersPutThem) {
+  if (!QFile::exists(QString::fromLatin1(filter))) GTEST_SKIP() << "needs cups-filters' pdftopdf";
+  const char *first = std::getenv("ORVEK_SEED");
+  const unsigned seed = first == nullptr ? 1 : static_cast<unsigned>(std::atoi(first));
+  const char *count = std::getenv("ORVEK_JOBS");
+  const unsigned jobs = count == nullptr ? randomJobs : static_cast<unsigned>(std::atoi(count));
+  for (unsigned i = 0; i < jobs; ++i) expectAsFiltered(seed + i);
+}
+
+TEST(FilterLayout, GivesNothingForNoPagesAndNoPaper) {
+  FilterJob job;
+  job.paper = {595, 842};
+  EXPECT_TRUE(layOutAsFiltered({}, job).empty());
+  const std::vector<Size> pages{{595, 842}};
+  EXPECT_TRUE(layOutAsFiltered(pages, {}).empty());
+}
+
+TEST(FilterLayout, PlacesAPageWithoutASizeAsAnEmptyFrame) {
+  const std::vector<Size> pages{{0, 0}, {595, 842}};
+  FilterJob job;
+  job.paper = {595, 842};
+  for (const Scaling scaling : {Scaling::Automatic, Scaling::None, Scaling::Fit, Scaling::Fill}) {
+    job.scaling = scaling;
+    const auto sides = layOutAsFiltered(pages, job);
+    ASSERT_EQ(sides.size(), 2U);
+    EXPECT_EQ(sides[0].pages[0].frame.width, 0);
+    EXPECT_GT(sides[1].pages[0].frame.width, 0);
+  }
+}
+
+TEST(FilterLayout, EvensAReversedTwoSidedJobOutWithABlankSideInFront) {
+  const std::vector<Size> pages(3, Size{595, 842});
+  FilterJob job;
+  job.paper = {595, 842};
+  job.sides.reverse = true;
+  job.sides.twoSided = true;
+  const auto sides = layOutAsFiltered(pages, job);
+  ASSERT_EQ(sides.size(), 4U);
+  EXPECT_TRUE(sides[0].pages.empty());
+  EXPECT_EQ(sides[1].pages.at(0).page, 3);
+}
+
+}  // namespace
+}  // namespace orvek::imposition

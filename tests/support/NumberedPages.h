@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: Apache-2.0
+// Documents whose pages can be told apart by their looks: each is filled with a colour that stands
+// for its number, and has a band in another shade along its top. Made, and found again on paper.
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QRectF>
+#include <QSizeF>
+#include <optional>
+
+namespace orvek::test {
+
+/// A page to make. Points, y upwards as PDF has it.
+struct NumberedPage {
+  QSizeF size;   ///< of its media box
+  int turn = 0;  ///< its /Rotate
+  QRectF trim;   ///< its trim box; empty: none
+  QRectF crop;   ///< its crop box; empty: none
+};
+
+/// At most 40 pages.
+QByteArray numberedPdf(const QList<NumberedPage> &pages);
+
+/// A page as it was found. Points, y downwards from the top left corner; one point is one pixel.
+struct FoundPage {
+  int page = 0;
+  QRectF frame;             ///< the visible part
+  std::optional<int> turn;  ///< clockwise; nothing where the page's top is out of sight
+};
+
+struct FoundSide {
+  QSizeF size;
+  QList<FoundPage> pages;  ///< by number
+};
+
+/// Rasterises a PDF with pdftoppm and looks for numbered pages.
+QList<FoundSide> findPages(const QString &pdf);
+
+}  // namespace orvek::test
