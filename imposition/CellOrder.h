@@ -10,7 +10,8 @@ namespace orvek::imposition {
 struct Grid {
   int columns = 1;
   int rows = 1;
-  bool isTurned = false;  ///< laid out on paper that lies on its side
+  /// Laid out on paper that lies on its side.
+  bool isTurned = false;
 
   int cells() const { return columns * rows; }
 };

@@ -15,10 +15,14 @@ namespace orvek::imposition {
 
 /// How pages meet paper of another size ("print-scaling").
 enum class Scaling {
-  Automatic,  ///< as large as they are; all fitted where one of them is larger than the paper
-  None,       ///< as large as they are, cut off at the paper's edges
-  Fit,        ///< as large as the printable area lets them be
-  Fill,       ///< the printable area is filled, and what sticks out cut off
+  /// As large as they are; all fitted where one of them is larger than the paper.
+  Automatic,
+  /// As large as they are, cut off at the paper's edges.
+  None,
+  /// As large as the printable area lets them be.
+  Fit,
+  /// The printable area is filled, and what sticks out cut off.
+  Fill,
 };
 
 /// How pages are turned ("orientation-requested", RFC 8011).
@@ -28,7 +32,8 @@ enum class Parity { All, Odd, Even };
 
 struct PageRange {
   int first = 1;
-  int last = 0;  ///< 0: open
+  /// 0: open.
+  int last = 0;
 
   bool operator==(const PageRange &) const = default;
 };
@@ -36,22 +41,29 @@ struct PageRange {
 /// Which of the sides that the filters make are printed, and in which order. Sides are counted, not
 /// the document's pages: with four pages on each, the range 2-2 stands for pages 5 to 8.
 struct SideSelection {
-  std::vector<PageRange> ranges;  ///< none: all
+  /// None: all.
+  std::vector<PageRange> ranges;
   Parity parity = Parity::All;
   bool reverse = false;
-  bool twoSided = false;  ///< a reversed job begins with a blank side where their number is odd
+  /// A reversed job begins with a blank side where their number is odd.
+  bool twoSided = false;
 
   bool operator==(const SideSelection &) const = default;
 };
 
 /// What of a job the standard filters carry out.
 struct FilterJob {
-  Size paper;       ///< as the printer feeds it
-  Frame printable;  ///< on that paper; empty: all of it
+  /// As the printer feeds it.
+  Size paper;
+  /// On that paper; empty: all of it.
+  Frame printable;
   Turning turning = Turning::Portrait;
-  bool landscapeTurnsRight = false;  ///< the PPD's LandscapeOrientation is Minus90
-  int pagesPerSide = 1;              ///< one that the filters don't know counts as 1
-  std::string order;                 ///< "number-up-layout"; empty: "lrtb"
+  /// The PPD's LandscapeOrientation is Minus90.
+  bool landscapeTurnsRight = false;
+  /// One that the filters don't know counts as 1.
+  int pagesPerSide = 1;
+  /// "number-up-layout"; empty: "lrtb".
+  std::string order;
   Scaling scaling = Scaling::Automatic;
   SideSelection sides;
 

@@ -47,7 +47,8 @@ struct Finishing {
   EdgeMarks staples;
   EdgeMarks holes;
   bool stapledInFold = false;
-  std::string fold;  ///< the choice's keyword as the PPD has it; empty: none
+  /// The choice's keyword as the PPD has it; empty: none.
+  std::string fold;
 
   bool operator==(const Finishing &) const = default;
 };

@@ -112,7 +112,8 @@ std::vector<FedSide> plainSides(std::span<const Size> pages, const SheetJob &job
 
 /// How a side is taken in hand.
 struct Hold {
-  int turn = 0;  ///< from paper to hand, clockwise
+  /// From paper to hand, clockwise.
+  int turn = 0;
   Face face = Face::Front;
   bool turnsOverShortEdge = false;
 };

@@ -16,9 +16,12 @@ namespace orvek::imposition {
 struct SheetJob {
   FilterJob filters;
   bool twoSided = false;
-  bool turnsOverShortEdge = false;  ///< two-sided, the back's top where the front's foot is
-  BookletKeys booklet;              ///< enabled: it is two-sided, whatever the job says
-  Size bookletPaper;                ///< the booklet's sheets; empty: the job's paper
+  /// Two-sided, the back's top where the front's foot is.
+  bool turnsOverShortEdge = false;
+  /// Enabled: it is two-sided, whatever the job says.
+  BookletKeys booklet;
+  /// The booklet's sheets; empty: the job's paper.
+  Size bookletPaper;
   Finishing finishing;
 
   bool operator==(const SheetJob &) const = default;
@@ -30,7 +33,8 @@ struct PrintedSide {
   int sheet = 1;
   Face face = Face::Front;
   Size size;
-  std::vector<PlacedPage> pages;  ///< with their turn against the first of them; none: blank
+  /// With their turn against the first of them; none: blank.
+  std::vector<PlacedPage> pages;
   std::vector<Mark> marks;
   std::vector<Line> folds;
 };

@@ -13,6 +13,7 @@
 #include "host/cli/Screenshot.h"
 #include "host/cli/SessionStart.h"
 #include "host/cli/TerminalPassword.h"
+#include "host/preview/PreviewInspection.h"
 
 namespace orvek {
 namespace {
@@ -30,6 +31,13 @@ Status writeFiles(const CommandLine &line, PrintSession &session) {
   }
   if (Status saved = savePresetAsAsked(line, session); !saved) return saved;
   return line.screenshot.isNull() ? Status() : writeScreenshot(line, session);
+}
+
+QJsonObject stateOf(const CommandLine &line, PrintSession &session) {
+  QJsonObject state = inspect(session);
+  if (!line.files.isEmpty())
+    state.insert(QStringLiteral("preview"), inspectPreview(session, line.files));
+  return state;
 }
 
 QByteArray summaryText(const PrintSession &session) {
@@ -51,7 +59,7 @@ Status runActions(const CommandLine &line, PrintSession &session) {
 
 Status printState(const CommandLine &line, PrintSession &session) {
   QByteArray text;
-  if (line.inspect) text += QJsonDocument(inspect(session)).toJson(QJsonDocument::Indented);
+  if (line.inspect) text += QJsonDocument(stateOf(line, session)).toJson(QJsonDocument::Indented);
   if (line.summary) text += summaryText(session);
   return text.isEmpty() ? Status() : writeToStandardOutput(text);
 }

@@ -4,19 +4,39 @@
 #include "host/cli/Screenshot.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QEvent>
+#include <QEventLoop>
 #include <QImage>
 #include <QPixmap>
 #include <QSaveFile>
+#include <QTimer>
 
 #include "host/cli/Window.h"
 #include "host/dialog/PrintDialog.h"
+#include "host/preview/JobPreview.h"
 
 namespace orvek {
 namespace {
 
+constexpr int pollMilliseconds = 20;
+constexpr int pagesMilliseconds = 5000;
+
 Failure notWritten(const QString &path, const QString &why) {
   return {FailureKind::Io, path, why};
+}
+
+// What waits for the first paint, and the document's pages, which come by and by.
+void waitForPages(const PrintDialog &dialog) {
+  QElapsedTimer clock;
+  clock.start();
+  const auto *preview = dialog.findChild<JobPreview *>();
+  do {
+    QEventLoop loop;
+    QTimer::singleShot(pollMilliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+  } while (preview != nullptr && !preview->isComplete() && clock.elapsed() < pagesMilliseconds);
+  QCoreApplication::processEvents();
 }
 
 // Shown without a screen, so that sizes, styles and texts are those of the real window.
@@ -28,7 +48,7 @@ QImage renderDialog(const CommandLine &line, PrintSession &session) {
   dialog.show();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
   dialog.grab();
-  QCoreApplication::processEvents();  // what waits for the first paint
+  waitForPages(dialog);
   return dialog.grab().toImage();
 }
 

@@ -14,23 +14,24 @@
 #include "host/dialog/LazyPage.h"
 #include "host/dialog/PanelPage.h"
 #include "host/dialog/SummaryView.h"
-#include "host/preview/BookletPreview.h"
+#include "host/preview/JobPreview.h"
 #include "host/settings/GeneralPage.h"
 #include "host/settings/OptionsPage.h"
-#include "host/ticket/BookletSettings.h"
 
 namespace orvek {
 namespace {
 
 constexpr int gap = 12;
-constexpr int previewHeight = 216;
+constexpr int previewHeight = 236;
+constexpr int previewShare = 3;
+constexpr int summaryShare = 1;
 
 }  // namespace
 
 SessionView::SessionView(PrintSession &session, const DocumentInfo &document, QWidget *parent)
     : QWidget(parent),
       m_session(session),
-      m_document(document),
+      m_path(document.path),
       m_pages(new QTabWidget(this)),
       m_summary(new SummaryView(this)) {
   m_pages->setObjectName(QStringLiteral("pages"));
@@ -53,8 +54,20 @@ QLayout *SessionView::buildAside() {
   m_aside = new QVBoxLayout;
   m_aside->setSpacing(0);
   m_aside->addWidget(title);
-  m_aside->addWidget(m_summary, 1);
+  // It scrolls; what it would like to have is the preview's.
+  m_summary->setSizePolicy(m_summary->sizePolicy().horizontalPolicy(), QSizePolicy::Ignored);
+  m_summary->setMinimumHeight(m_summary->minimumSizeHint().height());
+  m_aside->addWidget(m_summary, summaryShare);
+  addPreview();
   return m_aside;
+}
+
+// Above the summary, and as wide as it; the window is not to grow for it.
+void SessionView::addPreview() {
+  m_preview = new JobPreview(m_session, m_path, this);
+  m_preview->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+  m_preview->setMinimumHeight(previewHeight);
+  m_aside->insertWidget(0, m_preview, previewShare);
 }
 
 // The window opens with the panel, where there is one; the other pages are made when asked for.
@@ -78,9 +91,10 @@ void SessionView::addPanelPages() {
 }
 
 void SessionView::setDocument(const DocumentInfo &document) {
-  m_document = document;
-  delete std::exchange(m_preview, nullptr);
-  updatePreview();
+  if (document.path == m_path) return;
+  m_path = document.path;
+  delete m_preview;
+  addPreview();
 }
 
 // After the first paint: which lines of a session that began with a ticket are changed ones takes a
@@ -98,21 +112,6 @@ void SessionView::learnDefaults() {
 
 void SessionView::followSession() {
   m_summary->show(summaryLines(m_session));
-  updatePreview();
-}
-
-// Below the summary, where an open booklet section makes the window tall enough for both.
-void SessionView::updatePreview() {
-  const bool isBooklet = bookletSettings(m_session.ticket().values()).enabled;
-  if (isBooklet && m_preview == nullptr) {
-    m_preview = new BookletPreview(m_session, m_document.pages, m_document.pageSizePoints, this);
-    // As wide as the summary; the window is not to grow for it.
-    m_preview->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    m_preview->setFixedHeight(previewHeight);
-    m_preview->layout()->setContentsMargins(0, gap, 0, 0);
-    m_aside->addWidget(m_preview);
-  }
-  if (m_preview != nullptr) m_preview->setVisible(isBooklet);
 }
 
 }  // namespace orvek

@@ -14,7 +14,7 @@ class QVBoxLayout;
 
 namespace orvek {
 
-class BookletPreview;
+class JobPreview;
 class SummaryView;
 
 /// Borrows the session, which must outlive the view, and its panels' containers. Belongs to its
@@ -36,16 +36,16 @@ class SessionView final : public QWidget {
   QLayout *buildAside();
   void followSession();
   void learnDefaults();
-  void updatePreview();
+  void addPreview();
 
   PrintSession &m_session;
   bool m_isPainted = false;
-  DocumentInfo m_document;
+  QString m_path;  // the document
   QTabWidget *m_pages;
   SummaryView *m_summary;
   QVBoxLayout *m_aside = nullptr;
   /// Made when the job first is a booklet.
-  BookletPreview *m_preview = nullptr;
+  JobPreview *m_preview = nullptr;
 };
 
 }  // namespace orvek

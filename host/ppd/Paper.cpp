@@ -26,6 +26,22 @@ QSizeF paperSize(const PrinterDescription &printer, const QString &choice) {
   return size == nullptr ? QSizeF() : QSizeF(size->width, size->length);
 }
 
+QRectF printableArea(const PrinterDescription &printer, const QString &choice) {
+  if (printer.lend() == nullptr || choice.isEmpty()) return {};
+  const ppd_size_t *size = ppdPageSize(printer.lend(), choice.toUtf8().constData());
+  if (size == nullptr) return {};
+  return {size->left, size->length - size->top, size->right - size->left, size->top - size->bottom};
+}
+
+bool stacksReversed(const PrinterDescription &printer, const QString &tray) {
+  if (printer.lend() == nullptr) return false;
+  const QByteArray name = tray.toUtf8();
+  const ppd_attr_t *order =
+      name.isEmpty() ? nullptr : ppdFindAttr(printer.lend(), "PageStackOrder", name.constData());
+  if (order == nullptr) order = ppdFindAttr(printer.lend(), "DefaultOutputOrder", nullptr);
+  return order != nullptr && QByteArray(order->value).compare("Reverse", Qt::CaseInsensitive) == 0;
+}
+
 std::optional<CustomPaperLimits> customPaperLimits(const PrinterDescription &printer) {
   const ppd_file_t *ppd = printer.lend();
   if (ppd == nullptr || ppd->variable_sizes == 0) return std::nullopt;

@@ -2,6 +2,7 @@
 // Sizes of paper as PPD files and CUPS name them. Lengths are points.
 #pragma once
 
+#include <QRectF>
 #include <QSizeF>
 #include <QString>
 #include <optional>
@@ -13,6 +14,14 @@ namespace orvek {
 /// The size that a choice of PageSize stands for ("A4", "Custom.200x300mm"). Empty where the PPD
 /// does not know it.
 QSizeF paperSize(const PrinterDescription &printer, const QString &choice);
+
+/// The part of that paper that the printer can print on; y downwards from the upper left corner.
+/// Empty where the PPD does not know it.
+QRectF printableArea(const PrinterDescription &printer, const QString &choice);
+
+/// Whether the printer piles the sheets of this tray (a choice of OutputBin; null: none) such that
+/// the last page has to be printed first.
+bool stacksReversed(const PrinterDescription &printer, const QString &tray);
 
 /// The smallest and largest custom size. Plain data.
 struct CustomPaperLimits {

@@ -21,45 +21,6 @@
     </message>
 </context>
 <context>
-    <name>orvek::BookletPreview</name>
-    <message>
-        <source>1 sheet</source>
-        <translation>1 Blatt</translation>
-    </message>
-    <message>
-        <source>%1 sheets</source>
-        <translation>%1 Blatt</translation>
-    </message>
-    <message>
-        <source>Booklet preview</source>
-        <translation>Vorschau der Broschüre</translation>
-    </message>
-    <message>
-        <source>Booklet printing is off: pages are printed one after the other.</source>
-        <translation>Broschürendruck ist aus: Die Seiten werden nacheinander gedruckt.</translation>
-    </message>
-    <message>
-        <source>No page of the document is printed.</source>
-        <translation>Keine Seite des Dokuments wird gedruckt.</translation>
-    </message>
-    <message>
-        <source>The document&apos;s page count is not known; a sample of %1 pages is shown</source>
-        <translation>Seitenzahl des Dokuments unbekannt; Beispiel mit %1 Seiten</translation>
-    </message>
-    <message>
-        <source>%1 pages on %2</source>
-        <translation>%1 Seiten auf %2</translation>
-    </message>
-    <message>
-        <source>read from right to left</source>
-        <translation>von rechts nach links gelesen</translation>
-    </message>
-    <message>
-        <source>creep shown %1 times as large</source>
-        <translation>Bundzuwachs %1-fach vergrößert dargestellt</translation>
-    </message>
-</context>
-<context>
     <name>orvek::CopiesRow</name>
     <message>
         <source>Copies</source>
@@ -583,6 +544,57 @@
     </message>
 </context>
 <context>
+    <name>orvek::JobPreview</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Previous side</source>
+        <translation>Vorige Blattseite</translation>
+    </message>
+    <message>
+        <source>Next side</source>
+        <translation>Nächste Blattseite</translation>
+    </message>
+    <message>
+        <source>Several sheets at once (Ctrl and wheel: zoom)</source>
+        <translation>Mehrere Blätter zugleich (Strg und Mausrad: Zoom)</translation>
+    </message>
+    <message>
+        <source>Several sheets at once</source>
+        <translation>Mehrere Blätter zugleich</translation>
+    </message>
+    <message>
+        <source>No page of the document is printed.</source>
+        <translation>Keine Seite des Dokuments wird gedruckt.</translation>
+    </message>
+    <message>
+        <source>Reading the document…</source>
+        <translation>Das Dokument wird gelesen …</translation>
+    </message>
+    <message>
+        <source>The document&apos;s pages are not known: a sample</source>
+        <translation>Seiten des Dokuments unbekannt: ein Beispiel</translation>
+    </message>
+    <message>
+        <source>%1 × 1 sheet</source>
+        <translation>%1 × 1 Blatt</translation>
+    </message>
+    <message>
+        <source>%1 × %2 sheets</source>
+        <translation>%1 × %2 Blatt</translation>
+    </message>
+    <message>
+        <source>1 sheet</source>
+        <translation>1 Blatt</translation>
+    </message>
+    <message>
+        <source>%1 sheets</source>
+        <translation>%1 Blatt</translation>
+    </message>
+</context>
+<context>
     <name>orvek::JobWarnings</name>
     <message>
         <source>%1 with copies that are not collated: equal pages would be stapled together</source>
@@ -819,17 +831,6 @@
     <message>
         <source>&quot;%1&quot; of this printer takes %2</source>
         <translation>„%1“ nimmt bei diesem Drucker %2</translation>
-    </message>
-</context>
-<context>
-    <name>orvek::PreviewState</name>
-    <message>
-        <source>empty</source>
-        <translation>leer</translation>
-    </message>
-    <message>
-        <source>Sheet %1: front %2 and %3, back %4 and %5</source>
-        <translation>Blatt %1: vorn %2 und %3, hinten %4 und %5</translation>
     </message>
 </context>
 <context>
@@ -1110,12 +1111,71 @@
 <context>
     <name>orvek::SheetsView</name>
     <message>
-        <source>Sheet %1, front</source>
-        <translation>Blatt %1, vorn</translation>
+        <source>%1, back</source>
+        <translation>%1, hinten</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SpokenSide</name>
+    <message>
+        <source>page %1</source>
+        <translation>Seite %1</translation>
     </message>
     <message>
-        <source>Sheet %1, back</source>
-        <translation>Blatt %1, hinten</translation>
+        <source>page %1 left</source>
+        <translation>Seite %1 links</translation>
+    </message>
+    <message>
+        <source>page %1 right</source>
+        <translation>Seite %1 rechts</translation>
+    </message>
+    <message>
+        <source>blank</source>
+        <translation>leer</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2</source>
+        <translation>Blatt %1 von %2</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2, front</source>
+        <translation>Blatt %1 von %2, vorn</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2, back</source>
+        <translation>Blatt %1 von %2, hinten</translation>
+    </message>
+    <message>
+        <source>1 staple</source>
+        <translation>1 Klammer</translation>
+    </message>
+    <message>
+        <source>%1 staples</source>
+        <translation>%1 Klammern</translation>
+    </message>
+    <message>
+        <source>%1 holes</source>
+        <translation>%1 Löcher</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Sheet %1, front: %2</source>
+        <translation>Blatt %1, vorn: %2</translation>
+    </message>
+    <message>
+        <source>Sheet %1, back: %2</source>
+        <translation>Blatt %1, hinten: %2</translation>
+    </message>
+    <message>
+        <source>saddle fold</source>
+        <translation>Sattelfalz</translation>
+    </message>
+    <message>
+        <source>single fold</source>
+        <translation>Einfachfalz</translation>
     </message>
 </context>
 <context>

@@ -21,45 +21,6 @@
     </message>
 </context>
 <context>
-    <name>orvek::BookletPreview</name>
-    <message>
-        <source>1 sheet</source>
-        <translation>1 feuille</translation>
-    </message>
-    <message>
-        <source>%1 sheets</source>
-        <translation>%1 feuilles</translation>
-    </message>
-    <message>
-        <source>Booklet preview</source>
-        <translation>Aperçu du livret</translation>
-    </message>
-    <message>
-        <source>Booklet printing is off: pages are printed one after the other.</source>
-        <translation>L’impression en livret est désactivée : les pages s’impriment l’une après l’autre.</translation>
-    </message>
-    <message>
-        <source>No page of the document is printed.</source>
-        <translation>Aucune page du document n’est imprimée.</translation>
-    </message>
-    <message>
-        <source>The document&apos;s page count is not known; a sample of %1 pages is shown</source>
-        <translation>Nombre de pages inconnu ; exemple de %1 pages</translation>
-    </message>
-    <message>
-        <source>%1 pages on %2</source>
-        <translation>%1 pages sur %2</translation>
-    </message>
-    <message>
-        <source>read from right to left</source>
-        <translation>lecture de droite à gauche</translation>
-    </message>
-    <message>
-        <source>creep shown %1 times as large</source>
-        <translation>compensation montrée %1 fois plus grande</translation>
-    </message>
-</context>
-<context>
     <name>orvek::CopiesRow</name>
     <message>
         <source>Copies</source>
@@ -583,6 +544,57 @@
     </message>
 </context>
 <context>
+    <name>orvek::JobPreview</name>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>Previous side</source>
+        <translation>Face précédente</translation>
+    </message>
+    <message>
+        <source>Next side</source>
+        <translation>Face suivante</translation>
+    </message>
+    <message>
+        <source>Several sheets at once (Ctrl and wheel: zoom)</source>
+        <translation>Plusieurs feuilles à la fois (Ctrl et molette : zoom)</translation>
+    </message>
+    <message>
+        <source>Several sheets at once</source>
+        <translation>Plusieurs feuilles à la fois</translation>
+    </message>
+    <message>
+        <source>No page of the document is printed.</source>
+        <translation>Aucune page du document n’est imprimée.</translation>
+    </message>
+    <message>
+        <source>Reading the document…</source>
+        <translation>Lecture du document…</translation>
+    </message>
+    <message>
+        <source>The document&apos;s pages are not known: a sample</source>
+        <translation>Pages du document inconnues : un exemple</translation>
+    </message>
+    <message>
+        <source>%1 × 1 sheet</source>
+        <translation>%1 × 1 feuille</translation>
+    </message>
+    <message>
+        <source>%1 × %2 sheets</source>
+        <translation>%1 × %2 feuilles</translation>
+    </message>
+    <message>
+        <source>1 sheet</source>
+        <translation>1 feuille</translation>
+    </message>
+    <message>
+        <source>%1 sheets</source>
+        <translation>%1 feuilles</translation>
+    </message>
+</context>
+<context>
     <name>orvek::JobWarnings</name>
     <message>
         <source>%1 with copies that are not collated: equal pages would be stapled together</source>
@@ -819,17 +831,6 @@
     <message>
         <source>&quot;%1&quot; of this printer takes %2</source>
         <translation>« %1 » de cette imprimante accepte %2</translation>
-    </message>
-</context>
-<context>
-    <name>orvek::PreviewState</name>
-    <message>
-        <source>empty</source>
-        <translation>vide</translation>
-    </message>
-    <message>
-        <source>Sheet %1: front %2 and %3, back %4 and %5</source>
-        <translation>Feuille %1 : recto %2 et %3, verso %4 et %5</translation>
     </message>
 </context>
 <context>
@@ -1110,12 +1111,71 @@
 <context>
     <name>orvek::SheetsView</name>
     <message>
-        <source>Sheet %1, front</source>
-        <translation>Feuille %1, recto</translation>
+        <source>%1, back</source>
+        <translation>%1, verso</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SpokenSide</name>
+    <message>
+        <source>page %1</source>
+        <translation>page %1</translation>
     </message>
     <message>
-        <source>Sheet %1, back</source>
-        <translation>Feuille %1, verso</translation>
+        <source>page %1 left</source>
+        <translation>page %1 à gauche</translation>
+    </message>
+    <message>
+        <source>page %1 right</source>
+        <translation>page %1 à droite</translation>
+    </message>
+    <message>
+        <source>blank</source>
+        <translation>vierge</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2</source>
+        <translation>Feuille %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2, front</source>
+        <translation>Feuille %1 sur %2, recto</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2, back</source>
+        <translation>Feuille %1 sur %2, verso</translation>
+    </message>
+    <message>
+        <source>1 staple</source>
+        <translation>1 agrafe</translation>
+    </message>
+    <message>
+        <source>%1 staples</source>
+        <translation>%1 agrafes</translation>
+    </message>
+    <message>
+        <source>%1 holes</source>
+        <translation>%1 trous</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Sheet %1, front: %2</source>
+        <translation>Feuille %1, recto : %2</translation>
+    </message>
+    <message>
+        <source>Sheet %1, back: %2</source>
+        <translation>Feuille %1, verso : %2</translation>
+    </message>
+    <message>
+        <source>saddle fold</source>
+        <translation>pli à cheval</translation>
+    </message>
+    <message>
+        <source>single fold</source>
+        <translation>pli simple</translation>
     </message>
 </context>
 <context>

@@ -21,45 +21,6 @@
     </message>
 </context>
 <context>
-    <name>orvek::BookletPreview</name>
-    <message>
-        <source>1 sheet</source>
-        <translation>1 枚</translation>
-    </message>
-    <message>
-        <source>%1 sheets</source>
-        <translation>%1 枚</translation>
-    </message>
-    <message>
-        <source>Booklet preview</source>
-        <translation>小冊子のプレビュー</translation>
-    </message>
-    <message>
-        <source>Booklet printing is off: pages are printed one after the other.</source>
-        <translation>小冊子印刷はオフです。ページは順に印刷されます。</translation>
-    </message>
-    <message>
-        <source>No page of the document is printed.</source>
-        <translation>印刷されるページがありません。</translation>
-    </message>
-    <message>
-        <source>The document&apos;s page count is not known; a sample of %1 pages is shown</source>
-        <translation>文書のページ数が不明なため、%1 ページの例を示します</translation>
-    </message>
-    <message>
-        <source>%1 pages on %2</source>
-        <translation>%1 ページ、%2</translation>
-    </message>
-    <message>
-        <source>read from right to left</source>
-        <translation>右から左に読む</translation>
-    </message>
-    <message>
-        <source>creep shown %1 times as large</source>
-        <translation>クリープ補正は %1 倍で表示</translation>
-    </message>
-</context>
-<context>
     <name>orvek::CopiesRow</name>
     <message>
         <source>Copies</source>
@@ -583,6 +544,57 @@
     </message>
 </context>
 <context>
+    <name>orvek::JobPreview</name>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>Previous side</source>
+        <translation>前の面</translation>
+    </message>
+    <message>
+        <source>Next side</source>
+        <translation>次の面</translation>
+    </message>
+    <message>
+        <source>Several sheets at once (Ctrl and wheel: zoom)</source>
+        <translation>複数の用紙を同時に表示 (Ctrl＋ホイールで拡大・縮小)</translation>
+    </message>
+    <message>
+        <source>Several sheets at once</source>
+        <translation>複数の用紙を同時に表示</translation>
+    </message>
+    <message>
+        <source>No page of the document is printed.</source>
+        <translation>印刷されるページがありません。</translation>
+    </message>
+    <message>
+        <source>Reading the document…</source>
+        <translation>文書を読み込んでいます…</translation>
+    </message>
+    <message>
+        <source>The document&apos;s pages are not known: a sample</source>
+        <translation>文書のページが不明なため見本を表示</translation>
+    </message>
+    <message>
+        <source>%1 × 1 sheet</source>
+        <translation>%1 × 1 枚</translation>
+    </message>
+    <message>
+        <source>%1 × %2 sheets</source>
+        <translation>%1 × %2 枚</translation>
+    </message>
+    <message>
+        <source>1 sheet</source>
+        <translation>1 枚</translation>
+    </message>
+    <message>
+        <source>%1 sheets</source>
+        <translation>%1 枚</translation>
+    </message>
+</context>
+<context>
     <name>orvek::JobWarnings</name>
     <message>
         <source>%1 with copies that are not collated: equal pages would be stapled together</source>
@@ -819,17 +831,6 @@
     <message>
         <source>&quot;%1&quot; of this printer takes %2</source>
         <translation>このプリンターの「%1」に使える値は %2</translation>
-    </message>
-</context>
-<context>
-    <name>orvek::PreviewState</name>
-    <message>
-        <source>empty</source>
-        <translation>空白</translation>
-    </message>
-    <message>
-        <source>Sheet %1: front %2 and %3, back %4 and %5</source>
-        <translation>%1 枚目: 表 %2 と %3、裏 %4 と %5</translation>
     </message>
 </context>
 <context>
@@ -1110,12 +1111,71 @@
 <context>
     <name>orvek::SheetsView</name>
     <message>
-        <source>Sheet %1, front</source>
-        <translation>%1 枚目 表</translation>
+        <source>%1, back</source>
+        <translation>%1 裏</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SpokenSide</name>
+    <message>
+        <source>page %1</source>
+        <translation>%1 ページ</translation>
     </message>
     <message>
-        <source>Sheet %1, back</source>
-        <translation>%1 枚目 裏</translation>
+        <source>page %1 left</source>
+        <translation>左に %1 ページ</translation>
+    </message>
+    <message>
+        <source>page %1 right</source>
+        <translation>右に %1 ページ</translation>
+    </message>
+    <message>
+        <source>blank</source>
+        <translation>白紙</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2</source>
+        <translation>用紙 %1 / %2</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2, front</source>
+        <translation>用紙 %1 / %2、表</translation>
+    </message>
+    <message>
+        <source>Sheet %1 of %2, back</source>
+        <translation>用紙 %1 / %2、裏</translation>
+    </message>
+    <message>
+        <source>1 staple</source>
+        <translation>ホチキス 1 か所</translation>
+    </message>
+    <message>
+        <source>%1 staples</source>
+        <translation>ホチキス %1 か所</translation>
+    </message>
+    <message>
+        <source>%1 holes</source>
+        <translation>パンチ穴 %1 個</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>Sheet %1, front: %2</source>
+        <translation>用紙 %1、表: %2</translation>
+    </message>
+    <message>
+        <source>Sheet %1, back: %2</source>
+        <translation>用紙 %1、裏: %2</translation>
+    </message>
+    <message>
+        <source>saddle fold</source>
+        <translation>中とじ折り</translation>
+    </message>
+    <message>
+        <source>single fold</source>
+        <translation>二つ折り</translation>
     </message>
 </context>
 <context>

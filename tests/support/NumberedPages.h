@@ -13,10 +13,14 @@ namespace orvek::test {
 
 /// A page to make. Points, y upwards as PDF has it.
 struct NumberedPage {
-  QSizeF size;   ///< of its media box
-  int turn = 0;  ///< its /Rotate
-  QRectF trim;   ///< its trim box; empty: none
-  QRectF crop;   ///< its crop box; empty: none
+  /// Of its media box.
+  QSizeF size;
+  /// Its /Rotate.
+  int turn = 0;
+  /// Its trim box; empty: none.
+  QRectF trim;
+  /// Its crop box; empty: none.
+  QRectF crop;
 };
 
 /// At most 40 pages.
@@ -25,13 +29,16 @@ QByteArray numberedPdf(const QList<NumberedPage> &pages);
 /// A page as it was found. Points, y downwards from the top left corner; one point is one pixel.
 struct FoundPage {
   int page = 0;
-  QRectF frame;             ///< the visible part
-  std::optional<int> turn;  ///< clockwise; nothing where the page's top is out of sight
+  /// The visible part.
+  QRectF frame;
+  /// Clockwise; nothing where the page's top is out of sight.
+  std::optional<int> turn;
 };
 
 struct FoundSide {
   QSizeF size;
-  QList<FoundPage> pages;  ///< by number
+  /// By number.
+  QList<FoundPage> pages;
 };
 
 /// Rasterises a PDF with pdftoppm and looks for numbered pages.

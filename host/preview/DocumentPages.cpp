@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: Apache-2.0
+// PDFs are asked about with pdfinfo; everything else goes through the filter tool first.
+
+#include "host/preview/DocumentPages.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QRegularExpression>
+
+#include "host/jobs/FilterChain.h"
+#include "host/jobs/OptionText.h"
+#include "host/preview/BoundedTool.h"
+
+namespace orvek {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr qint64 headerBytes = 1024;  // readers look for "%PDF-" this far
+constexpr ToolLimits reportLimits{20s, 512 << 20, 2LL << 30};
+constexpr ToolLimits conversionLimits{60s, 1LL << 30, 0};
+
+const QString pdfType = QStringLiteral("application/pdf");
+const QString placedType = QStringLiteral("application/vnd.cups-pdf");
+
+Failure unreadable(const QString &path, const char *why) {
+  return {FailureKind::Io, path, Phrase(why)};
+}
+
+Result<DocumentPages> readPdf(const QString &pdf, const std::atomic<bool> &cancelled) {
+  const Result<QByteArray> report =
+      runTool(QStringLiteral("pdfinfo"),
+              {QStringLiteral("-box"), QStringLiteral("-f"), QStringLiteral("1"),
+               QStringLiteral("-l"), QStringLiteral("-1"), pdf},
+              reportLimits, cancelled);
+  if (!report) return report.failure();
+  DocumentPages pages;
+  pages.pages = pagesInReport(report.value());
+  pages.pdf = pdf;
+  if (pages.pages.isEmpty()) return unreadable(pdf, "can't be read as a PDF");
+  return pages;
+}
+
+bool isPostScript(const QString &path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return false;
+  const QByteArray start = file.read(headerBytes);
+  return start.startsWith("%!") || start.startsWith("\x04%!");
+}
+
+QStringList conversionArguments(const QString &path, const PrintedWith &with, const QString &type) {
+  QStringList arguments{QStringLiteral("-m"), type};
+  if (!with.ppdFile.isEmpty())
+    arguments << QStringLiteral("-p") << QFileInfo(with.ppdFile).absoluteFilePath();
+  const auto options = optionsForPages(with.options);
+  for (auto option = options.begin(); option != options.end(); ++option)
+    arguments << QStringLiteral("-o") << filterToolOptionText(option.key(), option.value());
+  return arguments << path;
+}
+
+Result<DocumentPages> convert(const QString &path, const PrintedWith &with,
+                              const std::atomic<bool> &cancelled) {
+  const QString tool = findFilterTool(qEnvironmentVariable("PATH"));
+  if (tool.isNull()) return unreadable(path, "there are no filters to show it with");
+  const bool isPicture = !QImageReader::imageFormat(path).isEmpty();
+  const QStringList arguments = conversionArguments(path, with, isPicture ? placedType : pdfType);
+  const Result<QByteArray> pdf = runTool(tool, arguments, conversionLimits, cancelled);
+  if (!pdf) return pdf.failure();
+  auto made =
+      std::make_shared<QTemporaryFile>(QDir::tempPath() + QStringLiteral("/orvek-XXXXXX.pdf"));
+  if (!made->open() || made->write(pdf.value()) != pdf.value().size() || !made->flush())
+    return unreadable(path, "can't be kept as a PDF");
+  Result<DocumentPages> pages = readPdf(made->fileName(), cancelled);
+  if (!pages) return unreadable(path, "the filters make no pages of it");
+  pages.value().made = made;
+  pages.value().isPlaced = isPicture;
+  pages.value().isScript = isPostScript(path);
+  return pages;
+}
+
+}  // namespace
+
+bool isPdfFile(const QString &path) {
+  QFile file(path);
+  return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) &&
+         file.read(headerBytes).contains("%PDF-");
+}
+
+// What places finished pages on sheets, and what finishes the sheets, changes no page.
+QMap<QString, QString> optionsForPages(const QMap<QString, QString> &options) {
+  static const QRegularExpression later(
+      QStringLiteral("^(OVK.*|com\\..*|copies|collate|page-ranges|page-set|outputorder|number-up"
+                     "|number-up-layout|sides|duplex|outputbin|output-bin|finishings.*|job-.*"
+                     "|staplelocation|punchmedia|foldtype|booklet)$"),
+      QRegularExpression::CaseInsensitiveOption);
+  QMap<QString, QString> kept = options;
+  for (auto option = options.begin(); option != options.end(); ++option)
+    if (later.match(option.key()).hasMatch()) kept.remove(option.key());
+  return kept;
+}
+
+Result<DocumentPages> readDocumentPages(const QString &path, const PrintedWith &with,
+                                        const std::atomic<bool> &cancelled) {
+  if (path == QLatin1String("-") || !QFileInfo(path).isFile())
+    return unreadable(path, "is no file whose pages could be looked at");
+  // An absolute path can't be taken for an option, whatever the document is called.
+  const QString absolute = QFileInfo(path).absoluteFilePath();
+  return isPdfFile(absolute) ? readPdf(absolute, cancelled) : convert(absolute, with, cancelled);
+}
+
+}  // namespace orvek

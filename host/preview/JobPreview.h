@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: Apache-2.0
+// What comes out of the printer: the sheets of the job, with the document's own pages on them.
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+
+#include "host/preview/JobLayout.h"
+#include "host/preview/PagePictures.h"
+#include "host/session/PrintSession.h"
+
+class QLabel;
+class QToolButton;
+
+namespace orvek {
+
+class SheetsView;
+
+class JobPreview final : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// `document` is a file's path. Empty, or nothing that pages could be read of: a sample stands
+  /// for it. Borrows the session, which must outlive the preview.
+  JobPreview(PrintSession &session, const QString &document, QWidget *parent = nullptr);
+  ~JobPreview() override;
+
+  /// Whether all that can be seen is there. Reading begins with the first show.
+  bool isComplete() const;
+
+  const std::vector<imposition::PrintedSide> &sides() const;
+
+ protected:
+  void showEvent(QShowEvent *event) override;
+
+ private:
+  void build();
+  QWidget *buildBar();
+  void followSession();
+  void read();
+  void takeDocument(int generation, const Result<DocumentPages> &document);
+  void layOut();
+  void takeSides(int generation, std::vector<imposition::PrintedSide> sides);
+  void showSide();
+  void showCaption();
+  QString caption() const;
+  bool isTwoSided() const;
+
+  PrintSession &m_session;
+  QString m_path;
+  imposition::SheetJob m_job;
+  PrintedWith m_with;
+  DocumentPages m_document;
+  bool m_isRead = false;  // pages are known, or known to be none
+  bool m_isSample = true;
+  bool m_isLaidOut = true;
+  int m_reading = 0;  // counts what was begun; only the last counts
+  int m_layingOut = 0;
+  std::shared_ptr<std::atomic<bool>> m_cancelled;  // the reading under way
+  PagePictures *m_pictures;
+  SheetsView *m_view;
+  QLabel *m_caption;
+  QLabel *m_place;
+  QToolButton *m_back;
+  QToolButton *m_forward;
+  QToolButton *m_several;
+  QThreadPool m_pool;  // goes first: it works for all of the above
+};
+
+}  // namespace orvek

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: Apache-2.0
+// Lengths are rounded to hundredths: what lies behind them is no exacter.
+
+#include "host/preview/PreviewInspection.h"
+
+#include <QJsonArray>
+#include <cmath>
+
+#include "host/preview/JobLayout.h"
+#include "host/session/PrintSession.h"
+
+namespace orvek {
+namespace {
+
+using namespace imposition;
+
+double rounded(double length) {
+  constexpr double hundredths = 100;
+  const double result = std::round(length * hundredths) / hundredths;
+  return result == 0 ? 0 : result;  // never "-0"
+}
+
+QJsonArray frameOf(const Frame &frame) {
+  return {rounded(frame.x), rounded(frame.y), rounded(frame.width), rounded(frame.height)};
+}
+
+QJsonArray pagesOf(const PrintedSide &side) {
+  QJsonArray pages;
+  for (const PlacedPage &page : side.pages) {
+    pages.append(QJsonObject{{QStringLiteral("page"), page.page},
+                             {QStringLiteral("frame"), frameOf(page.frame)},
+                             {QStringLiteral("turn"), page.turn}});
+  }
+  return pages;
+}
+
+QJsonArray marksOf(const PrintedSide &side) {
+  QJsonArray marks;
+  for (const Mark &mark : side.marks) {
+    const bool isHole = mark.kind == MarkKind::Hole;
+    marks.append(QJsonObject{{QStringLiteral("kind"), isHole ? "hole" : "staple"},
+                             {QStringLiteral("frame"), frameOf(mark.frame)}});
+  }
+  return marks;
+}
+
+QJsonObject sideOf(const PrintedSide &side, int sheet, const std::string &fold) {
+  return {{QStringLiteral("sheet"), sheet},
+          {QStringLiteral("side"), side.face == Face::Front ? "front" : "back"},
+          {QStringLiteral("size"), QJsonArray{rounded(side.size.width), rounded(side.size.height)}},
+          {QStringLiteral("fold"), fold.empty() ? QJsonValue() : QString::fromStdString(fold)},
+          {QStringLiteral("pages"), pagesOf(side)},
+          {QStringLiteral("marks"), marksOf(side)}};
+}
+
+}  // namespace
+
+QJsonObject inspectPreview(PrintSession &session, const QStringList &documents) {
+  const SheetJob job = sheetJobOf(session);
+  const PrintedWith with = printedWith(session);
+  const std::atomic<bool> cancelled = false;
+  QJsonArray sides;
+  int sheets = 0;
+  for (const QString &document : documents) {
+    const Result<DocumentPages> pages = readDocumentPages(document, with, cancelled);
+    if (!pages) continue;
+    const std::vector<PrintedSide> printed = sidesOf(pages.value(), job);
+    for (const PrintedSide &side : printed)
+      sides.append(sideOf(side, sheets + side.sheet, job.finishing.fold));
+    sheets += sheetCount(printed);
+  }
+  return {{QStringLiteral("sheets"), sheets},
+          {QStringLiteral("copies"), session.job().settings().copies},
+          {QStringLiteral("sides"), sides}};
+}
+
+}  // namespace orvek
