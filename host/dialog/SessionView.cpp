@@ -22,7 +22,7 @@ namespace orvek {
 namespace {
 
 constexpr int gap = 12;
-constexpr int previewHeight = 236;
+constexpr int previewHeight = 272;
 constexpr int previewShare = 3;
 constexpr int summaryShare = 1;
 

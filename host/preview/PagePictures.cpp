@@ -104,7 +104,8 @@ QImage PagePictures::picture(int page) const {
 }
 
 bool PagePictures::isNeeded(const PageWish &wish) const {
-  if (m_hopeless.contains(wish.page) || wish.pixels.isEmpty()) return false;
+  const bool isThere = !m_document.pdf.isEmpty() && !m_hopeless.contains(wish.page);
+  if (!isThere || wish.pixels.isEmpty()) return false;
   return !m_pictures.contains(wish.page) || m_sizes.value(wish.page) != wish.pixels;
 }
 

@@ -23,6 +23,7 @@
 #include "host/dialog/PrinterChooser.h"
 #include "host/panels/PluginLoader.h"
 #include "host/ppd/Wording.h"
+#include "host/preview/JobPreview.h"
 #include "host/session/QueueSetup.h"
 #include "host/translations/Translations.h"
 #include "tests/support/PrivateCups.h"
@@ -171,6 +172,7 @@ class Shot {
 
   /// What stands in front of the window is painted where it stands.
   void saveWithPopUps(const QString &file) {
+    waitForPages();
     QPixmap picture = m_dialog->grab();
     QPainter painter(&picture);
     QWidgetList inFront = QApplication::topLevelWidgets();
@@ -187,12 +189,19 @@ class Shot {
   }
 
   void save(const QString &file) {
+    waitForPages();
     if (!m_dialog->grab().save(file, "PNG", smallest)) {
       std::fprintf(stderr, "%s\n", qPrintable(file));
     }
   }
 
  private:
+  void waitForPages() {
+    const auto *preview = m_dialog->findChild<JobPreview *>();
+    static_cast<void>(QTest::qWaitFor([&] { return preview->isComplete(); }));
+    QTest::qWait(settleTime);
+  }
+
   static Result<SessionSetup> ask(const QString &server, const QString &queue,
                                   const std::atomic<bool> &cancelled) {
     ServerAccess access;
