@@ -23,8 +23,9 @@ void logTrace(const PDEObject *object, const char *tag, const char *format,
 
 QString Format(const PDEObject *object, const char *tag, const char *format) {
   QString line = QString::fromUtf8(tag) + QLatin1Char(' ');
-  if (object != nullptr)
+  if (object != nullptr) {
     line += QLatin1String("self(") + object->description() + QLatin1String(") ");
+  }
   return line + QString::fromUtf8(format);
 }
 

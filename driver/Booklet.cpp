@@ -47,9 +47,10 @@ Result<File> pagesOfPostScript(const FilterCall &call) {
   const auto made = runStandardFilters({"gstopdf", "pdftopdf"}, call, STDIN_FILENO,
                                        ::fileno(pages.value().get()));
   if (!made) return made.failure();
-  if (made.value() != 0)
+  if (made.value() != 0) {
     return Failure{FailureKind::Io, QStringLiteral("the document"),
                    QStringLiteral("its PostScript can't be made into pages")};
+  }
   ::lseek(::fileno(pages.value().get()), 0, SEEK_SET);
   return pages;
 }
@@ -98,8 +99,9 @@ void prepareForSheets(JobOptions *options, const std::string &pageSize) {
 Result<int> writeSheets(const BookletJob &job, JobOptions *options) {
   const auto sheets = sheetsOf(job, options);
   if (!sheets) return sheets.failure();
-  if (const Status copied = copyOut(sheets.value().get(), STDOUT_FILENO); !copied)
+  if (const Status copied = copyOut(sheets.value().get(), STDOUT_FILENO); !copied) {
     return copied.failure();
+  }
   return 0;
 }
 

@@ -68,10 +68,11 @@ std::vector<std::string> FilterCall::arguments() const {
 }
 
 Result<FilterCall> readFilterCall(std::span<char *const> arguments) {
-  if (arguments.size() < fewestArguments || arguments.size() > mostArguments)
+  if (arguments.size() < fewestArguments || arguments.size() > mostArguments) {
     return Failure{
         FailureKind::Usage, QStringLiteral("arguments"),
         QStringLiteral("a CUPS filter is called with JOB USER TITLE COPIES OPTIONS [FILE]")};
+  }
   return FilterCall{arguments[0],
                     arguments[1],
                     arguments[2],

@@ -37,10 +37,11 @@ QString oneLine(const std::string &text) {
 }
 
 Failure failureOf(const QPDFExc &error) {
-  if (error.getErrorCode() == qpdf_e_password)
+  if (error.getErrorCode() == qpdf_e_password) {
     return failure(
         QStringLiteral("it is encrypted with a password; print it from a program that "
                        "opens it with that password"));
+  }
   return failure(QStringLiteral("it is damaged beyond repair: ") +
                  oneLine(error.getMessageDetail()));
 }

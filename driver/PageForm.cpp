@@ -64,8 +64,9 @@ QPDFObjectHandle dictionaryOr(QPDFObjectHandle object, const QPDFObjectHandle &o
 
 void describeForm(QPDFObjectHandle dictionary, QPDFPageObjectHelper page, const Rectangle &box) {
   // A stream that served as contents may have had other uses, too.
-  for (const char *key : {"/Matrix", "/OC", "/Ref", "/OPI", "/StructParent", "/StructParents"})
+  for (const char *key : {"/Matrix", "/OC", "/Ref", "/OPI", "/StructParent", "/StructParents"}) {
     dictionary.removeKey(key);
+  }
   dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/XObject"));
   dictionary.replaceKey("/Subtype", QPDFObjectHandle::newName("/Form"));
   dictionary.replaceKey("/BBox", QPDFObjectHandle::newArray(box));

@@ -37,8 +37,9 @@ Status checkTree(QPDFObjectHandle root) {
     }
     QPDFObjectHandle kid = branch.kids.getArrayItem(branch.next++);
     if (!isBranch(kid)) continue;
-    if (kid.isIndirect() && !seen.insert(kid.getObjGen()).second)
+    if (kid.isIndirect() && !seen.insert(kid.getObjGen()).second) {
       return malformed("its page tree runs in circles");
+    }
     if (path.size() >= deepestTree) return malformed("its page tree is nested too deeply");
     path.push_back({kid.getKey("/Kids")});
   }
@@ -48,8 +49,9 @@ Status checkTree(QPDFObjectHandle root) {
 }  // namespace
 
 Result<std::vector<QPDFPageObjectHelper>> pagesOf(QPDF &document) {
-  if (Status checked = checkTree(document.getRoot().getKey("/Pages")); !checked)
+  if (Status checked = checkTree(document.getRoot().getKey("/Pages")); !checked) {
     return checked.failure();
+  }
   auto pages = QPDFPageDocumentHelper(document).getAllPages();
   if (pages.empty()) return malformed("it has no pages");
   return pages;

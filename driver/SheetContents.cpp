@@ -57,8 +57,9 @@ std::string nameOf(const PlacedPage &placed) {
 
 std::string draw(const PlacedPage &placed, const PageForm &page, Size side) {
   std::string text = "q " + clip(placed.clip, side);
-  if (page.hasContents())
+  if (page.hasContents()) {
     text += "q " + placeOf(placed, page, side).unparse() + " cm " + nameOf(placed) + " Do Q\n";
+  }
   if (placed.border) text += border(placed.frame, side);
   return text + "Q\n";
 }

@@ -45,8 +45,9 @@ void connect(int descriptor, int place) {
   connect(output, STDOUT_FILENO);
   const std::vector<std::string> arguments = call.arguments();
   std::vector<char *> texts{const_cast<char *>(call.printer.c_str())};
-  for (const std::string &argument : arguments)
+  for (const std::string &argument : arguments) {
     texts.push_back(const_cast<char *>(argument.c_str()));
+  }
   texts.push_back(nullptr);
   ::execv(path.c_str(), texts.data());
   ::_exit(noProgram);
@@ -55,8 +56,9 @@ void connect(int descriptor, int place) {
 Result<RunningFilter> start(const std::string &name, const FilterCall &call, int input,
                             int output) {
   const std::string path = standardFilterPath(name);
-  if (path.empty())
+  if (path.empty()) {
     return failure(name, "this filter is not installed; install the package \"cups-filters\"");
+  }
   const pid_t process = ::fork();
   if (process < 0) return failure(name, std::strerror(errno));
   if (process == 0) become(path, call, input, output);
@@ -91,8 +93,9 @@ int statusOf(pid_t process) {
 Result<int> outcome(const RunningFilter &filter) {
   const int status = statusOf(filter.process);
   if (isCancelled()) return 1;
-  if (WIFSIGNALED(status))
+  if (WIFSIGNALED(status)) {
     return failure(filter.name, "crashed on signal " + std::to_string(WTERMSIG(status)));
+  }
   const int exitStatus = WEXITSTATUS(status);
   if (exitStatus == noProgram) return failure(filter.name, "could not be started");
   return exitStatus;
@@ -123,8 +126,9 @@ Status startAll(const std::vector<std::string> &names, FilterCall call, int inpu
   for (std::size_t i = 0; i < names.size(); ++i) {
     std::array<int, 2> pipe{-1, -1};
     const bool isLast = i + 1 == names.size();
-    if (!isLast && ::pipe2(pipe.data(), O_CLOEXEC) != 0)
+    if (!isLast && ::pipe2(pipe.data(), O_CLOEXEC) != 0) {
       return failure(names[i], std::strerror(errno));
+    }
     const Descriptor downstream(pipe[1]);
     auto filter =
         start(names[i], call, i == 0 ? input : upstream.get(), isLast ? output : downstream.get());

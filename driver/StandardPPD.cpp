@@ -16,8 +16,9 @@ constexpr const char *ppdVariable = "PPD";
 std::string contentsOf(std::FILE *file) {
   std::string all;
   std::array<char, 1 << 16> bytes{};
-  while (const std::size_t size = std::fread(bytes.data(), 1, bytes.size(), file))
+  while (const std::size_t size = std::fread(bytes.data(), 1, bytes.size(), file)) {
     all.append(bytes.data(), size);
+  }
   return all;
 }
 

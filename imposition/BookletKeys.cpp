@@ -15,8 +15,9 @@ bool isSpace(char c) {
 }
 
 std::string lowerCase(std::string text) {
-  for (char &c : text)
+  for (char &c : text) {
     if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  }
   return text;
 }
 
@@ -49,8 +50,9 @@ int leadingInteger(const std::string &text) {
   if (c != text.end() && (*c == '-' || *c == '+')) ++c;
   constexpr std::int64_t beyond = std::int64_t{std::numeric_limits<std::int32_t>::max()} + 1;
   std::int64_t value = 0;
-  for (; c != text.end() && *c >= '0' && *c <= '9'; ++c)
+  for (; c != text.end() && *c >= '0' && *c <= '9'; ++c) {
     value = std::min(value * 10 + (*c - '0'), beyond);
+  }
   return static_cast<int>(negative ? -value : std::min(value, beyond - 1));
 }
 

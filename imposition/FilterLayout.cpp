@@ -221,9 +221,10 @@ std::vector<FilteredSide> layOutAsFiltered(std::span<const Size> pages, const Fi
     FilteredSide side;
     const std::size_t count = std::min(cells, pages.size() - first);
     side.pages.reserve(count);
-    for (std::size_t i = 0; i < count; ++i)
+    for (std::size_t i = 0; i < count; ++i) {
       side.pages.push_back(placed(static_cast<int>(first + i) + 1, pages[first + i],
                                   order.cell(static_cast<int>(i)), medium));
+    }
     sides.push_back(std::move(side));
   }
   if (!sides.empty()) evenOut(sides, job.sides);

@@ -116,8 +116,9 @@ const std::vector<FoldWord> &foldWords() {
 
 std::vector<double> creasesOf(std::string fold) {
   for (char &c : fold) c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-  for (const FoldWord &word : foldWords())
+  for (const FoldWord &word : foldWords()) {
     if (fold.find(word.part) != std::string::npos) return word.creases;
+  }
   return {0.5};
 }
 

@@ -60,8 +60,9 @@ bool has(std::string_view text, std::string_view part) {
 
 EdgeMarks standardRow(std::string_view word) {
   EdgeMarks row;
-  for (const CountWord &count : counts)
+  for (const CountWord &count : counts) {
     if (row.count == 0 && has(word, count.word)) row.count = count.count;
+  }
   if (row.count == 0) return row;
   for (const EdgeWord &edge : edges) {
     if (!word.ends_with(edge.word)) continue;
@@ -77,8 +78,9 @@ void readStaples(std::string_view word, Finishing *finishing) {
     return;
   }
   if (word == "SaddleStitch" || word == "saddle-stitch") finishing->stapledInFold = true;
-  for (const CornerWord &corner : corners)
+  for (const CornerWord &corner : corners) {
     if (corner.word == word) finishing->cornerStaple = corner.corner;
+  }
   if (!finishing->cornerStaple) finishing->staples = standardRow(word);
 }
 
@@ -120,13 +122,16 @@ Finishing readFinishing(const ValueOf &markedChoice) {
     return isNone(word) ? std::string() : word;
   };
   readKeywords(marked("finishings"), &finishing);
-  for (const char *option : {"StapleLocation", "OVKStapling"})
+  for (const char *option : {"StapleLocation", "OVKStapling"}) {
     if (const std::string word = marked(option); !word.empty()) readStaples(word, &finishing);
-  if (const std::string word = marked("PunchMedia"); !word.empty())
+  }
+  if (const std::string word = marked("PunchMedia"); !word.empty()) {
     finishing.holes = standardRow(word);
+  }
   readFamilyHoles(marked("OVKPunching"), &finishing);
-  for (const char *option : {"FoldType", "OVKFolding"})
+  for (const char *option : {"FoldType", "OVKFolding"}) {
     if (const std::string word = marked(option); !word.empty()) finishing.fold = word;
+  }
   // A saddle fold is stitched, and so is what the standard's printers call a booklet.
   if (finishing.fold == "Saddle" || !marked("Booklet").empty()) finishing.stapledInFold = true;
   return finishing;

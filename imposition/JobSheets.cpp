@@ -43,8 +43,9 @@ PlacedPage turnedPage(PlacedPage page, Size from, int turn) {
 
 // What lies at a place on the front lies behind it on the back.
 Frame seenFromBack(const Frame &frame, Size paper, bool turnsOverShortEdge) {
-  if (turnsOverShortEdge)
+  if (turnsOverShortEdge) {
     return {frame.x, paper.height - frame.bottom(), frame.width, frame.height};
+  }
   return {paper.width - frame.right(), frame.y, frame.width, frame.height};
 }
 
@@ -105,8 +106,9 @@ std::vector<FedSide> plainSides(std::span<const Size> pages, const SheetJob &job
   FilterJob filters = job.filters;
   filters.sides.twoSided = job.twoSided;
   std::vector<FedSide> sides;
-  for (FilteredSide &side : layOutAsFiltered(pages, filters))
+  for (FilteredSide &side : layOutAsFiltered(pages, filters)) {
     sides.push_back({filters.paper, std::move(side.pages)});
+  }
   return sides;
 }
 
@@ -124,11 +126,13 @@ PrintedSide held(const FedSide &fed, const Hold &hold, const std::vector<Mark> &
   side.face = hold.face;
   side.size = turnedSize(fed.paper, hold.turn);
   side.pages.reserve(fed.pages.size());
-  for (const PlacedPage &page : fed.pages)
+  for (const PlacedPage &page : fed.pages) {
     side.pages.push_back(turnedPage(page, fed.paper, hold.turn));
+  }
   for (Mark mark : marks) {
-    if (hold.face == Face::Back)
+    if (hold.face == Face::Back) {
       mark.frame = seenFromBack(mark.frame, fed.paper, hold.turnsOverShortEdge);
+    }
     mark.frame = turnedFrame(mark.frame, fed.paper, hold.turn);
     side.marks.push_back(mark);
   }

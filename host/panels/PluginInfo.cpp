@@ -71,15 +71,17 @@ Result<QString> checkedExecutable(const QJsonObject &info, const Bundle &bundle,
 
 Result<PluginInfo> readPluginInfo(const QString &bundlePath) {
   const std::shared_ptr<Bundle> bundle = Bundle::atPath(bundlePath);
-  if (!bundle)
+  if (!bundle) {
     return invalid(bundlePath, Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
                                                         "no such plug-in bundle (a folder)")));
+  }
   const QString infoPath = QDir(bundlePath).filePath(QStringLiteral("Info.json"));
   if (!bundle->infoDictionary()) return invalid(infoPath, bundle->infoProblem());
   const QJsonObject &info = *bundle->infoDictionary();
 
-  if (const Status interface = checkInterface(info, infoPath); !interface)
+  if (const Status interface = checkInterface(info, infoPath); !interface) {
     return interface.failure();
+  }
   const QString principalClass = info.value(QLatin1String("PrincipalClass")).toString();
   if (!isIdentifier(principalClass)) {
     return invalid(infoPath,

@@ -52,11 +52,13 @@ bool isPostScript(const QString &path) {
 
 QStringList conversionArguments(const QString &path, const PrintedWith &with, const QString &type) {
   QStringList arguments{QStringLiteral("-m"), type};
-  if (!with.ppdFile.isEmpty())
+  if (!with.ppdFile.isEmpty()) {
     arguments << QStringLiteral("-p") << QFileInfo(with.ppdFile).absoluteFilePath();
+  }
   const auto options = optionsForPages(with.options);
-  for (auto option = options.begin(); option != options.end(); ++option)
+  for (auto option = options.begin(); option != options.end(); ++option) {
     arguments << QStringLiteral("-o") << filterToolOptionText(option.key(), option.value());
+  }
   return arguments << path;
 }
 
@@ -70,8 +72,9 @@ Result<DocumentPages> convert(const QString &path, const PrintedWith &with,
   if (!pdf) return pdf.failure();
   auto made =
       std::make_shared<QTemporaryFile>(QDir::tempPath() + QStringLiteral("/orvek-XXXXXX.pdf"));
-  if (!made->open() || made->write(pdf.value()) != pdf.value().size() || !made->flush())
+  if (!made->open() || made->write(pdf.value()) != pdf.value().size() || !made->flush()) {
     return unreadable(path, "can't be kept as a PDF");
+  }
   Result<DocumentPages> pages = readPdf(made->fileName(), cancelled);
   if (!pages) return unreadable(path, "the filters make no pages of it");
   pages.value().made = made;
@@ -96,15 +99,17 @@ QMap<QString, QString> optionsForPages(const QMap<QString, QString> &options) {
                      "|staplelocation|punchmedia|foldtype|booklet)$"),
       QRegularExpression::CaseInsensitiveOption);
   QMap<QString, QString> kept = options;
-  for (auto option = options.begin(); option != options.end(); ++option)
+  for (auto option = options.begin(); option != options.end(); ++option) {
     if (later.match(option.key()).hasMatch()) kept.remove(option.key());
+  }
   return kept;
 }
 
 Result<DocumentPages> readDocumentPages(const QString &path, const PrintedWith &with,
                                         const std::atomic<bool> &cancelled) {
-  if (path == QLatin1String("-") || !QFileInfo(path).isFile())
+  if (path == QLatin1String("-") || !QFileInfo(path).isFile()) {
     return unreadable(path, "is no file whose pages could be looked at");
+  }
   // An absolute path can't be taken for an option, whatever the document is called.
   const QString absolute = QFileInfo(path).absoluteFilePath();
   return isPdfFile(absolute) ? readPdf(absolute, cancelled) : convert(absolute, with, cancelled);

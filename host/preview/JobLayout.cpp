@@ -38,8 +38,9 @@ Size sizeOfMedia(const QString &media) {
   for (const QString &part : media.split(QLatin1Char(','))) {
     const pwg_media_t *known = pwgMediaForPWG(part.toUtf8().constData());
     if (known == nullptr) known = pwgMediaForLegacy(part.toUtf8().constData());
-    if (known != nullptr)
+    if (known != nullptr) {
       return {known->width / hundredthsPerPoint, known->length / hundredthsPerPoint};
+    }
   }
   return a4;
 }
@@ -81,8 +82,9 @@ Scaling scalingOf(const Options &options) {
   if (asked == QLatin1String("fit")) return Scaling::Fit;
   if (asked == QLatin1String("fill")) return Scaling::Fill;
   if (asked == QLatin1String("none")) return Scaling::None;
-  for (const char *name : {"fit-to-page", "fitplot", "ipp-attribute-fidelity"})
+  for (const char *name : {"fit-to-page", "fitplot", "ipp-attribute-fidelity"}) {
     if (isOn(options, name)) return Scaling::Fit;
+  }
   return isOn(options, "fill") ? Scaling::Fill : Scaling::Automatic;
 }
 
@@ -185,8 +187,9 @@ PrintedWith printedWith(PrintSession &session) {
 std::vector<PrintedSide> sidesOf(const DocumentPages &document, const SheetJob &job) {
   std::vector<Size> sizes;
   sizes.reserve(static_cast<std::size_t>(document.pages.size()));
-  for (const DocumentPage &page : document.pages)
+  for (const DocumentPage &page : document.pages) {
     sizes.push_back({page.size.width(), page.size.height()});
+  }
   SheetJob asked = job;
   if (document.isPlaced) {
     const FilterJob placed = asked.filters;
@@ -195,8 +198,9 @@ std::vector<PrintedSide> sidesOf(const DocumentPages &document, const SheetJob &
     asked.filters.scaling = Scaling::None;
   }
   // The filters of PostScript fit several pages into the printable area, and never scale one.
-  if (document.isScript && !job.booklet.enabled)
+  if (document.isScript && !job.booklet.enabled) {
     asked.filters.scaling = job.filters.pagesPerSide > 1 ? Scaling::Fit : Scaling::None;
+  }
   return printedSides(sizes, asked);
 }
 

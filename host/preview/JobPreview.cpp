@@ -32,8 +32,9 @@ QIcon severalIcon(const QPalette &palette) {
   picture.fill(Qt::transparent);
   QPainter painter(&picture);
   painter.setPen(QPen(palette.color(QPalette::ButtonText), 2));
-  for (const QPoint corner : {QPoint(6, 4), QPoint(18, 4), QPoint(6, 18), QPoint(18, 18)})
+  for (const QPoint corner : {QPoint(6, 4), QPoint(18, 4), QPoint(6, 18), QPoint(18, 18)}) {
     painter.drawRect(QRect(corner, QSize(8, 10)));
+  }
   return QIcon(picture);
 }
 

@@ -118,8 +118,9 @@ void PagePictures::want(const QList<PageWish> &wishes) {
     const Cancelled running = m_running.value(wish.page);
     if (!running || *running) m_wishes << wish;
   }
-  for (auto run = m_running.begin(); run != m_running.end(); ++run)
+  for (auto run = m_running.begin(); run != m_running.end(); ++run) {
     if (!pages.contains(run.key())) *run.value() = true;
+  }
   startNext();
 }
 

@@ -65,8 +65,9 @@ QJsonObject inspectPreview(PrintSession &session, const QStringList &documents) 
     const Result<DocumentPages> pages = readDocumentPages(document, with, cancelled);
     if (!pages) continue;
     const std::vector<PrintedSide> printed = sidesOf(pages.value(), job);
-    for (const PrintedSide &side : printed)
+    for (const PrintedSide &side : printed) {
       sides.append(sideOf(side, sheets + side.sheet, job.finishing.fold));
+    }
     sheets += sheetCount(printed);
   }
   return {{QStringLiteral("sheets"), sheets},

@@ -28,8 +28,9 @@ constexpr QSize leastSize(120, 120);
 
 QSizeF largestOf(const std::vector<PrintedSide> &sides) {
   QSizeF largest(1, 1);
-  for (const PrintedSide &side : sides)
+  for (const PrintedSide &side : sides) {
     largest = largest.expandedTo(QSizeF(side.size.width, side.size.height));
+  }
   return largest;
 }
 
@@ -136,8 +137,9 @@ QRectF SheetsView::paperOf(int side) const {
 
 int SheetsView::sideAt(QPoint place) const {
   const auto [first, last] = visibleSides();
-  for (int side = first; side <= last; ++side)
+  for (int side = first; side <= last; ++side) {
     if (cell(side).contains(place)) return side;
+  }
   return -1;
 }
 
@@ -171,8 +173,9 @@ void SheetsView::showCurrentCell() {
   const QRect place = cell(m_current);
   QScrollBar *bar = verticalScrollBar();
   if (place.top() < 0) bar->setValue(bar->value() + place.top());
-  if (place.bottom() >= viewport()->height())
+  if (place.bottom() >= viewport()->height()) {
     bar->setValue(bar->value() + place.bottom() - viewport()->height() + 1);
+  }
 }
 
 void SheetsView::resizeEvent(QResizeEvent *event) {

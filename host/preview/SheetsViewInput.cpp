@@ -37,8 +37,9 @@ void SheetsView::wheelEvent(QWheelEvent *event) {
   const int notches = m_wheel / wheelNotch;
   m_wheel -= notches * wheelNotch;
   event->accept();
-  for (int i = 0; zooms && i < std::abs(notches); ++i)
+  for (int i = 0; zooms && i < std::abs(notches); ++i) {
     zoomBy(notches > 0 ? zoomStep : 1 / zoomStep);
+  }
   if (!zooms) step(-notches);
 }
 

@@ -101,8 +101,9 @@ void paintFolds(QPainter *painter, const PrintedSide &side, const Scale &scale) 
   QPen pen(foldColor, 1, Qt::DashLine);
   pen.setDashPattern({4, 3});
   painter->setPen(pen);
-  for (const Line &fold : side.folds)
+  for (const Line &fold : side.folds) {
     painter->drawLine(scale.point(fold.x1, fold.y1), scale.point(fold.x2, fold.y2));
+  }
 }
 
 /// From one end of a staple to the other.
@@ -129,9 +130,10 @@ void paintStaple(QPainter *painter, QLineF line, bool isBack) {
   }
   const double width = std::max(1.6, line.length() * stapleWidth);
   QList<QLineF> strokes{line};
-  if (isBack)
+  if (isBack) {
     strokes = {QLineF(line.p1(), line.pointAt(bentEnds)),
                QLineF(line.pointAt(1 - bentEnds), line.p2())};
+  }
   for (const auto &[color, extra] : {std::pair(stapleShine, 2.0), std::pair(stapleColor, 0.0)}) {
     painter->setPen(QPen(color, width + extra, Qt::SolidLine, Qt::RoundCap));
     painter->drawLines(strokes);

@@ -35,10 +35,11 @@ QString pageInWords(const PlacedPage &page, const PrintedSide &side) {
 
 QStringList pagesInWords(const PrintedSide &side) {
   std::vector<PlacedPage> pages = side.pages;
-  if (pages.size() == 2)
+  if (pages.size() == 2) {
     std::sort(pages.begin(), pages.end(), [](const PlacedPage &one, const PlacedPage &other) {
       return middleX(one) < middleX(other);
     });
+  }
   QStringList words;
   for (const PlacedPage &page : pages) words << pageInWords(page, side);
   if (words.isEmpty()) words << Words::tr("blank");

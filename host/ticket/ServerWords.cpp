@@ -106,8 +106,9 @@ QList<ServerWord> ServerWords::untrue(const Marks &marks) const {
 }
 
 TicketValues withoutUntrueWords(Marks &marks, TicketValues ticket) {
-  for (const ServerWord &word : ServerWords::of(marks, {}, ticket).untrue(marks))
+  for (const ServerWord &word : ServerWords::of(marks, {}, ticket).untrue(marks)) {
     ticket.remove(word.name);
+  }
   return ticket;
 }
 

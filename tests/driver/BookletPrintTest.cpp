@@ -119,8 +119,9 @@ TEST_F(BookletPrint, KeepsTheOtherFeatures) {
                             QStringLiteral("OutputBin=Booklet"), QStringLiteral("InputSlot=Tray2")};
   const auto features = [](const QByteArray &postScript) {
     QList<QByteArray> found;
-    for (const QByteArray &line : postScript.split('\n'))
+    for (const QByteArray &line : postScript.split('\n')) {
       if (line.startsWith("%%BeginFeature")) found << line;
+    }
     return found;
   };
   const Printed plain = printThrough(kit.plainPPD(), options, file);

@@ -73,16 +73,19 @@ QString DriverKit::write(const QString &name, const std::string &contents) const
 
 QStringList Printed::lines(const QString &prefix) const {
   QStringList found;
-  for (const QString &line : messages)
+  for (const QString &line : messages) {
     if (line.startsWith(prefix)) found << line.mid(prefix.size());
+  }
   return found;
 }
 
 QString obstacleToFilters() {
   if (filterTool().isEmpty()) return QStringLiteral("cupsfilter is not installed");
-  for (const char *filter : {"pdftopdf", "pdftops", "pstops", "gstopdf"})
-    if (driver::standardFilterPath(filter).empty())
+  for (const char *filter : {"pdftopdf", "pdftops", "pstops", "gstopdf"}) {
+    if (driver::standardFilterPath(filter).empty()) {
       return QStringLiteral("the filter %1 is not installed").arg(QString::fromLatin1(filter));
+    }
+  }
   return {};
 }
 
@@ -90,10 +93,11 @@ Printed printThrough(const QString &ppd, const QStringList &options, const QStri
   QStringList arguments{QStringLiteral("-e"), QStringLiteral("-p"), ppd, QStringLiteral("-m"),
                         QStringLiteral("printer/foo")};
   for (const QString &option : options) {
-    if (option.startsWith(u'-'))
+    if (option.startsWith(u'-')) {
       arguments << option.split(u' ');
-    else
+    } else {
       arguments << QStringLiteral("-o") << option;
+    }
   }
   QProcess process;
   process.start(filterTool(), arguments << file);

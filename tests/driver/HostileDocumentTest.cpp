@@ -96,8 +96,9 @@ TEST(HostileDocument, SaysThatItsPagesRunInCircles) {
 TEST(HostileDocument, SaysThatItsPagesAreNestedTooDeeply) {
   std::vector<std::string> objects{"<</Type/Catalog/Pages 2 0 R>>"};
   constexpr int levels = 20000;
-  for (int level = 0; level < levels; ++level)
+  for (int level = 0; level < levels; ++level) {
     objects.push_back("<</Type/Pages/Count 1/Kids[" + std::to_string(level + 3) + " 0 R]>>");
+  }
   objects.push_back("<</Type/Page/MediaBox[0 0 100 200]>>");
   expectOneLine(pdfOf(objects), "nested too deeply");
 }

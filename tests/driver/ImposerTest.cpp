@@ -82,10 +82,11 @@ TEST_F(Imposer, AgreesWithTheGeometryOfRandomBooklets) {
       return std::uniform_int_distribution<int>(least, most)(random);
     };
     std::vector<MarkedPage> pages(static_cast<std::size_t>(between(1, 12)));
-    for (MarkedPage &page : pages)
+    for (MarkedPage &page : pages) {
       page = {{double(between(200, 1200)), double(between(200, 1200))},
               90 * between(0, 3),
               double(between(0, 50))};
+    }
     const BookletKeys keys{true, between(0, 1) == 1, false, between(0, 144), between(-36, 36), 0};
     expectBooklet(pages, {double(between(300, 900)), double(between(300, 900))}, keys);
   }

@@ -29,8 +29,9 @@ TEST(JobOptions, AreTheSameOnceWrittenAndReadAgain) {
       "title=a\\ b\\'c quoted=\"x y\" empty= media-col={media-size={x-dimension=1 y-dimension=2}} "
       "path=a\\\\b flag");
   const JobOptions again(options.text());
-  for (const char *name : {"title", "quoted", "empty", "media-col", "path", "flag"})
+  for (const char *name : {"title", "quoted", "empty", "media-col", "path", "flag"}) {
     EXPECT_EQ(again.value(name), options.value(name)) << name;
+  }
 }
 
 TEST(SheetOptions, TurnSheetsOverAtTheShortEdgeWhateverTheJobSaid) {
@@ -46,16 +47,18 @@ TEST(SheetOptions, TurnSheetsOverAtTheShortEdgeWhateverTheJobSaid) {
 TEST(SheetOptions, DoNothingTwice) {
   JobOptions options("page-ranges=1-4 outputorder=reverse landscape number-up=1 OVKEnableBooklet");
   prepareForSheets(&options, "");
-  for (const char *done : {"page-ranges", "outputorder", "landscape", "number-up"})
+  for (const char *done : {"page-ranges", "outputorder", "landscape", "number-up"}) {
     EXPECT_EQ(options.value(done), std::nullopt) << done;
+  }
 }
 
 TEST(SheetOptions, NameTheTargetPaperAndNoOther) {
   JobOptions options("media=A5 PageRegion=A6 media-col={media-size-name=x}");
   prepareForSheets(&options, "A3");
   EXPECT_EQ(options.value("PageSize"), "A3");
-  for (const char *other : {"media", "PageRegion", "media-col"})
+  for (const char *other : {"media", "PageRegion", "media-col"}) {
     EXPECT_EQ(options.value(other), std::nullopt) << other;
+  }
 }
 
 TEST(SheetOptions, KeepTheJobsPaperWithoutATarget) {

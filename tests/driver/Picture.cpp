@@ -85,9 +85,11 @@ int turnOf(const Picture &picture, const Extent &page) {
 
 SeenSide lookAt(const Picture &picture) {
   std::map<int, Extent> found;
-  for (int y = 0; y < picture.height; ++y)
-    for (int x = 0; x < picture.width; ++x)
+  for (int y = 0; y < picture.height; ++y) {
+    for (int x = 0; x < picture.width; ++x) {
       if (const int page = picture.pageAt(x, y); page != 0) found[page].add(x, y);
+    }
+  }
   SeenSide side{{double(picture.width), double(picture.height)}, {}};
   for (const auto &[page, extent] : found) {
     // Where two colours meet a pixel may look like a third.
@@ -106,9 +108,10 @@ Frame visible(const imposition::PlacedPage &placed) {
 SeenSide expectedSide(const imposition::Side &side, Size paper, imposition::Face face) {
   const int turn = imposition::turnOnPaper(paper, face);
   SeenSide expected{paper, {}};
-  for (const imposition::PlacedPage &placed : side.pages)
+  for (const imposition::PlacedPage &placed : side.pages) {
     expected.pages.push_back(
         {placed.page, imposition::frameOnPaper(visible(placed), paper, turn), turn});
+  }
   std::sort(expected.pages.begin(), expected.pages.end(),
             [](const SeenPage &a, const SeenPage &b) { return a.page < b.page; });
   return expected;
@@ -140,8 +143,9 @@ std::vector<SeenSide> look(const std::string &file) {
   EXPECT_TRUE(drawing.waitForFinished(patience));
   EXPECT_EQ(drawing.exitCode(), 0) << drawing.readAllStandardOutput().toStdString();
   std::vector<SeenSide> sides;
-  for (const QString &name : QDir(folder.path()).entryList({QStringLiteral("*.ppm")}))
+  for (const QString &name : QDir(folder.path()).entryList({QStringLiteral("*.ppm")})) {
     sides.push_back(lookAt(readPicture(contentsOf(folder.filePath(name)))));
+  }
   return sides;
 }
 

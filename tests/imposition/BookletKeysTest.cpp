@@ -38,13 +38,15 @@ TEST(BookletKeys, AreReadTogether) {
 }
 
 TEST(BookletKeys, AreOnInEveryFormOfABoolean) {
-  for (const char *on : {"True", "true", "TRUE", "on", "yes", "1", ""})
+  for (const char *on : {"True", "true", "TRUE", "on", "yes", "1", ""}) {
     EXPECT_TRUE(read({{"OVKEnableBooklet", on}}).enabled) << '"' << on << '"';
+  }
 }
 
 TEST(BookletKeys, AreOffInEveryFormOfABoolean) {
-  for (const char *off : {"False", "false", "FALSE", "off", "no", "No", "0"})
+  for (const char *off : {"False", "false", "FALSE", "off", "no", "No", "0"}) {
     EXPECT_FALSE(read({{"OVKEnableBooklet", off}}).enabled) << '"' << off << '"';
+  }
 }
 
 TEST(BookletKeys, GiveWayToSeveralPagesPerSheet) {

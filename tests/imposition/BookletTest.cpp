@@ -128,8 +128,9 @@ Sample sampleOf(unsigned seed) {
   };
   Sample sample;
   sample.paper = {double(between(40, 1300)), double(between(40, 1300))};
-  for (int page = between(1, 40); page > 0; --page)
+  for (int page = between(1, 40); page > 0; --page) {
     sample.pages.push_back({double(between(1, 3000)), double(between(1, 3000))});
+  }
   sample.keys = {true,
                  between(0, 1) == 1,
                  between(0, 1) == 1,
@@ -156,12 +157,14 @@ TEST(Booklets, KeepEveryPageOnceWithItsProportionsOnThePaper) {
     const Sample sample = sampleOf(seed);
     const ImposedJob job = imposeBooklet(sample.pages, sample.paper, sample.keys);
     std::vector<int> seen(sample.pages.size() + 1);
-    for (const Sheet &sheet : job.sheets)
-      for (const Side *side : {&sheet.front, &sheet.back})
+    for (const Sheet &sheet : job.sheets) {
+      for (const Side *side : {&sheet.front, &sheet.back}) {
         for (const PlacedPage &placed : side->pages) {
           expectGoodPlace(placed, sample, job.side);
           ++seen.at(static_cast<std::size_t>(placed.page));
         }
+      }
+    }
     EXPECT_EQ(std::count(seen.begin() + 1, seen.end(), 1), std::ssize(sample.pages));
     if (::testing::Test::HasFailure()) return;
   }
@@ -175,7 +178,7 @@ TEST(Booklets, AreMirroredFromRightToLeft) {
     const ImposedJob left = imposeBooklet(sample.pages, sample.paper, sample.keys);
     sample.keys.rightToLeft = true;
     const ImposedJob right = imposeBooklet(sample.pages, sample.paper, sample.keys);
-    for (std::size_t sheet = 0; sheet < left.sheets.size(); ++sheet)
+    for (std::size_t sheet = 0; sheet < left.sheets.size(); ++sheet) {
       for (const PlacedPage &placed : left.sheets[sheet].front.pages) {
         const auto &others = right.sheets.at(sheet).front.pages;
         const auto other = std::find_if(others.begin(), others.end(), [&](const PlacedPage &page) {
@@ -185,6 +188,7 @@ TEST(Booklets, AreMirroredFromRightToLeft) {
         EXPECT_NEAR(other->frame.x, left.side.width - placed.frame.right(), tolerance);
         EXPECT_NEAR(other->frame.y, placed.frame.y, tolerance);
       }
+    }
   }
 }
 

@@ -95,11 +95,13 @@ RandomJob randomJob(unsigned seed) {
                        paper.size.height - 2 * margin};
   job.options << QStringLiteral("PageSize=%1").arg(QString::fromLatin1(paper.name));
   job.job.pagesPerSide = any<int>(random, {1, 1, 1, 2, 2, 3, 4, 6, 8, 9, 10, 12, 15, 16, 5});
-  if (job.job.pagesPerSide > 1)
+  if (job.job.pagesPerSide > 1) {
     job.options << QStringLiteral("number-up=%1").arg(job.job.pagesPerSide);
+  }
   job.job.order = any<std::string>(random, {"", "", "rltb", "tblr", "btrl", "lrbt"});
-  if (!job.job.order.empty())
+  if (!job.job.order.empty()) {
     job.options << QStringLiteral("number-up-layout=%1").arg(QString::fromStdString(job.job.order));
+  }
   const int orientation = any<int>(random, {0, 0, 0, 3, 4, 5, 6});
   if (orientation > 0) {
     job.job.turning = static_cast<Turning>(orientation - 3);

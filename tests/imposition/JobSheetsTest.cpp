@@ -102,8 +102,9 @@ TEST(JobSheets, ShowABookletAsOneReadsIt) {
   for (const PrintedSide &side : sides) {
     EXPECT_EQ(side.size, a4Across);
     ASSERT_EQ(side.marks.size(), 2U);
-    for (const Mark &mark : side.marks)
+    for (const Mark &mark : side.marks) {
       EXPECT_NEAR(mark.frame.x + mark.frame.width / 2, 421, tolerance);
+    }
     EXPECT_EQ(side.folds, (std::vector<Line>{{421, 0, 421, 595}}));
   }
 }
@@ -179,8 +180,9 @@ TEST(JobSheets, PrintEveryPageOnce) {
       job.booklet.enabled = isBooklet;
       job.filters.pagesPerSide = isBooklet ? 1 : perSide;
       std::multiset<int> seen;
-      for (const PrintedSide &side : printedSides(document(37), job))
+      for (const PrintedSide &side : printedSides(document(37), job)) {
         for (const PlacedPage &page : side.pages) seen.insert(page.page);
+      }
       EXPECT_EQ(seen.size(), 37U);
       for (int page = 1; page <= 37; ++page) EXPECT_EQ(seen.count(page), 1U);
     }

@@ -63,22 +63,26 @@ TEST(PageOrder, LeavesThePlacesAfterTheLastPageEmpty) {
 }
 
 TEST(PageOrder, ReadsTrueOnceFolded) {
-  for (int pages = 1; pages <= mostPages; ++pages)
+  for (int pages = 1; pages <= mostPages; ++pages) {
     ASSERT_EQ(readLeftToRight(bookletOrder(pages, false)), book(pages)) << pages << " pages";
+  }
 }
 
 TEST(PageOrder, ReadsTrueFromRightToLeftOnceFolded) {
-  for (int pages = 1; pages <= mostPages; ++pages)
+  for (int pages = 1; pages <= mostPages; ++pages) {
     ASSERT_EQ(readRightToLeft(bookletOrder(pages, true)), book(pages)) << pages << " pages";
+  }
 }
 
 TEST(PageOrder, HasEveryPageOnce) {
   for (int pages = 1; pages <= mostPages; ++pages) {
     std::vector<int> seen(static_cast<std::size_t>(pages) + 1);
-    for (const FoldedSheet &sheet : bookletOrder(pages, false))
+    for (const FoldedSheet &sheet : bookletOrder(pages, false)) {
       for (const int page :
-           {sheet.front.left, sheet.front.right, sheet.back.left, sheet.back.right})
+           {sheet.front.left, sheet.front.right, sheet.back.left, sheet.back.right}) {
         ++seen.at(static_cast<std::size_t>(page));
+      }
+    }
     ASSERT_EQ(std::count(seen.begin() + 1, seen.end(), 1), pages) << pages << " pages";
     ASSERT_LT(seen[0], pagesPerBookletSheet) << "a sheet too many for " << pages << " pages";
   }

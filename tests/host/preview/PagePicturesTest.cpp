@@ -56,8 +56,9 @@ TEST_F(PagePicturesTest, ShowThePrintedPartOfAPage) {
   pictures.want({{1, QSize(100, 50)}});
   ASSERT_TRUE(waitUntilIdle());
   EXPECT_EQ(pictures.picture(1).size(), QSize(100, 50));
-  for (const QPoint corner : {QPoint(2, 2), QPoint(97, 2), QPoint(2, 47), QPoint(97, 47)})
+  for (const QPoint corner : {QPoint(2, 2), QPoint(97, 2), QPoint(2, 47), QPoint(97, 47)}) {
     EXPECT_EQ(qRed(pictures.picture(1).pixel(corner)), 6);
+  }
 }
 
 TEST_F(PagePicturesTest, GiveUpPagesThatCannotBeRendered) {
