@@ -22,9 +22,8 @@ void removeWhatIsDone(JobOptions *options) {
                    "landscape", "mirror", "fit-to-page", "fitplot", "print-scaling", "scaling",
                    "natural-scaling", "position", "number-up", "number-up-layout", "page-border",
                    "booklet", "booklet-signature", "cupsEvenDuplex"});
-  options->remove({imposition::enableBookletKey, imposition::rightToLeftKey,
-                   imposition::pageBordersKey, imposition::gutterKey, imposition::creepKey,
-                   imposition::targetPaperSizeKey});
+  options->remove({enableBookletKey.data(), rightToLeftKey.data(), pageBordersKey.data(),
+                   gutterKey.data(), creepKey.data(), targetPaperSizeKey.data()});
 }
 
 std::string ppdFile() {

@@ -28,8 +28,8 @@ bool isOff(const std::string &value) {
   return word == "false" || word == "off" || word == "no" || word == "0";
 }
 
-bool flag(const ValueOf &valueOf, const char *key) {
-  const auto value = valueOf(key);
+bool flag(const ValueOf &valueOf, QLatin1String key) {
+  const auto value = valueOf(key.data());
   return value && !isOff(*value);
 }
 
@@ -38,8 +38,12 @@ int number(const ValueOf &valueOf, const char *key, int absent) {
   return value ? leadingInteger(*value) : absent;
 }
 
+int numberWithin(const ValueOf &valueOf, QLatin1String key, const BookletNumber &range) {
+  return std::clamp(number(valueOf, key.data(), range.absent), range.least, range.most);
+}
+
 bool hasSeveralPagesPerSheet(const ValueOf &valueOf) {
-  return number(valueOf, layoutNUpKey, 0) != 0 || number(valueOf, numberUpKey, 1) > 1;
+  return number(valueOf, layoutNUpKey.data(), 0) != 0 || number(valueOf, numberUpKey, 1) > 1;
 }
 
 }  // namespace
@@ -61,9 +65,9 @@ BookletKeys readBookletKeys(const ValueOf &valueOf) {
   keys.enabled = flag(valueOf, enableBookletKey) && !hasSeveralPagesPerSheet(valueOf);
   keys.rightToLeft = flag(valueOf, rightToLeftKey);
   keys.pageBorders = flag(valueOf, pageBordersKey);
-  keys.gutter = std::clamp(number(valueOf, gutterKey, keys.gutter), 0, largestGutter);
-  keys.creep = std::clamp(number(valueOf, creepKey, keys.creep), -largestCreep, largestCreep);
-  keys.targetPaper = number(valueOf, targetPaperSizeKey, keys.targetPaper);
+  keys.gutter = numberWithin(valueOf, gutterKey, gutterRange);
+  keys.creep = numberWithin(valueOf, creepKey, creepRange);
+  keys.targetPaper = number(valueOf, targetPaperSizeKey.data(), jobsOwnPaper);
   return keys;
 }
 

@@ -6,22 +6,13 @@
 #include <optional>
 #include <string>
 
+#include "platform/plugin/BookletKeys.h"
+
 namespace orvek::imposition {
 
-/// The keys by which tickets and jobs ask for a booklet.
-inline constexpr const char *enableBookletKey = "OVKEnableBooklet";
-inline constexpr const char *rightToLeftKey = "OVKRightToLeft";
-inline constexpr const char *pageBordersKey = "OVKPrintPageBorders";
-inline constexpr const char *gutterKey = "OVKGutter";
-inline constexpr const char *creepKey = "OVKCreep";
-inline constexpr const char *targetPaperSizeKey = "OVKTargetPaperSize";
-
-/// Several pages per sheet, which a booklet can't be combined with: a ticket's and a job's word.
-inline constexpr const char *layoutNUpKey = "com.apple.print.PrintSettings.PMLayoutNUp";
+/// CUPS' own word for several pages per sheet, which a booklet can't be combined with. The keys
+/// themselves are the contract's (platform/plugin/BookletKeys.h).
 inline constexpr const char *numberUpKey = "number-up";
-
-inline constexpr int largestGutter = 144;  ///< points; the smallest is 0
-inline constexpr int largestCreep = 36;    ///< points either way
 
 /// Gives a key's value as text; nothing where the job lacks the key. An option that was given
 /// without a value, as CUPS does with booleans, has the value "true", or is empty.
@@ -29,21 +20,27 @@ using ValueOf = std::function<std::optional<std::string>(const char *key)>;
 
 /// Lengths are points.
 struct BookletKeys {
-  bool enabled = false;      ///< a booklet is asked for, and not several pages per sheet
-  bool rightToLeft = false;  ///< its pages are read from right to left
-  bool pageBorders = false;  ///< a thin frame around each page
-  int gutter = 24;           ///< between the two pages of a side, 0 to 144
-  int creep = 0;        ///< how far the innermost sheet's pages move towards the fold (negative:
-                        ///< away from it), -36 to 36
-  int targetPaper = 0;  ///< the sheet: k for the k-th choice of the PPD's PageSize, else the job's
-                        ///< own paper
+  /// A booklet is asked for, and not several pages per sheet.
+  bool enabled = false;
+  /// Its pages are read from right to left.
+  bool rightToLeft = false;
+  /// A thin frame around each page.
+  bool pageBorders = false;
+  /// Between the two pages of a side, within gutterRange.
+  int gutter = gutterRange.absent;
+  /// How far the innermost sheet's pages move towards the fold (negative: away from it), within
+  /// creepRange.
+  int creep = creepRange.absent;
+  /// The sheet: k for the k-th choice of the PPD's PageSize, else the job's own paper.
+  int targetPaper = jobsOwnPaper;
 
   bool operator==(const BookletKeys &) const = default;
 };
 
 /// Reads a job's keys. A flag that is there is on unless it is "false", "off", "no" or "0" in
-/// letters of either case. A number is read as far as it is one, 0 where it begins as none, and one
-/// beyond its range becomes the nearest within. What is absent has the default above.
+/// letters of either case: CUPS hands on what a panel wrote as "False" as "false". A number is read
+/// as far as it is one, 0 where it begins as none, and one beyond its range becomes the nearest
+/// within. What is absent has the default above.
 BookletKeys readBookletKeys(const ValueOf &valueOf);
 
 /// The integer that a text begins with: white space skipped, an optional sign, digits; 0 without

@@ -7,6 +7,7 @@
 
 #include "host/ppd/Paper.h"
 #include "host/session/PrintSession.h"
+#include "host/ticket/PageRanges.h"
 // clang-format off
 #include <cups/cups.h>
 #include <cups/pwg.h>
@@ -88,17 +89,6 @@ Scaling scalingOf(const Options &options) {
   return isOn(options, "fill") ? Scaling::Fill : Scaling::Automatic;
 }
 
-std::vector<PageRange> rangesIn(const QString &text) {
-  std::vector<PageRange> ranges;
-  for (const QString &part : text.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
-    const qsizetype dash = part.indexOf(QLatin1Char('-'));
-    const int first = part.left(dash < 0 ? part.size() : dash).toInt();
-    const int last = dash < 0 ? first : part.mid(dash + 1).toInt();
-    ranges.push_back({std::max(1, first), last});
-  }
-  return ranges;
-}
-
 // The printer's own habit counts where the job says nothing: a tray that piles sheets face up.
 bool printsLastFirst(const Marks &marks) {
   const QString order = marks.marked(QStringLiteral("OutputOrder"));
@@ -115,7 +105,7 @@ bool isReversed(const PrintSession &session, const Options &options) {
 }
 
 void readSelection(const PrintSession &session, const Options &options, SideSelection *sides) {
-  sides->ranges = rangesIn(session.job().settings().pageRanges);
+  sides->ranges = pageRangesIn(session.job().settings().pageRanges);
   const QString set = word(options, "page-set");
   if (set == QLatin1String("odd")) sides->parity = Parity::Odd;
   if (set == QLatin1String("even")) sides->parity = Parity::Even;

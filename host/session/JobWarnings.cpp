@@ -11,6 +11,7 @@
 #include "host/session/PrintSession.h"
 #include "host/ticket/BookletSettings.h"
 #include "host/ticket/PageRanges.h"
+#include "imposition/PageOrder.h"
 #include "platform/plugin/FinishingKeywords.h"
 #include "platform/printing/PrintSettings.h"
 
@@ -50,7 +51,7 @@ bool isTwoSided(const Marks &marks) {
 
 // Without the booklet's page order the sheets are what the layout makes them.
 int sheetsOf(const Marks &marks, const TicketValues &ticket, int pages) {
-  if (bookletSettings(ticket).enabled) return bookletSheets(pages);
+  if (bookletSettings(ticket).enabled) return imposition::bookletSheets(pages);
   const int perSide = std::max(1, integerReading(ticket.value(layoutNUpKey)));
   const int perSheet = perSide * (isTwoSided(marks) ? 2 : 1);
   return pages <= 0 ? 0 : (pages - 1) / perSheet + 1;

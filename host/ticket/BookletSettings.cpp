@@ -1,45 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
-// Reads the booklet's keys the way the panel that writes them does.
+// Hands a ticket's values to the one reading of the booklet's keys.
 
 #include "host/ticket/BookletSettings.h"
-
-#include <algorithm>
 
 #include "platform/printing/PrintSettings.h"
 
 namespace orvek {
-namespace {
 
-constexpr int pagesPerSheet = 4;
-
-bool flag(const TicketValues &ticket, QLatin1String key) {
-  const QVariant value = ticket.value(key);
-  return value.isValid() && textReading(value) != falseValue;
-}
-
-int number(const TicketValues &ticket, QLatin1String key, const BookletNumber &range) {
-  const QVariant value = ticket.value(key);
-  return value.isValid() ? std::clamp(integerReading(value), range.least, range.most)
-                         : range.absent;
-}
-
-}  // namespace
-
-BookletSettings bookletSettings(const TicketValues &ticket) {
-  BookletSettings booklet;
-  const bool severalPagesPerSheet = integerReading(ticket.value(layoutNUpKey)) != 0;
-  booklet.enabled = flag(ticket, enableBookletKey) && !severalPagesPerSheet;
-  booklet.rightToLeft = flag(ticket, rightToLeftKey);
-  booklet.pageBorders = flag(ticket, pageBordersKey);
-  booklet.gutter = number(ticket, gutterKey, gutterRange);
-  booklet.creep = number(ticket, creepKey, creepRange);
-  const QVariant paper = ticket.value(targetPaperSizeKey);
-  booklet.targetPaper = paper.isValid() ? integerReading(paper) : jobsOwnPaper;
-  return booklet;
-}
-
-int bookletSheets(int pages) {
-  return pages <= 0 ? 0 : (pages - 1) / pagesPerSheet + 1;
+imposition::BookletKeys bookletSettings(const TicketValues &ticket) {
+  return imposition::readBookletKeys([&](const char *key) -> std::optional<std::string> {
+    const auto value = ticket.constFind(QLatin1String(key));
+    if (value == ticket.constEnd()) return std::nullopt;
+    return textReading(*value).toStdString();
+  });
 }
 
 }  // namespace orvek

@@ -105,6 +105,16 @@ Result<QString> normalizedPageRanges(const QString &text) {
   return words.join(QLatin1Char(','));
 }
 
+std::vector<imposition::PageRange> pageRangesIn(const QString &pageRanges) {
+  std::vector<imposition::PageRange> found;
+  const Result<QList<Range>> ranges = readRanges(pageRanges);
+  if (!ranges) return found;
+  for (const Range &range : ranges.value()) {
+    found.push_back({range.first, range.last == lastPossiblePage ? 0 : range.last});
+  }
+  return found;
+}
+
 QList<int> pagesInRanges(const QString &pageRanges, int pageCount) {
   const Result<QList<Range>> ranges = readRanges(pageRanges);
   QList<int> pages;

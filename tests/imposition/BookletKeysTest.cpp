@@ -52,8 +52,8 @@ TEST(BookletKeys, AreOffInEveryFormOfABoolean) {
 TEST(BookletKeys, GiveWayToSeveralPagesPerSheet) {
   EXPECT_FALSE(read({{"OVKEnableBooklet", "True"}, {"number-up", "2"}}).enabled);
   EXPECT_TRUE(read({{"OVKEnableBooklet", "True"}, {"number-up", "1"}}).enabled);
-  EXPECT_FALSE(read({{"OVKEnableBooklet", "True"}, {layoutNUpKey, "4"}}).enabled);
-  EXPECT_TRUE(read({{"OVKEnableBooklet", "True"}, {layoutNUpKey, "0"}}).enabled);
+  EXPECT_FALSE(read({{"OVKEnableBooklet", "True"}, {layoutNUpKey.data(), "4"}}).enabled);
+  EXPECT_TRUE(read({{"OVKEnableBooklet", "True"}, {layoutNUpKey.data(), "0"}}).enabled);
 }
 
 TEST(BookletKeys, StayWithinTheirRanges) {

@@ -134,8 +134,8 @@ Sample sampleOf(unsigned seed) {
   sample.keys = {true,
                  between(0, 1) == 1,
                  between(0, 1) == 1,
-                 between(0, largestGutter),
-                 between(-largestCreep, largestCreep),
+                 between(gutterRange.least, gutterRange.most),
+                 between(creepRange.least, creepRange.most),
                  0};
   return sample;
 }

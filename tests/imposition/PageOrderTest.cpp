@@ -104,5 +104,13 @@ TEST(PageOrder, HasNoSheetsForNoPages) {
   EXPECT_TRUE(bookletOrder(-3, false).empty());
 }
 
+TEST(BookletSheets, HoldFourPagesEach) {
+  EXPECT_EQ(bookletSheets(-1), 0);
+  EXPECT_EQ(bookletSheets(0), 0);
+  EXPECT_EQ(bookletSheets(1), 1);
+  EXPECT_EQ(bookletSheets(4), 1);
+  EXPECT_EQ(bookletSheets(5), 2);
+}
+
 }  // namespace
 }  // namespace orvek::imposition

@@ -9,20 +9,24 @@ namespace orvek::test {
 namespace {
 
 TEST(BookletSettings, HaveDefaultsWhereTheTicketIsEmpty) {
-  EXPECT_EQ(bookletSettings({}), BookletSettings());
+  EXPECT_EQ(bookletSettings({}), imposition::BookletKeys());
 }
 
 TEST(BookletSettings, ReadWhatAPanelWrites) {
   const TicketValues ticket{
       {"OVKEnableBooklet", "True"}, {"OVKRightToLeft", "True"}, {"OVKPrintPageBorders", "True"},
       {"OVKGutter", "36"},          {"OVKCreep", "-4"},         {"OVKTargetPaperSize", "2"}};
-  EXPECT_EQ(bookletSettings(ticket), (BookletSettings{true, true, true, 36, -4, 2}));
+  EXPECT_EQ(bookletSettings(ticket), (imposition::BookletKeys{true, true, true, 36, -4, 2}));
 }
 
-TEST(BookletSettings, TakeAFlagForOnUnlessItIsFalse) {
-  EXPECT_TRUE(bookletSettings({{"OVKEnableBooklet", "false"}}).enabled);
-  EXPECT_TRUE(bookletSettings({{"OVKEnableBooklet", 0}}).enabled);
-  EXPECT_FALSE(bookletSettings({{"OVKEnableBooklet", "False"}}).enabled);
+// The driver reads the same words from the job; two rules would make two booklets of one ticket.
+TEST(BookletSettings, ReadFlagsAsTheDriverDoes) {
+  for (const char *off : {"False", "false", "no", "off", "0"}) {
+    EXPECT_FALSE(bookletSettings({{"OVKEnableBooklet", QString(off)}}).enabled) << off;
+  }
+  EXPECT_FALSE(bookletSettings({{"OVKEnableBooklet", 0}}).enabled);
+  EXPECT_TRUE(bookletSettings({{"OVKEnableBooklet", 1}}).enabled);
+  EXPECT_TRUE(bookletSettings({{"OVKEnableBooklet", QString("yes")}}).enabled);
 }
 
 TEST(BookletSettings, KeepNumbersWithinTheirRanges) {
@@ -35,13 +39,6 @@ TEST(BookletSettings, KeepNumbersWithinTheirRanges) {
 TEST(BookletSettings, GiveWayToSeveralPagesPerSheet) {
   const TicketValues ticket{{"OVKEnableBooklet", "True"}, {layoutNUpKey, 2}};
   EXPECT_FALSE(bookletSettings(ticket).enabled);
-}
-
-TEST(BookletSettings, CountSheetsByFourPages) {
-  EXPECT_EQ(bookletSheets(0), 0);
-  EXPECT_EQ(bookletSheets(1), 1);
-  EXPECT_EQ(bookletSheets(4), 1);
-  EXPECT_EQ(bookletSheets(5), 2);
 }
 
 }  // namespace

@@ -72,5 +72,13 @@ TEST(PageRanges, PicksPagesByTheSameGrammarInWhichTheyAreTyped) {
   EXPECT_EQ(pagesInRanges("7,x", 2), (QList<int>{1, 2}));
 }
 
+TEST(PageRanges, ComeOneByOneWithOpenEnds) {
+  using Ranges = std::vector<imposition::PageRange>;
+  EXPECT_EQ(pageRangesIn("2-3,7,9-"), (Ranges{{2, 3}, {7, 7}, {9, 0}}));
+  EXPECT_EQ(pageRangesIn("-4"), (Ranges{{1, 4}}));
+  EXPECT_EQ(pageRangesIn(QString()), Ranges());
+  EXPECT_EQ(pageRangesIn("none"), Ranges());
+}
+
 }  // namespace
 }  // namespace orvek::test
