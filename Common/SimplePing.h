@@ -9,9 +9,11 @@ namespace orvek {
 
 // These results are numbers of their own, whatever this system's errno values are.
 inline constexpr int pingBadArgument = 22;
-inline constexpr int pingNoProtocol = 46;  ///< the system knows no protocol called "icmp"
+/// The system knows no protocol called "icmp".
+inline constexpr int pingNoProtocol = 46;
 inline constexpr int pingUnknownHost = 65;
-inline constexpr int pingGeneralError = 1;  ///< no socket, or a failure that gave no error number
+/// No socket, or a failure that gave no error number.
+inline constexpr int pingGeneralError = 1;
 
 /// An echo request: header, send time, padding.
 inline constexpr int echoPacketSize = 48;

@@ -8,7 +8,8 @@ namespace orvek::device {
 
 enum ExitStatus {
   Done = 0,
-  Negative = 1,  ///< no address, no reply, no answer, no such element
+  /// No address, no reply, no answer, no such element.
+  Negative = 1,
   BadArgument = 2,
   NotWellFormed = 3,
 };

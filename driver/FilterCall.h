@@ -12,13 +12,15 @@ namespace orvek::driver {
 
 /// The arguments of one call. All texts as CUPS gave them.
 struct FilterCall {
-  std::string printer;  ///< what stands in the program's own place
+  /// What stands in the program's own place.
+  std::string printer;
   std::string job;
   std::string user;
   std::string title;
   std::string copies;
   std::string options;
-  std::string file;  ///< empty: the document comes by standard input
+  /// Empty: the document comes by standard input.
+  std::string file;
 
   /// For another filter, its own name or path left out.
   std::vector<std::string> arguments() const;

@@ -12,8 +12,10 @@
 namespace orvek::driver {
 
 struct JobPaper {
-  imposition::Size size;  ///< as the printer names it: portrait paper is higher than wide
-  std::string pageSize;   ///< the PageSize choice that the target paper means; empty: the job's own
+  /// As the printer names it: portrait paper is higher than wide.
+  imposition::Size size;
+  /// The PageSize choice that the target paper means; empty: the job's own.
+  std::string pageSize;
 };
 
 /// The sheet's paper by the PPD, the job's options and the booklet's target paper. Nothing where

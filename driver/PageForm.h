@@ -11,9 +11,12 @@
 namespace orvek::driver {
 
 struct PageForm {
-  QPDFObjectHandle form;   ///< a form XObject; null for a page without contents
-  imposition::Size size;   ///< as the page is displayed, turned where it says so
-  QPDFMatrix toDisplayed;  ///< from the form's space to the displayed page, lower left at 0, 0
+  /// A form XObject; null for a page without contents.
+  QPDFObjectHandle form;
+  /// As the page is displayed, turned where it says so.
+  imposition::Size size;
+  /// From the form's space to the displayed page, lower left at 0, 0.
+  QPDFMatrix toDisplayed;
 
   bool hasContents() const { return QPDFObjectHandle(form).isStream(); }
 };

@@ -12,8 +12,10 @@ namespace orvek::driver {
 
 /// Where sides are drawn.
 struct SheetPaper {
-  imposition::Size paper;  ///< as the printer feeds it
-  imposition::Size side;   ///< as it is held
+  /// As the printer feeds it.
+  imposition::Size paper;
+  /// As it is held.
+  imposition::Size side;
 };
 
 /// A new page, of the paper's size, that shows a side. `pages` are all that the side may name, the

@@ -16,8 +16,10 @@ namespace {
 /// What all sides of a booklet share.
 struct Layout {
   Size side;
-  double margin = 0;  ///< beside the fold
-  Size room;          ///< for a page, from the margin outwards
+  /// Beside the fold.
+  double margin = 0;
+  /// For a page, from the margin outwards.
+  Size room;
   bool borders = false;
 
   double fold() const { return side.width / 2; }

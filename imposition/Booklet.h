@@ -13,12 +13,17 @@ namespace orvek::imposition {
 
 /// A page on the side of a sheet.
 struct PlacedPage {
-  int page = 0;  ///< its number among the pages given, from 1
-  Frame frame;   ///< where it stands on the held side; empty for a page without a size
-  Frame clip;    ///< the half of the side that is its own: nothing of it is drawn beyond, even
-                 ///< where creep moves it over the fold
-  int turn = 0;  ///< degrees clockwise that it stands turned on the held side
-  bool border = false;  ///< a thin frame is drawn along the inside of `frame`
+  /// Its number among the pages given, from 1.
+  int page = 0;
+  /// Where it stands on the held side; empty for a page without a size.
+  Frame frame;
+  /// The half of the side that is its own: nothing of it is drawn beyond, even where creep moves it
+  /// over the fold.
+  Frame clip;
+  /// Degrees clockwise that it stands turned on the held side.
+  int turn = 0;
+  /// A thin frame is drawn along the inside of `frame`.
+  bool border = false;
 
   bool operator==(const PlacedPage &) const = default;
 };
@@ -32,7 +37,8 @@ struct Side {
 };
 
 struct Sheet {
-  Side front;  ///< printed first
+  /// Printed first.
+  Side front;
   Side back;
 
   bool operator==(const Sheet &) const = default;
@@ -40,8 +46,10 @@ struct Sheet {
 
 /// All sheets have one size. What lies between a held side and the paper says Paper.h.
 struct ImposedJob {
-  Size side;                  ///< of every held side
-  std::vector<Sheet> sheets;  ///< in the order in which they are printed, the outermost first
+  /// Of every held side.
+  Size side;
+  /// In the order in which they are printed, the outermost first.
+  std::vector<Sheet> sheets;
 
   bool operator==(const ImposedJob &) const = default;
 };

@@ -8,6 +8,8 @@
 
 #include "imposition/Finishing.h"
 
+#include "platform/plugin/FinishingKeywords.h"
+
 namespace orvek::imposition {
 namespace {
 
@@ -122,18 +124,18 @@ Finishing readFinishing(const ValueOf &markedChoice) {
     return isNone(word) ? std::string() : word;
   };
   readKeywords(marked("finishings"), &finishing);
-  for (const char *option : {"StapleLocation", "OVKStapling"}) {
+  for (const char *option : {"StapleLocation", staplingKeyword}) {
     if (const std::string word = marked(option); !word.empty()) readStaples(word, &finishing);
   }
   if (const std::string word = marked("PunchMedia"); !word.empty()) {
     finishing.holes = standardRow(word);
   }
-  readFamilyHoles(marked("OVKPunching"), &finishing);
-  for (const char *option : {"FoldType", "OVKFolding"}) {
+  readFamilyHoles(marked(punchKeyword), &finishing);
+  for (const char *option : {"FoldType", foldingKeyword}) {
     if (const std::string word = marked(option); !word.empty()) finishing.fold = word;
   }
   // A saddle fold is stitched, and so is what the standard's printers call a booklet.
-  if (finishing.fold == "Saddle" || !marked("Booklet").empty()) finishing.stapledInFold = true;
+  if (finishing.fold == saddleFold || !marked("Booklet").empty()) finishing.stapledInFold = true;
   return finishing;
 }
 

@@ -13,7 +13,6 @@ namespace orvek {
 
 /// PPD options the panel takes charge of beside stapling and folding, and the paper size it only
 /// reads.
-inline constexpr const char *punchKeyword = "OVKPunching";
 inline constexpr const char *paperDestKeyword = "OutputBin";
 inline constexpr const char *offsetKeyword = "OVKJog";
 inline constexpr const char *paperSizeKeyword = "PageSize";

@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: Apache-2.0
 """Fails on every #include edge that tools/layers.json does not allow, and on names used outside their room.
 
-usage: check-layers.py [--root FOLDER] [--rules FILE]
+usage: check-layers.py [--root FOLDER] [--rules FILE] [--unused]
 """
 
 import argparse
@@ -10,7 +10,7 @@ import json
 import os
 import re
 
-from layers import circle, covers, room_of
+from layers import circle, covers, edges_of, room_of
 from sources import SOURCE_SUFFIXES, finish, project_files, read_text
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]')
@@ -85,15 +85,24 @@ def check_file(path, room, text, rules):
         yield f"{path}:{number}: {problem}"
 
 
+def unused_edges(used, rooms):
+    """Edges that the rules allow and no include needs."""
+    for room, targets in edges_of(rooms).items():
+        for target in targets:
+            if (room, target) not in used:
+                yield f"{room}/ may include {target}/, and nothing in it does: take the edge out"
+
+
 def main():
     here = os.path.dirname(os.path.abspath(__file__))
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--root", default=os.path.dirname(here))
     parser.add_argument("--rules", default=os.path.join(here, "layers.json"))
+    parser.add_argument("--unused", action="store_true", help="fail on edges that no include needs, too")
     arguments = parser.parse_args()
     with open(arguments.rules, encoding="utf-8") as file:
         rules = json.load(file)
-    violations, checked = [], 0
+    violations, checked, used = [], 0, set()
     around = circle(rules["rooms"])
     if around:
         violations.append(f"{arguments.rules}: rooms in a circle: {' -> '.join(around)}")
@@ -103,7 +112,11 @@ def main():
             violations.append(f"{path}: lies in no room that tools/layers.json names")
             continue
         checked += 1
-        violations += check_file(path, room, read_text(arguments.root, path) or "", rules)
+        text = read_text(arguments.root, path) or ""
+        violations += check_file(path, room, text, rules)
+        used |= {(room, room_of(os.path.dirname(target), rules["rooms"])) for _, _, target in includes(text)}
+    if arguments.unused:
+        violations += unused_edges(used, rules["rooms"])
     finish("layers", violations, checked)
 
 

@@ -16,9 +16,18 @@ step() {
   mkdir -p "$logs"
   ("$@") >"$log" 2>&1 || result=FAILED
   printf '%-22s %-7s %4d s\n' "$name" "$result" "$((SECONDS - begin))"
+  closing_lines "$log"
   [ "$result" = ok ] && return
   failed=yes
   tail -n 40 "$log"
+}
+
+# closing_lines LOG: how many tests a step ran, and what a step left out for want of time.
+closing_lines() {
+  grep -E '^[0-9]+% tests passed' "$1" || true
+  local left
+  left=$(grep -c '^left out, for want of time' "$1" || true)
+  [ "$left" -eq 0 ] || printf '%d files left out for want of time; ./check looks at all of them\n' "$left"
 }
 
 # finish_steps: ends the program, with an error where a step failed.
@@ -115,7 +124,8 @@ check_fuzz() {
 # check_text: what can be told without a build.
 check_text() {
   step "layout" check_layout
-  step "layers" tools/check-layers.py
+  step "layers" tools/check-layers.py --unused
+  step "rooms drawn" tools/draw-rooms.py --check
   step "types" tools/check-types.py
   step "sources" tools/check-sources.py
   step "duplicates" tools/check-duplicates.py
@@ -125,5 +135,5 @@ check_text() {
 # check_build: the development build, and all tests in it.
 check_build() {
   step "build" build dev all
-  step "tests" run_tests dev
+  step "tests" ./test
 }

@@ -112,6 +112,9 @@ void prepare(QProcess &process, const Run &run, const QString &path) {
   auto environment = QProcessEnvironment::systemEnvironment();
   // The tool's messages are read here, so they have to come in one language.
   environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+  // It asks a print server about queues, though it needs none: one that answers nothing would keep
+  // the job waiting for ever.
+  environment.insert(QStringLiteral("CUPS_SERVER"), QStringLiteral("/dev/null/no-server"));
   process.setProcessEnvironment(environment);
   process.setChildProcessModifier(leadOwnGroup);
   process.setStandardInputFile(QProcess::nullDevice());

@@ -17,6 +17,7 @@
 #include "host/ppd/Wording.h"
 #include "host/preview/SheetsView.h"
 #include "host/preview/SpokenSide.h"
+#include "platform/plugin/FinishingKeywords.h"
 
 namespace orvek {
 namespace {
@@ -231,7 +232,7 @@ void JobPreview::showSide() {
     const imposition::PrintedSide &side = all[static_cast<std::size_t>(current)];
     const QString keyword = QString::fromStdString(m_job.finishing.fold);
     const char *option =
-        m_session.marks().marked(QStringLiteral("FoldType")).isNull() ? "OVKFolding" : "FoldType";
+        m_session.marks().marked(QStringLiteral("FoldType")).isNull() ? foldingKeyword : "FoldType";
     const QString fold =
         keyword.isEmpty() ? keyword : foldInWords(keyword, choiceInWords(m_session, option));
     title = sideTitle(side, imposition::sheetCount(all), isTwoSided());

@@ -2,6 +2,7 @@
 // Two pages beside each other are told as left and right, as a booklet is read.
 
 #include "host/preview/SpokenSide.h"
+#include "platform/plugin/FinishingKeywords.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -73,7 +74,7 @@ QString spokenSide(const PrintedSide &side, const QString &fold) {
 }
 
 QString foldInWords(const QString &keyword, const QString &printersWord) {
-  if (keyword == QLatin1String("Saddle")) return Words::tr("saddle fold");
+  if (keyword == QLatin1String(saddleFold)) return Words::tr("saddle fold");
   if (keyword == QLatin1String("Fold")) return Words::tr("single fold");
   return printersWord.isEmpty() ? keyword : printersWord;
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // Picks with all that they bring: marks, constraints, the ticket's record, and the step back.
-// The one place where a choice that is picked gets marked and recorded.
+// Where a choice that is picked gets marked and recorded; a session's first marks are FirstMarks'.
 #pragma once
 
 #include <QMap>

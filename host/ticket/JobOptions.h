@@ -3,10 +3,10 @@
 // job settings to CUPS options. Pure functions of their arguments, but that looking up the print
 // server's words moves the marks for a moment; nothing fails.
 //
-//   host/session/PrintSessionJob   has the sources
-//   here                           makes options of them
-//   host/jobs/JobRequest           takes the options along
-//   host/jobs/QueueJob             sends them to a queue; FilterChain gives them to the filters
+//   host/session/SessionJob   has the sources
+//   here                      makes options of them
+//   host/jobs/JobRequest      takes the options along
+//   host/jobs/QueueJob        sends them to a queue; FilterChain gives them to the filters
 #pragma once
 
 #include <QList>

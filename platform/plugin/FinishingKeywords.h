@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// The names in a PPD by which a printer staples and folds, where the panel that sets them and the
+// The names in a PPD by which a printer staples, folds and punches, where the panel that sets them and the
 // host that warns of what they lead to agree.
 #pragma once
 
@@ -7,6 +7,7 @@ namespace orvek {
 
 inline constexpr const char *staplingKeyword = "OVKStapling";
 inline constexpr const char *foldingKeyword = "OVKFolding";
+inline constexpr const char *punchKeyword = "OVKPunching";
 
 /// The choice of foldingKeyword that folds the sheets of a booklet at its spine.
 inline constexpr const char *saddleFold = "Saddle";

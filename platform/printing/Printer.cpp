@@ -48,10 +48,12 @@ QByteArray escaped(const QString &text) {
   return result;
 }
 
+// Services of the local network are known by names with the final dot, which device URIs often lack.
+// Any other host stays as it is written.
 QString fullyQualified(const QString &host) {
-  const bool isService =
-      host.contains(QLatin1String("._tcp.")) || host.contains(QLatin1String("._udp."));
-  return isService && !host.endsWith(QLatin1Char('.')) ? host + QLatin1Char('.') : host;
+  const bool isLocalService =
+      host.endsWith(QLatin1String("._tcp.local")) || host.endsWith(QLatin1String("._udp.local"));
+  return isLocalService ? host + QLatin1Char('.') : host;
 }
 
 }  // namespace

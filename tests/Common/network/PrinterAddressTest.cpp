@@ -181,7 +181,7 @@ TEST(PrinterAddress, ReadsNothingBehindTheAnswerOfALongerReplyByConnection) {
   });
   resolveThrough(nameServer);
   EXPECT_EQ(addressOf("dnssd://Orvek._ipp._tcp.local.example/"),
-            address("http://Orvek._ipp._tcp.local.example."));
+            address("http://Orvek._ipp._tcp.local.example"));
   EXPECT_EQ(nameServer.queries().size(), 2U);
 }
 
