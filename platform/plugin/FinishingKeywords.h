@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// The names in a PPD by which a printer staples, folds and punches, where the panel that sets them and the
-// host that warns of what they lead to agree.
+// The names in a PPD by which a printer staples, folds and punches, where the panel that sets them
+// and the host that warns of what they lead to agree.
 #pragma once
 
 namespace orvek {

@@ -48,8 +48,8 @@ QByteArray escaped(const QString &text) {
   return result;
 }
 
-// Services of the local network are known by names with the final dot, which device URIs often lack.
-// Any other host stays as it is written.
+// Services of the local network are known by names with the final dot, which device URIs often
+// lack. Any other host stays as it is written.
 QString fullyQualified(const QString &host) {
   const bool isLocalService =
       host.endsWith(QLatin1String("._tcp.local")) || host.endsWith(QLatin1String("._udp.local"));

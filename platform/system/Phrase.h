@@ -12,9 +12,9 @@ namespace orvek {
 
 /// An English text that remembers how it was made: a sentence, and the parts in its places %1 to
 /// %9. A command line shows the text as it is; a window has the sentence translated and puts the
-/// parts, translated in their turn, into it (host/translations/FailureText.h). A text that was given as a
-/// whole (a name, a file, a server's own words) has no sentence and is the same in every language.
-/// A value: owns all that it holds, and may be copied and used on any thread.
+/// parts, translated in their turn, into it (host/translations/FailureText.h). A text that was
+/// given as a whole (a name, a file, a server's own words) has no sentence and is the same in every
+/// language. A value: owns all that it holds, and may be copied and used on any thread.
 class Phrase : public QString {
  public:
   Phrase() = default;

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 // The program before a real print server of its own.
 
+#include <arpa/inet.h>
 #include <gtest/gtest.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
 
 #include <QFile>
 #include <QFileInfo>
@@ -131,6 +135,47 @@ TEST_F(ProgramQueue, IsNotAskedForAJobThatGoesIntoAFile) {
   EXPECT_EQ(job.status, 0) << job.errors.constData();
   EXPECT_EQ(job.output, "");
   EXPECT_GT(QFileInfo(file).size(), 0);
+}
+
+// Takes connections, as the system does for it, and never answers one.
+class SilentServer {
+ public:
+  SilentServer() : m_socket(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof address;
+    bind(m_socket, reinterpret_cast<const sockaddr *>(&address), size);
+    listen(m_socket, SOMAXCONN);
+    getsockname(m_socket, reinterpret_cast<sockaddr *>(&address), &size);
+    m_port = ntohs(address.sin_port);
+  }
+  ~SilentServer() { close(m_socket); }
+  SilentServer(const SilentServer &) = delete;
+  SilentServer &operator=(const SilentServer &) = delete;
+
+  QString address() const { return QStringLiteral("127.0.0.1:%1").arg(m_port); }
+
+  bool wasAsked() const {
+    pollfd waiting{m_socket, POLLIN, 0};
+    return poll(&waiting, 1, 0) > 0;
+  }
+
+ private:
+  int m_socket;
+  int m_port = 0;
+};
+
+// The tool that runs the filters would ask one about queues.
+TEST_F(ProgramQueue, IsNotAskedByTheFiltersEither) {
+  const SilentServer server;
+  const QString file = cache.filePath("out.ps");
+  const ProgramRun job = runProgram(
+      {"--headless", "--ppd", testPpd("finisher.ppd"), "--print", "--output", file, document},
+      {{"CUPS_SERVER=" + server.address()}, {}, {}});
+  EXPECT_EQ(job.status, 0) << job.errors.constData();
+  EXPECT_GT(QFileInfo(file).size(), 0);
+  EXPECT_FALSE(server.wasAsked());
 }
 
 TEST_F(ProgramQueue, GetsNoJobWithoutPrint) {

@@ -35,8 +35,7 @@ class PrinterList : public ::testing::Test {
 
   std::string defaultName() const {
     const auto queue = findPrinter({}, QString());
-    return queue ? queue.value().destination().toStdString()
-                   : queue.failure().line().toStdString();
+    return queue ? queue.value().destination().toStdString() : queue.failure().line().toStdString();
   }
 
   void lpoptions(const QStringList &arguments) const {
@@ -224,8 +223,7 @@ TEST(PrinterListOfAServerThatRefuses, FailsInWords) {
       "<Limit All>\nAuthType Basic\nRequire user nobody\n</Limit>\n", manyQueues(1)});
   const auto queues = listPrinters({});
   ASSERT_FALSE(queues);
-  EXPECT_TRUE(
-      queues.failure().why.startsWith(QStringLiteral("the print server does not allow it")))
+  EXPECT_TRUE(queues.failure().why.startsWith(QStringLiteral("the print server does not allow it")))
       << queues.failure().line().toStdString();
 }
 
