@@ -42,6 +42,12 @@ endif()
 
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets UiTools)
 find_package(Cups REQUIRED)
+# Where the print server keeps its programs, filters among them.
+execute_process(COMMAND cups-config --serverbin OUTPUT_VARIABLE ORVEK_CUPS_SERVERBIN
+                OUTPUT_STRIP_TRAILING_WHITESPACE)
+if(NOT ORVEK_CUPS_SERVERBIN)
+  set(ORVEK_CUPS_SERVERBIN /usr/lib/cups)
+endif()
 
 include(CTest)
 if(BUILD_TESTING)

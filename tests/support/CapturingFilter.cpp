@@ -28,10 +28,14 @@ QByteArray scriptText(const QString &scratch, const QString &script) {
 }
 
 QByteArray ppdText(const QString &filter) {
-  QByteArray ppd = contentsOf(orvekPPD(QStringLiteral("6180")));
   const QByteArray line =
       "*cupsFilter: \"application/vnd.cups-postscript 0 " + filter.toUtf8() + "\"\n";
-  return ppd.insert(ppd.indexOf("*Manufacturer"), line);
+  QByteArray ppd;
+  for (const QByteArray &own : contentsOf(orvekPPD(QStringLiteral("6180"))).split('\n')) {
+    if (own.startsWith("*Manufacturer")) ppd += line;
+    if (!own.startsWith("*cupsFilter2")) ppd += own + '\n';
+  }
+  return ppd;
 }
 
 }  // namespace

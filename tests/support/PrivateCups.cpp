@@ -51,13 +51,19 @@ QByteArray unprivilegedUser() {
   return ::geteuid() == 0 ? QByteArray("User lp\nGroup lp\n") : QByteArray();
 }
 
+void linkAllOf(const QDir &from, const QDir &to) {
+  for (const QString &name : from.entryList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot)) {
+    QFile::link(from.filePath(name), to.filePath(name));
+  }
+}
+
 QByteArray filesConfiguration(const QByteArray &folder) {
   return "FileDevice Yes\nSandboxing relaxed\nFatalErrors config\nSystemGroup root\n"
          "PrintcapFormat bsd\nPrintcap\n" +
-         unprivilegedUser() + "ServerRoot " + folder + "/etc\nStateDir " + folder +
-         "/run\nCacheDir " + folder + "/cache\nRequestRoot " + folder + "/spool\nTempDir " +
-         folder + "/spool/tmp\nErrorLog " + folder + "/error_log\nAccessLog " + folder +
-         "/access_log\nPageLog " + folder + "/page_log\n";
+         unprivilegedUser() + "ServerRoot " + folder + "/etc\nServerBin " + folder +
+         "/bin\nStateDir " + folder + "/run\nCacheDir " + folder + "/cache\nRequestRoot " + folder +
+         "/spool\nTempDir " + folder + "/spool/tmp\nErrorLog " + folder + "/error_log\nAccessLog " +
+         folder + "/access_log\nPageLog " + folder + "/page_log\n";
 }
 
 const QByteArray openPolicy =
@@ -141,6 +147,7 @@ PrivateCups::PrivateCups(const PrivateCupsSetup &setup)
   }
   QFile::setPermissions(m_folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
                                              QFile::ReadOther | QFile::ExeOther);
+  installPrograms(setup.hasDriver);
   writeConfiguration(setup);
   pointEnvironmentHere();
   start();
@@ -156,6 +163,21 @@ PrivateCups::~PrivateCups() {
     }
   }
   cupsSetServer(nullptr);
+}
+
+/// The machine's own by their names, and a copy of ours: a build tree may be out of reach for the
+/// user that filters run as.
+void PrivateCups::installPrograms(bool withDriver) {
+  const QDir machine(QStringLiteral(ORVEK_CUPS_SERVERBIN));
+  const QDir own(m_folder.filePath(QStringLiteral("bin")));
+  const QDir filters(own.filePath(QStringLiteral("filter")));
+  const QString driver = filters.filePath(QStringLiteral("orvek-booklet"));
+  filters.mkpath(QStringLiteral("."));
+  linkAllOf(QDir(machine.filePath(QStringLiteral("filter"))), filters);
+  linkAllOf(machine, own);
+  QFile::remove(driver);
+  if (!withDriver) return;
+  ASSERT_TRUE(QFile::copy(QStringLiteral(ORVEK_BOOKLET_FILTER), driver));
 }
 
 void PrivateCups::writeConfiguration(const PrivateCupsSetup &setup) {

@@ -33,6 +33,8 @@ struct PrivateCupsSetup {
   QByteArray policy;
   /// A ready printers.conf; empty: no queues.
   QByteArray printers;
+  /// Whether the driver that our PPDs name is installed.
+  bool hasDriver = true;
 };
 
 /// Runs as long as it lives; one at a time. While it does, CUPS_SERVER, CUPS_SERVERROOT and HOME of
@@ -82,6 +84,7 @@ class PrivateCups {
   QString log() const;
 
  private:
+  void installPrograms(bool withDriver);
   void writeConfiguration(const PrivateCupsSetup &setup);
   void pointEnvironmentHere();
 
