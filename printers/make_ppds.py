@@ -76,6 +76,22 @@ def write_capabilities(document, model):
     document.add()
 
 
+# What CUPS sends to the printer by which filter: type, its cost, filter. The driver prints PDF and
+# PostScript. The other two stand here because CUPS adds them only to a printer that names no filter.
+FILTERS = (
+    ("application/vnd.cups-pdf", 0, "orvek-booklet"),
+    ("application/postscript", 0, "orvek-booklet"),
+    ("application/vnd.cups-postscript", 0, "-"),
+    ("application/vnd.cups-command", 0, "commandtops"),
+)
+
+
+def write_filters(document):
+    for source, cost, program in FILTERS:
+        document.quoted("cupsFilter2", f"{source} application/vnd.cups-postscript {cost} {program}")
+    document.add()
+
+
 def write_constraints(document, model):
     options = model.options()
     constraints = [c for c in model.constraints if applies(c, options)]
@@ -142,6 +158,7 @@ def ppd(model):
     document = Document()
     write_identity(document, model)
     write_capabilities(document, model)
+    write_filters(document)
     write_constraints(document, model)
     for group in model.groups:
         document.group(group)

@@ -14,6 +14,7 @@
 #include <QProcess>
 #include <QStandardPaths>
 
+#include "host/jobs/BookletDriver.h"
 #include "host/jobs/Document.h"
 #include "host/jobs/FilterMessages.h"
 #include "host/jobs/InputSpool.h"
@@ -38,14 +39,10 @@ Status checkPPDFile(const QString &path) {
   return {};
 }
 
-QStringList toolArguments(const JobRequest &request, const QString &document) {
+QStringList toolArguments(const JobRequest &request, const QString &ppd, const QString &document) {
   // -e: without it the printer's own filters are left out and the output is not device-ready.
-  QStringList arguments{QStringLiteral("-e"),
-                        QStringLiteral("-p"),
-                        QFileInfo(request.ppdFile).absoluteFilePath(),
-                        QStringLiteral("-m"),
-                        QStringLiteral("printer/foo"),
-                        QStringLiteral("-t"),
+  QStringList arguments{QStringLiteral("-e"),   QStringLiteral("-p"),          ppd,
+                        QStringLiteral("-m"),   QStringLiteral("printer/foo"), QStringLiteral("-t"),
                         effectiveTitle(request)};
   if (!request.user.isEmpty()) arguments << QStringLiteral("-U") << request.user;
   auto options = effectiveOptions(request);
@@ -81,6 +78,7 @@ struct Run {
   const JobRequest &request;
   JobControl &control;
   const QString tool;
+  const QString ppd;
   OutputTarget &target;
   JobProgress progress;
   int pagesOfEarlierDocuments = 0;
@@ -119,7 +117,7 @@ void prepare(QProcess &process, const Run &run, const QString &path) {
   process.setChildProcessModifier(leadOwnGroup);
   process.setStandardInputFile(QProcess::nullDevice());
   process.setProgram(run.tool);
-  process.setArguments(toolArguments(run.request, path));
+  process.setArguments(toolArguments(run.request, run.ppd, path));
 }
 
 Status filterDocument(Run &run, const QString &path, const Phrase &name) {
@@ -176,11 +174,14 @@ Result<JobOutcome> printThroughFilters(const JobRequest &request, JobControl &co
         FailureKind::Io, QStringLiteral("cupsfilter"),
         Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "not found; install the package \"cups\""))};
   }
+  const auto ppd =
+      ChainPPD::of(request.ppdFile, effectiveOptions(request), DriverPlaces::ofThisProgram());
+  if (!ppd) return ppd.failure();
   auto target = OutputTarget::open(request.outputFile);
   if (!target) return target.failure();
 
   const QStringList files = effectiveFiles(request);
-  Run run{request, control, tool, *target.value(), {}, 0};
+  Run run{request, control, tool, ppd.value().path(), *target.value(), {}, 0};
   run.progress.documents = static_cast<int>(files.size());
   for (const QString &file : files) {
     if (Status done = filterNamed(run, file); !done) return done.failure();

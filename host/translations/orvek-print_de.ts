@@ -133,6 +133,10 @@
         <translation>die Filter haben daraus nichts erzeugt</translation>
     </message>
     <message>
+        <source>not found, so no booklet can be made; install this filter, too</source>
+        <translation>nicht gefunden, daher entsteht keine Broschüre; installieren Sie auch diesen Filter</translation>
+    </message>
+    <message>
         <source>not found; install the package &quot;cups&quot;</source>
         <translation>nicht gefunden; installieren Sie das Paket „cups“</translation>
     </message>

@@ -133,6 +133,10 @@
         <translation>les filtres n’en ont rien tiré</translation>
     </message>
     <message>
+        <source>not found, so no booklet can be made; install this filter, too</source>
+        <translation>introuvable, donc pas de livret possible ; installez aussi ce filtre</translation>
+    </message>
+    <message>
         <source>not found; install the package &quot;cups&quot;</source>
         <translation>introuvable ; installez le paquet « cups »</translation>
     </message>

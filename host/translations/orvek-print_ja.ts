@@ -133,6 +133,10 @@
         <translation>フィルターは何も出力しませんでした</translation>
     </message>
     <message>
+        <source>not found, so no booklet can be made; install this filter, too</source>
+        <translation>見つからないため小冊子を作れません。このフィルターもインストールしてください</translation>
+    </message>
+    <message>
         <source>not found; install the package &quot;cups&quot;</source>
         <translation>見つかりません。パッケージ「cups」をインストールしてください</translation>
     </message>

@@ -29,11 +29,6 @@ QString filterTool() {
   return QStandardPaths::findExecutable(QStringLiteral("cupsfilter"), kFolders);
 }
 
-QByteArray filterLine(const char *type, const QString &filter) {
-  return QByteArray("*cupsFilter2: \"") + type + " application/vnd.cups-postscript 0 " +
-         filter.toUtf8() + "\"\n";
-}
-
 Printed finish(QProcess &process, const QByteArray &input) {
   EXPECT_TRUE(process.waitForStarted(patience));
   process.write(input);
@@ -56,13 +51,11 @@ DriverKit::DriverKit() {
   QFile::setPermissions(m_folder.path(), everybodyReads | everybodyRuns | QFile::WriteOwner);
   EXPECT_TRUE(QFile::copy(bookletFilter(), filter()));
   QFile::setPermissions(filter(), everybodyReads | everybodyRuns);
-  const QByteArray plain = QByteArray::fromStdString(
-      driver::withoutFilterLines(contentsOf(orvekPPD(QStringLiteral("6180"))).toStdString()));
-  writeContents(plainPPD(), plain);
-  const QByteArray before = "*LanguageLevel:";
-  const QByteArray lines = filterLine("application/vnd.cups-pdf", filter()) +
-                           filterLine("application/postscript", filter()) + before;
-  writeContents(ppd(), QByteArray(plain).replace(before, lines));
+  const QByteArray ppd = contentsOf(orvekPPD(QStringLiteral("6180")));
+  writeContents(plainPPD(),
+                QByteArray::fromStdString(driver::withoutFilterLines(ppd.toStdString())));
+  const QByteArray named = filter().toUtf8() + '"';
+  writeContents(this->ppd(), QByteArray(ppd).replace("orvek-booklet\"", named));
 }
 
 QString DriverKit::write(const QString &name, const std::string &contents) const {

@@ -133,6 +133,23 @@ class Installation(unittest.TestCase):
                    "--do", "foldingPopup=Saddle", "--summary", env=environment)
         self.assertIn("Saddle", told)
 
+    def test_moved_elsewhere_with_its_driver_the_program_prints_a_booklet_into_a_file(self):
+        if not shutil.which("cupsfilter", path=os.environ["PATH"] + ":/usr/sbin"):
+            self.skipTest("cupsfilter is not installed")
+        first = os.path.join(self.folder, "first-with-driver")
+        install(first, "--component", "runtime")
+        install(first, "--component", "filter")
+        moved = os.path.join(self.folder, "moved-with-driver")
+        os.rename(first, moved)
+        environment = {"PATH": os.environ["PATH"], "HOME": self.folder, "QT_QPA_PLATFORM": "offscreen",
+                       "LC_ALL": "C.UTF-8", "ASAN_OPTIONS": "detect_leaks=0"}
+        printed = os.path.join(self.folder, "booklet.ps")
+        run(f"{moved}/bin/orvek-print", "--headless", "--ppd", f"{SOURCE}/printers/Orvek-6180.ppd",
+            "--do", "foldingPopup=Saddle", "--do", "bookletChckBox=on", "--output", printed,
+            f"{SOURCE}/samples/Finishing-Sample.pdf", env=environment)
+        with open(printed, encoding="latin-1") as file:
+            self.assertEqual(file.read().count("%%Page: "), 4)
+
     @unittest.skipUnless(HARDENED, "only an optimised build without sanitizers is hardened")
     def test_every_binary_is_hardened(self):
         checker = os.path.join(SOURCE, "tools/check-hardening.py")

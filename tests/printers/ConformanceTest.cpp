@@ -11,6 +11,7 @@
 #include <set>
 #include <tuple>
 
+#include "driver/StandardFilters.h"
 #include "tests/printers/PrinterFamily.h"
 
 namespace orvek::test {
@@ -52,6 +53,38 @@ bool isCustomRegion(const ppd_option_t *option, const ppd_choice_t &choice) {
   return option->keyword == std::string("PageRegion") && choice.choice == std::string("Custom");
 }
 
+/// A print server's folder of programs with the filters that the PPDs name: the checker wants to
+/// see them, and the driver need not be installed.
+class FilterFolder {
+ public:
+  FilterFolder() {
+    QDir(m_folder.path()).mkpath(QStringLiteral("filter"));
+    link(QStringLiteral(ORVEK_BINARY_DIR "/cups/filter/orvek-booklet"));
+    link(QString::fromStdString(driver::standardFilterPath("commandtops")));
+    m_saved = qgetenv(kVariable);
+    qputenv(kVariable, m_folder.path().toUtf8());
+  }
+  ~FilterFolder() {
+    if (m_saved.isNull())
+      qunsetenv(kVariable);
+    else
+      qputenv(kVariable, m_saved);
+  }
+  FilterFolder(const FilterFolder &) = delete;
+  FilterFolder &operator=(const FilterFolder &) = delete;
+
+ private:
+  static constexpr const char *kVariable = "CUPS_SERVERBIN";
+
+  void link(const QString &filter) {
+    QFile::link(filter,
+                m_folder.filePath(QStringLiteral("filter/")) + QFileInfo(filter).fileName());
+  }
+
+  QTemporaryDir m_folder;
+  QByteArray m_saved;
+};
+
 class EveryPrinter : public ::testing::TestWithParam<std::string> {
  protected:
   void SetUp() override { ASSERT_NE(ppd, nullptr) << ppdPath(GetParam()); }
@@ -64,11 +97,27 @@ INSTANTIATE_TEST_SUITE_P(Family, EveryPrinter, ::testing::ValuesIn(models));
 TEST_P(EveryPrinter, ConformsToThePPDFormat) {
   const QString tool = QStandardPaths::findExecutable(QStringLiteral("cupstestppd"));
   if (tool.isEmpty()) GTEST_SKIP() << "cupstestppd is not installed";
+  if (driver::standardFilterPath("commandtops").empty())
+    GTEST_SKIP() << "CUPS' own filters are not installed";
+  const FilterFolder filters;
   const Outcome test =
       run(tool, {QStringLiteral("-v"), QString::fromStdString(ppdPath(GetParam()))});
   EXPECT_EQ(test.status, 0) << test.text.toStdString();
   EXPECT_FALSE(test.text.contains("FAIL")) << test.text.toStdString();
   EXPECT_FALSE(test.text.contains(" WARN ")) << test.text.toStdString();
+}
+
+TEST_P(EveryPrinter, HasItsPagesPrintedByTheDriver) {
+  std::vector<std::string> filters;
+  for (const ppd_attr_t *line = ppdFindAttr(ppd.get(), "cupsFilter2", nullptr); line != nullptr;
+       line = ppdFindNextAttr(ppd.get(), "cupsFilter2", nullptr))
+    filters.emplace_back(line->value);
+  EXPECT_THAT(
+      filters,
+      ElementsAre("application/vnd.cups-pdf application/vnd.cups-postscript 0 orvek-booklet",
+                  "application/postscript application/vnd.cups-postscript 0 orvek-booklet",
+                  "application/vnd.cups-postscript application/vnd.cups-postscript 0 -",
+                  "application/vnd.cups-command application/vnd.cups-postscript 0 commandtops"));
 }
 
 TEST_P(EveryPrinter, IsOneOfOurDriversPrinters) {

@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: Apache-2.0
+// Rewrites the lines of a PPD that name filters. The tool finds a filter by a name alone only in
+// the print server's folder, and of several lines that tell what a filter makes it takes one for
+// the format of the whole chain's output: so there is one line for each format taken, by path.
+
+#include "host/jobs/BookletDriver.h"
+
+#include <cups/file.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <array>
+
+#include "imposition/BookletKeys.h"
+
+namespace orvek {
+namespace {
+
+const QString driverName = QStringLiteral("orvek-booklet");
+constexpr const char *takenFormats[] = {"application/vnd.cups-pdf", "application/postscript"};
+
+/// Below what the program's folder lies in: a build tree, then a prefix.
+constexpr const char *foldersBelow[] = {"cups/filter", "lib/cups/filter"};
+/// Named when it was configured, absolute or below the prefix; empty where none was.
+constexpr const char *configuredFolder = ORVEK_CUPS_FILTER_DIR;
+
+QString textOf(const QString &ppdFile) {
+  // Reads compressed files, too, as everybody does who reads PPDs by way of libcups.
+  cups_file_t *file = cupsFileOpen(QFile::encodeName(ppdFile).constData(), "r");
+  if (file == nullptr) return {};
+  QByteArray text;
+  std::array<char, 1 << 14> bytes{};
+  for (ssize_t size = 0; (size = cupsFileRead(file, bytes.data(), bytes.size())) > 0;)
+    text.append(bytes.data(), size);
+  cupsFileClose(file);
+  return QString::fromLatin1(text);
+}
+
+QRegularExpression lines(const char *pattern) {
+  return QRegularExpression(QLatin1String(pattern), QRegularExpression::MultilineOption);
+}
+
+bool isOurs(const QString &text) {
+  static const auto driver = lines(R"(^\*cupsFilter2\s*:\s*"[^"]*[ \t]orvek-booklet\s*")");
+  static const auto anyFilter = lines(R"(^\*cupsFilter2?\s*:)");
+  static const auto booklets = lines(R"(^\*OVKHasBooklet\s*:\s*"?True)");
+  if (text.contains(driver)) return true;
+  return text.contains(booklets) && !text.contains(anyFilter);
+}
+
+QString withoutFilters(QString text) {
+  static const auto filter = lines(R"(^\*cupsFilter2?\s*:.*\n?)");
+  return text.remove(filter);
+}
+
+QString withDriver(const QString &text, const QString &driver) {
+  QString all = withoutFilters(text);
+  if (!all.endsWith(u'\n')) all += u'\n';
+  for (const char *format : takenFormats)
+    all += QStringLiteral("*cupsFilter: \"%1 0 %2\"\n").arg(QLatin1String(format), driver);
+  return all;
+}
+
+}  // namespace
+
+DriverPlaces DriverPlaces::ofThisProgram() {
+  return {QCoreApplication::applicationDirPath(),
+          qEnvironmentVariable("CUPS_SERVERBIN", QStringLiteral(ORVEK_CUPS_SERVERBIN))};
+}
+
+QString findBookletDriver(const DriverPlaces &places) {
+  QStringList folders;
+  const QDir prefix(QDir::cleanPath(places.programFolder + QStringLiteral("/..")));
+  for (const char *folder : foldersBelow) folders << prefix.filePath(QString::fromUtf8(folder));
+  if (*configuredFolder != '\0') folders << prefix.filePath(QString::fromUtf8(configuredFolder));
+  if (!places.serverFolder.isNull()) folders << places.serverFolder + QStringLiteral("/filter");
+  for (const QString &folder : folders) {
+    const QFileInfo file(QDir(folder), driverName);
+    if (file.isFile() && file.isExecutable()) return QDir::cleanPath(file.absoluteFilePath());
+  }
+  return {};
+}
+
+bool asksForBooklet(const QMap<QString, QString> &options) {
+  const auto value = [&options](const char *key) -> std::optional<std::string> {
+    // Filters don't mind the case of an option's name.
+    for (auto option = options.cbegin(); option != options.cend(); ++option)
+      if (option.key().compare(QLatin1String(key), Qt::CaseInsensitive) == 0)
+        return option.value().toStdString();
+    return std::nullopt;
+  };
+  return imposition::readBookletKeys(value).enabled;
+}
+
+Result<ChainPPD> ChainPPD::of(const QString &ppdFile, const QMap<QString, QString> &options,
+                              const DriverPlaces &places) {
+  const QString text = textOf(ppdFile);
+  if (!isOurs(text)) return ChainPPD(ppdFile);
+  if (!asksForBooklet(options)) return copied(ppdFile, withoutFilters(text).toLatin1());
+  const QString driver = findBookletDriver(places);
+  if (driver.isNull()) {
+    return Failure{
+        FailureKind::Io, driverName,
+        Phrase(QT_TRANSLATE_NOOP(
+            "orvek::Failure", "not found, so no booklet can be made; install this filter, too"))};
+  }
+  // Text of the PPD goes back as it came, byte by byte; so does the path.
+  const QString path = QString::fromLatin1(QFile::encodeName(driver));
+  return copied(ppdFile, withDriver(text, path).toLatin1());
+}
+
+Result<ChainPPD> ChainPPD::copied(const QString &ppdFile, const QByteArray &text) {
+  ChainPPD ppd(ppdFile);
+  ppd.m_copy = std::make_unique<QTemporaryFile>();
+  if (!ppd.m_copy->open() || ppd.m_copy->write(text) != text.size() || !ppd.m_copy->flush()) {
+    return Failure{FailureKind::Io, ppd.m_copy->fileTemplate(),
+                   Phrase::ofSystem(ppd.m_copy->errorString())};
+  }
+  return ppd;
+}
+
+QString ChainPPD::path() const {
+  return m_copy ? m_copy->fileName() : QFileInfo(m_original).absoluteFilePath();
+}
+
+}  // namespace orvek

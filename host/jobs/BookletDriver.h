@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: Apache-2.0
+// The driver in jobs into a file: it makes booklets there without being installed into CUPS.
+#pragma once
+
+#include <QMap>
+#include <QString>
+#include <QTemporaryFile>
+#include <memory>
+
+#include "platform/system/Result.h"
+
+namespace orvek {
+
+/// Where the driver's program may lie.
+struct DriverPlaces {
+  /// This program's own folder, in a build tree or below a prefix, wherever that was moved to.
+  QString programFolder;
+  /// The print server's programs, filters in a folder of their own; null: none.
+  QString serverFolder;
+
+  static DriverPlaces ofThisProgram();
+};
+
+/// The path of the driver's program, that of a build tree before any that is installed; null where
+/// there is none.
+QString findBookletDriver(const DriverPlaces &places);
+
+/// Whether the driver would make a booklet of a job with these options.
+bool asksForBooklet(const QMap<QString, QString> &options);
+
+/// The PPD that one job's filters are chosen by. Where it is a copy, that goes with the object.
+class ChainPPD {
+ public:
+  /// A PPD is ours to rewrite if it names the driver without saying where it is, or, for a printer
+  /// that makes booklets, names no filter at all. Its copy names the driver by its path where
+  /// `options` ask for a booklet, and else no filter: standard filters do the same without the
+  /// driver, wherever it is. Any other PPD is taken as it stands, one that can't be read, too.
+  ///
+  /// Failures: a booklet is asked for and the driver is in none of `places`; the copy can't be
+  /// written.
+  static Result<ChainPPD> of(const QString &ppdFile, const QMap<QString, QString> &options,
+                             const DriverPlaces &places);
+
+  /// Absolute.
+  QString path() const;
+
+ private:
+  explicit ChainPPD(const QString &original) : m_original(original) {}
+  static Result<ChainPPD> copied(const QString &ppdFile, const QByteArray &text);
+
+  QString m_original;
+  std::unique_ptr<QTemporaryFile> m_copy;
+};
+
+}  // namespace orvek
