@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: Apache-2.0
-# What is installed, in two components: "runtime" is what programs need to run, "development" what other
-# projects build against: headers, static libraries and the CMake package OrvekFinishing.
+# What is installed, in three components: "runtime" is what programs need to run, "filter" the CUPS filter, for
+# print servers alone, "development" what other projects build against: headers, static libraries and the
+# CMake package OrvekFinishing.
 
 include(CMakePackageConfigHelpers)
 
