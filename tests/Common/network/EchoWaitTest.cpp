@@ -33,26 +33,46 @@ std::vector<unsigned char> ownReply() {
   return reply;
 }
 
+struct Wait {
+  int result = -2;
+  /// Whether the datagrams left when they were to; a busy machine may be late.
+  bool wasOnTime = false;
+};
+
 /// What a wait of `limit` milliseconds gives where something else comes shortly before a second
 /// turns and 90 ms later, and the reply 60 ms after that.
-int waitAcrossASecond(int limit) {
+Wait waitOnce(int limit) {
   std::array<int, 2> pair{-1, -1};
-  if (socketpair(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0, pair.data()) != 0) return -2;
+  if (socketpair(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0, pair.data()) != 0) return {};
+  // As the socket of an echo has it: a wait that hears nothing ends.
+  constexpr timeval longestSilence{1, 0};
+  setsockopt(pair[0], SOL_SOCKET, SO_RCVTIMEO, &longestSilence, sizeof longestSilence);
   const auto turn = std::chrono::ceil<seconds>(steady_clock::now() + milliseconds(150));
+  Wait wait;
+  wait.wasOnTime = true;
   std::thread sender([&] {
-    std::this_thread::sleep_until(turn - milliseconds(60));
-    send(pair[1], "?", 1, 0);
-    std::this_thread::sleep_until(turn + milliseconds(30));
-    send(pair[1], "?", 1, 0);
-    std::this_thread::sleep_until(turn + milliseconds(90));
     const auto reply = ownReply();
-    send(pair[1], reply.data(), reply.size(), 0);
+    const auto sendAt = [&](milliseconds offset, const void *bytes, std::size_t size) {
+      std::this_thread::sleep_until(turn + offset);
+      send(pair[1], bytes, size, 0);
+      if (steady_clock::now() - turn - offset > milliseconds(8)) wait.wasOnTime = false;
+    };
+    sendAt(milliseconds(-60), "?", 1);
+    sendAt(milliseconds(30), "?", 1);
+    sendAt(milliseconds(90), reply.data(), reply.size());
   });
   unsigned int seen = 0;
-  const int result = WaitAndPrintICMPs(pair[0], limit, 0, &seen);
+  wait.result = WaitAndPrintICMPs(pair[0], limit, 0, &seen);
   sender.join();
   for (const int descriptor : pair) close(descriptor);
-  return result;
+  return wait;
+}
+
+int waitAcrossASecond(int limit) {
+  constexpr int tries = 8;
+  Wait wait = waitOnce(limit);
+  for (int i = 1; i < tries && !wait.wasOnTime; ++i) wait = waitOnce(limit);
+  return wait.result;
 }
 
 class EchoWait : public testing::Test {
