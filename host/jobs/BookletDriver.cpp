@@ -12,6 +12,8 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <array>
+#include <optional>
+#include <string>
 
 #include "imposition/BookletKeys.h"
 
@@ -32,8 +34,9 @@ QString textOf(const QString &ppdFile) {
   if (file == nullptr) return {};
   QByteArray text;
   std::array<char, 1 << 14> bytes{};
-  for (ssize_t size = 0; (size = cupsFileRead(file, bytes.data(), bytes.size())) > 0;)
+  for (ssize_t size = 0; (size = cupsFileRead(file, bytes.data(), bytes.size())) > 0;) {
     text.append(bytes.data(), size);
+  }
   cupsFileClose(file);
   return QString::fromLatin1(text);
 }
@@ -58,8 +61,9 @@ QString withoutFilters(QString text) {
 QString withDriver(const QString &text, const QString &driver) {
   QString all = withoutFilters(text);
   if (!all.endsWith(u'\n')) all += u'\n';
-  for (const char *format : takenFormats)
+  for (const char *format : takenFormats) {
     all += QStringLiteral("*cupsFilter: \"%1 0 %2\"\n").arg(QLatin1String(format), driver);
+  }
   return all;
 }
 
@@ -86,9 +90,11 @@ QString findBookletDriver(const DriverPlaces &places) {
 bool asksForBooklet(const QMap<QString, QString> &options) {
   const auto value = [&options](const char *key) -> std::optional<std::string> {
     // Filters don't mind the case of an option's name.
-    for (auto option = options.cbegin(); option != options.cend(); ++option)
-      if (option.key().compare(QLatin1String(key), Qt::CaseInsensitive) == 0)
+    for (auto option = options.cbegin(); option != options.cend(); ++option) {
+      if (option.key().compare(QLatin1String(key), Qt::CaseInsensitive) == 0) {
         return option.value().toStdString();
+      }
+    }
     return std::nullopt;
   };
   return imposition::readBookletKeys(value).enabled;

@@ -49,8 +49,9 @@ class BookletOutput : public ::testing::Test {
   QByteArray printPlain() const {
     const QString &file = request.files.constFirst();
     QStringList options{QStringLiteral("-t ") + QFileInfo(file).fileName()};
-    for (auto option = request.options.cbegin(); option != request.options.cend(); ++option)
+    for (auto option = request.options.cbegin(); option != request.options.cend(); ++option) {
       options << option.key() + u'=' + option.value();
+    }
     return printThrough(kit.plainPPD(), options, file).output;
   }
 
@@ -99,6 +100,24 @@ TEST_F(BookletOutput, MakesEachDocumentOfAJobABookletOfItsOwn) {
   expectSeen(seen(), bookletOf(5));
   writeContents(request.outputFile, both.mid(secondBegins));
   expectSeen(seen(), bookletOf(3));
+}
+
+TEST_F(BookletOutput, ChoosesPagesFirst) {
+  request.files = {document("in.pdf", 8)};
+  request.options = {{QStringLiteral("OVKEnableBooklet"), QStringLiteral("true")}};
+  request.pageRanges = QStringLiteral("1-3");
+  print();
+  expectSeen(seen(), bookletOf(3));
+}
+
+TEST_F(BookletOutput, TakesPostScriptAndText) {
+  request.options = {{QStringLiteral("OVKEnableBooklet"), QStringLiteral("true")}};
+  request.files = {kit.write(QStringLiteral("in.ps"), postScriptDocument(6).toStdString())};
+  EXPECT_EQ(print().count("%%Page: "), 4);
+  request.files = {kit.write(QStringLiteral("in.txt"), "A text\nof two lines\n")};
+  const QByteArray text = print();
+  EXPECT_EQ(text.count("%%Page: "), 2);
+  EXPECT_EQ(text.count("%%BeginFeature: *Duplex DuplexTumble"), 1);
 }
 
 TEST_F(BookletOutput, OfAPPDThatNamesNoFilterIsABookletAllTheSame) {

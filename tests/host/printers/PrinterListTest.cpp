@@ -73,6 +73,19 @@ TEST_F(PrinterList, SaysWhyAPrinterIsStopped) {
   EXPECT_TRUE(queues.value()[1].stateMessage.isNull());
 }
 
+TEST_F(PrinterList, SaysThatAServerLacksThePrintersDriver) {
+  EXPECT_EQ(listPrinters({}).value()[0].reasons, QStringList());
+  cups.reset();
+  PrivateCupsSetup setup;
+  setup.hasDriver = false;
+  cups = std::make_unique<PrivateCups>(setup);
+  cups->addQueue(firstQueue, orvekPPD(QStringLiteral("6180")));
+  const auto queues = listPrinters({});
+  ASSERT_TRUE(queues);
+  EXPECT_EQ(queues.value()[0].reasons,
+            QStringList{QStringLiteral("The printer's filter is missing")});
+}
+
 TEST_F(PrinterList, ListsInstancesWithTheirOptions) {
   lpoptions({QStringLiteral("-p"), firstQueue + QStringLiteral("/draft"), QStringLiteral("-o"),
              QStringLiteral("OVKTonerSaving=True")});
