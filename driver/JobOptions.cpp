@@ -3,6 +3,7 @@
 
 #include "driver/JobOptions.h"
 
+#include <cstdlib>
 #include <span>
 #include <string_view>
 
@@ -27,8 +28,10 @@ JobOptions::JobOptions(const std::string &text) {
   m_count = cupsParseOptions(text.c_str(), 0, &m_options);
 }
 
+// libcups keeps the list when the last option is removed, and frees none that is empty.
 JobOptions::~JobOptions() {
   cupsFreeOptions(m_count, m_options);
+  if (m_count == 0) std::free(m_options);
 }
 
 std::optional<std::string> JobOptions::value(const char *name) const {

@@ -65,10 +65,11 @@ class FilterFolder {
     qputenv(kVariable, m_folder.path().toUtf8());
   }
   ~FilterFolder() {
-    if (m_saved.isNull())
+    if (m_saved.isNull()) {
       qunsetenv(kVariable);
-    else
+    } else {
       qputenv(kVariable, m_saved);
+    }
   }
   FilterFolder(const FilterFolder &) = delete;
   FilterFolder &operator=(const FilterFolder &) = delete;
@@ -97,8 +98,9 @@ INSTANTIATE_TEST_SUITE_P(Family, EveryPrinter, ::testing::ValuesIn(models));
 TEST_P(EveryPrinter, ConformsToThePPDFormat) {
   const QString tool = QStandardPaths::findExecutable(QStringLiteral("cupstestppd"));
   if (tool.isEmpty()) GTEST_SKIP() << "cupstestppd is not installed";
-  if (driver::standardFilterPath("commandtops").empty())
+  if (driver::standardFilterPath("commandtops").empty()) {
     GTEST_SKIP() << "CUPS' own filters are not installed";
+  }
   const FilterFolder filters;
   const Outcome test =
       run(tool, {QStringLiteral("-v"), QString::fromStdString(ppdPath(GetParam()))});
@@ -110,8 +112,9 @@ TEST_P(EveryPrinter, ConformsToThePPDFormat) {
 TEST_P(EveryPrinter, HasItsPagesPrintedByTheDriver) {
   std::vector<std::string> filters;
   for (const ppd_attr_t *line = ppdFindAttr(ppd.get(), "cupsFilter2", nullptr); line != nullptr;
-       line = ppdFindNextAttr(ppd.get(), "cupsFilter2", nullptr))
+       line = ppdFindNextAttr(ppd.get(), "cupsFilter2", nullptr)) {
     filters.emplace_back(line->value);
+  }
   EXPECT_THAT(
       filters,
       ElementsAre("application/vnd.cups-pdf application/vnd.cups-postscript 0 orvek-booklet",

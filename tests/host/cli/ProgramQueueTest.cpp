@@ -145,15 +145,16 @@ class SilentServer {
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     socklen_t size = sizeof address;
-    bind(m_socket, reinterpret_cast<const sockaddr *>(&address), size);
-    listen(m_socket, SOMAXCONN);
-    getsockname(m_socket, reinterpret_cast<sockaddr *>(&address), &size);
+    auto *const place = reinterpret_cast<sockaddr *>(&address);
+    m_listens = bind(m_socket, place, size) == 0 && listen(m_socket, SOMAXCONN) == 0 &&
+                getsockname(m_socket, place, &size) == 0;
     m_port = ntohs(address.sin_port);
   }
   ~SilentServer() { close(m_socket); }
   SilentServer(const SilentServer &) = delete;
   SilentServer &operator=(const SilentServer &) = delete;
 
+  bool listens() const { return m_listens; }
   QString address() const { return QStringLiteral("127.0.0.1:%1").arg(m_port); }
 
   bool wasAsked() const {
@@ -163,12 +164,14 @@ class SilentServer {
 
  private:
   int m_socket;
+  bool m_listens = false;
   int m_port = 0;
 };
 
 // The tool that runs the filters would ask one about queues.
 TEST_F(ProgramQueue, IsNotAskedByTheFiltersEither) {
   const SilentServer server;
+  ASSERT_TRUE(server.listens());
   const QString file = cache.filePath("out.ps");
   const ProgramRun job = runProgram(
       {"--headless", "--ppd", testPpd("finisher.ppd"), "--print", "--output", file, document},
