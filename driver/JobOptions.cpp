@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <span>
 #include <string_view>
+#include <utility>
 
 namespace orvek::driver {
 namespace {
@@ -28,10 +29,8 @@ JobOptions::JobOptions(const std::string &text) {
   m_count = cupsParseOptions(text.c_str(), 0, &m_options);
 }
 
-// libcups keeps the list when the last option is removed, and frees none that is empty.
 JobOptions::~JobOptions() {
   cupsFreeOptions(m_count, m_options);
-  if (m_count == 0) std::free(m_options);
 }
 
 std::optional<std::string> JobOptions::value(const char *name) const {
@@ -46,6 +45,8 @@ void JobOptions::set(const char *name, const char *value) {
 
 void JobOptions::remove(std::initializer_list<const char *> names) {
   for (const char *name : names) m_count = cupsRemoveOption(name, m_count, &m_options);
+  // libcups keeps the list when its last option goes, and neither frees nor reuses an empty one.
+  if (m_count == 0) std::free(std::exchange(m_options, nullptr));
 }
 
 std::string JobOptions::text() const {
