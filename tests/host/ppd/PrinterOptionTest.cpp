@@ -120,7 +120,8 @@ TEST(InstalledEquipment, IncludesAGroupWithinTheGroup) {
   const QTemporaryDir folder;
   const auto printer = openWithSubgroup(folder);
   ASSERT_TRUE(printer);
-  for (const PrinterOptionGroup &group : openTestPpd(QStringLiteral("finisher.ppd"))->options()) {
+  const auto plain = openTestPpd(QStringLiteral("finisher.ppd"));
+  for (const PrinterOptionGroup &group : plain->options()) {
     for (const QString &keyword : keywordsOf(group)) {
       EXPECT_EQ(printer->isEquipment(keyword), keyword.startsWith("OVKOption"))
           << keyword.toStdString();
