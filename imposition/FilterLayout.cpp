@@ -94,6 +94,18 @@ void scaleAsAsked(Medium &medium, std::span<const Size> pages, const FilterJob &
   medium.fits = medium.crops || job.scaling == Scaling::Fit || isAutomatic;
 }
 
+// Where the room begins, with the grid turned where it asks for it.
+void place(Medium &medium, const Edges &edges, const FilterJob &job) {
+  medium.x = medium.fits ? edges.left : 0;
+  medium.y = medium.fits ? edges.bottom : 0;
+  if (!medium.grid.isTurned) return;
+  medium.turn += medium.normalTurn;
+  medium.size = turned(medium.size, quarter);
+  medium.room = turned(medium.room, quarter);
+  medium.x = medium.fits ? job.paper.height - edges.top : 0;
+  medium.y = medium.fits ? edges.left : 0;
+}
+
 Medium mediumFor(std::span<const Size> pages, const FilterJob &job) {
   Medium medium;
   medium.normalTurn = job.landscapeTurnsRight ? 3 * quarter : quarter;
@@ -114,15 +126,7 @@ Medium mediumFor(std::span<const Size> pages, const FilterJob &job) {
     medium.grid.isTurned = !medium.grid.isTurned;
     medium.turn -= medium.normalTurn;
   }
-  medium.x = medium.fits ? edges.left : 0;
-  medium.y = medium.fits ? edges.bottom : 0;
-  if (medium.grid.isTurned) {
-    medium.turn += medium.normalTurn;
-    medium.size = turned(medium.size, quarter);
-    medium.room = turned(medium.room, quarter);
-    medium.x = medium.fits ? job.paper.height - edges.top : 0;
-    medium.y = medium.fits ? edges.left : 0;
-  }
+  place(medium, edges, job);
   medium.turn = normalized(medium.turn);
   return medium;
 }

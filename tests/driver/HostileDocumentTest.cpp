@@ -99,7 +99,7 @@ TEST(HostileDocument, SaysThatItsPagesAreNestedTooDeeply) {
   for (int level = 0; level < levels; ++level) {
     objects.push_back("<</Type/Pages/Count 1/Kids[" + std::to_string(level + 3) + " 0 R]>>");
   }
-  objects.push_back("<</Type/Page/MediaBox[0 0 100 200]>>");
+  objects.emplace_back("<</Type/Page/MediaBox[0 0 100 200]>>");
   expectOneLine(pdfOf(objects), "nested too deeply");
 }
 
