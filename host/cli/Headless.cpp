@@ -35,8 +35,9 @@ Status writeFiles(const CommandLine &line, PrintSession &session) {
 
 QJsonObject stateOf(const CommandLine &line, PrintSession &session) {
   QJsonObject state = inspect(session);
-  if (!line.files.isEmpty())
+  if (!line.files.isEmpty()) {
     state.insert(QStringLiteral("preview"), inspectPreview(session, line.files));
+  }
   return state;
 }
 

@@ -17,6 +17,7 @@ using ::testing::ElementsAre;
 
 Result<FilterCall> callWith(std::vector<std::string> arguments) {
   std::vector<char *> texts;
+  texts.reserve(arguments.size());
   for (std::string &argument : arguments) texts.push_back(argument.data());
   return readFilterCall(texts);
 }

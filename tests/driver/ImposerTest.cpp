@@ -50,6 +50,7 @@ class Imposer : public ::testing::Test {
 
   void expectBooklet(const std::vector<MarkedPage> &pages, Size paper, const BookletKeys &keys) {
     std::vector<Size> sizes;
+    sizes.reserve(pages.size());
     for (const MarkedPage &page : pages) sizes.push_back(page.size);
     expectSeen(imposed(markedDocument(pages), {keys, paper, false}),
                expectedSides(imposition::imposeBooklet(sizes, paper, keys), paper));

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 // Functions of the C library by their own names, in front of the library's.
 
+// The hardened headers define some of them in place.
+#undef _FORTIFY_SOURCE
+
 #include "tests/Common/support/FailingCalls.h"
 
 #include <dlfcn.h>
@@ -25,9 +28,9 @@ bool failsNow(const char *function) {
   return true;
 }
 
-/// The library's own function of the type of `like`.
+/// The library's own function of that name.
 template <class Function>
-Function *next(const char *name, Function * /*like*/) {
+Function *next(const char *name) {
   return reinterpret_cast<Function *>(dlsym(RTLD_NEXT, name));
 }
 
@@ -44,9 +47,9 @@ orvek::test::FailingCall::~FailingCall() {
 }
 
 // The library declares some of their arguments as never null, and this one may be called with any.
-#define ORVEK_MAY_FAIL(function, failed, ...)                                           \
-  if (failsNow(#function)) return failed;                                               \
-  static const auto real = next(#function, static_cast<decltype(function) *>(nullptr)); \
+#define ORVEK_MAY_FAIL(function, failed, ...)                    \
+  if (failsNow(#function)) return failed;                        \
+  static auto *const real = next<decltype(function)>(#function); \
   return real(__VA_ARGS__)
 
 extern "C" {

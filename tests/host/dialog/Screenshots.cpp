@@ -41,7 +41,7 @@ constexpr int tipGap = 12;
 std::unique_ptr<PrintSession> openSession(const QString &ppd) {
   SessionSetup setup;
   setup.printer = PrinterDescription::open(ppd).take();
-  auto session = PrintSession::begin(std::move(setup)).take();
+  auto session = PrintSession::begin(setup).take();
   session->openPanels(
       {std::make_shared<LoadedPlugin>(loadPlugin(QStringLiteral(ORVEK_BUNDLE_DIR)).take())});
   return session;
@@ -270,6 +270,43 @@ Shot into(const char *output) {
   return Shot(QStringLiteral("printers/Orvek-6180"), {}, QString::fromLatin1(output));
 }
 
+using FileOf = std::function<QString(const char *)>;
+
+void shootPanels(const FileOf &file) {
+  Shot().save(file("finishing"));
+  Shot().pick("foldingPopup", QStringLiteral("Saddle")).booklet().save(file("booklet"));
+  Shot().pick("staplingPopup", QStringLiteral("Dual")).save(file("stapled"));
+  Shot()
+      .pick("punchPopup", QStringLiteral("2Hole"))
+      .pick("foldingPopup", QStringLiteral("Saddle"))
+      .save(file("notice"));
+  Shot(QStringLiteral("printers/Orvek-4150")).save(file("mid-range"));
+  Shot(QStringLiteral("printers/Orvek-2120")).save(file("small"));
+}
+
+void shootOptions(const FileOf &file) {
+  Shot().page(0).save(file("general"));
+  Shot().otherOptions().save(file("options"));
+  Shot()
+      .mark(QStringLiteral("OVKPunching"), QStringLiteral("2Hole"))
+      .otherOptions()
+      .openChoices(punchUnit(), 0)
+      .saveWithPopUps(file("reason"));
+  Shot(QStringLiteral("tests/host/ppd/files/values"))
+      .otherOptions()
+      .openChoices(QStringLiteral("Watermark"))
+      .pickLastChoice()
+      .type("customText", QStringLiteral("Draft"))
+      .type("customAngle", QStringLiteral("45"))
+      .type("customSize", QStringLiteral("36"))
+      .save(file("custom"));
+}
+
+void shootJobs(const FileOf &file) {
+  into("/nowhere/out.ps").print().save(file("problem"));
+  into("/dev/null").print().save(file("printing"));
+}
+
 }  // namespace
 
 int main(int argc, char **argv) {
@@ -285,32 +322,9 @@ int main(int argc, char **argv) {
   const auto file = [&](const char *name) {
     return QDir(words[1]).filePath(QLatin1String(name) + words[2] + ".png");
   };
-  Shot().save(file("finishing"));
-  Shot().pick("foldingPopup", QStringLiteral("Saddle")).booklet().save(file("booklet"));
-  Shot().pick("staplingPopup", QStringLiteral("Dual")).save(file("stapled"));
-  Shot().page(0).save(file("general"));
-  Shot().otherOptions().save(file("options"));
-  Shot()
-      .pick("punchPopup", QStringLiteral("2Hole"))
-      .pick("foldingPopup", QStringLiteral("Saddle"))
-      .save(file("notice"));
-  into("/nowhere/out.ps").print().save(file("problem"));
-  Shot(QStringLiteral("printers/Orvek-4150")).save(file("mid-range"));
-  Shot(QStringLiteral("printers/Orvek-2120")).save(file("small"));
-  into("/dev/null").print().save(file("printing"));
-  Shot()
-      .mark(QStringLiteral("OVKPunching"), QStringLiteral("2Hole"))
-      .otherOptions()
-      .openChoices(punchUnit(), 0)
-      .saveWithPopUps(file("reason"));
-  Shot(QStringLiteral("tests/host/ppd/files/values"))
-      .otherOptions()
-      .openChoices(QStringLiteral("Watermark"))
-      .pickLastChoice()
-      .type("customText", QStringLiteral("Draft"))
-      .type("customAngle", QStringLiteral("45"))
-      .type("customSize", QStringLiteral("36"))
-      .save(file("custom"));
+  shootPanels(file);
+  shootOptions(file);
+  shootJobs(file);
   shootPrinters(file);
   return 0;
 }
