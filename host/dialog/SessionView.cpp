@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Pages at the left, summary at the right.
+// Pages at the left; at the right the preview, and the summary below it.
 
 #include "host/dialog/SessionView.h"
 
@@ -49,7 +49,7 @@ SessionView::SessionView(PrintSession &session, const DocumentInfo &document, QW
 
 QLayout *SessionView::buildAside() {
   auto *title = new QLabel(tr("Summary"), this);
-  // The list begins where the pages do.
+  // As high as a tab, so that both sides of the window have the same headings.
   title->setFixedHeight(m_pages->tabBar()->sizeHint().height() - 1);
   m_aside = new QVBoxLayout;
   m_aside->setSpacing(0);

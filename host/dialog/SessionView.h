@@ -44,7 +44,7 @@ class SessionView final : public QWidget {
   QTabWidget *m_pages;
   SummaryView *m_summary;
   QVBoxLayout *m_aside = nullptr;
-  /// Made when the job first is a booklet.
+  /// Stands above the summary.
   JobPreview *m_preview = nullptr;
 };
 

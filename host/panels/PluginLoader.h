@@ -13,8 +13,7 @@
 namespace orvek {
 
 /// A loaded bundle with its factory, which it owns, ready to make panels on the interface's thread.
-/// Its code stays loaded for good: panels
-/// may have left types and strings behind that outlive them.
+/// Its code stays loaded for good: panels may have left types and strings behind that outlive them.
 struct LoadedPlugin {
   PluginInfo info;
   std::unique_ptr<PDEPlugin> factory;

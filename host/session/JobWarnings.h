@@ -13,10 +13,9 @@ namespace orvek {
 
 class PrintSession;
 
-/// One sentence, without a full stop, for each of: page ranges that can't be read (all
-/// pages would be printed); staples in copies that are not collated; a
-/// booklet of more sheets than the printer folds. `pages` is the document's page count (0: unknown,
-/// and then the booklet is not judged).
+/// One sentence, without a full stop, for each of: page ranges that can't be read (all pages would
+/// be printed); staples in copies that are not collated; a booklet of more sheets than the printer
+/// folds. `pages` is the document's page count (0: unknown, and then the booklet is not judged).
 QStringList jobWarnings(const Marks &marks, const TicketValues &ticket, const JobSettings &settings,
                         int pages);
 
