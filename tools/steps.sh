@@ -104,7 +104,8 @@ lint() {
 }
 
 check_lint() {
-  compiled_sources | lint 86400
+  flags_for_lint
+  tools/lint-all.py --jobs "$(jobs)" build/lint
 }
 
 check_lint_of_changes() {

@@ -51,7 +51,7 @@ void Marks::restore(const MarksSnapshot &snapshot) {
   m_customValues = snapshot.m_customValues;
   markCustomValuesAgain();
   for (int i = 0; i < m_ppd->num_sizes && i < snapshot.m_markedSizes.size(); ++i) {
-    m_ppd->sizes[i].marked = snapshot.m_markedSizes[i];
+    m_ppd->sizes[i].marked = snapshot.m_markedSizes[i] != 0 ? 1 : 0;
   }
 }
 

@@ -24,8 +24,9 @@ QString sentence(const PrinterDescription &printer, const ChoiceChange &change) 
 
 QString refusal(const PrinterDescription &printer, const Resolution &resolution) {
   QStringList partners;
-  for (const OptionChoice &partner : resolution.incompatible)
+  for (const OptionChoice &partner : resolution.incompatible) {
     partners << namedChoice(printer, partner);
+  }
   return Text::tr("%1 was not set to %2: it can't be combined with %3")
       .arg(optionText(printer, resolution.pick.option), choiceText(printer, resolution.pick),
            partners.join(QStringLiteral(", ")));

@@ -168,8 +168,8 @@ TEST(Program, RestoresThePanelOnceAfterConstraintsChangedItsOptions) {
   const QJsonArray restore{QJsonArray{"OVKStapling", "None"}, QJsonArray{"OVKFolding", "Saddle"},
                            QJsonArray{"OVKPunching", QJsonValue()},
                            QJsonArray{"OutputBin", "Booklet"}, QJsonArray{"OVKJog", QJsonValue()}};
-  for (const QJsonValue &entry : actions) expected.append(entry);
-  for (const QJsonValue &entry : restore) expected.append(entry);
+  for (const QJsonValue entry : actions) expected.append(entry);
+  for (const QJsonValue entry : restore) expected.append(entry);
   EXPECT_EQ(state.value("announced").toArray(), expected);
 }
 

@@ -22,11 +22,11 @@ class ProgramTicket : public testing::Test {
   }
 
   ProgramRun run(const QStringList &more) {
-    return runProgram(
-        QStringList{"--headless", "--ppd", ORVEK_SOURCE_DIR "/printers/Orvek-6180.ppd", "--inspect",
-                    "--output", dir.filePath("out.ps")} +
-            more + QStringList{ORVEK_SOURCE_DIR "/samples/Finishing-Sample.pdf"},
-        {{"XDG_CONFIG_HOME=" + dir.path(), "XDG_DATA_HOME=" + dir.path()}, {}, {}});
+    return runProgram(QStringList{"--headless", "--inspect", "--ppd",
+                                  ORVEK_SOURCE_DIR "/printers/Orvek-6180.ppd"} +
+                          QStringList{"--output", dir.filePath("out.ps")} + more +
+                          QStringList{ORVEK_SOURCE_DIR "/samples/Finishing-Sample.pdf"},
+                      {{"XDG_CONFIG_HOME=" + dir.path(), "XDG_DATA_HOME=" + dir.path()}, {}, {}});
   }
 
   QByteArray printed() const {

@@ -14,7 +14,7 @@ std::unique_ptr<PrintSession> sessionOn(const QString &ppd, QList<OptionChoice> 
       PrinterDescription::open(QStringLiteral(ORVEK_SOURCE_DIR "/tests/host/ppd/files/") + ppd)
           .take();
   setup.marks = std::move(marks);
-  return PrintSession::begin(std::move(setup)).take();
+  return PrintSession::begin(setup).take();
 }
 
 TEST(SessionPreset, HoldsWhatIsNotThePpdsDefaultAndTheTicketButNoEquipment) {

@@ -20,8 +20,9 @@ class FirstMarks : public testing::Test {
     }
     const Result<QList<Resolution>> settled = markFirst(marks, ticket, setup);
     ASSERT_TRUE(settled.ok());
-    for (const Resolution &resolution : settled.value())
+    for (const Resolution &resolution : settled.value()) {
       said << wordsFor(marks.printer(), resolution);
+    }
   }
 
   QString marked(const char *option) const { return marks.marked(option); }

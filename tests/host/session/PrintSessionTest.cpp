@@ -15,9 +15,6 @@
 namespace orvek::test {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
-
 qsizetype restores(const RecordedSession &recorded) {
   return recorded.calls().count(QStringLiteral("restore"));
 }

@@ -16,7 +16,7 @@ namespace orvek::test {
 struct RecordedSession {
   explicit RecordedSession(SessionSetup setup = {}) {
     if (!setup.printer) setup.printer = openTestPpd(QStringLiteral("finisher.ppd"));
-    session = PrintSession::begin(std::move(setup)).take();
+    session = PrintSession::begin(setup).take();
     auto loaded = std::make_shared<LoadedPlugin>();
     auto factory = std::make_unique<RecordingPlugin>();
     plugin = factory.get();

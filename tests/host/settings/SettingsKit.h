@@ -18,7 +18,7 @@ inline QString orvekPpd(const char *model) {
 
 inline std::unique_ptr<PrintSession> beginSession(const QString &ppd, SessionSetup setup = {}) {
   if (!ppd.isNull()) setup.printer = PrinterDescription::open(ppd).take();
-  return PrintSession::begin(std::move(setup)).take();
+  return PrintSession::begin(setup).take();
 }
 
 /// Opens the pop-up and picks the row with the keyboard, as a user does. False where the row can't
