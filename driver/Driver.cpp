@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "driver/Booklet.h"
+#include "driver/BookletJob.h"
 #include "driver/Cancel.h"
 #include "driver/StandardFilters.h"
 #include "driver/StandardPPD.h"
@@ -39,7 +39,7 @@ Result<int> passOn(const BookletJob &job) {
 Result<int> carryOut(std::span<char *const> arguments, bool onlySheets) {
   auto call = readFilterCall(arguments);
   if (!call) return call.failure();
-  JobOptions options(call.value().options);
+  FilterOptions options(call.value().options);
   const auto keys =
       imposition::readBookletKeys([&options](const char *key) { return options.value(key); });
   const auto ppd = StandardPPD::of(variable("PPD"));

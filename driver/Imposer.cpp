@@ -16,7 +16,7 @@
 #include "driver/PageTree.h"
 #include "driver/SheetContents.h"
 #include "imposition/Booklet.h"
-#include "imposition/Paper.h"
+#include "imposition/HeldSheet.h"
 
 namespace orvek::driver {
 namespace {

@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <optional>
 
-#include "imposition/BookletKeys.h"
+#include "imposition/BookletOptions.h"
 #include "imposition/Geometry.h"
 #include "platform/system/Result.h"
 

@@ -25,7 +25,7 @@ void markTargetPaper(ppd_file_t *ppd, int targetPaper, std::string *pageSize) {
 
 }  // namespace
 
-std::optional<JobPaper> paperOf(const std::string &ppdFile, const JobOptions &options,
+std::optional<JobPaper> paperOf(const std::string &ppdFile, const FilterOptions &options,
                                 const imposition::BookletKeys &keys) {
   const std::unique_ptr<ppd_file_t, CloseDescription> ppd(
       ppdFile.empty() ? nullptr : ppdOpenFile(ppdFile.c_str()));

@@ -5,8 +5,8 @@
 #include <optional>
 #include <string>
 
-#include "driver/JobOptions.h"
-#include "imposition/BookletKeys.h"
+#include "driver/FilterOptions.h"
+#include "imposition/BookletOptions.h"
 #include "imposition/Geometry.h"
 
 namespace orvek::driver {
@@ -20,7 +20,7 @@ struct JobPaper {
 
 /// The sheet's paper by the PPD, the job's options and the booklet's target paper. Nothing where
 /// the PPD can't be read or knows no size for it: the document's own pages have to tell then.
-std::optional<JobPaper> paperOf(const std::string &ppdFile, const JobOptions &options,
+std::optional<JobPaper> paperOf(const std::string &ppdFile, const FilterOptions &options,
                                 const imposition::BookletKeys &keys);
 
 }  // namespace orvek::driver

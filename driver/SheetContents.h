@@ -6,7 +6,7 @@
 
 #include "driver/PageForm.h"
 #include "imposition/Booklet.h"
-#include "imposition/Paper.h"
+#include "imposition/HeldSheet.h"
 
 namespace orvek::driver {
 

@@ -7,8 +7,8 @@
 #include <cmath>
 #include <cstddef>
 
+#include "imposition/HeldSheet.h"
 #include "imposition/PageOrder.h"
-#include "imposition/Paper.h"
 
 namespace orvek::imposition {
 namespace {

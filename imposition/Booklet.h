@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-#include "imposition/BookletKeys.h"
+#include "imposition/BookletOptions.h"
 #include "imposition/Geometry.h"
 
 namespace orvek::imposition {
@@ -44,7 +44,7 @@ struct Sheet {
   bool operator==(const Sheet &) const = default;
 };
 
-/// All sheets have one size. What lies between a held side and the paper says Paper.h.
+/// All sheets have one size. What lies between a held side and the paper says HeldSheet.h.
 struct ImposedJob {
   /// Of every held side.
   Size side;

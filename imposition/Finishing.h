@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "imposition/BookletKeys.h"
+#include "imposition/BookletOptions.h"
 #include "imposition/Geometry.h"
 
 namespace orvek::imposition {

@@ -6,10 +6,10 @@
 #include <span>
 #include <vector>
 
-#include "imposition/BookletKeys.h"
+#include "imposition/BookletOptions.h"
 #include "imposition/FilterLayout.h"
 #include "imposition/Finishing.h"
-#include "imposition/Paper.h"
+#include "imposition/HeldSheet.h"
 
 namespace orvek::imposition {
 

@@ -15,7 +15,7 @@
 #include <optional>
 #include <string>
 
-#include "imposition/BookletKeys.h"
+#include "imposition/BookletOptions.h"
 
 namespace orvek {
 namespace {

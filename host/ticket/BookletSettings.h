@@ -3,7 +3,7 @@
 #pragma once
 
 #include "host/ticket/TicketFile.h"
-#include "imposition/BookletKeys.h"
+#include "imposition/BookletOptions.h"
 
 namespace orvek {
 

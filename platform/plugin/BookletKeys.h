@@ -9,8 +9,8 @@ namespace orvek {
 
 /// How a flag is written. Read by a panel, a flag that is there is on unless it is exactly
 /// `falseValue`, so that other writers' "1" or "yes" mean what they say; one that is absent is off.
-/// Jobs reach a driver with their booleans in CUPS' own short forms: imposition/BookletKeys.h reads
-/// those.
+/// Jobs reach a driver with their booleans in CUPS' own short forms: imposition/BookletOptions.h
+/// reads those.
 inline constexpr QLatin1String trueValue{"True"};
 inline constexpr QLatin1String falseValue{"False"};
 

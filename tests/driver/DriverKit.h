@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "imposition/BookletKeys.h"
+#include "imposition/BookletOptions.h"
 
 namespace orvek::test {
 

@@ -13,7 +13,7 @@
 #include <algorithm>
 #include <map>
 
-#include "imposition/Paper.h"
+#include "imposition/HeldSheet.h"
 #include "tests/driver/MarkedDocument.h"
 #include "tests/support/CapturingFilter.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // One rule per kind of value; the keys' defaults stand in the structure.
 
-#include "imposition/BookletKeys.h"
+#include "imposition/BookletOptions.h"
 
 #include <algorithm>
 #include <cstdint>

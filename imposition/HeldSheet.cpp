@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The turn between a held side and the paper in the printer.
 
-#include "imposition/Paper.h"
+#include "imposition/HeldSheet.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Sheets in the hand and in the printer.
 
-#include "imposition/Paper.h"
+#include "imposition/HeldSheet.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The document comes in, the standard filters bring it into shape, the sheets go out.
 
-#include "driver/Booklet.h"
+#include "driver/BookletJob.h"
 
 #include <unistd.h>
 
@@ -17,7 +17,7 @@ namespace {
 
 /// What other filters did to the pages before they came here. A second time, it would befall
 /// sheets.
-void removeWhatIsDone(JobOptions *options) {
+void removeWhatIsDone(FilterOptions *options) {
   options->remove({"page-ranges", "page-set", "outputorder", "OutputOrder", "orientation-requested",
                    "landscape", "mirror", "fit-to-page", "fitplot", "print-scaling", "scaling",
                    "natural-scaling", "position", "number-up", "number-up-layout", "page-border",
@@ -31,7 +31,7 @@ std::string ppdFile() {
   return path == nullptr ? std::string() : path;
 }
 
-bool isReversed(const JobOptions &options) {
+bool isReversed(const FilterOptions &options) {
   for (const char *name : {"outputorder", "page-delivery"}) {
     const auto order = options.value(name);
     if (order && order->starts_with("reverse")) return true;
@@ -64,7 +64,7 @@ bool isEmpty(std::FILE *file) {
 }
 
 /// The sheets of the job's document, ready to be read; empty for an empty document.
-Result<File> sheetsOf(const BookletJob &job, JobOptions *options) {
+Result<File> sheetsOf(const BookletJob &job, FilterOptions *options) {
   auto document = documentOf(job);
   if (!document) return document;
   auto sheets = namelessFile();
@@ -83,7 +83,7 @@ Result<File> sheetsOf(const BookletJob &job, JobOptions *options) {
 
 }  // namespace
 
-void prepareForSheets(JobOptions *options, const std::string &pageSize) {
+void prepareForSheets(FilterOptions *options, const std::string &pageSize) {
   removeWhatIsDone(options);
   options->remove({"sides", "Duplex", "JCLDuplex", "EFDuplex", "KD03Duplex", "duplex",
                    "multiple-document-handling", "collate"});
@@ -95,7 +95,7 @@ void prepareForSheets(JobOptions *options, const std::string &pageSize) {
   options->set("PageSize", pageSize.c_str());
 }
 
-Result<int> writeSheets(const BookletJob &job, JobOptions *options) {
+Result<int> writeSheets(const BookletJob &job, FilterOptions *options) {
   const auto sheets = sheetsOf(job, options);
   if (!sheets) return sheets.failure();
   if (const Status copied = copyOut(sheets.value().get(), STDOUT_FILENO); !copied) {
@@ -104,7 +104,7 @@ Result<int> writeSheets(const BookletJob &job, JobOptions *options) {
   return 0;
 }
 
-Result<int> printBooklet(const BookletJob &job, JobOptions *options) {
+Result<int> printBooklet(const BookletJob &job, FilterOptions *options) {
   const auto sheets = sheetsOf(job, options);
   if (!sheets) return sheets.failure();
   FilterCall call = job.call;

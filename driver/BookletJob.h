@@ -3,8 +3,8 @@
 #pragma once
 
 #include "driver/FilterCall.h"
-#include "driver/JobOptions.h"
-#include "imposition/BookletKeys.h"
+#include "driver/FilterOptions.h"
+#include "imposition/BookletOptions.h"
 
 namespace orvek::driver {
 
@@ -16,15 +16,15 @@ struct BookletJob {
 };
 
 /// Imposes the job's document and writes the sheets, as a PDF, to standard output.
-Result<int> writeSheets(const BookletJob &job, JobOptions *options);
+Result<int> writeSheets(const BookletJob &job, FilterOptions *options);
 
 /// Imposes the job's document and has the standard filter print the sheets: two-sided, turned over
 /// at the short edge, each copy a booklet. Gives the filter's exit status.
-Result<int> printBooklet(const BookletJob &job, JobOptions *options);
+Result<int> printBooklet(const BookletJob &job, FilterOptions *options);
 
 /// Leaves in the options what is still to be done once the sheets are made: takes out what has been
 /// carried out on the pages, and what would turn the sheets over otherwise or part the copies.
 /// `pageSize`: the paper that the sheets need; empty for the job's own.
-void prepareForSheets(JobOptions *options, const std::string &pageSize);
+void prepareForSheets(FilterOptions *options, const std::string &pageSize);
 
 }  // namespace orvek::driver

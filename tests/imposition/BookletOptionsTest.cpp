@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Keys as tickets and jobs carry them.
 
-#include "imposition/BookletKeys.h"
+#include "imposition/BookletOptions.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Over libcups' own reader, so that no text means another thing here than to the other filters.
 
-#include "driver/JobOptions.h"
+#include "driver/FilterOptions.h"
 
 #include <cstdlib>
 #include <span>
@@ -25,31 +25,31 @@ std::string quoted(std::string_view value) {
 
 }  // namespace
 
-JobOptions::JobOptions(const std::string &text) {
+FilterOptions::FilterOptions(const std::string &text) {
   m_count = cupsParseOptions(text.c_str(), 0, &m_options);
 }
 
-JobOptions::~JobOptions() {
+FilterOptions::~FilterOptions() {
   cupsFreeOptions(m_count, m_options);
 }
 
-std::optional<std::string> JobOptions::value(const char *name) const {
+std::optional<std::string> FilterOptions::value(const char *name) const {
   const char *found = cupsGetOption(name, m_count, m_options);
   if (found == nullptr) return std::nullopt;
   return found;
 }
 
-void JobOptions::set(const char *name, const char *value) {
+void FilterOptions::set(const char *name, const char *value) {
   m_count = cupsAddOption(name, value, m_count, &m_options);
 }
 
-void JobOptions::remove(std::initializer_list<const char *> names) {
+void FilterOptions::remove(std::initializer_list<const char *> names) {
   for (const char *name : names) m_count = cupsRemoveOption(name, m_count, &m_options);
   // libcups keeps the list when its last option goes, and neither frees nor reuses an empty one.
   if (m_count == 0) std::free(std::exchange(m_options, nullptr));
 }
 
-std::string JobOptions::text() const {
+std::string FilterOptions::text() const {
   std::string all;
   for (const cups_option_t &option : std::span(m_options, static_cast<std::size_t>(m_count))) {
     if (!all.empty()) all += ' ';
@@ -58,7 +58,7 @@ std::string JobOptions::text() const {
   return all;
 }
 
-void JobOptions::mark(ppd_file_t *ppd) const {
+void FilterOptions::mark(ppd_file_t *ppd) const {
   ppdMarkDefaults(ppd);
   cupsMarkOptions(ppd, m_count, m_options);
 }

@@ -1,41 +1,41 @@
 // SPDX-License-Identifier: Apache-2.0
 // Options as the scheduler writes them.
 
-#include "driver/JobOptions.h"
+#include "driver/FilterOptions.h"
 
 #include <gtest/gtest.h>
 
-#include "driver/Booklet.h"
+#include "driver/BookletJob.h"
 #include "driver/JobPaper.h"
 #include "tests/support/CapturingFilter.h"
 
 namespace orvek::driver {
 namespace {
 
-TEST(JobOptions, ReadBooleansInTheirShortForm) {
-  const JobOptions options("OVKEnableBooklet noOVKRightToLeft OVKGutter=36");
+TEST(FilterOptions, ReadBooleansInTheirShortForm) {
+  const FilterOptions options("OVKEnableBooklet noOVKRightToLeft OVKGutter=36");
   EXPECT_EQ(options.value("OVKEnableBooklet"), "true");
   EXPECT_EQ(options.value("OVKRightToLeft"), "false");
   EXPECT_EQ(options.value("OVKGutter"), "36");
   EXPECT_EQ(options.value("OVKCreep"), std::nullopt);
 }
 
-TEST(JobOptions, FindNamesInLettersOfEitherCase) {
-  EXPECT_EQ(JobOptions("ovkgutter=36").value("OVKGutter"), "36");
+TEST(FilterOptions, FindNamesInLettersOfEitherCase) {
+  EXPECT_EQ(FilterOptions("ovkgutter=36").value("OVKGutter"), "36");
 }
 
-TEST(JobOptions, AreTheSameOnceWrittenAndReadAgain) {
-  const JobOptions options(
+TEST(FilterOptions, AreTheSameOnceWrittenAndReadAgain) {
+  const FilterOptions options(
       "title=a\\ b\\'c quoted=\"x y\" empty= media-col={media-size={x-dimension=1 y-dimension=2}} "
       "path=a\\\\b flag");
-  const JobOptions again(options.text());
+  const FilterOptions again(options.text());
   for (const char *name : {"title", "quoted", "empty", "media-col", "path", "flag"}) {
     EXPECT_EQ(again.value(name), options.value(name)) << name;
   }
 }
 
 TEST(SheetOptions, TurnSheetsOverAtTheShortEdgeWhateverTheJobSaid) {
-  JobOptions options(
+  FilterOptions options(
       "sides=two-sided-long-edge Duplex=None Collate=False collate=false OVKJog=True");
   prepareForSheets(&options, "");
   EXPECT_EQ(options.value("sides"), "two-sided-short-edge");
@@ -45,7 +45,8 @@ TEST(SheetOptions, TurnSheetsOverAtTheShortEdgeWhateverTheJobSaid) {
 }
 
 TEST(SheetOptions, DoNothingTwice) {
-  JobOptions options("page-ranges=1-4 outputorder=reverse landscape number-up=1 OVKEnableBooklet");
+  FilterOptions options(
+      "page-ranges=1-4 outputorder=reverse landscape number-up=1 OVKEnableBooklet");
   prepareForSheets(&options, "");
   for (const char *done : {"page-ranges", "outputorder", "landscape", "number-up"}) {
     EXPECT_EQ(options.value(done), std::nullopt) << done;
@@ -53,7 +54,7 @@ TEST(SheetOptions, DoNothingTwice) {
 }
 
 TEST(SheetOptions, NameTheTargetPaperAndNoOther) {
-  JobOptions options("media=A5 PageRegion=A6 media-col={media-size-name=x}");
+  FilterOptions options("media=A5 PageRegion=A6 media-col={media-size-name=x}");
   prepareForSheets(&options, "A3");
   EXPECT_EQ(options.value("PageSize"), "A3");
   for (const char *other : {"media", "PageRegion", "media-col"}) {
@@ -62,7 +63,7 @@ TEST(SheetOptions, NameTheTargetPaperAndNoOther) {
 }
 
 TEST(SheetOptions, KeepTheJobsPaperWithoutATarget) {
-  JobOptions options("media=A5");
+  FilterOptions options("media=A5");
   prepareForSheets(&options, "");
   EXPECT_EQ(options.value("media"), "A5");
 }
@@ -71,7 +72,7 @@ std::optional<JobPaper> paperWith(const std::string &options, int targetPaper = 
   imposition::BookletKeys keys;
   keys.targetPaper = targetPaper;
   const std::string ppd = orvek::test::orvekPPD(QStringLiteral("6180")).toStdString();
-  return paperOf(ppd, JobOptions(options), keys);
+  return paperOf(ppd, FilterOptions(options), keys);
 }
 
 TEST(JobPaper, IsWhatTheJobAsksFor) {
@@ -97,8 +98,8 @@ TEST(JobPaper, IsTheJobsOwnForATargetThatIsNone) {
 }
 
 TEST(JobPaper, IsUnknownWithoutAPPD) {
-  EXPECT_FALSE(paperOf("", JobOptions("media=A5"), {}));
-  EXPECT_FALSE(paperOf("/nowhere.ppd", JobOptions("media=A5"), {}));
+  EXPECT_FALSE(paperOf("", FilterOptions("media=A5"), {}));
+  EXPECT_FALSE(paperOf("/nowhere.ppd", FilterOptions("media=A5"), {}));
 }
 
 }  // namespace

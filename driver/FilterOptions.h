@@ -16,12 +16,12 @@ namespace orvek::driver {
 
 /// Names are compared without regard to case, as CUPS does. An option without a value is a boolean:
 /// "name" is "true", "noname" is "false".
-class JobOptions {
+class FilterOptions {
  public:
-  explicit JobOptions(const std::string &text);
-  ~JobOptions();
-  JobOptions(const JobOptions &) = delete;
-  JobOptions &operator=(const JobOptions &) = delete;
+  explicit FilterOptions(const std::string &text);
+  ~FilterOptions();
+  FilterOptions(const FilterOptions &) = delete;
+  FilterOptions &operator=(const FilterOptions &) = delete;
 
   std::optional<std::string> value(const char *name) const;
   void set(const char *name, const char *value);
