@@ -14,13 +14,6 @@ bool isSpace(char c) {
   return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
-std::string lowerCase(std::string text) {
-  for (char &c : text) {
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  }
-  return text;
-}
-
 // CUPS does not keep the letters of a boolean: "False" on a command line reaches filters as
 // "false".
 bool isOff(const std::string &value) {
@@ -43,7 +36,7 @@ int numberWithin(const ValueOf &valueOf, QLatin1String key, const BookletNumber 
 }
 
 bool hasSeveralPagesPerSheet(const ValueOf &valueOf) {
-  return number(valueOf, layoutNUpKey.data(), 0) != 0 || number(valueOf, numberUpKey, 1) > 1;
+  return number(valueOf, layoutNUpKey.data(), 0) != 0 || number(valueOf, numberUpOption, 1) > 1;
 }
 
 }  // namespace

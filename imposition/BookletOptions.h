@@ -2,21 +2,13 @@
 // The booklet as a job describes it: the one reading of its keys. Reads values only.
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <string>
 
+#include "imposition/StandardOptions.h"
 #include "platform/plugin/BookletKeys.h"
 
 namespace orvek::imposition {
-
-/// CUPS' own word for several pages per sheet, which a booklet can't be combined with. The keys
-/// themselves are the contract's (platform/plugin/BookletKeys.h).
-inline constexpr const char *numberUpKey = "number-up";
-
-/// Gives a key's value as text; nothing where the job lacks the key. An option that was given
-/// without a value, as CUPS does with booleans, has the value "true", or is empty.
-using ValueOf = std::function<std::optional<std::string>(const char *key)>;
 
 /// Lengths are points.
 struct BookletKeys {

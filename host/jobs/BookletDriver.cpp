@@ -16,6 +16,7 @@
 #include <string>
 
 #include "imposition/BookletOptions.h"
+#include "platform/system/OptionMap.h"
 
 namespace orvek {
 namespace {
@@ -89,13 +90,8 @@ QString findBookletDriver(const DriverPlaces &places) {
 
 bool asksForBooklet(const QMap<QString, QString> &options) {
   const auto value = [&options](const char *key) -> std::optional<std::string> {
-    // Filters don't mind the case of an option's name.
-    for (auto option = options.cbegin(); option != options.cend(); ++option) {
-      if (option.key().compare(QLatin1String(key), Qt::CaseInsensitive) == 0) {
-        return option.value().toStdString();
-      }
-    }
-    return std::nullopt;
+    const auto found = valueNamed(options, QLatin1String(key));
+    return found ? std::optional(found->toStdString()) : std::nullopt;
   };
   return imposition::readBookletKeys(value).enabled;
 }

@@ -10,6 +10,7 @@
 #include "host/ppd/CustomChoice.h"
 #include "host/session/PrintSession.h"
 #include "host/ticket/JobOptionNames.h"
+#include "imposition/StandardOptions.h"
 
 namespace orvek {
 namespace {
@@ -20,13 +21,18 @@ struct Names {
   std::vector<const char *> options;  // the first that the PPD has counts
 };
 
+template <std::size_t Size>
+std::vector<const char *> all(const std::array<const char *, Size> &options) {
+  return {options.begin(), options.end()};
+}
+
 const std::array<Names, 6> &allNames() {
   static const std::array<Names, 6> names{{
       {CommonSetting::PaperSize, "media", {"PageSize"}},
       {CommonSetting::PaperSource, "media-source", {"InputSlot"}},
       {CommonSetting::PaperType, "media-type", {"MediaType"}},
-      {CommonSetting::Sides, "sides", {"Duplex", "JCLDuplex", "EFDuplex", "KD03Duplex"}},
-      {CommonSetting::Color, "print-color-mode", {"ColorModel", "ColorMode", "ColorEffectsMode"}},
+      {CommonSetting::Sides, imposition::sidesOption, all(imposition::duplexOptions)},
+      {CommonSetting::Color, imposition::colorModeOption, all(imposition::colorOptions)},
       {CommonSetting::Quality,
        "print-quality",
        {"cupsPrintQuality", "PrintQuality", "OutputMode", "Resolution"}},

@@ -4,14 +4,14 @@
 #include "host/ticket/BookletSettings.h"
 
 #include "platform/printing/PrintSettings.h"
+#include "platform/system/OptionMap.h"
 
 namespace orvek {
 
 imposition::BookletKeys bookletSettings(const TicketValues &ticket) {
   return imposition::readBookletKeys([&](const char *key) -> std::optional<std::string> {
-    const auto value = ticket.constFind(QLatin1String(key));
-    if (value == ticket.constEnd()) return std::nullopt;
-    return textReading(*value).toStdString();
+    const auto value = valueNamed(ticket, QLatin1String(key));
+    return value ? std::optional(textReading(*value).toStdString()) : std::nullopt;
   });
 }
 

@@ -6,6 +6,7 @@
 #include <array>
 
 #include "host/ticket/JobSettings.h"
+#include "imposition/StandardOptions.h"
 
 namespace orvek {
 
@@ -13,7 +14,7 @@ inline constexpr QLatin1String copiesOption{"copies"};
 inline constexpr QLatin1String pageRangesOption{"page-ranges"};
 inline constexpr QLatin1String orientationOption{"orientation-requested"};
 inline constexpr QLatin1String outputOrderOption{"outputorder"};
-inline constexpr QLatin1String pagesPerSheetOption{"number-up"};
+inline constexpr QLatin1String pagesPerSheetOption{imposition::numberUpOption};
 
 /// The PPD's own option for collation, and CUPS' (which compares without regard to case).
 inline constexpr QLatin1String collateOption{"Collate"};
