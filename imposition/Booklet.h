@@ -22,6 +22,8 @@ struct PlacedPage {
   Frame clip;
   /// Degrees clockwise that it stands turned on the held side.
   int turn = 0;
+  /// It is its own mirror image, left and right exchanged before it is turned.
+  bool isMirrored = false;
   /// A thin frame is drawn along the inside of `frame`.
   bool border = false;
 

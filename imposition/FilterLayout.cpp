@@ -7,9 +7,12 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <numeric>
 #include <utility>
 
 #include "imposition/CellOrder.h"
+#include "imposition/PageOrder.h"
+#include "imposition/StandardOptions.h"
 
 namespace orvek::imposition {
 namespace {
@@ -73,6 +76,7 @@ struct Medium {
   int normalTurn = quarter;
   bool fits = false;
   bool crops = false;  // pages are cut to the proportions of the room
+  bool isMirrored = false;
 };
 
 // A fiftieth of the paper's size is forgiven, and lengths are compared as whole points.
@@ -114,6 +118,9 @@ Medium mediumFor(std::span<const Size> pages, const FilterJob &job) {
   const int asked = leftTurnOf(job.turning);
   medium.isWide = paperIsWide != liesAcross(asked);
   if (paperIsWide) std::swap(medium.grid.columns, medium.grid.rows);
+  // Their own booklet is laid out without a look at the paper.
+  if (job.booklet == OwnBooklet::Sides) medium.grid = gridFor(2);
+  medium.isMirrored = job.isMirrored;
   scaleAsAsked(medium, pages, job);
   const Edges edges = printableEdges(job);
   medium.size = job.paper;
@@ -150,7 +157,41 @@ Raised centred(Size size, double x, double y) {
   return {x - size.width / 2, y - size.height / 2, size};
 }
 
-Frame onPaper(const Raised &raised, const Medium &medium) {
+Raised centred(Size size, const Raised &place) {
+  return centred(size, place.x + place.size.width / 2, place.y + place.size.height / 2);
+}
+
+/// A direction, y upwards.
+struct Direction {
+  int x = 0;
+  int y = 0;
+};
+
+Direction directionOf(Position position) {
+  using Across = Position::Across;
+  using Down = Position::Down;
+  const auto side = [](bool isBefore, bool isBehind) { return int(isBehind) - int(isBefore); };
+  return {side(position.across == Across::Left, position.across == Across::Right),
+          side(position.down == Down::Bottom, position.down == Down::Top)};
+}
+
+/// As the direction points once a page with it is turned clockwise.
+Direction turned(Direction direction, int degrees) {
+  for (int turn = normalized(degrees); turn > 0; turn -= quarter) {
+    direction = {direction.y, -direction.x};
+  }
+  return direction;
+}
+
+// A page that is larger than the place reaches beyond it on the other side.
+Raised movedTo(Direction direction, Raised page, Size place) {
+  page.x += direction.x * (place.width - page.size.width) / 2;
+  page.y += direction.y * (place.height - page.size.height) / 2;
+  return page;
+}
+
+Frame onPaper(Raised raised, const Medium &medium) {
+  if (medium.isMirrored) raised.x = medium.size.width - raised.x - raised.size.width;
   const Size across = turned(raised.size, medium.turn);
   const Size paper = turned(medium.size, medium.turn);
   const double beyondX = medium.size.width - raised.x - raised.size.width;
@@ -170,7 +211,12 @@ Frame within(const Frame &frame, Size paper) {
           std::clamp(frame.bottom(), 0.0, paper.height) - top};
 }
 
-PlacedPage placed(int page, Size displayed, Cell cell, const Medium &medium) {
+int ownTurn(int page, const FilterJob &job) {
+  const auto index = static_cast<std::size_t>(page) - 1;
+  return index < job.ownTurns.size() ? job.ownTurns[index] : 0;
+}
+
+PlacedPage placed(int page, Size displayed, Cell cell, const Medium &medium, const FilterJob &job) {
   const bool isTurned = (displayed.width > displayed.height) != medium.isWide;
   const int turn = isTurned ? medium.normalTurn : 0;
   const Size size = turned(displayed, turn);
@@ -180,15 +226,38 @@ PlacedPage placed(int page, Size displayed, Cell cell, const Medium &medium) {
   const Size shown = medium.fits ? cropped : medium.wholePage;
   const Size inCell = scaledInto(shown, cellSize);
   const double scale = shown.width > 0 ? inCell.width / shown.width : 0;
-  const double x = medium.x + (cell.column + 0.5) * cellSize.width;
-  const double y = medium.y + (cell.row + 0.5) * cellSize.height;
+  const Raised place = centred(inCell, medium.x + (cell.column + 0.5) * cellSize.width,
+                               medium.y + (cell.row + 0.5) * cellSize.height);
+  const Size whole{size.width * scale, size.height * scale};
+  const Direction to = turned(directionOf(job.position), ownTurn(page, job) - turn);
   PlacedPage result;
   result.page = page;
-  result.turn = normalized(-(turn + medium.turn));
-  const Size whole{size.width * scale, size.height * scale};
-  result.frame = onPaper(centred(whole, x, y), medium);
-  result.clip = within(onPaper(centred(inCell, x, y), medium), turned(medium.size, medium.turn));
+  result.isMirrored = medium.isMirrored;
+  result.turn = normalized((medium.isMirrored ? turn : -turn) - medium.turn);
+  result.frame = onPaper(movedTo(to, centred(whole, place), inCell), medium);
+  result.clip = within(onPaper(place, medium), turned(medium.size, medium.turn));
   return result;
+}
+
+FilteredSide sideOf(std::span<const int> numbers, std::span<const Size> pages, const Medium &medium,
+                    const FilterJob &job) {
+  const CellOrder order(job.order, medium.grid);
+  FilteredSide side;
+  side.pages.reserve(numbers.size());
+  for (std::size_t i = 0; i < numbers.size(); ++i) {
+    if (numbers[i] == 0) continue;
+    const Size size = pages[static_cast<std::size_t>(numbers[i]) - 1];
+    side.pages.push_back(placed(numbers[i], size, order.cell(static_cast<int>(i)), medium, job));
+  }
+  return side;
+}
+
+// 0 for a place that stays empty.
+std::vector<int> pageSequence(int pages, const FilterJob &job) {
+  if (job.booklet != OwnBooklet::Off) return pagesInBookletOrder(pages, job.signature);
+  std::vector<int> all(static_cast<std::size_t>(pages));
+  std::iota(all.begin(), all.end(), 1);
+  return all;
 }
 
 bool isSelected(int side, const SideSelection &sides) {
@@ -201,10 +270,14 @@ bool isSelected(int side, const SideSelection &sides) {
 }
 
 // So that the printer, which begins a sheet with each pair, has fronts where fronts belong.
-void evenOut(std::vector<FilteredSide> &sides, const SideSelection &selection) {
+bool needsBlankSide(std::size_t sides, const SideSelection &selection) {
   const bool isAsked =
       (selection.twoSided && selection.reverse) || selection.parity == Parity::Even;
-  if (isAsked && sides.size() % 2 != 0) sides.emplace_back();
+  return isAsked && sides % 2 != 0;
+}
+
+int cellsOf(const FilterJob &job) {
+  return job.booklet == OwnBooklet::Sides ? 2 : gridFor(job.pagesPerSide).cells();
 }
 
 }  // namespace
@@ -213,25 +286,43 @@ bool isKnownPagesPerSide(int pages) {
   return pages == 1 || gridFor(pages).cells() == pages;
 }
 
+Position readPosition(const std::string &text) {
+  using Across = Position::Across;
+  using Down = Position::Down;
+  const std::string word = lowerCase(text);
+  for (const auto &[down, where] : {std::pair("", Down::Middle), std::pair("top", Down::Top),
+                                    std::pair("bottom", Down::Bottom)}) {
+    const std::string before = *down == '\0' ? down : std::string(down) + '-';
+    if (word == down) return {Across::Middle, where};
+    if (word == before + "left") return {Across::Left, where};
+    if (word == before + "right") return {Across::Right, where};
+  }
+  return {};
+}
+
+int filteredSides(int pages, const FilterJob &job) {
+  if (pages <= 0) return 0;
+  const int places = static_cast<int>(pageSequence(pages, job).size());
+  const int all = (places + cellsOf(job) - 1) / cellsOf(job);
+  int selected = 0;
+  for (int side = 1; side <= all; ++side) selected += isSelected(side, job.sides) ? 1 : 0;
+  return selected + (needsBlankSide(static_cast<std::size_t>(selected), job.sides) ? 1 : 0);
+}
+
 std::vector<FilteredSide> layOutAsFiltered(std::span<const Size> pages, const FilterJob &job) {
   std::vector<FilteredSide> sides;
   if (pages.empty() || !isDrawable(job.paper)) return sides;
+  const std::vector<int> sequence = pageSequence(static_cast<int>(pages.size()), job);
+  const std::span<const int> all(sequence);
   const Medium medium = mediumFor(pages, job);
-  const CellOrder order(job.order, medium.grid);
   const auto cells = static_cast<std::size_t>(medium.grid.cells());
   int number = 0;
-  for (std::size_t first = 0; first < pages.size(); first += cells) {
+  for (std::size_t first = 0; first < all.size(); first += cells) {
     if (!isSelected(++number, job.sides)) continue;
-    FilteredSide side;
-    const std::size_t count = std::min(cells, pages.size() - first);
-    side.pages.reserve(count);
-    for (std::size_t i = 0; i < count; ++i) {
-      side.pages.push_back(placed(static_cast<int>(first + i) + 1, pages[first + i],
-                                  order.cell(static_cast<int>(i)), medium));
-    }
-    sides.push_back(std::move(side));
+    const auto numbers = all.subspan(first, std::min(cells, all.size() - first));
+    sides.push_back(sideOf(numbers, pages, medium, job));
   }
-  if (!sides.empty()) evenOut(sides, job.sides);
+  if (needsBlankSide(sides.size(), job.sides)) sides.emplace_back();
   if (job.sides.reverse) std::reverse(sides.begin(), sides.end());
   return sides;
 }

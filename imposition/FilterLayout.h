@@ -30,6 +30,30 @@ enum class Turning { Portrait, Landscape, ReverseLandscape, ReversePortrait };
 
 enum class Parity { All, Odd, Even };
 
+/// Where a page lies in a place of other proportions ("position"), as the page itself is turned:
+/// the left of a page that lies on its side is its own left.
+struct Position {
+  enum class Across { Middle, Left, Right };
+  enum class Down { Middle, Top, Bottom };
+
+  Across across = Across::Middle;
+  Down down = Down::Middle;
+
+  bool operator==(const Position &) const = default;
+};
+
+/// Reads "left", "top-right", "bottom" ...; the middle for any other text.
+Position readPosition(const std::string &text);
+
+/// The filters' own page order for booklets ("booklet"), without gutter, creep and frames.
+enum class OwnBooklet {
+  Off,
+  /// Two pages on each side.
+  Sides,
+  /// The pages' order alone ("shuffle-only").
+  Order,
+};
+
 struct PageRange {
   int first = 1;
   /// 0: open.
@@ -66,6 +90,16 @@ struct FilterJob {
   std::string order;
   Scaling scaling = Scaling::Automatic;
   SideSelection sides;
+  Position position;
+  /// Every side comes out as its own mirror image.
+  bool isMirrored = false;
+  OwnBooklet booklet = OwnBooklet::Off;
+  /// "booklet-signature": pages in each booklet, a multiple of 4; not positive: all in one. With
+  /// another number the filters give up, and nothing is printed.
+  int signature = 0;
+  /// Degrees clockwise that each page is turned by its own document, which matters to `position`
+  /// alone. Those that are missing count as 0.
+  std::vector<int> ownTurns;
 
   bool operator==(const FilterJob &) const = default;
 };
@@ -80,6 +114,9 @@ struct FilteredSide {
 /// their own off the middle; here they stand in it.) Nothing for no pages, or for paper without a
 /// size.
 std::vector<FilteredSide> layOutAsFiltered(std::span<const Size> pages, const FilterJob &job);
+
+/// How many sides that are for so many pages, blank ones counted.
+int filteredSides(int pages, const FilterJob &job);
 
 /// Whether the filters put so many pages on a side.
 bool isKnownPagesPerSide(int pages);

@@ -8,6 +8,8 @@
 #include <cstddef>
 #include <utility>
 
+#include "imposition/PageOrder.h"
+
 namespace orvek::imposition {
 namespace {
 
@@ -112,6 +114,12 @@ std::vector<FedSide> plainSides(std::span<const Size> pages, const SheetJob &job
   return sides;
 }
 
+// Beginning with a blank side, where there has to be one, so that backs stay backs.
+void turnForTray(std::vector<FedSide> *sides, bool twoSided) {
+  if (twoSided && sides->size() % 2 != 0) sides->push_back({sides->front().paper, {}});
+  std::reverse(sides->begin(), sides->end());
+}
+
 /// How a side is taken in hand.
 struct Hold {
   /// From paper to hand, clockwise.
@@ -150,10 +158,11 @@ int turnToHold(const FedSide &fed, const FedSide *other) {
 
 std::vector<PrintedSide> printedSides(std::span<const Size> pages, const SheetJob &job) {
   const bool isBooklet = job.booklet.enabled;
-  const std::vector<FedSide> fed = isBooklet ? bookletSides(pages, job) : plainSides(pages, job);
+  std::vector<FedSide> fed = isBooklet ? bookletSides(pages, job) : plainSides(pages, job);
   std::vector<PrintedSide> sides;
   if (fed.empty()) return sides;
   const std::size_t perSheet = isBooklet || job.twoSided ? 2 : 1;
+  if (job.isTurnedForTray) turnForTray(&fed, perSheet == 2);
   const std::vector<Mark> marks = marksOnPaper(job.finishing, fed.front().paper);
   // Whoever has no folding machine folds the booklet by hand.
   const std::string fold = isBooklet ? halfFold : job.finishing.fold;
@@ -168,6 +177,14 @@ std::vector<PrintedSide> printedSides(std::span<const Size> pages, const SheetJo
     sides.back().sheet = static_cast<int>(i / perSheet) + 1;
   }
   return sides;
+}
+
+int sheetsFor(int pages, const SheetJob &job) {
+  FilterJob filters = job.filters;
+  filters.sides.twoSided = job.twoSided && !job.booklet.enabled;
+  const int sides = filteredSides(pages, filters);
+  if (job.booklet.enabled) return bookletSheets(sides);
+  return job.twoSided ? (sides + 1) / 2 : sides;
 }
 
 int sheetCount(const std::vector<PrintedSide> &sides) {

@@ -22,7 +22,12 @@ struct SheetJob {
   BookletKeys booklet;
   /// The booklet's sheets; empty: the job's paper.
   Size bookletPaper;
+  /// The tray piles sheets face up: once all is done, the filters turn the order of sides round
+  /// once more.
+  bool isTurnedForTray = false;
   Finishing finishing;
+  /// Nothing is printed in color.
+  bool inGray = false;
 
   bool operator==(const SheetJob &) const = default;
 };
@@ -42,6 +47,9 @@ struct PrintedSide {
 /// The job's sides for a document whose pages, as displayed, have these sizes. One set: copies are
 /// not repeated. A sheet whose back nothing is printed on has no back side.
 std::vector<PrintedSide> printedSides(std::span<const Size> pages, const SheetJob &job);
+
+/// How many sheets of paper the job takes for so many pages.
+int sheetsFor(int pages, const SheetJob &job);
 
 /// How many sheets of paper so many sides take, the last one counted whole.
 int sheetCount(const std::vector<PrintedSide> &sides);

@@ -33,4 +33,19 @@ std::vector<FoldedSheet> bookletOrder(int pages, bool rightToLeft) {
   return order;
 }
 
+std::vector<int> pagesInBookletOrder(int pages, int signature) {
+  std::vector<int> all;
+  if (signature % pagesPerBookletSheet != 0) return all;
+  const int each = signature > 0 ? signature : pagesPerBookletSheet * bookletSheets(pages);
+  for (int first = 0; first < pages; first += each) {
+    for (const FoldedSheet &sheet : bookletOrder(each, false)) {
+      for (const int place :
+           {sheet.front.left, sheet.front.right, sheet.back.left, sheet.back.right}) {
+        all.push_back(first + place <= pages ? first + place : 0);
+      }
+    }
+  }
+  return all;
+}
+
 }  // namespace orvek::imposition

@@ -33,4 +33,9 @@ int bookletSheets(int pages);
 /// mirror image. Nothing for no pages.
 std::vector<FoldedSheet> bookletOrder(int pages, bool rightToLeft);
 
+/// The pages of such booklets in the order in which they stand on the sides, left before right: 0
+/// for an empty place. One booklet for each `signature` pages, a multiple of 4; one for all where
+/// it is not positive. Nothing for no pages, or for a signature that is no such multiple.
+std::vector<int> pagesInBookletOrder(int pages, int signature);
+
 }  // namespace orvek::imposition

@@ -11,7 +11,8 @@
 #include "host/session/PrintSession.h"
 #include "host/ticket/BookletSettings.h"
 #include "host/ticket/PageRanges.h"
-#include "imposition/PageOrder.h"
+#include "imposition/JobSheets.h"
+#include "imposition/StandardOptions.h"
 #include "platform/plugin/FinishingKeywords.h"
 #include "platform/printing/PrintSettings.h"
 
@@ -45,21 +46,27 @@ bool isSaddleFolded(const Marks &marks) {
   return sameKeyword(marks.marked(QLatin1String(foldingKeyword)), saddleFold);
 }
 
-bool isTwoSided(const Marks &marks) {
-  return !isOff(marks.marked(QStringLiteral("Duplex")));
+imposition::ValueOf markedIn(const Marks &marks) {
+  return [&marks](const char *option) -> std::optional<std::string> {
+    const QString marked = marks.marked(QString::fromLatin1(option));
+    return marked.isNull() ? std::nullopt : std::optional(marked.toStdString());
+  };
 }
 
-// Without the booklet's page order the sheets are what the layout makes them.
-int sheetsOf(const Marks &marks, const TicketValues &ticket, int pages) {
-  if (bookletSettings(ticket).enabled) return imposition::bookletSheets(pages);
-  const int perSide = std::max(1, integerReading(ticket.value(layoutNUpKey)));
-  const int perSheet = perSide * (isTwoSided(marks) ? 2 : 1);
-  return pages <= 0 ? 0 : (pages - 1) / perSheet + 1;
+imposition::SheetJob sheetJobOf(const Marks &marks, const TicketValues &ticket,
+                                const JobSettings &settings) {
+  imposition::SheetJob job;
+  job.booklet = bookletSettings(ticket);
+  job.twoSided = imposition::readDuplexing(markedIn(marks)) != imposition::Duplexing::None;
+  job.filters.pagesPerSide = std::max(1, integerReading(ticket.value(layoutNUpKey)));
+  job.filters.sides.ranges = pageRangesIn(settings.pageRanges);
+  return job;
 }
 
-QString tooManySheets(const Marks &marks, const TicketValues &ticket, int pages) {
+QString tooManySheets(const Marks &marks, const TicketValues &ticket, const JobSettings &settings,
+                      int pages) {
   if (!warningsDependOnPages(marks, ticket)) return {};
-  const int sheets = sheetsOf(marks, ticket, pages);
+  const int sheets = imposition::sheetsFor(pages, sheetJobOf(marks, ticket, settings));
   const int most = maximumBookletSheets(marks.printer());
   if (sheets <= most) return {};
   return Words::tr("A booklet of %1 sheets is more than the printer folds at once: at most %2")
@@ -80,9 +87,8 @@ bool warningsDependOnPages(const Marks &marks, const TicketValues &ticket) {
 
 QStringList jobWarnings(const Marks &marks, const TicketValues &ticket, const JobSettings &settings,
                         int pages) {
-  const int printed = static_cast<int>(pagesInRanges(settings.pageRanges, pages).size());
   QStringList words{settings.pageRangesProblem, staplesUncollated(marks, settings),
-                    tooManySheets(marks, ticket, printed)};
+                    tooManySheets(marks, ticket, settings, pages)};
   words.removeAll(QString());
   return words;
 }

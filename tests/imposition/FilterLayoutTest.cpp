@@ -84,6 +84,27 @@ void chooseSides(std::mt19937 &random, RandomJob *job) {
   if (sides.twoSided) job->options << QStringLiteral("Duplex=DuplexNoTumble");
 }
 
+void choosePlaces(std::mt19937 &random, RandomJob *job) {
+  const auto place = any<std::string>(
+      random, {"", "", "left", "top-right", "bottom", "bottom-left", "center", "top"});
+  job->job.position = readPosition(place);
+  if (!place.empty()) job->options << "position=" + QString::fromStdString(place);
+  for (const test::NumberedPage &page : job->pages) job->job.ownTurns.push_back(page.turn);
+  job->job.isMirrored = any<int>(random, {0, 1, 2, 3}) == 0;
+  if (job->job.isMirrored) job->options << QStringLiteral("mirror");
+}
+
+void chooseBooklet(std::mt19937 &random, RandomJob *job) {
+  job->job.booklet = any<OwnBooklet>(random, {OwnBooklet::Off, OwnBooklet::Off, OwnBooklet::Off,
+                                              OwnBooklet::Sides, OwnBooklet::Order});
+  if (job->job.booklet == OwnBooklet::Off) return;
+  const bool isWhole = job->job.booklet == OwnBooklet::Sides;
+  job->options << (isWhole ? QStringLiteral("booklet") : QStringLiteral("booklet=shuffle-only"));
+  job->job.signature = any<int>(random, {0, 0, 4, 8});
+  if (job->job.signature == 0) return;
+  job->options << QStringLiteral("booklet-signature=%1").arg(job->job.signature);
+}
+
 RandomJob randomJob(unsigned seed) {
   std::mt19937 random(seed);
   RandomJob job;
@@ -112,6 +133,8 @@ RandomJob randomJob(unsigned seed) {
   const char *words[] = {"auto", "none", "fit", "fill"};
   job.options << QStringLiteral("print-scaling=%1")
                      .arg(QString::fromLatin1(words[static_cast<int>(job.job.scaling)]));
+  choosePlaces(random, &job);
+  chooseBooklet(random, &job);
   return job;
 }
 

@@ -189,6 +189,35 @@ TEST(JobSheets, PrintEveryPageOnce) {
   }
 }
 
+TEST(JobSheets, ComeLastFirstWhereTheTrayWantsThem) {
+  SheetJob job = jobOn(a4);
+  job.isTurnedForTray = true;
+  job.twoSided = true;
+  const auto sides = printedSides(document(3), job);
+  ASSERT_EQ(sides.size(), 4U);
+  EXPECT_TRUE(sides[0].pages.empty());
+  EXPECT_EQ(numbers(sides[1]), std::vector<int>{3});
+  EXPECT_EQ(sides[1].face, Face::Back);
+  EXPECT_EQ(numbers(sides[3]), std::vector<int>{1});
+  job.booklet.enabled = true;
+  EXPECT_EQ(numbers(printedSides(document(7), job)[0]), (std::vector<int>{4, 5}));
+}
+
+TEST(JobSheets, AreAsManyAsCountedBeforehand) {
+  for (int seed = 0; seed < 600; ++seed) {
+    SheetJob job = jobOn(a4);
+    job.twoSided = seed % 2 != 0;
+    job.booklet.enabled = seed % 3 == 0;
+    job.filters.pagesPerSide = job.booklet.enabled ? 1 : 1 + seed % 5;
+    job.filters.booklet = seed % 7 == 0 ? OwnBooklet::Sides : OwnBooklet::Off;
+    job.filters.sides.reverse = seed % 11 < 5;
+    job.filters.sides.parity = seed % 13 == 0 ? Parity::Even : Parity::All;
+    if (seed % 5 == 0) job.filters.sides.ranges = {{2, 3}, {5, 0}};
+    const int pages = seed % 23;
+    EXPECT_EQ(sheetsFor(pages, job), sheetCount(printedSides(document(pages), job))) << seed;
+  }
+}
+
 TEST(JobSheets, AreNoneForNoPagesAndForRangesBeyondTheDocument) {
   EXPECT_TRUE(printedSides({}, jobOn(a4)).empty());
   SheetJob job = jobOn(a4);

@@ -104,6 +104,17 @@ TEST(PageOrder, HasNoSheetsForNoPages) {
   EXPECT_TRUE(bookletOrder(-3, false).empty());
 }
 
+TEST(PagesInBookletOrder, AreThoseOfTheSheetsOneSideAfterTheOther) {
+  EXPECT_THAT(pagesInBookletOrder(6, 0), ElementsAre(0, 1, 2, 0, 6, 3, 4, 5));
+  EXPECT_THAT(pagesInBookletOrder(6, 4), ElementsAre(4, 1, 2, 3, 0, 5, 6, 0));
+  EXPECT_THAT(pagesInBookletOrder(3, 8), ElementsAre(0, 1, 2, 0, 0, 3, 0, 0));
+}
+
+TEST(PagesInBookletOrder, AreNoneForNoPagesAndForBookletsOfBrokenSheets) {
+  EXPECT_THAT(pagesInBookletOrder(0, 0), ElementsAre());
+  EXPECT_THAT(pagesInBookletOrder(8, 6), ElementsAre());
+}
+
 TEST(BookletSheets, HoldFourPagesEach) {
   EXPECT_EQ(bookletSheets(-1), 0);
   EXPECT_EQ(bookletSheets(0), 0);

@@ -89,6 +89,18 @@ TEST_F(JobWarnings, CountTheSheetsOfASaddleFoldByTheLayout) {
   EXPECT_EQ(jobWarnings(*session, 31), QStringList());
 }
 
+TEST_F(JobWarnings, CountRangesAsThePrintSystemDoesWhereSeveralPagesShareASheet) {
+  session->pick("OVKFolding", "Saddle");
+  session->job().setPagesPerSheet(2);
+  JobSettings settings;
+  settings.pageRanges = QStringLiteral("1-15");
+  session->job().setSettings(settings);
+  EXPECT_EQ(jobWarnings(*session, 60), QStringList());
+  settings.pageRanges = QStringLiteral("1-16");
+  session->job().setSettings(settings);
+  EXPECT_EQ(jobWarnings(*session, 60).size(), 1);
+}
+
 TEST_F(JobWarnings, DoNotJudgeADocumentOfUnknownLength) {
   session->ticket().setValue("OVKEnableBooklet", "True");
   EXPECT_EQ(jobWarnings(*session, 0), QStringList());
