@@ -6,11 +6,13 @@
 #include <unistd.h>
 
 #include <cstdlib>
+#include <string_view>
 
 #include "driver/Imposer.h"
 #include "driver/JobPaper.h"
 #include "driver/StandardFilters.h"
 #include "driver/TemporaryFile.h"
+#include "imposition/StandardOptions.h"
 
 namespace orvek::driver {
 namespace {
@@ -31,19 +33,27 @@ std::string ppdFile() {
   return path == nullptr ? std::string() : path;
 }
 
-bool isReversed(const FilterOptions &options) {
-  for (const char *name : {"outputorder", "page-delivery"}) {
-    const auto order = options.value(name);
-    if (order && order->starts_with("reverse")) return true;
-  }
-  return false;
+/// Filters hand on what printers are to understand; without a single page that is a frame of
+/// commands around nothing.
+bool hasPages(std::FILE *document) {
+  constexpr std::size_t bytesThatTell = 4096;
+  constexpr std::string_view jobLanguage = "\033%-12345X";
+  const std::string bytes = beginningOf(document, bytesThatTell);
+  return !bytes.starts_with(jobLanguage) || bytes.size() == bytesThatTell ||
+         bytes.find("%!") != std::string::npos || bytes.find("%PDF-") != std::string::npos;
+}
+
+Failure noPages() {
+  return {FailureKind::Io, QStringLiteral("the document"),
+          QStringLiteral("none of its pages is to be printed; look at the page ranges")};
 }
 
 /// PostScript becomes pages the way it does for printers that want PDF.
-Result<File> pagesOfPostScript(const FilterCall &call) {
+Result<File> pagesOfPostScript(FilterCall call, const File &document) {
   auto pages = namelessFile();
   if (!pages) return pages;
-  const auto made = runStandardFilters({"gstopdf", "pdftopdf"}, call, STDIN_FILENO,
+  call.file.clear();
+  const auto made = runStandardFilters({"gstopdf", "pdftopdf"}, call, ::fileno(document.get()),
                                        ::fileno(pages.value().get()));
   if (!made) return made.failure();
   if (made.value() != 0) {
@@ -55,12 +65,25 @@ Result<File> pagesOfPostScript(const FilterCall &call) {
 }
 
 Result<File> documentOf(const BookletJob &job) {
-  if (job.kind == DocumentKind::PostScript) return pagesOfPostScript(job.call);
-  return job.call.file.empty() ? spooled(STDIN_FILENO) : openedFile(job.call.file);
+  auto document = job.call.file.empty() ? spooled(STDIN_FILENO) : openedFile(job.call.file);
+  if (!document) return document;
+  if (!hasPages(document.value().get())) return noPages();
+  if (job.kind != DocumentKind::PostScript) return document;
+  return pagesOfPostScript(job.call, document.value());
 }
 
 bool isEmpty(std::FILE *file) {
   return std::fgetc(file) == EOF;
+}
+
+BookletRequest requestOf(const BookletJob &job, const FilterOptions &options,
+                         const std::optional<JobPaper> &paper) {
+  const auto asked =
+      imposition::readReversed([&options](const char *name) { return options.value(name); });
+  const bool isForTray = !asked && wantsLastFirst(ppdFile(), options);
+  BookletRequest request{job.keys, std::nullopt, asked.value_or(isForTray), isForTray};
+  if (paper) request.paper = paper->size;
+  return request;
 }
 
 /// The sheets of the job's document, ready to be read; empty for an empty document.
@@ -70,8 +93,7 @@ Result<File> sheetsOf(const BookletJob &job, FilterOptions *options) {
   auto sheets = namelessFile();
   if (!sheets) return sheets;
   const auto paper = paperOf(ppdFile(), *options, job.keys);
-  BookletRequest request{job.keys, std::nullopt, isReversed(*options)};
-  if (paper) request.paper = paper->size;
+  const BookletRequest request = requestOf(job, *options, paper);
   prepareForSheets(options, paper ? paper->pageSize : std::string());
   // Whoever made nothing of the document has said why.
   if (isEmpty(document.value().get())) return sheets;

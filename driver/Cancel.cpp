@@ -56,6 +56,8 @@ void watchForCancel() {
   // Without SA_RESTART: a wait for filters has to notice.
   sigemptyset(&action.sa_mask);
   for (const int signal : {SIGTERM, SIGINT, SIGHUP}) ::sigaction(signal, &action, nullptr);
+  // Whoever no longer reads ends the job by way of an error, which leaves no file behind.
+  std::signal(SIGPIPE, SIG_IGN);
 }
 
 bool isCancelled() {

@@ -124,6 +124,7 @@ Result<int> impose(QPDF &document, std::FILE *sheets, const BookletRequest &requ
   auto pages = pagesOf(document);
   if (!pages) return pages.failure();
   if (request.mayBeginWithFiller) dropFiller(pages.value());
+  if (request.isTurnedForTray) std::reverse(pages.value().begin(), pages.value().end());
   const bool hasAnnotations = drawAnnotations(document, pages.value());
   const Size paper = paperFor(request, pages.value());
   const auto sides = sidesOf(document, formsOf(pages.value(), paper), paper, request.keys);

@@ -18,6 +18,9 @@ struct BookletRequest {
   /// The document was turned round for two-sided sheets, and may begin with the blank page that
   /// evened it out. That page is none of the document's own.
   bool mayBeginWithFiller = false;
+  /// The pages come last first for the sake of the tray, not because the job wants it so. The
+  /// sheets will be turned round for the tray; the booklet is to be read in the document's order.
+  bool isTurnedForTray = false;
 };
 
 /// Reads `document`, which must be seekable, and writes to `sheets` a PDF with a page for each side

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// The paper of a booklet's sheets.
+// What the PPD says of a booklet's sheets: their paper, and the order that their tray wants.
 #pragma once
 
 #include <optional>
@@ -22,5 +22,9 @@ struct JobPaper {
 /// the PPD can't be read or knows no size for it: the document's own pages have to tell then.
 std::optional<JobPaper> paperOf(const std::string &ppdFile, const FilterOptions &options,
                                 const imposition::BookletKeys &keys);
+
+/// Whether the printer of this PPD wants the last page first where the job says nothing of an
+/// order: the tray piles its sheets face up. False where the PPD can't be read.
+bool wantsLastFirst(const std::string &ppdFile, const FilterOptions &options);
 
 }  // namespace orvek::driver

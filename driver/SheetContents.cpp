@@ -55,12 +55,16 @@ std::string nameOf(const PlacedPage &placed) {
   return "/P" + std::to_string(placed.page);
 }
 
+bool hasRoomForBorder(const PlacedPage &placed) {
+  return placed.border && placed.frame.width > borderWidth && placed.frame.height > borderWidth;
+}
+
 std::string draw(const PlacedPage &placed, const PageForm &page, Size side) {
   std::string text = "q " + clip(placed.clip, side);
   if (page.hasContents()) {
     text += "q " + placeOf(placed, page, side).unparse() + " cm " + nameOf(placed) + " Do Q\n";
   }
-  if (placed.border) text += border(placed.frame, side);
+  if (hasRoomForBorder(placed)) text += border(placed.frame, side);
   return text + "Q\n";
 }
 

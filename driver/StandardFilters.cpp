@@ -14,8 +14,10 @@
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
+#include <utility>
 
 #include "driver/Cancel.h"
+#include "driver/TemporaryFile.h"
 
 namespace orvek::driver {
 namespace {
@@ -41,6 +43,7 @@ void connect(int descriptor, int place) {
 [[noreturn]] void become(const std::string &path, const FilterCall &call, int input, int output) {
   ::prctl(PR_SET_PDEATHSIG, SIGTERM);
   ::setpgid(0, 0);
+  std::signal(SIGPIPE, SIG_DFL);
   connect(input, STDIN_FILENO);
   connect(output, STDOUT_FILENO);
   const std::vector<std::string> arguments = call.arguments();
@@ -119,6 +122,40 @@ class Descriptor {
   int m_descriptor;
 };
 
+/// What filters write goes through here: most of them don't look whether there was room for it.
+class Outlet {
+ public:
+  explicit Outlet(int output) : m_output(output) {
+    if (::pipe2(m_pipe.data(), O_CLOEXEC) != 0) m_pipe = {-1, -1};
+  }
+  Outlet(const Outlet &) = delete;
+  Outlet &operator=(const Outlet &) = delete;
+  ~Outlet() { closeBoth(); }
+
+  bool isOpen() const { return m_pipe[0] >= 0; }
+  /// For the last filter.
+  int inlet() const { return m_pipe[1]; }
+
+  /// Copies until nobody writes any more, the job is cancelled or there is no room. Filters that
+  /// still write end for want of a reader.
+  Status drain() {
+    ::close(std::exchange(m_pipe[1], -1));
+    const Status copied = copyUntilCancelled(m_pipe[0], m_output);
+    closeBoth();
+    return copied;
+  }
+
+ private:
+  void closeBoth() {
+    for (int &end : m_pipe) {
+      if (end >= 0) ::close(std::exchange(end, -1));
+    }
+  }
+
+  int m_output;
+  std::array<int, 2> m_pipe{-1, -1};
+};
+
 /// Starts all filters; those that could be started are in `running`, whatever it gives.
 Status startAll(const std::vector<std::string> &names, FilterCall call, int input, int output,
                 std::vector<RunningFilter> *running) {
@@ -154,9 +191,12 @@ std::string standardFilterPath(const std::string &name) {
 
 Result<int> runStandardFilters(const std::vector<std::string> &names, const FilterCall &call,
                                int input, int output) {
+  Outlet outlet(output);
+  if (!outlet.isOpen()) return failure(names.back(), std::strerror(errno));
   std::vector<RunningFilter> running;
-  Status good = startAll(names, call, input, output, &running);
+  Status good = startAll(names, call, input, outlet.inlet(), &running);
   int status = 0;
+  if (const Status written = outlet.drain(); good && !written) good = written.failure();
   // All are waited for, whatever the first ones gave.
   for (const RunningFilter &filter : running) {
     const Result<int> ended = outcome(filter);

@@ -4,13 +4,13 @@
 #include "driver/TemporaryFile.h"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 
 #include <array>
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
-#include <filesystem>
-#include <system_error>
 
 #include "driver/Cancel.h"
 
@@ -18,10 +18,12 @@ namespace orvek::driver {
 namespace {
 
 constexpr std::size_t bufferSize = 1 << 16;
+constexpr int pollMilliseconds = 100;
 
+// One that isn't there is no reason to write elsewhere: whoever named it learns of it.
 std::string folder() {
-  std::error_code none;
-  return std::filesystem::temp_directory_path(none).string();
+  const char *named = std::getenv("TMPDIR");
+  return named == nullptr || *named == '\0' ? P_tmpdir : named;
 }
 
 Failure failure(const std::string &what) {
@@ -31,7 +33,7 @@ Failure failure(const std::string &what) {
 bool writeAll(int file, const char *bytes, std::size_t size) {
   while (size > 0) {
     const ssize_t written = ::write(file, bytes, size);
-    if (written < 0 && errno == EINTR) continue;
+    if (written < 0 && errno == EINTR && !isCancelled()) continue;
     if (written <= 0) return false;
     bytes += written;
     size -= static_cast<std::size_t>(written);
@@ -72,6 +74,29 @@ Result<File> spooled(int descriptor) {
   if (!copyAll(descriptor, target)) return failure("the document");
   ::lseek(target, 0, SEEK_SET);
   return file;
+}
+
+Status copyUntilCancelled(int from, int to) {
+  std::array<char, bufferSize> bytes{};
+  while (!isCancelled()) {
+    // A filter that doesn't listen may hold its end open for ever.
+    pollfd ready{from, POLLIN, 0};
+    if (::poll(&ready, 1, pollMilliseconds) <= 0) continue;
+    const ssize_t size = ::read(from, bytes.data(), bytes.size());
+    if (size < 0 && errno == EINTR) continue;
+    if (size == 0) return {};
+    if (size < 0 || !writeAll(to, bytes.data(), static_cast<std::size_t>(size))) {
+      return failure("what is printed");
+    }
+  }
+  return {};
+}
+
+std::string beginningOf(std::FILE *file, std::size_t most) {
+  std::string bytes(most, '\0');
+  const ssize_t size = ::pread(::fileno(file), bytes.data(), bytes.size(), 0);
+  bytes.resize(size > 0 ? static_cast<std::size_t>(size) : 0);
+  return bytes;
 }
 
 Status copyOut(std::FILE *file, int descriptor) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Files that are gone when the driver is.
+// Files that are gone when the driver is, in the folder that TMPDIR names.
 #pragma once
 
 #include <cstdio>
@@ -20,6 +20,13 @@ Result<File> namelessFile();
 
 /// A nameless file with everything that a descriptor still has to give, ready to be read.
 Result<File> spooled(int descriptor);
+
+/// Writes on to another descriptor everything that one still gives, until the job is cancelled.
+/// Fails where there is no room for it, or nobody who takes it.
+Status copyUntilCancelled(int from, int to);
+
+/// The first bytes of a file, wherever it is being read; fewer where it is shorter.
+std::string beginningOf(std::FILE *file, std::size_t most);
 
 /// Writes everything from a file's descriptor on to another.
 Status copyOut(std::FILE *file, int descriptor);

@@ -103,6 +103,25 @@ TEST_F(BookletPrint, BeginsAReversedBookletWithTheLastPageThoughThereIsAnOddNumb
              renumbered(booklet(5, a4), [](int page) { return 6 - page; }));
 }
 
+TEST_F(BookletPrint, ReadsInTheDocumentsOrderThoughTheTrayWantsTheLastSideFirst) {
+  kit.addToPPD("*DefaultOutputOrder: Reverse\n");
+  std::vector<SeenSide> sides = booklet(5, a4);
+  std::reverse(sides.begin(), sides.end());
+  expectSeen(printPages(5, {QStringLiteral("sides=two-sided-long-edge")}), sides);
+  sides = renumbered(booklet(8, a4), [](int page) { return 9 - page; });
+  std::reverse(sides.begin(), sides.end());
+  expectSeen(printPages(8, {QStringLiteral("outputorder=reverse")}), sides);
+}
+
+TEST_F(BookletPrint, SaysThatNoPageIsLeftToPrint) {
+  const QString file = kit.write(QStringLiteral("in.pdf"), markedDocument(3));
+  printed = printThrough(kit.ppd(), {kBooklet, QStringLiteral("page-ranges=7-9")}, file);
+  EXPECT_NE(printed.exitStatus, 0);
+  const QStringList said = printed.lines(QStringLiteral("ERROR: the document: "));
+  ASSERT_EQ(said.size(), 1);
+  EXPECT_TRUE(said[0].contains(QStringLiteral("page ranges"))) << said[0].toStdString();
+}
+
 TEST_F(BookletPrint, MakesEachCopyABooklet) {
   printPages(4, {QStringLiteral("-n 2"), QStringLiteral("Collate=False")});
   EXPECT_EQ(count("%%Page: "), 2);
@@ -160,6 +179,34 @@ TEST_F(BookletPrint, LeavesNothingBehind) {
   const QStringList before = QDir(kit.path(QString())).entryList(QDir::Files);
   EXPECT_EQ(runDriverAlone(kit, kBooklet, file).exitStatus, 0);
   EXPECT_EQ(QDir(kit.path(QString())).entryList(QDir::Files), before);
+}
+
+TEST_F(BookletPrint, KeepsItsFilesWhereItIsToldTo) {
+  const QString file = kit.write(QStringLiteral("in.pdf"), markedDocument(3));
+  auto environment = QProcessEnvironment::systemEnvironment();
+  environment.insert(QStringLiteral("PPD"), kit.ppd());
+  environment.insert(QStringLiteral("TMPDIR"), kit.path(QStringLiteral("no-such-folder")));
+  const Printed refused = runDriverIn(environment, kit, kBooklet, file);
+  EXPECT_EQ(refused.exitStatus, 1);
+  ASSERT_EQ(refused.lines(QStringLiteral("ERROR: ")).size(), 1);
+  EXPECT_TRUE(refused.lines(QStringLiteral("ERROR: "))[0].contains("no-such-folder"));
+}
+
+TEST_F(BookletPrint, FailsWhereTheDiskIsFull) {
+  const QString document = kit.write(QStringLiteral("in.pdf"), markedDocument(3));
+  const QString script = kit.write(QStringLiteral("in.ps"), "%!PS\nshowpage\n");
+  auto environment = QProcessEnvironment::systemEnvironment();
+  environment.insert(QStringLiteral("PPD"), kit.ppd());
+  environment.insert(QStringLiteral("CUPS_SERVERBIN"), QStringLiteral("/usr/lib/cups"));
+  for (const QString &options : {kBooklet, QString()}) {
+    for (const QString &file : {document, script}) {
+      const Printed full =
+          runDriverIn(environment, kit, options, file, QStringLiteral("/dev/full"));
+      EXPECT_EQ(full.exitStatus, 1) << options.toStdString() << file.toStdString();
+      EXPECT_EQ(full.lines(QStringLiteral("ERROR: ")),
+                QStringList{QStringLiteral("what is printed: No space left on device")});
+    }
+  }
 }
 
 TEST_F(BookletPrint, WritesSheetsInsteadOfPrintingThem) {

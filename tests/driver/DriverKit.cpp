@@ -58,6 +58,10 @@ DriverKit::DriverKit() {
   writeContents(this->ppd(), QByteArray(ppd).replace("orvek-booklet\"", named));
 }
 
+void DriverKit::addToPPD(const QByteArray &lines) const {
+  writeContents(ppd(), contentsOf(ppd()) + lines);
+}
+
 QString DriverKit::write(const QString &name, const std::string &contents) const {
   writeContents(path(name), QByteArray::fromStdString(contents));
   QFile::setPermissions(path(name), everybodyReads | QFile::WriteOwner);
@@ -110,6 +114,16 @@ Printed runDriverAlone(const DriverKit &kit, const QString &options, const QStri
   process.setProcessEnvironment(environment);
   process.start(kit.filter(), arguments);
   return finish(process, input);
+}
+
+Printed runDriverIn(const QProcessEnvironment &environment, const DriverKit &kit,
+                    const QString &options, const QString &file, const QString &output) {
+  QProcess process;
+  process.setProcessEnvironment(environment);
+  if (!output.isEmpty()) process.setStandardOutputFile(output);
+  process.start(kit.filter(), {QStringLiteral("1"), QStringLiteral("somebody"),
+                               QStringLiteral("a title"), QStringLiteral("1"), options, file});
+  return finish(process, {});
 }
 
 QByteArray withoutDates(const QByteArray &postScript) {

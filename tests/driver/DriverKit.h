@@ -2,6 +2,7 @@
 // The driver as the print system runs it.
 #pragma once
 
+#include <QProcessEnvironment>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -26,6 +27,9 @@ class DriverKit {
   QString ppd() const { return path(QStringLiteral("booklet.ppd")); }
   QString plainPPD() const { return path(QStringLiteral("plain.ppd")); }
   QString filter() const { return path(QStringLiteral("orvek-booklet")); }
+
+  /// Adds lines to the PPD that names the driver.
+  void addToPPD(const QByteArray &lines) const;
 
   /// Writes a document into the folder and gives its path.
   QString write(const QString &name, const std::string &contents) const;
@@ -54,6 +58,11 @@ Printed printThrough(const QString &ppd, const QStringList &options, const QStri
 /// input. `before` stands in front of the other arguments.
 Printed runDriverAlone(const DriverKit &kit, const QString &options, const QString &file,
                        const QByteArray &input = {}, const QStringList &before = {});
+
+/// The same in an environment of its own, the document by name, with a file for the output; an
+/// empty one gives it back.
+Printed runDriverIn(const QProcessEnvironment &environment, const DriverKit &kit,
+                    const QString &options, const QString &file, const QString &output = {});
 
 /// PostScript without the moments at which it was made.
 QByteArray withoutDates(const QByteArray &postScript);

@@ -34,9 +34,13 @@ class Queue : public ::testing::Test {
 
   /// Prints and looks; the job's number stays in `job`.
   std::vector<SeenSide> print(const QStringList &options, const QString &file) {
+    return print(options, QStringList{file});
+  }
+
+  std::vector<SeenSide> print(const QStringList &options, const QStringList &files) {
     QStringList arguments{QStringLiteral("-d"), kQueue};
     for (const QString &option : options) arguments << QStringLiteral("-o") << option;
-    const Ran lp = cups->run(QStringLiteral("lp"), arguments << file);
+    const Ran lp = cups->run(QStringLiteral("lp"), arguments << files);
     job =
         QRegularExpression(QStringLiteral("office-([0-9]+)")).match(lp.output).captured(1).toInt();
     EXPECT_EQ(cups->waitForJob(job), QStringLiteral("completed")) << cups->log().toStdString();
@@ -64,6 +68,17 @@ TEST_F(Queue, CountsTheSidesOfSheets) {
   print({QStringLiteral("OVKEnableBooklet")}, file);
   EXPECT_EQ(cups->jobAttributes(job).value(QStringLiteral("job-impressions-completed")),
             QStringLiteral("4"));
+}
+
+TEST_F(Queue, MakesEachDocumentOfAJobABookletOfItsOwn) {
+  const QString shorter = kit.write(QStringLiteral("a.pdf"), markedDocument(3));
+  const QString longer = kit.write(QStringLiteral("b.pdf"), markedDocument(5));
+  const auto seen = print({QStringLiteral("OVKEnableBooklet")}, QStringList{shorter, longer});
+  auto expected = expectedSides(imposition::imposeBooklet(std::vector<Size>(3, a4), a4, {}), a4);
+  const auto second =
+      expectedSides(imposition::imposeBooklet(std::vector<Size>(5, a4), a4, {}), a4);
+  expected.insert(expected.end(), second.begin(), second.end());
+  expectSeen(seen, expected);
 }
 
 TEST_F(Queue, LeavesOtherJobsAlone) {
