@@ -8,7 +8,9 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QRegularExpression>
+#include <optional>
 
+#include "host/jobs/BookletDriver.h"
 #include "host/jobs/FilterChain.h"
 #include "host/jobs/OptionText.h"
 #include "host/preview/BoundedTool.h"
@@ -50,12 +52,11 @@ bool isPostScript(const QString &path) {
   return start.startsWith("%!") || start.startsWith("\x04%!");
 }
 
-QStringList conversionArguments(const QString &path, const PrintedWith &with, const QString &type) {
+QStringList conversionArguments(const QString &path, const QString &ppd,
+                                const QMap<QString, QString> &printedWith, const QString &type) {
   QStringList arguments{QStringLiteral("-m"), type};
-  if (!with.ppdFile.isEmpty()) {
-    arguments << QStringLiteral("-p") << QFileInfo(with.ppdFile).absoluteFilePath();
-  }
-  const auto options = optionsForPages(with.options);
+  if (!ppd.isEmpty()) arguments << QStringLiteral("-p") << ppd;
+  const auto options = optionsForPages(printedWith);
   for (auto option = options.begin(); option != options.end(); ++option) {
     arguments << QStringLiteral("-o") << filterToolOptionText(option.key(), option.value());
   }
@@ -66,8 +67,16 @@ Result<DocumentPages> convert(const QString &path, const PrintedWith &with,
                               const std::atomic<bool> &cancelled) {
   const QString tool = findFilterTool(qEnvironmentVariable("PATH"));
   if (tool.isNull()) return unreadable(path, "there are no filters to show it with");
+  // The driver has no part in it: what makes pages is chosen as if there were none.
+  std::optional<ChainPPD> ppd;
+  if (!with.ppdFile.isEmpty()) {
+    Result<ChainPPD> chosen = ChainPPD::of(with.ppdFile, {}, DriverPlaces::ofThisProgram());
+    if (!chosen) return chosen.failure();
+    ppd = chosen.take();
+  }
   const bool isPicture = !QImageReader::imageFormat(path).isEmpty();
-  const QStringList arguments = conversionArguments(path, with, isPicture ? placedType : pdfType);
+  const QStringList arguments = conversionArguments(path, ppd ? ppd->path() : QString(),
+                                                    with.options, isPicture ? placedType : pdfType);
   const Result<QByteArray> pdf = runTool(tool, arguments, conversionLimits, cancelled);
   if (!pdf) return pdf.failure();
   auto made =

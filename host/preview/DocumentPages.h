@@ -17,10 +17,12 @@ namespace orvek {
 
 /// A page as the filters see it. Points.
 struct DocumentPage {
-  /// Of the part that is printed, as displayed.
-  QSizeF size;
+  /// Of the part that is printed, as displayed; 0 x 0 where there is nothing to see of it.
+  QSizeF size{0, 0};
   /// That part within what a renderer shows of the page, as shares of its width and height.
   QRectF part{0, 0, 1, 1};
+  /// Degrees clockwise that the document itself turns it: 0, 90, 180 or 270.
+  int turn = 0;
 
   bool operator==(const DocumentPage &) const = default;
 };

@@ -1,13 +1,19 @@
 // SPDX-License-Identifier: Apache-2.0
-// Reads marks, ticket and job settings.
+// Reads marks, and the options that the job will carry: whoever gave them, they are what is
+// printed.
 
 #include "host/preview/JobLayout.h"
 
 #include <algorithm>
 
+#include "host/ppd/Keyword.h"
 #include "host/ppd/Paper.h"
 #include "host/session/PrintSession.h"
+#include "host/ticket/AskedOptions.h"
+#include "host/ticket/JobOptionNames.h"
 #include "host/ticket/PageRanges.h"
+#include "imposition/StandardOptions.h"
+#include "platform/system/OptionMap.h"
 // clang-format off
 #include <cups/cups.h>
 #include <cups/pwg.h>
@@ -26,13 +32,51 @@ const QString pageSizeOption = QStringLiteral("PageSize");
 using Options = QMap<QString, QString>;
 
 QString word(const Options &options, const char *name) {
-  return options.value(QString::fromLatin1(name));
+  return valueNamed(options, QLatin1String(name)).value_or(QString());
 }
 
-bool isOn(const Options &options, const char *name) {
-  const QString value = word(options, name).toLower();
-  return value == QLatin1String("true") || value == QLatin1String("on") ||
-         value == QLatin1String("yes");
+bool isOn(const QString &value) {
+  return isAnyOf(value, {"true", "on", "yes"});
+}
+
+// What was saved for a queue goes with a job that says nothing else.
+Options allOptions(PrintSession &session) {
+  Options options = session.job().options();
+  const QStringList overruled = session.job().overruledOptions();
+  for (const OptionChoice &saved : session.origin().queueOptions) {
+    const bool isSaid = valueNamed(options, saved.option).has_value();
+    if (isSaid || overruled.contains(saved.option, Qt::CaseInsensitive)) continue;
+    options.insert(saved.option, saved.choice);
+  }
+  return options;
+}
+
+// What makes no sense to a reader is no setting. Of two words for one the filters prefer this.
+JobSettings settingsIn(const Options &options) {
+  AskedOptions read;
+  for (auto option = options.cbegin(); option != options.cend(); ++option) {
+    static_cast<void>(read.take(option.key(), option.value()));
+  }
+  const auto landscape = valueNamed(options, landscapeOption);
+  if (landscape) static_cast<void>(read.take(landscapeOption, *landscape));
+  return read.settings;
+}
+
+// What is marked says more than a word of the print server.
+ValueOf markedOrSaid(const Marks &marks, const Options &options) {
+  return [&](const char *option) -> std::optional<std::string> {
+    const QString marked = marks.marked(QString::fromLatin1(option));
+    if (!marked.isNull()) return marked.toStdString();
+    const auto said = valueNamed(options, QLatin1String(option));
+    return said ? std::optional(said->toStdString()) : std::nullopt;
+  };
+}
+
+ValueOf said(const Options &options) {
+  return [&](const char *option) -> std::optional<std::string> {
+    const auto value = valueNamed(options, QLatin1String(option));
+    return value ? std::optional(value->toStdString()) : std::nullopt;
+  };
 }
 
 Size sizeOfMedia(const QString &media) {
@@ -80,13 +124,13 @@ bool turnsRight(const PrinterDescription &printer) {
 
 Scaling scalingOf(const Options &options) {
   const QString asked = word(options, "print-scaling");
-  if (asked == QLatin1String("fit")) return Scaling::Fit;
-  if (asked == QLatin1String("fill")) return Scaling::Fill;
-  if (asked == QLatin1String("none")) return Scaling::None;
+  if (sameKeyword(asked, "fit")) return Scaling::Fit;
+  if (sameKeyword(asked, "fill")) return Scaling::Fill;
+  if (sameKeyword(asked, "none")) return Scaling::None;
   for (const char *name : {"fit-to-page", "fitplot", "ipp-attribute-fidelity"}) {
-    if (isOn(options, name)) return Scaling::Fit;
+    if (isOn(word(options, name))) return Scaling::Fit;
   }
-  return isOn(options, "fill") ? Scaling::Fill : Scaling::Automatic;
+  return isOn(word(options, "fill")) ? Scaling::Fill : Scaling::Automatic;
 }
 
 // The printer's own habit counts where the job says nothing: a tray that piles sheets face up.
@@ -96,43 +140,41 @@ bool printsLastFirst(const Marks &marks) {
   return stacksReversed(marks.printer(), marks.marked(QStringLiteral("OutputBin")));
 }
 
-bool isReversed(const PrintSession &session, const Options &options) {
-  if (session.job().settings().reverse) return true;
-  if (options.contains(QStringLiteral("outputorder"))) return false;
-  const QString delivery = word(options, "page-delivery");
-  if (!delivery.isEmpty()) return delivery.startsWith(QLatin1String("reverse"));
-  return printsLastFirst(session.marks());
+// A tray's habit changes nothing in what a booklet is read like.
+void readOrder(const Marks &marks, const Options &options, SheetJob *job) {
+  const bool habit = !job->booklet.enabled && printsLastFirst(marks);
+  job->filters.sides.reverse = readReversed(said(options)).value_or(habit);
+  job->isTurnedForTray = stacksReversed(marks.printer(), marks.marked(QStringLiteral("OutputBin")));
 }
 
-void readSelection(const PrintSession &session, const Options &options, SideSelection *sides) {
-  sides->ranges = pageRangesIn(session.job().settings().pageRanges);
+void readSelection(const Options &options, FilterJob *job) {
+  job->sides.ranges = pageRangesIn(settingsIn(options).pageRanges);
   const QString set = word(options, "page-set");
-  if (set == QLatin1String("odd")) sides->parity = Parity::Odd;
-  if (set == QLatin1String("even")) sides->parity = Parity::Even;
-  sides->reverse = isReversed(session, options);
+  if (sameKeyword(set, "odd")) job->sides.parity = Parity::Odd;
+  if (sameKeyword(set, "even")) job->sides.parity = Parity::Even;
+}
+
+// What the standard filters do beside choosing and scaling pages.
+void readPlaces(const Marks &marks, const Options &options, FilterJob *job) {
+  job->pagesPerSide = std::max(1, leadingInteger(word(options, numberUpOption).toStdString()));
+  job->order = lowerCase(word(options, "number-up-layout").toStdString());
+  job->position = readPosition(word(options, "position").toStdString());
+  job->isMirrored =
+      isOn(word(options, "mirror")) || isOn(marks.marked(QStringLiteral("MirrorPrint")));
+  const QString booklet = word(options, "booklet");
+  if (isOn(booklet)) job->booklet = OwnBooklet::Sides;
+  if (sameKeyword(booklet, "shuffle-only")) job->booklet = OwnBooklet::Order;
+  job->signature = leadingInteger(word(options, "booklet-signature").toStdString());
 }
 
 void readSides(const Marks &marks, const Options &options, SheetJob *job) {
-  const QString sides = word(options, "sides");
-  job->twoSided = sides.startsWith(QLatin1String("two-sided"));
-  job->turnsOverShortEdge = sides == QLatin1String("two-sided-short-edge");
-  for (const char *option : {"Duplex", "JCLDuplex", "EFDuplex", "ARDuplex", "KD03Duplex"}) {
-    const QString marked = marks.marked(QString::fromLatin1(option));
-    if (marked.isNull()) continue;
-    job->twoSided = marked.startsWith(QLatin1String("Duplex"), Qt::CaseInsensitive) ||
-                    marked.startsWith(QLatin1String("Front"), Qt::CaseInsensitive);
-    job->turnsOverShortEdge = job->twoSided && (marked == QLatin1String("DuplexTumble") ||
-                                                marked.startsWith(QLatin1String("FrontTumble")));
-    return;
-  }
+  const Duplexing duplexing = readDuplexing(markedOrSaid(marks, options));
+  job->twoSided = duplexing != Duplexing::None;
+  job->turnsOverShortEdge = duplexing == Duplexing::ShortEdge;
 }
 
 void readBooklet(const Marks &marks, const Options &options, SheetJob *job) {
-  job->booklet = readBookletKeys([&](const char *key) -> std::optional<std::string> {
-    const auto found = options.constFind(QString::fromLatin1(key));
-    if (found == options.constEnd()) return std::nullopt;
-    return found->toStdString();
-  });
+  job->booklet = readBookletKeys(said(options));
   const QList<PrinterChoice> sizes = marks.printer().choices(pageSizeOption);
   const auto choice = targetPaperChoice(job->booklet.targetPaper, static_cast<int>(sizes.size()));
   if (!choice) return;
@@ -140,38 +182,33 @@ void readBooklet(const Marks &marks, const Options &options, SheetJob *job) {
   job->bookletPaper = {paper.width(), paper.height()};
 }
 
-Finishing finishingOf(const Marks &marks, const Options &options) {
-  return readFinishing([&](const char *option) -> std::optional<std::string> {
-    const QString name = QString::fromLatin1(option);
-    const QString marked = marks.marked(name);
-    if (!marked.isNull()) return marked.toStdString();
-    const auto asked = options.constFind(name);
-    if (asked == options.constEnd()) return std::nullopt;
-    return asked->toStdString();
-  });
-}
-
 }  // namespace
 
 SheetJob sheetJobOf(PrintSession &session) {
-  const Options options = session.job().options();
+  const Options options = allOptions(session);
+  const Marks &marks = session.marks();
   SheetJob job;
   readPaper(session, options, &job.filters);
-  job.filters.turning = turningOf(session.job().settings().orientation);
-  job.filters.landscapeTurnsRight = turnsRight(session.marks().printer());
-  job.filters.pagesPerSide = std::max(1, session.job().pagesPerSheet());
-  job.filters.order = word(options, "number-up-layout").toStdString();
+  job.filters.turning = turningOf(settingsIn(options).orientation);
+  job.filters.landscapeTurnsRight = turnsRight(marks.printer());
   job.filters.scaling = scalingOf(options);
-  readSelection(session, options, &job.filters.sides);
-  readSides(session.marks(), options, &job);
-  readBooklet(session.marks(), options, &job);
-  job.finishing = finishingOf(session.marks(), options);
+  readSelection(options, &job.filters);
+  readPlaces(marks, options, &job.filters);
+  readSides(marks, options, &job);
+  readBooklet(marks, options, &job);
+  readOrder(marks, options, &job);
+  job.finishing = readFinishing(markedOrSaid(marks, options));
+  job.inGray = readsAsGray(markedOrSaid(marks, options));
   return job;
+}
+
+int copiesOf(PrintSession &session) {
+  return settingsIn(allOptions(session)).copies;
 }
 
 PrintedWith printedWith(PrintSession &session) {
   const QString ppd = session.printer() ? session.printer()->path() : QString();
-  return {ppd, optionsForPages(session.job().options())};
+  return {ppd, optionsForPages(allOptions(session))};
 }
 
 std::vector<PrintedSide> sidesOf(const DocumentPages &document, const SheetJob &job) {
@@ -181,14 +218,19 @@ std::vector<PrintedSide> sidesOf(const DocumentPages &document, const SheetJob &
     sizes.push_back({page.size.width(), page.size.height()});
   }
   SheetJob asked = job;
+  if (job.filters.position != Position()) {
+    for (const DocumentPage &page : document.pages) asked.filters.ownTurns.push_back(page.turn);
+  }
   if (document.isPlaced) {
     const FilterJob placed = asked.filters;
     asked.filters = {};
     asked.filters.paper = placed.paper;
     asked.filters.scaling = Scaling::None;
   }
-  // The filters of PostScript fit several pages into the printable area, and never scale one.
+  // The filters of PostScript fit several pages into the printable area, never scale one, and turn
+  // the order round but once.
   if (document.isScript && !job.booklet.enabled) {
+    asked.isTurnedForTray = false;
     asked.filters.scaling = job.filters.pagesPerSide > 1 ? Scaling::Fit : Scaling::None;
   }
   return printedSides(sizes, asked);

@@ -15,6 +15,9 @@ class PrintSession;
 /// the job calls its media, without margins.
 imposition::SheetJob sheetJobOf(PrintSession &session);
 
+/// How many sets the job makes, whoever said so: the dialog, its ticket or the queue.
+int copiesOf(PrintSession &session);
+
 /// What the document is printed with, as far as its own pages depend on it.
 PrintedWith printedWith(PrintSession &session);
 

@@ -84,6 +84,7 @@ JobPreview::JobPreview(PrintSession &session, const QString &document, QWidget *
   m_document = sample(m_job.filters.paper);
   m_isRead = m_path.isEmpty() || m_path == QLatin1String("-");
   build();
+  m_pictures->setInGray(m_job.inGray);
   connect(&session, &PrintSession::changed, this, &JobPreview::followSession);
   layOut();
 }
@@ -167,6 +168,7 @@ void JobPreview::followSession() {
   if (readsAnew) read();
   if (job == m_job) return;
   m_job = job;
+  m_pictures->setInGray(job.inGray);
   if (m_isSample) m_document = sample(m_job.filters.paper);
   layOut();
 }
@@ -249,7 +251,7 @@ QString JobPreview::caption() const {
   if (m_isSample && !m_isRead) return tr("Reading the document…");
   if (sides().empty()) return tr("No page of the document is printed.");
   const int sheets = imposition::sheetCount(sides());
-  const int copies = m_session.job().settings().copies;
+  const int copies = copiesOf(m_session);
   QStringList parts;
   if (m_isSample) parts << tr("The document's pages are not known: a sample");
   if (copies > 1) {

@@ -88,9 +88,19 @@ void PagePictures::cancelAll() {
 }
 
 void PagePictures::setDocument(const DocumentPages &document) {
+  m_document = document;
+  forget();
+}
+
+void PagePictures::setInGray(bool gray) {
+  if (gray == m_isGray) return;
+  m_isGray = gray;
+  forget();
+}
+
+void PagePictures::forget() {
   cancelAll();
   ++m_generation;
-  m_document = document;
   m_pictures.clear();
   m_sizes.clear();
   m_hopeless.clear();
@@ -139,15 +149,19 @@ void PagePictures::startNext() {
 void PagePictures::start(const PageWish &wish) {
   const auto cancelled = std::make_shared<std::atomic<bool>>(false);
   m_running.insert(wish.page, cancelled);
-  m_pool.start([this, cancelled, wish, document = m_document, generation = m_generation] {
-    Result<QImage> picture = renderPage(document, wish.page, wish.pixels, *cancelled);
-    QMetaObject::invokeMethod(this, [this, generation, wish, cancelled, picture] {
-      if (generation != m_generation) return;
-      m_running.remove(wish.page);
-      if (!*cancelled) take(wish, picture);
-      startNext();
-    });
-  });
+  m_pool.start(
+      [this, cancelled, wish, document = m_document, generation = m_generation, isGray = m_isGray] {
+        Result<QImage> picture = renderPage(document, wish.page, wish.pixels, *cancelled);
+        if (isGray && picture) {
+          picture = picture.value().convertToFormat(QImage::Format_Grayscale8);
+        }
+        QMetaObject::invokeMethod(this, [this, generation, wish, cancelled, picture] {
+          if (generation != m_generation) return;
+          m_running.remove(wish.page);
+          if (!*cancelled) take(wish, picture);
+          startNext();
+        });
+      });
 }
 
 void PagePictures::take(const PageWish &wish, const Result<QImage> &picture) {

@@ -42,6 +42,9 @@ class PagePictures final : public QObject {
   /// Forgets everything about the document before.
   void setDocument(const DocumentPages &document);
 
+  /// Makes the pictures gray, as all of them are printed; those that are there, too.
+  void setInGray(bool gray);
+
   /// The newest picture of a page, whatever its size; null while there is none.
   QImage picture(int page) const;
 
@@ -66,8 +69,10 @@ class PagePictures final : public QObject {
   void start(const PageWish &wish);
   void take(const PageWish &wish, const Result<QImage> &picture);
   void cancelAll();
+  void forget();
 
   DocumentPages m_document;
+  bool m_isGray = false;
   int m_generation = 0;
   QCache<int, QImage> m_pictures;
   QMap<int, QSize> m_sizes;  // what was asked for when a page's picture was made

@@ -82,6 +82,7 @@ DocumentPage pageOf(const Entry &entry) {
   if (entry.shown.isEmpty()) return {};
   const Box &printed = entry.trim.isEmpty() ? entry.shown : entry.trim;
   DocumentPage page;
+  page.turn = entry.turn;
   page.size = QSizeF(printed.width(), printed.height());
   page.part = turnedShare(shareOf(printed, entry.shown), entry.turn);
   if (entry.turn % (2 * quarter) != 0) page.size.transpose();

@@ -75,6 +75,7 @@ void paintPage(QPainter *painter, const QRectF &frame, const PlacedPage &page,
   if (picture.isNull()) {
     paintNumber(painter, upright, page.page);
   } else {
+    if (page.isMirrored) painter->scale(-1, 1);
     painter->drawImage(upright, picture);
   }
   painter->restore();

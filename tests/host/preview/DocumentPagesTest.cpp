@@ -75,6 +75,7 @@ TEST_F(DocumentPagesTest, ReadsEachPagesSizeAsItIsDisplayed) {
   ASSERT_EQ(document.value().pages.size(), 3);
   EXPECT_EQ(document.value().pages[0].size, QSizeF(595, 842));
   EXPECT_EQ(document.value().pages[1].size, QSizeF(842, 595));
+  EXPECT_EQ(document.value().pages[1].turn, 90);
   EXPECT_EQ(document.value().pages[2].size, QSizeF(200, 300));
   EXPECT_EQ(document.value().pdf, path);
 }
@@ -98,6 +99,19 @@ TEST_F(DocumentPagesTest, MakesPagesOfTextAndPictures) {
   ASSERT_TRUE(placed);
   EXPECT_TRUE(placed.value().isPlaced);
   EXPECT_EQ(placed.value().pages.size(), 1);
+}
+
+TEST_F(DocumentPagesTest, MakesPagesWithoutTheDriver) {
+  if (findFilterTool(qEnvironmentVariable("PATH")).isNull()) GTEST_SKIP() << "needs cupsfilter";
+  QFile family(onFamilyPrinter.ppdFile);
+  ASSERT_TRUE(family.open(QIODevice::ReadOnly));
+  // Whatever a driver that is not installed is said to take, pages are made without it.
+  const QString ppd =
+      write(QStringLiteral("a.ppd"),
+            family.readAll() + "*cupsFilter2: \"text/plain application/pdf 0 orvek-booklet\"\n");
+  const auto text = readDocumentPages(write(QStringLiteral("a.txt"), "Hello\n"), {ppd, {}}, never);
+  ASSERT_TRUE(text) << text.failure().line().toStdString();
+  EXPECT_EQ(text.value().pages.size(), 1);
 }
 
 TEST_F(DocumentPagesTest, FailsForWhatHasNoPages) {

@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
+#include <QTemporaryDir>
+
 #include "host/session/ActionScope.h"
 #include "host/session/PrintSession.h"
 #include "tests/support/Printers.h"
@@ -81,6 +84,98 @@ TEST_F(JobLayoutTest, FollowsThePrintServersWords) {
   EXPECT_EQ(job.filters.scaling, Scaling::Fill);
   EXPECT_EQ(job.filters.order, "tblr");
   EXPECT_EQ(job.filters.sides.parity, Parity::Even);
+}
+
+TEST_F(JobLayoutTest, FollowsTheFiltersOwnBookletPlacesAndMirror) {
+  write("booklet", QStringLiteral("on"));
+  write("booklet-signature", QStringLiteral("8"));
+  write("position", QStringLiteral("Top-Left"));
+  write("mirror", QStringLiteral("true"));
+  const SheetJob job = sheetJobOf(*session);
+  EXPECT_EQ(job.filters.booklet, OwnBooklet::Sides);
+  EXPECT_EQ(job.filters.signature, 8);
+  EXPECT_EQ(job.filters.position, (Position{Position::Across::Left, Position::Down::Top}));
+  EXPECT_TRUE(job.filters.isMirrored);
+  write("booklet", QStringLiteral("shuffle-only"));
+  EXPECT_EQ(sheetJobOf(*session).filters.booklet, OwnBooklet::Order);
+}
+
+TEST_F(JobLayoutTest, ReadsNamesAndWordsInLettersOfEitherCase) {
+  write("ovkenablebooklet", QStringLiteral("TRUE"));
+  write("OvkGutter", 40);
+  write("Print-Scaling", QStringLiteral("Fit"));
+  write("PAGE-SET", QStringLiteral("Odd"));
+  write("Number-Up-Layout", QStringLiteral("RLTB"));
+  const SheetJob job = sheetJobOf(*session);
+  EXPECT_TRUE(job.booklet.enabled);
+  EXPECT_EQ(job.booklet.gutter, 40);
+  EXPECT_EQ(job.filters.scaling, Scaling::Fit);
+  EXPECT_EQ(job.filters.sides.parity, Parity::Odd);
+  EXPECT_EQ(job.filters.order, "rltb");
+}
+
+TEST_F(JobLayoutTest, FollowsJobSettingsThatATicketBrings) {
+  write("copies", 3);
+  write("page-ranges", QStringLiteral("2"));
+  write("outputorder", QStringLiteral("reverse"));
+  write("landscape", QStringLiteral("true"));
+  write("number-up", 4);
+  const SheetJob job = sheetJobOf(*session);
+  EXPECT_EQ(copiesOf(*session), 3);
+  EXPECT_EQ(job.filters.sides.ranges, (std::vector<PageRange>{{2, 2}}));
+  EXPECT_TRUE(job.filters.sides.reverse);
+  EXPECT_EQ(job.filters.turning, Turning::Landscape);
+  EXPECT_EQ(job.filters.pagesPerSide, 4);
+}
+
+TEST_F(JobLayoutTest, FollowsWhatIsSavedForTheQueue) {
+  SessionSetup setup;
+  setup.printer = PrinterDescription::open(session->printer()->path()).take();
+  setup.destination = QStringLiteral("queue");
+  setup.queueOptions = {{QStringLiteral("number-up"), QStringLiteral("2")},
+                        {QStringLiteral("copies"), QStringLiteral("2")},
+                        {QStringLiteral("sides"), QStringLiteral("two-sided-short-edge")}};
+  session = PrintSession::begin(setup).take();
+  EXPECT_EQ(sheetJobOf(*session).filters.pagesPerSide, 2);
+  EXPECT_EQ(copiesOf(*session), 2);
+  EXPECT_TRUE(sheetJobOf(*session).turnsOverShortEdge);
+  session->job().setPagesPerSheet(4);
+  pick("Duplex", "None");
+  EXPECT_EQ(sheetJobOf(*session).filters.pagesPerSide, 4);
+  EXPECT_FALSE(sheetJobOf(*session).twoSided);
+}
+
+TEST_F(JobLayoutTest, TurnsOrderRoundAsATrayThatPilesFaceUpWantsIt) {
+  const QTemporaryDir folder;
+  QFile family(session->printer()->path());
+  QFile faceUp(folder.filePath(QStringLiteral("face-up.ppd")));
+  ASSERT_TRUE(family.open(QIODevice::ReadOnly) && faceUp.open(QIODevice::WriteOnly));
+  faceUp.write(family.readAll() + "*DefaultOutputOrder: Reverse\n");
+  faceUp.close();
+  SessionSetup setup;
+  setup.printer = PrinterDescription::open(faceUp.fileName()).take();
+  session = PrintSession::begin(setup).take();
+  const auto first = [this] {
+    DocumentPages document;
+    document.pages = QList<DocumentPage>(5, DocumentPage{QSizeF(595, 842)});
+    return sidesOf(document, sheetJobOf(*session)).at(0).pages.at(0).page;
+  };
+  // Two of the standard filters turn it round, each for itself.
+  EXPECT_EQ(first(), 1);
+  write("outputorder", QStringLiteral("normal"));
+  EXPECT_EQ(first(), 5);
+  write("outputorder", QStringLiteral("reverse"));
+  EXPECT_EQ(first(), 1);
+}
+
+TEST_F(JobLayoutTest, KnowsWhatIsPrintedInGray) {
+  EXPECT_FALSE(sheetJobOf(*session).inGray);
+  pick("ColorModel", "Gray");
+  EXPECT_TRUE(sheetJobOf(*session).inGray);
+  session = PrintSession::begin({}).take();
+  EXPECT_FALSE(sheetJobOf(*session).inGray);
+  write("print-color-mode", QStringLiteral("monochrome"));
+  EXPECT_TRUE(sheetJobOf(*session).inGray);
 }
 
 TEST_F(JobLayoutTest, ReadsTheBookletAndItsTargetPaper) {

@@ -138,6 +138,39 @@ TEST_F(JobPreviewTest, SaysCopiesAndTheBinInWords) {
   EXPECT_EQ(text("previewCaption"), "2 × 4 sheets · A4 · Finisher tray");
 }
 
+TEST_F(JobPreviewTest, SaysTheCopiesOfATicket) {
+  write("copies", 3);
+  EXPECT_EQ(text("previewCaption"), "3 × 8 sheets · A4");
+}
+
+bool hasColor(const QImage &picture) {
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      if (QColor(picture.pixel(x, y)).saturation() > 40) return true;
+    }
+  }
+  return false;
+}
+
+TEST_F(JobPreviewTest, ShowsPagesInGrayWhereTheyArePrintedInGray) {
+  EXPECT_TRUE(hasColor(picture()));
+  session->pick(QStringLiteral("ColorModel"), QStringLiteral("Gray"));
+  ASSERT_TRUE(QTest::qWaitFor([this] { return preview->isComplete(); }, patience));
+  EXPECT_FALSE(hasColor(picture()));
+  session->pick(QStringLiteral("ColorModel"), QStringLiteral("CMYK"));
+  ASSERT_TRUE(QTest::qWaitFor([this] { return preview->isComplete(); }, patience));
+  EXPECT_TRUE(hasColor(picture()));
+}
+
+TEST_F(JobPreviewTest, ShowsAMirroredPageAsItsMirrorImage) {
+  const QImage before = picture();
+  write("mirror", QStringLiteral("true"));
+  EXPECT_NE(before, picture());
+  const auto &page = preview->sides().at(0).pages.at(0);
+  EXPECT_TRUE(page.isMirrored);
+  EXPECT_EQ(page.turn, 0);
+}
+
 TEST_F(JobPreviewTest, ChangesWithTheJobsKeys) {
   write("OVKEnableBooklet", QStringLiteral("True"));
   QImage before = picture();

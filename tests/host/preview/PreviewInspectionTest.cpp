@@ -5,10 +5,13 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QJsonArray>
+#include <QTemporaryDir>
 
 #include "host/session/ActionScope.h"
 #include "host/session/PrintSession.h"
+#include "tests/support/NumberedPages.h"
 
 namespace orvek {
 namespace {
@@ -63,6 +66,56 @@ TEST(PreviewInspection, SaysCopiesOnceAndNullForNoFold) {
   EXPECT_EQ(preview["copies"].toInt(), 3);
   ASSERT_EQ(preview["sides"].toArray().size(), 1);
   EXPECT_TRUE(preview["sides"].toArray()[0].toObject()["fold"].isNull());
+}
+
+// Every frame lies on its side; those of a booklet on their own half of it.
+void expectVisible(const QJsonObject &preview, bool isBooklet) {
+  for (const QJsonValue &side : preview["sides"].toArray()) {
+    const double width = side["size"].toArray()[0].toDouble();
+    const double height = side["size"].toArray()[1].toDouble();
+    for (const QJsonValue &page : side["pages"].toArray()) {
+      const QJsonArray frame = page["frame"].toArray();
+      const double left = frame[0].toDouble();
+      const double right = left + frame[2].toDouble();
+      const double bottom = frame[1].toDouble() + frame[3].toDouble();
+      EXPECT_TRUE(frame[2].toDouble() >= 0 && frame[3].toDouble() >= 0);
+      EXPECT_TRUE(left >= 0 && frame[1].toDouble() >= 0 && right <= width && bottom <= height);
+      const bool isOnOneHalf = right <= width / 2 || left >= width / 2;
+      EXPECT_TRUE(isOnOneHalf || !isBooklet) << left << ' ' << right;
+    }
+  }
+}
+
+TEST(PreviewInspection, GivesOfEachPageWhatIsToBeSeen) {
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("a.pdf"));
+  QList<test::NumberedPage> pages(16, {QSizeF(900, 1300), 0, {}, {}});
+  pages[1].size = QSizeF(0.01, 900);
+  pages[2].size = QSizeF(0.001, 0.001);
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(test::numberedPdf(pages));
+  file.close();
+  for (const char *scaling : {"none", "fill", "fit", "auto"}) {
+    const auto session = familySession();
+    const ActionScope action(*session);
+    session->ticket().setValue(QStringLiteral("print-scaling"), QString::fromLatin1(scaling));
+    expectVisible(inspectPreview(*session, {path}), false);
+    session->ticket().setValue(QStringLiteral("OVKEnableBooklet"), QStringLiteral("True"));
+    session->ticket().setValue(QStringLiteral("OVKCreep"), 36);
+    expectVisible(inspectPreview(*session, {path}), true);
+  }
+}
+
+TEST(PreviewInspection, HasNoSidesWhereTheRangesLieBeyondTheDocument) {
+  const auto session = familySession();
+  JobSettings settings;
+  settings.pageRanges = QStringLiteral("9-12");
+  session->job().setSettings(settings);
+  EXPECT_EQ(inspectPreview(*session, {sample})["sheets"].toInt(), 0);
+  settings.pageRanges = QStringLiteral("8-12");
+  session->job().setSettings(settings);
+  EXPECT_EQ(inspectPreview(*session, {sample})["sheets"].toInt(), 1);
 }
 
 TEST(PreviewInspection, CountsTheSheetsOfSeveralDocumentsOn) {
