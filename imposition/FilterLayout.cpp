@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstddef>
 #include <numeric>
 #include <utility>
@@ -82,8 +83,8 @@ struct Medium {
 // A fiftieth of the paper's size is forgiven, and lengths are compared as whole points.
 bool isLarge(Size page, Size paper) {
   constexpr double tolerance = 100.0 / 102.0;
-  const double width = static_cast<int>(page.width * tolerance);
-  const double height = static_cast<int>(page.height * tolerance);
+  const double width = std::trunc(page.width * tolerance);
+  const double height = std::trunc(page.height * tolerance);
   return (width > paper.width || height > paper.height) &&
          (height > paper.width || width > paper.height);
 }

@@ -8,18 +8,16 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
-#include <QProcess>
 #include <QRegularExpression>
 
 #include "host/jobs/Document.h"
+#include "host/jobs/PdfReport.h"
 
 namespace orvek {
 namespace {
 
-constexpr int pdfLimitMilliseconds = 2000;
 constexpr qint64 commentBytes = 65536;  // DSC comments stand at the start or at the end
 constexpr int mostPages = 1'000'000;    // a file that claims more is taken for damaged
-constexpr qint64 headerBytes = 1024;    // readers look for "%PDF-" this far
 
 struct Words {
   Q_DECLARE_TR_FUNCTIONS(orvek::DocumentInfo)
@@ -30,24 +28,11 @@ QString value(const QString &text, const QString &pattern, int group = 1) {
   return expression.match(text).captured(group);
 }
 
-QString pdfToolReport(const QString &path) {
-  QProcess tool;
-  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
-  tool.setProcessEnvironment(environment);
-  tool.setStandardErrorFile(QProcess::nullDevice());
-  // An absolute path, since a name may begin with a dash.
-  tool.start(QStringLiteral("pdfinfo"), {QFileInfo(path).absoluteFilePath()}, QIODevice::ReadOnly);
-  if (tool.waitForFinished(pdfLimitMilliseconds)) {
-    return QString::fromUtf8(tool.readAllStandardOutput());
-  }
-  tool.kill();
-  tool.waitForFinished();
-  return {};
-}
-
 void readPdf(DocumentInfo *info) {
-  const QString report = pdfToolReport(info->path);
+  const std::atomic<bool> never = false;
+  const Result<QByteArray> said = pdfReport(info->path, ReportOn::FirstPage, never);
+  if (!said) return;
+  const QString report = QString::fromUtf8(said.value());
   info->pages = value(report, QStringLiteral("^Pages:\\s*(\\d+)\\s*$")).toInt();
   const QString size = QStringLiteral("^Page size:\\s*([\\d.]+) x ([\\d.]+) pts");
   info->pageSizePoints = QSizeF(value(report, size).toDouble(), value(report, size, 2).toDouble());
@@ -78,7 +63,7 @@ void readContent(DocumentInfo *info) {
   QFile file(info->path);
   if (!file.open(QIODevice::ReadOnly)) return;
   const QByteArray start = file.read(commentBytes);
-  if (start.left(headerBytes).contains("%PDF-")) {
+  if (beginsAsPdf(start)) {
     readPdf(info);
   } else if (start.startsWith("%!") || start.startsWith("\x04%!")) {
     readPostScript(info, file, QString::fromLatin1(start));

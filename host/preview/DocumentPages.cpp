@@ -11,17 +11,17 @@
 #include <optional>
 
 #include "host/jobs/BookletDriver.h"
+#include "host/jobs/BoundedTool.h"
 #include "host/jobs/FilterChain.h"
 #include "host/jobs/OptionText.h"
-#include "host/preview/BoundedTool.h"
+#include "host/jobs/PdfReport.h"
 
 namespace orvek {
 namespace {
 
 using namespace std::chrono_literals;
 
-constexpr qint64 headerBytes = 1024;  // readers look for "%PDF-" this far
-constexpr ToolLimits reportLimits{20s, 512 << 20, 2LL << 30};
+constexpr qint64 headerBytes = 1024;
 constexpr ToolLimits conversionLimits{60s, 1LL << 30, 0};
 
 const QString pdfType = QStringLiteral("application/pdf");
@@ -32,11 +32,7 @@ Failure unreadable(const QString &path, const char *why) {
 }
 
 Result<DocumentPages> readPdf(const QString &pdf, const std::atomic<bool> &cancelled) {
-  const Result<QByteArray> report =
-      runTool(QStringLiteral("pdfinfo"),
-              {QStringLiteral("-box"), QStringLiteral("-f"), QStringLiteral("1"),
-               QStringLiteral("-l"), QStringLiteral("-1"), pdf},
-              reportLimits, cancelled);
+  const Result<QByteArray> report = pdfReport(pdf, ReportOn::AllPages, cancelled);
   if (!report) return report.failure();
   DocumentPages pages;
   pages.pages = pagesInReport(report.value());
@@ -97,7 +93,7 @@ Result<DocumentPages> convert(const QString &path, const PrintedWith &with,
 bool isPdfFile(const QString &path) {
   QFile file(path);
   return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) &&
-         file.read(headerBytes).contains("%PDF-");
+         beginsAsPdf(file.read(headerBytes));
 }
 
 // What places finished pages on sheets, and what finishes the sheets, changes no page.

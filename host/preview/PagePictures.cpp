@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "host/preview/BoundedTool.h"
+#include "host/jobs/BoundedTool.h"
 
 namespace orvek {
 namespace {

@@ -12,6 +12,8 @@ namespace {
 
 constexpr int mostPages = 1'000'000;
 constexpr int quarter = 90;
+constexpr double largestLength = 1e9;
+constexpr double largestTurn = 1e6;
 
 /// A box in the page's own coordinates, y upwards.
 struct Box {
@@ -22,7 +24,10 @@ struct Box {
 
   double width() const { return right - left; }
   double height() const { return top - bottom; }
-  bool isEmpty() const { return !(width() > 0 && height() > 0); }
+  /// What is not a page's size, by far, counts as none: its frames would be no numbers any more.
+  bool isEmpty() const { return !(isLength(width()) && isLength(height())); }
+
+  static bool isLength(double length) { return length > 0 && length <= largestLength; }
 };
 
 struct Entry {
@@ -50,7 +55,8 @@ Box boxIn(const QByteArray &text) {
 
 void readLine(const QByteArray &name, const QByteArray &value, Entry *entry) {
   if (name == "rot") {
-    const int turn = static_cast<int>(value.trimmed().toDouble());
+    const double said = value.trimmed().toDouble();
+    const int turn = std::abs(said) <= largestTurn ? static_cast<int>(said) : 0;
     entry->turn = ((turn % (4 * quarter)) + 4 * quarter) % (4 * quarter);
   } else if (name == "CropBox") {
     entry->shown = boxIn(value);

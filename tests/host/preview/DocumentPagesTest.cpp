@@ -10,8 +10,8 @@
 #include <QImage>
 #include <QTemporaryDir>
 
+#include "host/jobs/BoundedTool.h"
 #include "host/jobs/FilterChain.h"
-#include "host/preview/BoundedTool.h"
 #include "tests/support/NumberedPages.h"
 
 namespace orvek {
@@ -60,7 +60,16 @@ TEST(PageReport, PassesOverWhatIsNoPage) {
   EXPECT_TRUE(pagesInReport("Page 999999 rot: 0\n").isEmpty());
   const auto pages = pagesInReport("Page 1 CropBox: nan nan inf 0\nPage 1 rot: 12345678901\n");
   ASSERT_EQ(pages.size(), 1);
-  EXPECT_TRUE(pages[0].size.isEmpty());
+  EXPECT_EQ(pages[0].size, QSizeF(0, 0));
+}
+
+TEST(PageReport, TakesNoNumberThatIsNone) {
+  const auto pages = pagesInReport(
+      "Page 1 rot: 1e300\nPage 1 CropBox: 0 0 1e300 1e-300\n"
+      "Page 2 rot: -90\nPage 2 CropBox: -1e308 0 1e308 5\n");
+  ASSERT_EQ(pages.size(), 2);
+  EXPECT_EQ(pages[0], (DocumentPage{QSizeF(0, 0), {0, 0, 1, 1}, 0}));
+  EXPECT_EQ(pages[1].size, QSizeF(0, 0));
 }
 
 TEST_F(DocumentPagesTest, ReadsEachPagesSizeAsItIsDisplayed) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Time and output are watched from outside, memory by the system.
 
-#include "host/preview/BoundedTool.h"
+#include "host/jobs/BoundedTool.h"
 
 #include <sys/prctl.h>
 #include <sys/resource.h>
