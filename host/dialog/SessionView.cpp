@@ -25,6 +25,10 @@ constexpr int gap = 12;
 constexpr int previewHeight = 272;
 constexpr int previewShare = 3;
 constexpr int summaryShare = 1;
+// Of the room beyond what both sides want: settings are no better to read for being wide, sheets
+// are.
+constexpr int pagesShare = 1;
+constexpr int asideShare = 2;
 
 }  // namespace
 
@@ -41,8 +45,8 @@ SessionView::SessionView(PrintSession &session, const DocumentInfo &document, QW
   auto *row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(gap);
-  row->addWidget(m_pages, 1);
-  row->addLayout(buildAside());
+  row->addWidget(m_pages, pagesShare);
+  row->addLayout(buildAside(), asideShare);
   connect(&session, &PrintSession::changed, this, &SessionView::followSession);
   followSession();
 }

@@ -36,6 +36,17 @@ TEST_F(Window, KeepsTheSizeThatTheUserChose) {
   EXPECT_EQ(dialog->size(), chosen);
 }
 
+TEST_F(Window, GivesThePreviewTheRoomOfALargeScreen) {
+  open();
+  const QSize usual = find<QWidget>("previewSheets")->size();
+  const int pages = find<QWidget>("pages")->width();
+  dialog->resize(1900, 1000);
+  QCoreApplication::processEvents();
+  EXPECT_GE(find<QWidget>("previewSheets")->width(), 2 * usual.width());
+  EXPECT_GE(find<QWidget>("previewSheets")->height(), 2 * usual.height());
+  EXPECT_GE(find<QWidget>("pages")->width(), pages);
+}
+
 TEST_F(Window, FitsASmallScreenWithTheBookletOpen) {
   open();
   const int closed = dialog->height();
