@@ -67,16 +67,21 @@ Edges printableEdges(const FilterJob &job) {
 struct Medium {
   Grid grid;
   Size size;
-  Size room;       // for all cells
-  Size wholePage;  // the paper and its printable area, turned as the pages are
+  /// For all cells.
+  Size room;
+  /// The paper and its printable area, turned as the pages are.
+  Size wholePage;
   Size cropPage;
-  double x = 0;  // of the first cell
+  /// Of the first cell.
+  double x = 0;
   double y = 0;
-  int turn = 0;  // of the whole, to the left
+  /// Of the whole, to the left.
+  int turn = 0;
   bool isWide = false;
   int normalTurn = quarter;
   bool fits = false;
-  bool crops = false;  // pages are cut to the proportions of the room
+  /// Pages are cut to the proportions of the room.
+  bool crops = false;
   bool isMirrored = false;
 };
 

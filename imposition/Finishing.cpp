@@ -102,7 +102,8 @@ void addFoldStaples(std::vector<Mark> *marks, Size paper) {
 
 struct FoldWord {
   std::string_view part;
-  std::vector<double> creases;  // shares of the longer edge
+  /// Shares of the longer edge.
+  std::vector<double> creases;
 };
 
 const std::vector<FoldWord> &foldWords() {

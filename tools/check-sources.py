@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Fails on sources without their opening, on sources that grew too long, and on words that have no
-place in the project (tools/words.json).
+"""Fails on sources without their opening, on sources that grew too long, on comments behind a field,
+and on words that have no place in the project (tools/words.json).
 
 usage: check-sources.py [--root FOLDER] [--words FILE] [--longest LINES]
 """
@@ -11,6 +11,7 @@ import json
 import os
 import re
 
+from fields import comments_behind
 from sources import SOURCE_SUFFIXES, finish, project_files, read_text
 
 SPDX = "SPDX-License-Identifier: Apache-2.0"
@@ -46,6 +47,9 @@ def check_file(path, text, words, longest):
             yield problem
     if path.endswith(SOURCE_SUFFIXES) and len(lines) > longest:
         yield f"{path}:{longest + 1}: {len(lines)} lines; split it by concern (at most {longest})"
+    if path.endswith(SOURCE_SUFFIXES):
+        for number in comments_behind(text):
+            yield f"{path}:{number}: what is to be known of a field stands above it, not behind"
     yield from word_problems(path, lines, words)
 
 

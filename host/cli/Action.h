@@ -9,7 +9,7 @@
 
 namespace orvek {
 
-/// One thing to do as the user or the host would.
+/// One thing to do as the user or the host would. Plain data.
 struct Action {
   enum class Kind { Control, PagesPerSheet, View, Restore, Save, WillShow, Reopen };
 

@@ -17,7 +17,8 @@ constexpr int firstLongValue = 256;
 
 /// What getopt wants to know about the table.
 struct GetoptTables {
-  QByteArray letters = ":";  // a leading colon: tell a missing value from an unknown option
+  /// A leading colon: tell a missing value from an unknown option.
+  QByteArray letters = ":";
   std::vector<option> names;
 };
 

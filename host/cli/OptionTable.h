@@ -9,7 +9,7 @@
 
 namespace orvek {
 
-/// One option.
+/// One option. Plain data.
 struct OptionRow {
   /// 0: none.
   char shortName;

@@ -16,7 +16,8 @@
 
 namespace orvek {
 
-/// What a window is made for, besides the session.
+/// What a window is made for, besides the session. Plain data, but that it shares the presets;
+/// its functions are called on the interface's thread where nothing else is said.
 struct DialogSetup {
   /// Gives what a session on another printer begins with. Is called on a thread of its own, and
   /// ends soon after `cancelled` was set.

@@ -13,7 +13,7 @@ namespace orvek {
 class ElidedLabel;
 
 /// A picture, a name and a line about it. Belongs to its parent, owns its child controls, and lives
-/// on the interface's thread.
+/// on the interface's thread. Nothing fails.
 class DocumentHeader final : public QWidget {
   Q_OBJECT
 

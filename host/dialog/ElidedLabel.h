@@ -7,7 +7,7 @@
 namespace orvek {
 
 /// The whole text is the tool tip and the accessible name. Belongs to its parent; for the
-/// interface's thread.
+/// interface's thread. Nothing fails.
 class ElidedLabel final : public QLabel {
   Q_OBJECT
 

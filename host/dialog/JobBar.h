@@ -10,7 +10,7 @@ class QPushButton;
 
 namespace orvek {
 
-/// What the row shows.
+/// What the row shows. Plain data.
 struct JobBarState {
   bool canPrint = true;
   /// Print will ask where to.
@@ -22,7 +22,7 @@ struct JobBarState {
 };
 
 /// Emits what was asked for and does nothing by itself. Belongs to its parent, owns its child
-/// controls, and lives on the interface's thread.
+/// controls, and lives on the interface's thread. Nothing fails.
 class JobBar final : public QWidget {
   Q_OBJECT
 

@@ -8,7 +8,7 @@
 namespace orvek {
 
 /// Empty until it is shown for the first time, when it makes its content and owns it. Belongs to
-/// its parent and lives on the interface's thread.
+/// its parent and lives on the interface's thread. Nothing fails.
 class LazyPage final : public QWidget {
   Q_OBJECT
 

@@ -13,7 +13,7 @@ class QToolButton;
 namespace orvek {
 
 /// Hidden while it has nothing to say. Screen readers are told when it speaks. Belongs to its
-/// parent, owns its child controls, and lives on the interface's thread.
+/// parent, owns its child controls, and lives on the interface's thread. Nothing fails.
 class NoticeBar final : public QFrame {
   Q_OBJECT
 

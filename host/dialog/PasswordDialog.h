@@ -15,7 +15,8 @@ class QLineEdit;
 namespace orvek {
 
 /// The window: the user's name is filled in, the password is not shown. Belongs to its parent, owns
-/// its child controls, and lives on the interface's thread.
+/// its child controls, and lives on the interface's thread. Nothing fails: whoever cancels gave no
+/// answer.
 class PasswordDialog final : public QDialog {
   Q_OBJECT
 
@@ -30,7 +31,8 @@ class PasswordDialog final : public QDialog {
 };
 
 /// Shows the window on the thread that this object lives on. It must outlive whoever may ask. It
-/// may be asked from any thread, which waits; an answer that was not given is a failure.
+/// may be asked from any thread, which waits; an answer that was not given is a failure. Owns the
+/// small window while it is open.
 class PasswordWindow final : public QObject {
   Q_OBJECT
 

@@ -18,7 +18,7 @@ class JobPreview;
 class SummaryView;
 
 /// Borrows the session, which must outlive the view, and its panels' containers. Belongs to its
-/// parent, owns its child controls, and lives on the interface's thread.
+/// parent, owns its child controls, and lives on the interface's thread. Nothing fails.
 class SessionView final : public QWidget {
   Q_OBJECT
 
@@ -40,7 +40,8 @@ class SessionView final : public QWidget {
 
   PrintSession &m_session;
   bool m_isPainted = false;
-  QString m_path;  // the document
+  /// The document.
+  QString m_path;
   QTabWidget *m_pages;
   SummaryView *m_summary;
   QVBoxLayout *m_aside = nullptr;

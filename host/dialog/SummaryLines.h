@@ -10,7 +10,7 @@
 
 namespace orvek {
 
-/// One setting in words.
+/// One setting in words. Plain data.
 struct SummaryLine {
   QString title;
   QString value;

@@ -9,7 +9,8 @@
 namespace orvek {
 
 /// Two columns, title and value; changed settings stand first and are bold. Long texts wrap.
-/// Belongs to its parent, owns its child controls, and lives on the interface's thread.
+/// Belongs to its parent, owns its child controls, and lives on the interface's thread. Nothing
+/// fails.
 class SummaryView final : public QTreeWidget {
   Q_OBJECT
 

@@ -11,7 +11,7 @@
 
 namespace orvek {
 
-/// Where the driver's program may lie.
+/// Where the driver's program may lie. Plain data.
 struct DriverPlaces {
   /// This program's own folder, in a build tree or below a prefix, wherever that was moved to.
   QString programFolder;
@@ -28,7 +28,8 @@ QString findBookletDriver(const DriverPlaces &places);
 /// Whether the driver would make a booklet of a job with these options.
 bool asksForBooklet(const QMap<QString, QString> &options);
 
-/// The PPD that one job's filters are chosen by. Where it is a copy, that goes with the object.
+/// The PPD that one job's filters are chosen by. Where it is a copy, the object owns that, and
+/// it goes with it. What fails is a value of of(). Use it on one thread at a time.
 class ChainPPD {
  public:
   /// A PPD is ours to rewrite if it names the driver without saying where it is, or, for a printer

@@ -12,7 +12,7 @@
 
 namespace orvek {
 
-/// What a tool may take. Beyond it the tool is ended, and what it gave is dropped.
+/// What a tool may take. Beyond it the tool is ended, and what it gave is dropped. Plain data.
 struct ToolLimits {
   std::chrono::milliseconds time{10000};
   /// Of standard output.

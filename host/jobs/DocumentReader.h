@@ -11,7 +11,8 @@
 
 namespace orvek {
 
-/// One document being read. Holds one block of it at a time. Use it on one thread.
+/// One document being read. Owns the open file and holds one block of it at a time. Use it on one
+/// thread. What fails says so with the document's name and the system's reason.
 class DocumentReader {
  public:
   /// Opens `file`, or standard input. Fails with the system's reason.

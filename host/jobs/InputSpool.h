@@ -10,8 +10,9 @@
 
 namespace orvek {
 
-/// Standard input copied into a temporary file, which goes away with the object. Holds only one
-/// block of it in memory. May be handed from thread to thread, but used on one at a time.
+/// Standard input copied into a temporary file, which it owns and which goes away with it. Holds
+/// only one block of it in memory. May be handed from thread to thread, but used on one at a time.
+/// Only fill() fails.
 class InputSpool {
  public:
   /// Reads standard input to its end; once that was done there is nothing more to do. Fails where

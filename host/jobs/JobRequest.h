@@ -52,7 +52,7 @@ struct JobRequest {
   std::shared_ptr<PasswordSource> passwords;
 };
 
-/// How far a job is. Sizes are bytes.
+/// How far a job is. Sizes are bytes. Plain data.
 struct JobProgress {
   /// The document under way, from 1.
   int document = 1;
@@ -66,7 +66,7 @@ struct JobProgress {
   int pages = 0;
 };
 
-/// How a job ended that did not fail.
+/// How a job ended that did not fail. Plain data.
 struct JobOutcome {
   /// On a queue; 0 for a job into a file.
   int jobId = 0;
@@ -78,8 +78,9 @@ struct JobOutcome {
   qint64 bytes = 0;
 };
 
-/// Between a running job and whoever waits for it. `cancelled` may be set from any thread;
-/// `progress` is called on the thread that runs the job.
+/// Between a running job and whoever waits for it, who owns it until the job has ended. `cancelled`
+/// may be set from any thread; `progress` is called on the thread that runs the job, and has no way
+/// to fail.
 struct JobControl {
   std::atomic<bool> cancelled = false;
   std::function<void(const JobProgress &)> progress;

@@ -10,6 +10,7 @@
 namespace orvek {
 
 /// Keeps those lines once they are known. Owns nothing else, and belongs to the interface's thread.
+/// Nothing fails.
 class DefaultSummary {
  public:
   /// Nothing while they are not known.

@@ -7,8 +7,9 @@
 
 namespace orvek {
 
-/// Always as large as the view in it, which stands at its origin. The view stays its
-/// panel's. Belongs to the interface's thread; nothing fails.
+/// Always as large as the view in it, which stands at its origin. The view stays its panel's. Owned
+/// by the session's hold on the panel, and lent to the widget that shows it. Belongs to the
+/// interface's thread; nothing fails.
 class PanelContainer final : public QWidget {
  public:
   explicit PanelContainer(QWidget *parent = nullptr);

@@ -26,14 +26,15 @@ using SummaryText = QList<QPair<QString, QString>>;
 /// Plug-ins in the order in which they give panels.
 using PluginList = std::vector<std::shared_ptr<LoadedPlugin>>;
 
-/// What a window needs to show a panel: its name and where its view stands, which is lent.
+/// What a window needs to show a panel: its name and where its view stands, which is lent. Plain
+/// data.
 struct PanelPlace {
   QString name;
   PanelContainer *container = nullptr;
 };
 
 /// A control that a panel shows to scripts, with the root view of that panel; both are lent, and
-/// null where no panel has the control.
+/// null where no panel has the control. Plain data.
 struct PanelControl {
   QWidget *control = nullptr;
   QWidget *panelView = nullptr;
@@ -95,7 +96,8 @@ class PanelSet {
   PanelListener &m_listener;
   PanelLoan m_loan;
   bool m_panelsMayResize;
-  PluginList m_plugins;  // they outlive their panels
+  /// They outlive their panels.
+  PluginList m_plugins;
   std::vector<std::shared_ptr<PluginCallback>> m_callbacks;
   std::vector<std::unique_ptr<HostedPanel>> m_panels;
 };

@@ -9,7 +9,8 @@
 
 namespace orvek {
 
-/// What callback objects pass on to, on the interface's thread. Implemented by the session.
+/// What callback objects pass on to, on the interface's thread. Implemented by the session. Is
+/// borrowed and owns nothing by it; its calls do not fail.
 class PanelListener {
  public:
   virtual ~PanelListener();
@@ -22,7 +23,7 @@ class PanelListener {
 };
 
 /// What the session lends to panels through a callback object, whose ticket it shares; each may be
-/// null.
+/// null. Plain data besides.
 struct PanelLoan {
   /// PrinterDescription::lend(): the only place outside host/ppd that knows libcups' type.
   ppd_file_t *ppd = nullptr;
@@ -32,7 +33,8 @@ struct PanelLoan {
 
 /// The callback object of a host that does not let panels change their size. Borrows the listener
 /// and the loan until detach(), owns its plug-in's handle on the ticket, and is counted: panels and
-/// host keep it. Belongs to the interface's thread. Detached, it is inert.
+/// host keep it. Belongs to the interface's thread. Detached, it is inert. Calls do not fail: what
+/// was not marked is false.
 class PluginCallback : public PDEPluginCallback {
  public:
   /// Makes one; `resizing` decides whether it answers panelViewDidResize.
@@ -55,10 +57,12 @@ class PluginCallback : public PDEPluginCallback {
 
  private:
   PanelLoan m_loan;
-  std::unique_ptr<PrintSettings> m_settings;  // this plug-in's own writer
+  /// This plug-in's own writer.
+  std::unique_ptr<PrintSettings> m_settings;
 };
 
-/// As above, of a host that makes room for panels as they grow and shrink.
+/// As above, of a host that makes room for panels as they grow and shrink. Ownership, thread and
+/// failure are as above.
 class ResizingPluginCallback final : public PluginCallback, public PDEPanelResizeObserver {
  public:
   using PluginCallback::PluginCallback;

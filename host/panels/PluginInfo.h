@@ -10,7 +10,8 @@
 
 namespace orvek {
 
-/// The checked metadata of a bundle, which it shares.
+/// The checked metadata of a bundle, which it shares. Plain data besides; a bundle that won't do
+/// never gets one.
 struct PluginInfo {
   std::shared_ptr<Bundle> bundle;
 

@@ -14,6 +14,7 @@ namespace orvek {
 
 /// A loaded bundle with its factory, which it owns, ready to make panels on the interface's thread.
 /// Its code stays loaded for good: panels may have left types and strings behind that outlive them.
+/// Calls on the factory do not fail; loadPlugin() does.
 struct LoadedPlugin {
   PluginInfo info;
   std::unique_ptr<PDEPlugin> factory;
@@ -23,7 +24,7 @@ struct LoadedPlugin {
 Result<LoadedPlugin> loadPlugin(const QString &bundlePath);
 
 /// What came of looking for installed plug-ins: the sound ones, which it shares, and what is wrong
-/// with the others.
+/// with the others. Plain data besides.
 struct PluginHarvest {
   QList<std::shared_ptr<LoadedPlugin>> plugins;
   QList<Failure> failures;

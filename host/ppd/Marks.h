@@ -25,7 +25,7 @@ namespace orvek {
 /// spells them; a custom value ("Custom.200x300", "{Angle=90 ...}") as it was given. One choice of
 /// an option is marked at a time, also where the PPD allows several ("PickMany"). Whatever moves
 /// marks, if only for a moment, is not const. Nothing fails. For one thread at a time, with all
-/// that looks at the same PPD.
+/// that looks at the same PPD. Owns no more than its record of custom values.
 class Marks {
  public:
   /// Borrows the printer, which must outlive this object. There is one Marks for a printer. Of
@@ -82,7 +82,8 @@ class Marks {
 
   const PrinterDescription &m_printer;
   ppd_file_s *m_ppd;
-  QMap<QString, QString> m_customValues;  // option to what its "Custom" choice stands for
+  /// Option to what its "Custom" choice stands for.
+  QMap<QString, QString> m_customValues;
 };
 
 }  // namespace orvek

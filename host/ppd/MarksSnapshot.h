@@ -11,7 +11,8 @@ namespace orvek {
 
 /// Made by Marks::snapshot(), which also goes back to it. Belongs to that PPD and must not outlive
 /// it; nothing fails. Compares equal to another one of the same PPD where the same choices are
-/// marked, with the same custom values.
+/// marked, with the same custom values. Shares its copy of the marks with copies of itself. For the
+/// thread of that PPD.
 class MarksSnapshot {
  public:
   bool operator==(const MarksSnapshot &other) const;
@@ -22,8 +23,10 @@ class MarksSnapshot {
   // A copy of libcups' own list of marks. Copying that is what a pick can afford where there are
   // thousands of options; walking it is not.
   std::shared_ptr<void> m_marked;
-  QMap<QString, QString> m_customValues;  // as in Marks
-  QByteArray m_markedSizes;               // libcups' flag of each paper size, in its order
+  /// As in Marks.
+  QMap<QString, QString> m_customValues;
+  /// Libcups' flag of each paper size, in its order.
+  QByteArray m_markedSizes;
 };
 
 }  // namespace orvek

@@ -64,7 +64,7 @@ class PrinterOption {
   ppd_option_s *m_option = nullptr;
 };
 
-/// Options that a PPD puts into one group. Borrows as they do.
+/// Options that a PPD puts into one group. Borrows as they do. Plain data.
 struct PrinterOptionGroup {
   /// For people; of a group within another both texts, with a dash between.
   QString text;

@@ -9,7 +9,7 @@
 
 namespace orvek {
 
-/// One choice of a preset that a printer can't take.
+/// One choice of a preset that a printer can't take. Plain data.
 struct PresetMisfit {
   /// Its keyword.
   QString option;

@@ -10,7 +10,7 @@
 
 namespace orvek {
 
-/// What there is, and what can't be read.
+/// What there is, and what can't be read. Plain data.
 struct PresetListing {
   /// In the order of the user's language.
   QStringList names;

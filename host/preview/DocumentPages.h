@@ -15,7 +15,7 @@
 
 namespace orvek {
 
-/// A page as the filters see it. Points.
+/// A page as the filters see it. Points. Plain data.
 struct DocumentPage {
   /// Of the part that is printed, as displayed; 0 x 0 where there is nothing to see of it.
   QSizeF size{0, 0};
@@ -27,6 +27,7 @@ struct DocumentPage {
   bool operator==(const DocumentPage &) const = default;
 };
 
+/// What is known of a document's pages. Plain data, for any thread; shares the file that was made.
 struct DocumentPages {
   QList<DocumentPage> pages;
   /// The PDF that they are in; null: there is none.
@@ -39,7 +40,7 @@ struct DocumentPages {
   std::shared_ptr<QTemporaryFile> made;
 };
 
-/// What a document is printed with, as far as it shows in its pages.
+/// What a document is printed with, as far as it shows in its pages. Plain data.
 struct PrintedWith {
   QString ppdFile;
   QMap<QString, QString> options;

@@ -16,6 +16,9 @@ namespace orvek {
 
 class SheetsView;
 
+/// The preview with its caption and the buttons below it. Belongs to its parent, owns its child
+/// controls, and lives on the interface's thread; documents are read and pages drawn on threads of
+/// its own, which end before it does. Nothing fails: what can't be read has a sample in its place.
 class JobPreview final : public QWidget {
   Q_OBJECT
 
@@ -51,12 +54,15 @@ class JobPreview final : public QWidget {
   imposition::SheetJob m_job;
   PrintedWith m_with;
   DocumentPages m_document;
-  bool m_isRead = false;  // pages are known, or known to be none
+  /// Pages are known, or known to be none.
+  bool m_isRead = false;
   bool m_isSample = true;
   bool m_isLaidOut = true;
-  int m_reading = 0;  // counts what was begun; only the last counts
+  /// Counts what was begun; only the last counts.
+  int m_reading = 0;
   int m_layingOut = 0;
-  std::shared_ptr<std::atomic<bool>> m_cancelled;  // the reading under way
+  /// The reading under way.
+  std::shared_ptr<std::atomic<bool>> m_cancelled;
   PagePictures *m_pictures;
   SheetsView *m_view;
   QLabel *m_caption;
@@ -64,7 +70,8 @@ class JobPreview final : public QWidget {
   QToolButton *m_back;
   QToolButton *m_forward;
   QToolButton *m_several;
-  QThreadPool m_pool;  // goes first: it works for all of the above
+  /// Goes first: it works for all of the above.
+  QThreadPool m_pool;
 };
 
 }  // namespace orvek

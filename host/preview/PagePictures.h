@@ -22,7 +22,7 @@ namespace orvek {
 Result<QImage> renderPage(const DocumentPages &document, int page, QSize pixels,
                           const std::atomic<bool> &cancelled);
 
-/// A page that is to be seen, and how large it stands there.
+/// A page that is to be seen, and how large it stands there. Plain data.
 struct PageWish {
   int page = 1;
   QSize pixels;
@@ -31,7 +31,8 @@ struct PageWish {
 };
 
 /// All of it is the interface's thread's business; rendering happens in processes that other
-/// threads wait for.
+/// threads wait for. Owns the pictures, keeps a copy of the document's description, and belongs to
+/// its parent. A page that can't be rendered has no picture; nothing else fails.
 class PagePictures final : public QObject {
   Q_OBJECT
 
@@ -75,11 +76,14 @@ class PagePictures final : public QObject {
   bool m_isGray = false;
   int m_generation = 0;
   QCache<int, QImage> m_pictures;
-  QMap<int, QSize> m_sizes;  // what was asked for when a page's picture was made
+  /// What was asked for when a page's picture was made.
+  QMap<int, QSize> m_sizes;
   QSet<int> m_hopeless;
   QList<PageWish> m_wishes;
-  QMap<int, Cancelled> m_running;  // by page
-  QThreadPool m_pool;              // goes first: it works for all of the above
+  /// By page.
+  QMap<int, Cancelled> m_running;
+  /// Goes first: it works for all of the above.
+  QThreadPool m_pool;
 };
 
 }  // namespace orvek

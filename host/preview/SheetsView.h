@@ -11,6 +11,8 @@
 
 namespace orvek {
 
+/// The scrolling area. Belongs to its parent, owns the sides, and lives on the interface's thread.
+/// Nothing fails; a page without picture has its number in its place.
 class SheetsView final : public QAbstractScrollArea {
   Q_OBJECT
 
@@ -72,11 +74,13 @@ class SheetsView final : public QAbstractScrollArea {
 
   PagePictures &m_pictures;
   Sides m_sides;
-  QSizeF m_largest;  // what every side fits into
+  /// What every side fits into.
+  QSizeF m_largest;
   int m_current = 0;
   bool m_showsSeveral = false;
   double m_zoom = 1;
-  int m_wheel = 0;  // eighths of a degree not yet used
+  /// Eighths of a degree not yet used.
+  int m_wheel = 0;
 };
 
 }  // namespace orvek

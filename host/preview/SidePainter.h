@@ -15,7 +15,7 @@ namespace orvek {
 /// Gives a page's picture; null while there is none: its number stands in its place.
 using PictureOf = std::function<QImage(int page)>;
 
-/// How a side is drawn, in the painter's own units.
+/// How a side is drawn, in the painter's own units. Plain data.
 struct SidePlace {
   /// The sheet fills it; its proportions are the caller's business.
   QRectF rectangle;

@@ -14,7 +14,7 @@ namespace orvek {
 
 /// One piece of work that counts at a time, each on a thread of its own. Destroying it cancels the
 /// work and waits for it, which takes as long as the work needs to notice. Use it from the thread
-/// of its owner only.
+/// of its owner only. Owns its threads. What fails is for the work itself to say, in its result.
 class BackgroundTask {
  public:
   using Cancelled = std::atomic<bool>;

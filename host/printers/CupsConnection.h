@@ -48,6 +48,7 @@ class CupsConnection {
   Failure lastFailure(const Phrase &what) const;
 
   /// While it lives nobody is asked for a password: for questions to others than the server.
+  /// Borrows the connection, on whose thread it lives; nothing fails.
   class Unasked {
    public:
     explicit Unasked(const CupsConnection &connection);

@@ -21,7 +21,7 @@ struct Credentials {
   QString password;
 };
 
-/// What is asked of the user.
+/// What is asked of the user. Plain data.
 struct PasswordQuestion {
   /// As messages name it.
   QString server;
@@ -33,7 +33,8 @@ struct PasswordQuestion {
 
 /// Asks whoever is there, and keeps answers for as long as the program runs, so that nobody is
 /// asked twice for one server. May be used from any thread. Shared by all who may have to ask.
-/// Where nobody answers, a failure says why.
+/// Where nobody answers, a failure says why. Owns the answers together with those that
+/// withoutAsking() gave.
 class PasswordSource {
  public:
   /// Waits for an answer. A failure says why there is none, and must come soon once `cancelled`
@@ -68,7 +69,7 @@ class PasswordSource {
 };
 
 /// The answers to one connection's server: the one that is kept first, then a few of the user's.
-/// Shares the source. Belongs to its connection and its thread.
+/// Shares the source. Belongs to its connection and its thread. What fails is kept for failure().
 class PasswordRounds {
  public:
   /// A null source: nobody can be asked.

@@ -11,7 +11,7 @@ namespace orvek {
 enum class PrinterState { Unknown, Idle, Printing, Stopped };
 
 /// One destination: a queue of the server, or a queue with a named set of saved options (an
-/// instance).
+/// instance). Plain data.
 struct Queue {
   QString name;
   /// Null: the queue itself.

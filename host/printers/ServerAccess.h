@@ -15,7 +15,7 @@ class PasswordSource;
 inline constexpr std::chrono::milliseconds serverPatience{10000};
 
 /// Which server, and as whom. A null text leaves it to libcups: CUPS_SERVER, CUPS_USER,
-/// client.conf.
+/// client.conf. Plain data, for any thread, but for what it borrows and shares.
 struct ServerAccess {
   /// HOST[:PORT], or a socket's path.
   QString server;

@@ -17,7 +17,7 @@ struct SettingChoice {
 };
 
 /// One job attribute of RFC 8011 or PWG 5100 ("media", "sides", "print-color-mode",
-/// "print-quality", "media-source", "media-type") with what the queue supports.
+/// "print-quality", "media-source", "media-type") with what the queue supports. Plain data.
 struct SettingOffer {
   QString attribute;
   /// For people; null: a usual one.

@@ -11,7 +11,8 @@
 
 namespace orvek {
 
-/// Closes libcups' connections.
+/// Closes libcups' connections. Owns nothing itself; for the thread of the connection, and nothing
+/// fails.
 struct HttpCloser {
   void operator()(http_t *http) const { httpClose(http); }
 };
@@ -21,7 +22,7 @@ using HttpHandle = std::unique_ptr<http_t, HttpCloser>;
 
 /// Ends every wait of one connection once the other side has neither taken nor given a byte for a
 /// while. Must outlive the connection. Borrows the flag that cancels; belongs to the connection's
-/// thread.
+/// thread. Owns nothing. A wait that ended is no failure of its own: gaveUp() tells.
 class WaitLimit {
  public:
   /// `cancelled` (may be null) ends every wait, too.

@@ -9,7 +9,8 @@ namespace orvek {
 
 class PrintSession;
 
-/// Who is told of actions. Implemented by the session.
+/// Who is told of actions. Implemented by the session. Is borrowed and owns nothing by it; its
+/// calls come on the interface's thread and do not fail.
 class ActionOwner {
  public:
   virtual ~ActionOwner();
@@ -25,7 +26,7 @@ class ActionOwner {
 };
 
 /// Knows whether an action runs. Borrows its owner, which must outlive it; belongs to the
-/// interface's thread.
+/// interface's thread. Nothing fails.
 class RunningAction final : public QObject {
  public:
   explicit RunningAction(ActionOwner &owner) : m_owner(owner) {}
@@ -48,7 +49,7 @@ class RunningAction final : public QObject {
 
 /// While it lives, all that happens to the session is one action. At its end panels restore whose
 /// options were changed by constraints on the way, once, and never from inside the action. Borrows
-/// the session, which must outlive it.
+/// the session, which must outlive it. On the interface's thread; nothing fails.
 class ActionScope {
  public:
   explicit ActionScope(PrintSession &session);

@@ -38,7 +38,7 @@ struct ChoiceAvailability {
 };
 
 /// Answers for one session; remembers answers until the session changes. Belongs to the interface's
-/// thread; never fails.
+/// thread; never fails. Borrows the session.
 class Availability final : public QObject {
   Q_OBJECT
 
@@ -53,7 +53,8 @@ class Availability final : public QObject {
   ChoiceAvailability find(const OptionChoice &pick);
 
   PrintSession &m_session;
-  QSet<QString> m_constrained;  // options that some constraint names, in lower case
+  /// Options that some constraint names, in lower case.
+  QSet<QString> m_constrained;
   QHash<QString, ChoiceAvailability> m_answers;
 };
 

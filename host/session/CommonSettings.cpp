@@ -18,7 +18,8 @@ namespace {
 struct Names {
   CommonSetting setting;
   const char *attribute;
-  std::vector<const char *> options;  // the first that the PPD has counts
+  /// The first that the PPD has counts.
+  std::vector<const char *> options;
 };
 
 template <std::size_t Size>

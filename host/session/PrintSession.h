@@ -111,7 +111,8 @@ class PrintSession final : public QObject, private PanelListener, private Action
   SessionRecord m_record;
   QStringList m_notices;
   QStringList m_actionNotices;
-  QStringList m_changedOptions;  // by constraints, since the running action began
+  /// By constraints, since the running action began.
+  QStringList m_changedOptions;
   DefaultSummary m_defaultSummary;
   RunningAction m_action;
   PanelSet m_panels;

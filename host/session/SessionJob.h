@@ -17,6 +17,7 @@ namespace orvek {
 class PrintSession;
 
 /// Part of a session, which it borrows and must not outlive; belongs to the interface's thread.
+/// Only take() fails.
 class SessionJob {
  public:
   explicit SessionJob(PrintSession &session) : m_session(session) {}

@@ -12,12 +12,14 @@
 namespace orvek {
 
 /// Listens to the general log from its beginning to its end. Belongs to the interface's thread.
+/// Owns its copies of what it heard; nothing fails.
 class SessionRecord {
  public:
   /// An option and the choice announced for it; null where it was empty.
   using Announcement = QPair<QString, QString>;
 
-  /// While it lives, what is logged is not the job's and is passed over.
+  /// While it lives, what is logged is not the job's and is passed over. Borrows the record; as it,
+  /// on the interface's thread, and nothing fails.
   class Pause {
    public:
     explicit Pause(SessionRecord &record) : m_record(record) { m_record.m_isPaused = true; }

@@ -13,7 +13,8 @@
 
 namespace orvek {
 
-/// May be made on any thread; shares the printer with the session that it is handed to.
+/// May be made on any thread; shares the printer with the session that it is handed to. Plain data
+/// besides.
 struct SessionSetup {
   /// Null: a printer without PPD.
   std::shared_ptr<PrinterDescription> printer = {};

@@ -10,7 +10,7 @@
 namespace orvek {
 
 /// Borrows the availability, which must outlive it. Belongs to its parent, owns its child controls,
-/// and lives on the interface's thread.
+/// and lives on the interface's thread. Nothing fails.
 class ChoiceBox final : public QComboBox {
   Q_OBJECT
 

@@ -12,7 +12,7 @@
 namespace orvek {
 
 /// Borrows the availability, which must outlive it. Belongs to its parent and lives on the
-/// interface's thread; a row that is not there has no data.
+/// interface's thread; a row that is not there has no data. Nothing fails.
 class ChoiceModel final : public QAbstractListModel {
   Q_OBJECT
 

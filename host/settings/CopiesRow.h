@@ -12,7 +12,7 @@ class QSpinBox;
 namespace orvek {
 
 /// Shows settings and says what the user changes. Belongs to its parent, owns its child controls,
-/// and lives on the interface's thread.
+/// and lives on the interface's thread. Nothing fails.
 class CopiesRow final : public QWidget {
   Q_OBJECT
 

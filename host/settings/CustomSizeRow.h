@@ -12,7 +12,7 @@ class QDoubleSpinBox;
 namespace orvek {
 
 /// Shows a size and says what the user changes; keeps to the printer's limits. Belongs to its
-/// parent, owns its child controls, and lives on the interface's thread.
+/// parent, owns its child controls, and lives on the interface's thread. Nothing fails.
 class CustomSizeRow final : public QWidget {
   Q_OBJECT
 

@@ -14,7 +14,7 @@ class QLabel;
 namespace orvek {
 
 /// One field for each parameter; what is wrong with a value stands below it. Belongs to its parent,
-/// owns its child controls, and lives on the interface's thread.
+/// owns its child controls, and lives on the interface's thread. Nothing fails.
 class CustomValueForm final : public QWidget {
   Q_OBJECT
 

@@ -25,7 +25,7 @@ class PagesRow;
 /// Copies and collation, pages and their order; paper size, source and type; orientation, two-
 /// sided, pages per sheet; colour, quality. A row that the printer has nothing for is hidden.
 /// Borrows the session, which must outlive it. Belongs to its parent, owns its child controls, and
-/// lives on the interface's thread.
+/// lives on the interface's thread. Nothing fails: a pick that was refused is the session's to say.
 class GeneralPage final : public QWidget {
   Q_OBJECT
 

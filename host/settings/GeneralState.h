@@ -13,7 +13,7 @@
 
 namespace orvek {
 
-/// A paper size of the user's own, where one is picked.
+/// A paper size of the user's own, where one is picked. Plain data.
 struct CustomPaper {
   /// Points.
   QSizeF size;

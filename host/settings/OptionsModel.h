@@ -11,7 +11,7 @@
 namespace orvek {
 
 /// Borrows the session, which must outlive it. Belongs to its parent and lives on the interface's
-/// thread; an index that is not its own has no data.
+/// thread; an index that is not its own has no data. Nothing fails.
 class OptionsModel final : public QAbstractItemModel {
   Q_OBJECT
 

@@ -20,7 +20,7 @@ class OptionsModel;
 class OptionsView;
 
 /// Borrows the session, which must outlive it. Belongs to its parent, owns its child controls, and
-/// lives on the interface's thread.
+/// lives on the interface's thread. Nothing fails: a pick that was refused is the session's to say.
 class OptionsPage final : public QWidget {
   Q_OBJECT
 

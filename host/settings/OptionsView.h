@@ -13,7 +13,7 @@ class OptionsModel;
 
 /// Draws a choice with an arrow, and edits it in a pop-up whose greyed choices have their reasons.
 /// An option that is on or off has a check box. Belongs to its parent and lives on the interface's
-/// thread.
+/// thread. Nothing fails.
 class ChoiceDelegate final : public QStyledItemDelegate {
   Q_OBJECT
 
@@ -41,7 +41,7 @@ class ChoiceDelegate final : public QStyledItemDelegate {
 };
 
 /// Shows the model, which must outlive it. Belongs to its parent, owns its child controls, and
-/// lives on the interface's thread.
+/// lives on the interface's thread. Nothing fails.
 class OptionsView final : public QTreeView {
   Q_OBJECT
 

@@ -14,7 +14,7 @@ namespace orvek {
 
 /// Shows page ranges and says what the user types; what is wrong with that stands below the field,
 /// in the user's language. Belongs to its parent, owns its child controls, and lives on the
-/// interface's thread.
+/// interface's thread. Nothing fails.
 class PagesRow final : public QWidget {
   Q_OBJECT
 

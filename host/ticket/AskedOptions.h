@@ -11,7 +11,7 @@
 namespace orvek {
 
 /// Kept as they were written: a job that nobody changed since carries the very same words. A value
-/// of its own, for any thread.
+/// of its own, for any thread. Only take() fails.
 struct AskedOptions {
   /// Name to value, as written.
   QMap<QString, QString> words;

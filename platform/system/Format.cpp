@@ -21,13 +21,17 @@ constexpr int widestField = 65535;
 
 /// A "%" sequence: where it ends, and its pieces as printf(3) names them.
 struct Directive {
-  std::string_view text;  // all of it, from "%" on
+  /// All of it, from "%" on.
+  std::string_view text;
   std::string_view flags;
-  std::string_view width;  // digits, "*" or nothing
+  /// Digits, "*" or nothing.
+  std::string_view width;
   bool hasPrecision = false;
-  std::string_view precision;  // digits, "*" or nothing
+  /// Digits, "*" or nothing.
+  std::string_view precision;
   std::string_view length;
-  char conversion = '\0';  // '\0': not a directive
+  /// '\0': not a directive.
+  char conversion = '\0';
 };
 
 class DirectiveParser {

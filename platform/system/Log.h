@@ -28,7 +28,8 @@ class LogSubscription {
   LogSubscription &operator=(LogSubscription &&) = default;
 
  private:
-  std::shared_ptr<const LogListener> m_listener;  // the log itself keeps none alive
+  /// The log itself keeps none alive.
+  std::shared_ptr<const LogListener> m_listener;
 };
 
 /// One listener for a whole program, beside the subscriptions: a new one takes the place of the one

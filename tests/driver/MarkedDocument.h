@@ -13,9 +13,12 @@ namespace orvek::test {
 
 /// A page of such a document.
 struct MarkedPage {
-  imposition::Size size{595, 842};  ///< as displayed
-  int rotate = 0;                   ///< how the page gets there: its /Rotate
-  double around = 0;  ///< points that the media box has beyond the crop box on each side
+  /// As displayed.
+  imposition::Size size{595, 842};
+  /// How the page gets there: its /Rotate.
+  int rotate = 0;
+  /// Points that the media box has beyond the crop box on each side.
+  double around = 0;
 };
 
 /// The bytes of a PDF file of these objects; the first is object 1, the catalog.

@@ -15,12 +15,14 @@ namespace orvek::test {
 struct SeenPage {
   int page = 0;
   imposition::Frame frame;
-  int turn = 0;  ///< degrees clockwise that its top lies away from the side's top; -1: no top seen
+  /// Degrees clockwise that its top lies away from the side's top; -1: no top seen.
+  int turn = 0;
 };
 
 struct SeenSide {
   imposition::Size paper;
-  std::vector<SeenPage> pages;  ///< by number
+  /// By number.
+  std::vector<SeenPage> pages;
 };
 
 /// Why nothing can be looked at on this machine; empty where it can.

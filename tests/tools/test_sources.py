@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: Apache-2.0
-"""check-sources.py wants an opening, bounds the length, and knows words that have no place."""
+"""check-sources.py wants an opening, bounds the length, has comments stand above fields, and knows words that have no place."""
 
 import unittest
 
@@ -35,6 +35,39 @@ class Sources(MadeUpTree):
         self.source("host/A.cpp", *["int a;"] * 8)
         self.assert_clean(CHECKER, "--longest", "10")
         self.assert_one_violation(CHECKER, "host/A.cpp:10: 10 lines", "--longest", "9")
+
+    def test_a_comment_behind_a_field_is_refused(self):
+        for member in [
+            "int m_count = 0;  // of all pages",
+            "QMap<QString, int> m_sizes{};  // in points",
+            "std::string text = \"}{ //\";  // as it was given",
+            "void call();  ///< never null",
+            "int width;  ///< in points",
+        ]:
+            with self.subTest(member=member):
+                self.source("host/A.h", "struct A : B {", "  struct C {", "  };", f"  {member}", "};")
+                self.assert_one_violation(CHECKER, "host/A.h:6: what is to be known of a field")
+
+    def test_a_comment_behind_an_enumerator_is_refused(self):
+        self.source("host/A.cpp", "enum class A {", "  One,  // or none", "};")
+        self.assert_one_violation(CHECKER, "host/A.cpp:4: what is to be known of a field")
+
+    def test_comments_above_fields_and_inside_functions_pass(self):
+        self.source(
+            "host/A.h",
+            "class A {",
+            "  void f() {",
+            "    int count = 0;  // in words",
+            "  }",
+            "  // In points.",
+            '  const char *url = "http://host/{";',
+            "  int m_size = 0;  // NOLINT(name)",
+            "};  // the end",
+            "struct A *make(int pages) {",
+            "  int left = pages;  // of them all",
+            "}",
+        )
+        self.assert_clean(CHECKER)
 
     def test_unwanted_words_are_named_with_their_line(self):
         for text in [

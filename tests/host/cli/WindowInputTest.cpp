@@ -87,7 +87,8 @@ class WindowInput : public ::testing::Test {
 
   QTemporaryDir folder;
   QString pipe = folder.filePath(QStringLiteral("pipe"));
-  const CapturingFilter driver;  // passes the document on as it is
+  /// Passes the document on as it is.
+  const CapturingFilter driver;
   std::unique_ptr<PrivateCups> cups;
 };
 

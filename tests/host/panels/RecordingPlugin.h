@@ -68,7 +68,8 @@ class RecordingPanel final : public PDEPanel {
     return answer;
   }
 
-  std::shared_ptr<QStringList> m_calls;  // may be read after plug-in or panel have gone
+  /// May be read after plug-in or panel have gone.
+  std::shared_ptr<QStringList> m_calls;
   std::shared_ptr<PDEPluginCallback> m_host;
   std::unique_ptr<QWidget> m_view;
 };
