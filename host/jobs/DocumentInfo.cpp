@@ -23,21 +23,17 @@ struct Words {
   Q_DECLARE_TR_FUNCTIONS(orvek::DocumentInfo)
 };
 
-QString value(const QString &text, const QString &pattern, int group = 1) {
+int numberIn(const QString &text, const QString &pattern) {
   const QRegularExpression expression(pattern, QRegularExpression::MultilineOption);
-  return expression.match(text).captured(group);
+  return expression.match(text).captured(1).toInt();
 }
 
 void readPdf(DocumentInfo *info) {
   const std::atomic<bool> never = false;
-  const Result<QByteArray> said = pdfReport(info->path, ReportOn::FirstPage, never);
-  if (!said) return;
-  const QString report = QString::fromUtf8(said.value());
-  info->pages = value(report, QStringLiteral("^Pages:\\s*(\\d+)\\s*$")).toInt();
-  const QString size = QStringLiteral("^Page size:\\s*([\\d.]+) x ([\\d.]+) pts");
-  info->pageSizePoints = QSizeF(value(report, size).toDouble(), value(report, size, 2).toDouble());
-  const int turn = value(report, QStringLiteral("^Page rot:\\s*(\\d+)")).toInt();
-  if (turn % 180 != 0) info->pageSizePoints.transpose();
+  const Result<QByteArray> report = pdfReport(info->path, ReportOn::FirstPage, never);
+  if (!report) return;
+  info->pages =
+      numberIn(QString::fromUtf8(report.value()), QStringLiteral("^Pages:\\s*(\\d+)\\s*$"));
 }
 
 // A count that is "(atend)" is no number there, and stands among the last comments.
@@ -47,14 +43,7 @@ void readPostScript(DocumentInfo *info, QFile &file, const QString &start) {
     comments += QLatin1Char('\n') + QString::fromLatin1(file.read(commentBytes));
   }
   comments.replace(QLatin1Char('\r'), QLatin1Char('\n'));
-  info->pages = value(comments, QStringLiteral("^%%Pages:\\s*(\\d+)")).toInt();
-  const QString media = QStringLiteral("^%%DocumentMedia:\\s*\\S+\\s+([\\d.]+)\\s+([\\d.]+)");
-  const QString box = QStringLiteral("^%%BoundingBox:\\s*0\\s+0\\s+(\\d+)\\s+(\\d+)");
-  for (const QString &pattern : {media, box}) {
-    if (!info->pageSizePoints.isEmpty()) break;
-    info->pageSizePoints =
-        QSizeF(value(comments, pattern).toDouble(), value(comments, pattern, 2).toDouble());
-  }
+  info->pages = numberIn(comments, QStringLiteral("^%%Pages:\\s*(\\d+)"));
 }
 
 void readContent(DocumentInfo *info) {
@@ -84,7 +73,6 @@ DocumentInfo documentInfo(const QString &path) {
   info.name = QFileInfo(path).fileName();
   readContent(&info);
   if (info.pages > mostPages) info.pages = 0;
-  if (info.pageSizePoints.isEmpty()) info.pageSizePoints = QSizeF();
   return info;
 }
 

@@ -3,7 +3,6 @@
 // and only for a bounded time.
 #pragma once
 
-#include <QSizeF>
 #include <QString>
 
 namespace orvek {
@@ -17,13 +16,11 @@ struct DocumentInfo {
   QString path;
   /// 0: unknown.
   int pages = 0;
-  /// The first page as it is seen; empty: unknown.
-  QSizeF pageSizePoints;
 };
 
-/// PDF: what pdfinfo says of it. PostScript: the document's own comments (%%Pages, %%BoundingBox).
-/// A picture: one page of unknown size. Anything else, standard input, a file
-/// that can't be read, is damaged or takes too long: unknown.
+/// PDF: what pdfinfo says of it. PostScript: the document's own comments (%%Pages). A picture: one
+/// page. Anything else, standard input, a file that can't be read, is damaged or takes too long:
+/// unknown.
 DocumentInfo documentInfo(const QString &path);
 
 }  // namespace orvek

@@ -26,10 +26,6 @@ QString effectiveTitle(const JobRequest &request) {
 
 QMap<QString, QString> effectiveOptions(const JobRequest &request) {
   QMap<QString, QString> options = request.options;
-  if (request.copies > 0) options.insert(QStringLiteral("copies"), QString::number(request.copies));
-  if (!request.pageRanges.isEmpty()) {
-    options.insert(QStringLiteral("page-ranges"), request.pageRanges);
-  }
   if (request.priority > 0) {
     options.insert(QStringLiteral("job-priority"), QString::number(request.priority));
   }

@@ -22,12 +22,8 @@ struct JobRequest {
   QString title;
   /// Null: the user who runs the program.
   QString user;
-  /// 0: not asked for.
-  int copies = 0;
   /// 1 to 100; 0: not asked for.
   int priority = 0;
-  /// "1-3,7"; null: all.
-  QString pageRanges;
   /// Keyword or attribute to its value, neither quoted nor escaped.
   QMap<QString, QString> options;
   /// To a queue: options whose value is text even in braces.
@@ -96,8 +92,8 @@ Failure jobCancelled();
 /// The title that a request without one gets.
 QString effectiveTitle(const JobRequest &request);
 
-/// The options of a request with copies, page ranges and priority among them, under the names that
-/// CUPS gives them. What the fields say wins over `options`.
+/// The options of a request with its priority among them, under the name that CUPS gives it, where
+/// it wins over what `options` say.
 QMap<QString, QString> effectiveOptions(const JobRequest &request);
 
 /// The documents of a request: its files, or standard input where it names none.

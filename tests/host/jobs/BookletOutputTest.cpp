@@ -104,8 +104,8 @@ TEST_F(BookletOutput, MakesEachDocumentOfAJobABookletOfItsOwn) {
 
 TEST_F(BookletOutput, ChoosesPagesFirst) {
   request.files = {document("in.pdf", 8)};
-  request.options = {{QStringLiteral("OVKEnableBooklet"), QStringLiteral("true")}};
-  request.pageRanges = QStringLiteral("1-3");
+  request.options = {{QStringLiteral("OVKEnableBooklet"), QStringLiteral("true")},
+                     {QStringLiteral("page-ranges"), QStringLiteral("1-3")}};
   print();
   expectSeen(seen(), bookletOf(3));
 }

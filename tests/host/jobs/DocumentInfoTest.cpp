@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Page counts and page sizes of real files, and of broken ones.
+// Page counts of real files, and of broken ones.
 
 #include "host/jobs/DocumentInfo.h"
 
@@ -42,25 +42,11 @@ TEST_F(DocumentInfoTest, CountsThePagesOfAPdf) {
   const DocumentInfo info = documentInfo(sample("Finishing-Sample.pdf"));
   EXPECT_EQ(info.name, "Finishing-Sample.pdf");
   EXPECT_EQ(info.pages, 8);
-  EXPECT_FALSE(info.pageSizePoints.isEmpty());
-}
-
-TEST_F(DocumentInfoTest, TurnsThePageAsThePdfSays) {
-  if (!hasPdfTool()) GTEST_SKIP() << "pdfinfo (poppler-utils) is not installed";
-  const QByteArray pdf =
-      "%PDF-1.4\n1 0 obj<</Type/Catalog/Pages 2 0 R>>endobj\n"
-      "2 0 obj<</Type/Pages/Kids[3 0 R]/Count 1>>endobj\n"
-      "3 0 obj<</Type/Page/Parent 2 0 R/MediaBox[0 0 300 500]/Rotate 90>>endobj\n"
-      "trailer<</Root 1 0 R>>\n";
-  const DocumentInfo info = documentInfo(write("turned.pdf", pdf));
-  EXPECT_EQ(info.pages, 1);
-  EXPECT_EQ(info.pageSizePoints, QSizeF(500, 300));
 }
 
 TEST_F(DocumentInfoTest, ReadsTheCommentsOfPostScript) {
   const QString path = write("a.ps", "%!PS-Adobe-3.0\n%%Pages: 12\n%%BoundingBox: 0 0 612 792\n");
   EXPECT_EQ(documentInfo(path).pages, 12);
-  EXPECT_EQ(documentInfo(path).pageSizePoints, QSizeF(612, 792));
 }
 
 TEST_F(DocumentInfoTest, ReadsACountThatStandsAtTheEndOfALongFile) {

@@ -97,7 +97,7 @@ TEST_F(FilterChain, TellsTheDriverUserTitleAndCopies) {
   request.ppdFile = filter.ppdFile();
   request.user = QStringLiteral("anna");
   request.title = QStringLiteral("-Annual \"report\"");
-  request.copies = 3;
+  request.options.insert(QStringLiteral("copies"), QStringLiteral("3"));
   ASSERT_TRUE(printThroughFilters(request, control));
   EXPECT_EQ(filter.argument(2), QStringLiteral("anna"));
   EXPECT_EQ(filter.argument(3), request.title);
@@ -105,7 +105,7 @@ TEST_F(FilterChain, TellsTheDriverUserTitleAndCopies) {
 }
 
 TEST_F(FilterChain, PrintsOnlyThePagesAskedFor) {
-  request.pageRanges = QStringLiteral("2");
+  request.options.insert(QStringLiteral("page-ranges"), QStringLiteral("2"));
   ASSERT_TRUE(printThroughFilters(request, control));
   EXPECT_EQ(contentsOf(output).count("%%Page: "), 1);
 }

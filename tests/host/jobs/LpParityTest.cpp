@@ -43,7 +43,7 @@ std::vector<Wish> fieldWishes() {
   return {
       field("nothing", {}, [](JobRequest &) {}),
       field("copies", {QStringLiteral("-n"), QStringLiteral("3")},
-            [](JobRequest &r) { r.copies = 3; }),
+            [](JobRequest &r) { r.options.insert(QStringLiteral("copies"), QStringLiteral("3")); }),
       field("title", {QStringLiteral("-t"), QStringLiteral("My title")},
             [](JobRequest &r) { r.title = QStringLiteral("My title"); }),
       field("titleInUnicode", {QStringLiteral("-t"), QStringLiteral("Bericht über 日本")},
@@ -53,7 +53,9 @@ std::vector<Wish> fieldWishes() {
       field("user", {QStringLiteral("-U"), QStringLiteral("anna")},
             [](JobRequest &r) { r.user = QStringLiteral("anna"); }),
       field("pages", {QStringLiteral("-P"), QStringLiteral("1-3,7")},
-            [](JobRequest &r) { r.pageRanges = QStringLiteral("1-3,7"); }),
+            [](JobRequest &r) {
+              r.options.insert(QStringLiteral("page-ranges"), QStringLiteral("1-3,7"));
+            }),
       field("instance", {QStringLiteral("-d"), QStringLiteral("office/draft")},
             [](JobRequest &r) { r.instance = QStringLiteral("draft"); }),
       field("unknownInstance", {QStringLiteral("-d"), QStringLiteral("office/none")},
