@@ -10,8 +10,8 @@
 #include <QDateTime>
 #include <cerrno>
 #include <cstdio>
+#include <memory>
 #include <mutex>
-#include <optional>
 #include <utility>
 #include <vector>
 
@@ -72,9 +72,9 @@ LogSubscription::LogSubscription(LogListener listener)
 }
 
 void setLogListener(std::function<void(const QString &line)> newListener) {
-  static std::optional<LogSubscription> current;
+  static std::unique_ptr<LogSubscription> current;
   current.reset();
-  if (newListener) current.emplace(std::move(newListener));
+  if (newListener) current = std::make_unique<LogSubscription>(std::move(newListener));
 }
 
 }  // namespace orvek
