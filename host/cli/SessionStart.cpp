@@ -6,7 +6,6 @@
 #include "host/cli/Console.h"
 #include "host/cli/Presets.h"
 #include "host/cli/PrinterListing.h"
-#include "host/panels/PluginFinder.h"
 #include "host/session/QueueSetup.h"
 #include "host/ticket/JobOptionNames.h"
 
@@ -91,7 +90,7 @@ Status applyOptions(const CommandLine &line, PrintSession &session) {
 }
 
 PluginList installedPlugins() {
-  const PluginHarvest harvest = loadPlugins(findPluginBundles(PluginPlaces::ofThisProgram()));
+  const PluginHarvest harvest = loadInstalledPlugins(PluginPlaces::ofThisProgram());
   for (const Failure &failure : harvest.failures) report(failure);
   return {harvest.plugins.begin(), harvest.plugins.end()};
 }

@@ -47,11 +47,13 @@ QStringList findPluginBundles(const PluginPlaces &places) {
     bundles << bundlesIn(QDir::cleanPath(program.filePath(QLatin1String(folder))));
   }
   bundles.removeDuplicates();
-  if (bundles.isEmpty()) {
-    const QString built = QDir::cleanPath(program.filePath(QLatin1String(buildTreeBundle)));
-    if (isBundle(built)) bundles << built;
-  }
   return bundles;
+}
+
+QString findBuiltBundle(const PluginPlaces &places) {
+  const QDir program(places.programFolder);
+  const QString built = QDir::cleanPath(program.filePath(QLatin1String(buildTreeBundle)));
+  return isBundle(built) ? built : QString();
 }
 
 }  // namespace orvek

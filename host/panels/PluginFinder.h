@@ -21,8 +21,12 @@ struct PluginPlaces {
 };
 
 /// Absolute paths of the bundles in the folders of the environment's path, then in the installed
-/// folder, each folder's in alphabetical order; without any, the one in the build tree that the
-/// program lies in. A folder of the path may be a bundle itself; a relative one is passed over.
+/// folder, each folder's in alphabetical order. A folder of the path may be a bundle itself; a
+/// relative one is passed over.
 QStringList findPluginBundles(const PluginPlaces &places);
+
+/// The bundle in the build tree that the program lies in, for a program that no other bundle
+/// serves; null where it lies in none.
+QString findBuiltBundle(const PluginPlaces &places);
 
 }  // namespace orvek

@@ -65,4 +65,14 @@ PluginHarvest loadPlugins(const QStringList &bundlePaths) {
   return harvest;
 }
 
+PluginHarvest loadInstalledPlugins(const PluginPlaces &places) {
+  PluginHarvest harvest = loadPlugins(findPluginBundles(places));
+  const QString built = harvest.plugins.isEmpty() ? findBuiltBundle(places) : QString();
+  if (built.isNull()) return harvest;
+  const PluginHarvest ofTree = loadPlugins({built});
+  harvest.plugins << ofTree.plugins;
+  harvest.failures << ofTree.failures;
+  return harvest;
+}
+
 }  // namespace orvek

@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <memory>
 
+#include "host/panels/PluginFinder.h"
 #include "host/panels/PluginInfo.h"
 #include "platform/plugin/PDEPlugin.h"
 
@@ -32,5 +33,9 @@ struct PluginHarvest {
 
 /// Loads each bundle that loads; of several with one identifier the first.
 PluginHarvest loadPlugins(const QStringList &bundlePaths);
+
+/// Loads the bundles that findPluginBundles() lists; where none of them is sound, the build tree's
+/// as well.
+PluginHarvest loadInstalledPlugins(const PluginPlaces &places);
 
 }  // namespace orvek

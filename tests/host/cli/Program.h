@@ -32,11 +32,12 @@ struct ProgramRun {
 /// What a run finds around it.
 struct Surroundings {
   /// "NAME=VALUE"; no display is ever among them.
-  QStringList environment;
-  QByteArray input;
-  QString folder;
+  QStringList environment = {};
+  QByteArray input = {};
+  QString folder = {};
   /// False: standard input stays open and silent.
   bool closeInput = true;
+  QString program = QStringLiteral(ORVEK_BINARY_DIR "/bin/orvek-print");
 };
 
 inline ProgramRun runProgram(const QStringList &arguments, const Surroundings &surroundings = {}) {
@@ -50,7 +51,7 @@ inline ProgramRun runProgram(const QStringList &arguments, const Surroundings &s
   }
   program.setProcessEnvironment(environment);
   if (!surroundings.folder.isEmpty()) program.setWorkingDirectory(surroundings.folder);
-  program.start(QStringLiteral(ORVEK_BINARY_DIR "/bin/orvek-print"), arguments);
+  program.start(surroundings.program, arguments);
   program.write(surroundings.input);
   if (surroundings.closeInput) program.closeWriteChannel();
   constexpr int longestRun = 30000;

@@ -158,13 +158,42 @@ TEST_F(PluginTest, IsFoundWhereItIsInstalledBesideTheProgram) {
             QStringList{dir.filePath("p/lib/orvek-print/plugins/x.bundle")});
 }
 
-TEST_F(PluginTest, IsTakenFromTheBuildTreeOnlyWhereNoneIsInstalled) {
-  QDir(dir.path()).mkpath("p/bin");
-  QDir(dir.path()).mkpath("p/OrvekFinishing.bundle");
-  EXPECT_EQ(findPluginBundles({dir.filePath("p/bin"), {}}),
-            QStringList{dir.filePath("p/OrvekFinishing.bundle")});
-  QDir(dir.path()).mkpath("p/lib/orvek-print/plugins/x.bundle");
-  EXPECT_EQ(findPluginBundles({dir.filePath("p/bin"), {}}).size(), 1);
+/// A build tree whose own plug-in is sound.
+class PluginInABuildTree : public PluginTest {
+ protected:
+  PluginInABuildTree() {
+    QDir(dir.path()).mkpath("p/bin");
+    QFile::link(QStringLiteral(ORVEK_BUNDLE_DIR), dir.filePath("p/OrvekFinishing.bundle"));
+  }
+
+  PluginHarvest harvest() const {
+    return loadInstalledPlugins({dir.filePath("p/bin"), environmentPath});
+  }
+
+  QString environmentPath;
+};
+
+TEST_F(PluginInABuildTree, IsTakenWhereNoneIsInstalled) {
+  EXPECT_EQ(harvest().plugins.size(), 1);
+  EXPECT_TRUE(harvest().failures.isEmpty());
+}
+
+TEST_F(PluginInABuildTree, IsLeftWhereOneIsInstalled) {
+  QDir(dir.path()).mkpath("installed");
+  const QString installed = dir.filePath("installed/Other.bundle");
+  ASSERT_TRUE(QFile::link(QStringLiteral(ORVEK_BUNDLE_DIR), installed));
+  environmentPath = dir.filePath("installed");
+  const PluginHarvest found = harvest();
+  ASSERT_EQ(found.plugins.size(), 1);
+  EXPECT_THAT(found.plugins.first()->info.executable.toStdString(), HasSubstr("Other.bundle"));
+}
+
+TEST_F(PluginInABuildTree, StandsInForInstalledOnesThatAreAllDamaged) {
+  environmentPath = makeBundle(QStringLiteral("damaged.bundle"), soundInfo());
+  const PluginHarvest found = harvest();
+  EXPECT_EQ(found.plugins.size(), 1);
+  ASSERT_EQ(found.failures.size(), 1);
+  EXPECT_THAT(found.failures.first().what.toStdString(), HasSubstr("damaged.bundle"));
 }
 
 TEST_F(PluginTest, IsNeverFoundInTheCurrentFolder) {
