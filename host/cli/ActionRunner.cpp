@@ -56,6 +56,9 @@ Status pickItem(const Action &action, QComboBox *popUp) {
       return actionFailure(action, QStringLiteral("\"#\" must be followed by an integer"));
     }
     index = *given;
+  } else if (action.value.isEmpty()) {
+    return actionFailure(action,
+                         QStringLiteral("a menu takes an item's keyword or title, or #INDEX"));
   } else {
     index = findItem(popUp, action.value);
   }

@@ -97,6 +97,14 @@ TEST_F(ProgramErrors, AnActionWithAMalformedValueIsTwo) {
       "integer");
 }
 
+// Items without a keyword are no items of that name.
+TEST_F(ProgramErrors, AMenuWithoutAnItemsNameIsTwo) {
+  for (const char *menu : {"staplingPopup=", "paperSizePopup="}) {
+    expectFailure(runHeadless({"--inspect", "--do", "bookletChckBox=on", "--do", menu}), 2,
+                  "a menu takes an item's keyword or title, or #INDEX");
+  }
+}
+
 TEST_F(ProgramErrors, AnActionThatAUserCouldNotDoIsTwo) {
   expectFailure(runHeadless({"--inspect", "--do", "gutterSlider=3"}), 2, "hidden");
   expectFailure(
