@@ -61,7 +61,7 @@ void picks(const QString &folder) {
     const Pair times = compare(
         rounds, [&] { inTurn([&](const Pick &pick) { session->pick(pick.option, pick.choice); }); },
         [&] { inTurn([&](const Pick &pick) { pickBare(other->lend(), pick); }); });
-    require(session->printer()->lend(), excluding[1], excluding[0]);
+    require(session->origin().printer->lend(), excluding[1], excluding[0]);
     require(other->lend(), excluding[1], excluding[0]);
     line("pick, " + std::to_string(options) + " options", "libcups", times, works, "us", goal);
   }

@@ -77,7 +77,7 @@ Status runHeadless(const CommandLine &line) {
   PrintSession &session = *started.value();
   if (Status done = runActions(line, session); !done) return done;
   const Status written = saveAndWrite(line, session);
-  for (const QString &sentence : session.notices()) tell(sentence);
+  for (const QString &sentence : session.record().notices()) tell(sentence);
   if (!written) return written;
   if (Status printed = printAsAsked(line, session, passwords); !printed) return printed;
   return printState(line, session);

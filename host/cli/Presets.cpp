@@ -16,7 +16,7 @@ Status applyPresetAsAsked(const CommandLine &line, PrintSession &session) {
   if (!preset) return preset.failure();
   QStringList keep = session.ticket().values().keys();
   for (const OptionChoice &meant :
-       ServerWords::of(session.marks(), {}, session.ticket().values()).choices()) {
+       ServerWords::of(session.marksToTry(), {}, session.ticket().values()).choices()) {
     keep << meant.option;
   }
   for (const PresetMisfit &misfit : applyPreset(session, preset.value(), keep)) tell(misfit.line());

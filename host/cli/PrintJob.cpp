@@ -56,7 +56,7 @@ JobRequest jobRequestFor(const CommandLine &line, PrintSession &session,
   request.options = session.job().options();
   request.overruled = session.job().overruledOptions();
   request.texts = session.job().optionsWithCustomValues();
-  request.ppdFile = session.printer() ? session.printer()->path() : QString();
+  request.ppdFile = session.origin().printer ? session.origin().printer->path() : QString();
   request.outputFile = line.output;
   request.queue = session.origin().destination.section(QLatin1Char('/'), 0, 0);
   request.instance = session.origin().destination.section(QLatin1Char('/'), 1);

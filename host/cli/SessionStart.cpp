@@ -51,7 +51,7 @@ Status applyJobOption(const OptionChoice &option, const QList<OptionChoice> &bes
   const Result<bool> taken = session.job().take(option.option, option.choice);
   if (!taken) return taken.failure();
   if (taken.value()) return {};
-  session.ticket().setValue(option.option, option.choice);
+  session.setTicketValue(option.option, option.choice);
   session.job().pickWord(option, beside);
   return {};
 }

@@ -136,7 +136,7 @@ void PrintDialog::updateControls() {
   m_view->setEnabled(!isPrinting);
   m_notices->setEnabled(!isPrinting);
   m_printers->parentWidget()->setEnabled(!isPrinting);  // with its label, and the presets
-  const bool hasPrinter = !isForFile || m_session->printer() != nullptr;
+  const bool hasPrinter = !isForFile || m_session->origin().printer != nullptr;
   m_jobBar->setState({.canPrint = hasPrinter && m_asked.isNull(),
                       .asksForFile = isForFile && !hasFile && m_asked.isNull(),
                       .isPrinting = isPrinting,
@@ -146,8 +146,9 @@ void PrintDialog::updateControls() {
 void PrintDialog::showHeader() {
   const QString pages = pagesInWords(m_setup.document.pages);
   m_document->setTexts(m_setup.documentName, pages.isNull() ? tr("Document") : pages);
-  m_printers->setFileModel(m_session->printer() ? m_session->printer()->modelName() : QString());
-  m_printers->setFileIsPossible(m_session->printer() != nullptr);
+  m_printers->setFileModel(m_session->origin().printer ? m_session->origin().printer->modelName()
+                                                       : QString());
+  m_printers->setFileIsPossible(m_session->origin().printer != nullptr);
   m_printers->show(m_setup.destination);
   if (m_presets != nullptr) m_presets->reload(m_setup.destination);
   updateControls();
@@ -177,9 +178,9 @@ void PrintDialog::showNotice(const QStringList &sentences) {
 
 // What constraints did to the command line's options, before there was a window.
 void PrintDialog::showEarlierNotices() {
-  if (m_session->notices().isEmpty()) return;
+  if (m_session->record().notices().isEmpty()) return;
   m_noticedMarks = m_session->marks().snapshot();
-  m_notices->say(NoticeBar::Kind::Information, m_session->notices(), m_session->canUndo());
+  m_notices->say(NoticeBar::Kind::Information, m_session->record().notices(), m_session->canUndo());
 }
 
 void PrintDialog::showProblem(const Failure &failure) {

@@ -96,7 +96,7 @@ void PrintDialog::showFailure(const Failure &failure) {
   const bool isCancelled = failure.kind == FailureKind::Cancelled;
   QStringList words{isCancelled ? tr("The job was cancelled.") : failureText(failure)};
   const auto kind = isCancelled ? NoticeBar::Kind::Information : NoticeBar::Kind::Problem;
-  if (!isCancelled && !m_request.queue.isNull() && m_session->printer()) {
+  if (!isCancelled && !m_request.queue.isNull() && m_session->origin().printer) {
     words << tr("It can still be printed into a file: choose File as the printer.");
   }
   m_isCancelling = false;

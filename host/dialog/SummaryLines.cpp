@@ -15,8 +15,8 @@ namespace {
 // Titles and values of the marks that are not the PPD's own.
 QMap<QString, QString> changedOptions(const PrintSession &session, QStringList *order) {
   QMap<QString, QString> changed;
-  if (!session.printer()) return changed;
-  const PrinterDescription &printer = *session.printer();
+  if (!session.origin().printer) return changed;
+  const PrinterDescription &printer = *session.origin().printer;
   for (const OptionChoice &mark : session.marks().differingFromDefaults()) {
     if (printer.isEquipment(mark.option)) continue;
     const QString title = optionText(printer, mark.option);
@@ -74,9 +74,9 @@ QList<SummaryLine> jobLines(const PrintSession &session) {
 // The titles of the options that panels took over: what of those changed, the marks say.
 QSet<QString> optionTitles(const PrintSession &session) {
   QSet<QString> titles;
-  if (!session.printer()) return titles;
+  if (!session.origin().printer) return titles;
   for (const QString &option : session.panels().claimedOptions()) {
-    titles.insert(optionText(*session.printer(), option));
+    titles.insert(optionText(*session.origin().printer, option));
   }
   return titles;
 }

@@ -18,7 +18,7 @@ void writeTicket(PrintSession &session, const PresetFit &fit, const QStringList 
     if (keep.contains(entry.key()) || isMisfit(fit, entry.key())) continue;
     // A choice is recorded by its pick, and not at all where the pick is undone.
     const bool isChoice = session.marks().spelled(entry.key(), textReading(*entry)).has_value();
-    if (!isChoice) session.ticket().setValue(entry.key(), *entry);
+    if (!isChoice) session.setTicketValue(entry.key(), *entry);
   }
 }
 
@@ -53,7 +53,8 @@ void pickWords(PrintSession &session, const PresetFit &fit, const QMap<QString, 
 Preset presetOf(PrintSession &session, const QString &name) {
   Preset preset;
   preset.name = name;
-  preset.printerModel = session.printer() ? session.printer()->modelName() : QString();
+  preset.printerModel =
+      session.origin().printer ? session.origin().printer->modelName() : QString();
   preset.ticket = session.job().ticketToKeep();
   for (const OptionChoice &mark : session.marks().differingFromDefaults()) {
     if (session.marks().printer().isEquipment(mark.option)) continue;

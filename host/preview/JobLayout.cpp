@@ -207,7 +207,7 @@ int copiesOf(PrintSession &session) {
 }
 
 PrintedWith printedWith(PrintSession &session) {
-  const QString ppd = session.printer() ? session.printer()->path() : QString();
+  const QString ppd = session.origin().printer ? session.origin().printer->path() : QString();
   return {ppd, optionsForPages(allOptions(session))};
 }
 

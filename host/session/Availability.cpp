@@ -73,7 +73,7 @@ ChoiceAvailability Availability::find(const OptionChoice &pick) {
 
   const PrinterDescription &printer = m_session.marks().printer();
   const QList<OptionChoice> partners = partnersAmong(m_session.marks(), conflicts, *wanted);
-  const Resolution resolution = tryPick(m_session.marks(), *wanted);
+  const Resolution resolution = tryPick(m_session.marksToTry(), *wanted);
 
   ChoiceAvailability answer;
   answer.kind =

@@ -101,8 +101,8 @@ bool isFurther(const SettingOffer &offer) {
 std::optional<Setting> commonSetting(const PrintSession &session, CommonSetting which) {
   const Names &names = allNames()[static_cast<std::size_t>(which)];
   std::optional<Setting> setting;
-  if (session.printer()) {
-    const PrinterOption option = optionFor(*session.printer(), names);
+  if (session.origin().printer) {
+    const PrinterOption option = optionFor(*session.origin().printer, names);
     if (option) setting = settingOf(session, option, which);
   } else {
     setting = offered(session, names);
@@ -122,15 +122,15 @@ QList<Setting> furtherSettings(const PrintSession &session) {
 bool pickSetting(PrintSession &session, const Setting &setting, const QString &choice) {
   if (setting.isInPpd) return session.pick(setting.key, choice);
   const ActionScope action(session);
-  session.ticket().setValue(setting.key, choice);
+  session.setTicketValue(setting.key, choice);
   return true;
 }
 
 QStringList commonOptions(const PrintSession &session) {
   QStringList keywords;
-  if (!session.printer()) return keywords;
+  if (!session.origin().printer) return keywords;
   for (const Names &names : allNames()) {
-    if (const PrinterOption option = optionFor(*session.printer(), names)) {
+    if (const PrinterOption option = optionFor(*session.origin().printer, names)) {
       keywords << option.keyword();
     }
   }

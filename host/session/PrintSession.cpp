@@ -35,12 +35,12 @@ PrintSession::~PrintSession() {
 }
 
 Status PrintSession::markFirst() {
-  const Result<QList<Resolution>> settled = orvek::markFirst(marks(), *m_ticket, m_origin);
+  const Result<QList<Resolution>> settled = orvek::markFirst(m_picks.marks(), *m_ticket, m_origin);
   if (!settled) return settled.failure();
   for (const Resolution &resolution : settled.value()) notice(resolution);
   // What the queue's words stand for is as good as said: whoever asks what the queue would do by
   // itself finds it by the PPD's name.
-  m_origin.queueOptions = withMeanings(marks(), m_origin.queueOptions);
+  m_origin.queueOptions = withMeanings(m_picks.marks(), m_origin.queueOptions);
   m_ticket->setChangeListener([this](const QString &) { m_action.noteChange(); });
   return {};
 }
@@ -64,7 +64,7 @@ bool PrintSession::hasOtherTicketKeys() const {
 void PrintSession::learnDefaultSummary() {
   if (m_defaultSummary.lines()) return;
   const SessionRecord::Pause pause(m_record);
-  m_defaultSummary.learn(m_panels, marks());
+  m_defaultSummary.learn(m_panels, m_picks.marks());
 }
 
 bool PrintSession::pick(const QString &option, const QString &choice) {
@@ -107,7 +107,7 @@ void PrintSession::notice(const Resolution &resolution) {
   words.removeIf([this](const QString &sentence) { return m_actionNotices.contains(sentence); });
   if (words.isEmpty()) return;
   m_actionNotices << words;
-  m_notices << words;
+  m_record.noteNotices(words);
   Q_EMIT noticed(words);
 }
 

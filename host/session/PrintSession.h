@@ -4,11 +4,11 @@
 // own.
 //
 //   1. Setting up           begin, openPanels
-//   2. What the user does   pick, undo; several things as one: ActionScope
-//   3. Parts                printer, origin, marks, ticket, panels
+//   2. What the user does   pick, setTicketValue, undo; several things as one: ActionScope
+//   3. Parts                origin, marks, ticket, panels
 //                           job      what the job says          SessionJob
-//                           record   what was heard             SessionRecord
-//   4. What can be told     notices, defaultSummary
+//                           record   what was heard and said    SessionRecord
+//   4. What can be told     defaultSummary
 #pragma once
 
 #include <QObject>
@@ -34,7 +34,7 @@ class PrintSession final : public QObject, private PanelListener, private Action
 
  public:
   /// Marks the PPD: its defaults, the queue's options, the ticket's choices, then the given marks.
-  /// What conflicts among them gives way or is dropped as for a pick (FirstMarks.h), and notices()
+  /// What conflicts among them gives way or is dropped as for a pick (FirstMarks.h), and the record
   /// says so. A given mark that the PPD lacks is a Usage failure.
   static Result<std::unique_ptr<PrintSession>> begin(const SessionSetup &setup);
   ~PrintSession() override;
@@ -45,21 +45,23 @@ class PrintSession final : public QObject, private PanelListener, private Action
   /// Picks a choice as a panel's announcement does. False where the PPD lacks it or it was undone.
   bool pick(const QString &option, const QString &choice);
 
+  /// Writes what is no choice of the PPD: a panel's key, a job's option. An invalid value removes
+  /// the key.
+  void setTicketValue(const QString &key, const QVariant &value) { m_ticket->setValue(key, value); }
+
   /// Takes back the last step that changed something, and has the panels show it.
   void undo();
   bool canUndo() const { return m_picks.canUndo(); }
-
-  /// Null: a printer without PPD.
-  const std::shared_ptr<PrinterDescription> &printer() const { return m_origin.printer; }
 
   /// What the session began with. Among the queue's options also stands, under the PPD's keywords,
   /// what their words stand for.
   const SessionSetup &origin() const { return m_origin; }
 
-  /// To be moved by picks only, or tried out and put back.
-  Marks &marks() { return m_picks.marks(); }
   const Marks &marks() const { return m_picks.marks(); }
-  Ticket &ticket() const { return *m_ticket; }
+  const Ticket &ticket() const { return *m_ticket; }
+
+  /// The marks for those who ask what would be: whoever moves them puts them back (MarksTrial).
+  Marks &marksToTry() { return m_picks.marks(); }
 
   PanelSet &panels() { return m_panels; }
   const PanelSet &panels() const { return m_panels; }
@@ -68,9 +70,6 @@ class PrintSession final : public QObject, private PanelListener, private Action
   const SessionJob &job() const { return m_job; }
 
   const SessionRecord &record() const { return m_record; }
-
-  /// What constraints did so far, in words.
-  const QStringList &notices() const { return m_notices; }
 
   /// What the summary says of a job that nobody changed; nothing while it is not known. A session
   /// that began without a ticket knows it from its own panels.
@@ -109,7 +108,6 @@ class PrintSession final : public QObject, private PanelListener, private Action
   Picks m_picks;
   SessionJob m_job;
   SessionRecord m_record;
-  QStringList m_notices;
   QStringList m_actionNotices;
   /// By constraints, since the running action began.
   QStringList m_changedOptions;

@@ -34,7 +34,7 @@ Result<bool> SessionJob::take(const QString &name, const QString &value) {
   AskedOptions asked = m_asked;
   Result<bool> taken = asked.take(name, value);
   // Where the printer has an option for it, the option's mark is what counts.
-  if (!taken || !taken.value() || !m_session.marks().meaningOf({{name, value}}).isEmpty()) {
+  if (!taken || !taken.value() || !m_session.marksToTry().meaningOf({{name, value}}).isEmpty()) {
     return taken ? Result<bool>(false) : taken;
   }
   m_asked = asked;
@@ -43,10 +43,10 @@ Result<bool> SessionJob::take(const QString &name, const QString &value) {
 }
 
 void SessionJob::pickWord(const OptionChoice &word, const QList<OptionChoice> &beside) {
-  const QList<ServerWord> words = ServerWords(m_session.marks(), {word}).words();
+  const QList<ServerWord> words = ServerWords(m_session.marksToTry(), {word}).words();
   if (words.isEmpty()) return;
   const ActionScope action(m_session);
-  for (const OptionChoice &meant : ServerWords(m_session.marks(), beside).choices()) {
+  for (const OptionChoice &meant : ServerWords(m_session.marksToTry(), beside).choices()) {
     const bool isMeant = words.first().options.contains(meant.option);
     if (isMeant && !isNamedAmong(beside, meant.option)) pickUnrecorded(meant);
   }
@@ -56,7 +56,7 @@ void SessionJob::pickWord(const OptionChoice &word, const QList<OptionChoice> &b
 void SessionJob::pickUnrecorded(const OptionChoice &choice) {
   const QVariant recorded = m_session.ticket().value(choice.option);
   if (m_session.pick(choice.option, choice.choice)) {
-    m_session.ticket().setValue(choice.option, recorded);
+    m_session.setTicketValue(choice.option, recorded);
   }
 }
 
@@ -66,11 +66,11 @@ int SessionJob::pagesPerSheet() const {
 
 void SessionJob::setPagesPerSheet(int pages) {
   const ActionScope action(m_session);
-  m_session.ticket().setValue(layoutNUpKey, pages);
+  m_session.setTicketValue(layoutNUpKey, pages);
 }
 
 TicketValues SessionJob::ticketToKeep() {
-  return withoutUntrueWords(m_session.marks(), m_session.ticket().values());
+  return withoutUntrueWords(m_session.marksToTry(), m_session.ticket().values());
 }
 
 QStringList SessionJob::optionsWithCustomValues() const {
@@ -78,13 +78,13 @@ QStringList SessionJob::optionsWithCustomValues() const {
 }
 
 QStringList SessionJob::overruledOptions() {
-  return orvek::overruledOptions(m_session.marks(), m_session.origin().queueOptions,
+  return orvek::overruledOptions(m_session.marksToTry(), m_session.origin().queueOptions,
                                  m_session.ticket().values());
 }
 
 QMap<QString, QString> SessionJob::options() {
-  return jobOptionsFor(m_session.marks(), {m_session.origin().queueOptions,
-                                           m_session.ticket().values(), m_settings, m_asked});
+  return jobOptionsFor(m_session.marksToTry(), {m_session.origin().queueOptions,
+                                                m_session.ticket().values(), m_settings, m_asked});
 }
 
 }  // namespace orvek

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// What a session has heard, for those who inspect it: announcements, changes of size, log lines.
+// What a session has heard, for those who inspect it: announcements, changes of size, log lines;
+// and what it said.
 #pragma once
 
 #include <QList>
@@ -37,6 +38,7 @@ class SessionRecord {
 
   void noteAnnouncement(const QString &option, const QString &choice);
   void noteResize() { ++m_resizeCount; }
+  void noteNotices(const QStringList &words) { m_notices << words; }
 
   /// Every announced choice in order.
   const QList<Announcement> &announced() const { return m_announced; }
@@ -44,12 +46,16 @@ class SessionRecord {
   /// How often a panel said that its view has another size.
   int resizeCount() const { return m_resizeCount; }
 
+  /// What constraints did so far, in words.
+  const QStringList &notices() const { return m_notices; }
+
   /// Every line of the general log, as it was given.
   const QStringList &log() const { return m_log; }
 
  private:
   QList<Announcement> m_announced;
   int m_resizeCount = 0;
+  QStringList m_notices;
   QStringList m_log;
   bool m_isPaused = false;
   LogSubscription m_subscription;

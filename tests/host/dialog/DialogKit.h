@@ -77,7 +77,7 @@ class DialogTest : public ::testing::Test {
     JobRequest request;
     request.files = files;
     request.options = now.job().options();
-    if (now.printer()) request.ppdFile = now.printer()->path();
+    if (now.origin().printer) request.ppdFile = now.origin().printer->path();
     return request;
   }
 

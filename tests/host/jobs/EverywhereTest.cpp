@@ -126,7 +126,7 @@ TEST_F(Everywhere, TellsThePrinterWhatWasPicked) {
 TEST_F(Everywhere, OffersWhatThePrinterOffersWithoutADescriptionToo) {
   addQueue({});
   begin();
-  ASSERT_EQ(session->printer(), nullptr);
+  ASSERT_EQ(session->origin().printer, nullptr);
   EXPECT_EQ(textsOf(CommonSetting::Sides), (QStringList{"Off", "Long edge", "Short edge"}));
   EXPECT_TRUE(textsOf(CommonSetting::PaperSize).contains("A4"));
   EXPECT_GE(textsOf(CommonSetting::Color).size(), 2);

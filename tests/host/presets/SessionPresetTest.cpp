@@ -20,7 +20,7 @@ std::unique_ptr<PrintSession> sessionOn(const QString &ppd, QList<OptionChoice> 
 TEST(SessionPreset, HoldsWhatIsNotThePpdsDefaultAndTheTicketButNoEquipment) {
   const auto session = sessionOn("finisher.ppd", {{"OVKOptionPunch", "None"}});
   session->pick("OVKFolding", "Saddle");
-  session->ticket().setValue("OVKGutter", "30");
+  session->setTicketValue("OVKGutter", "30");
   const Preset preset = presetOf(*session, "mine");
   EXPECT_EQ(preset.name, "mine");
   EXPECT_EQ(preset.printerModel, "Orvek Test 6180, 1.0");
@@ -35,7 +35,7 @@ TEST(SessionPreset, ComesBackAsPicks) {
   EXPECT_TRUE(applyPreset(*session, preset).isEmpty());
   EXPECT_EQ(session->marks().marked("OVKFolding"), "Saddle");
   EXPECT_EQ(session->marks().marked("OVKStapling"), "None");
-  EXPECT_EQ(session->notices().size(), 1);
+  EXPECT_EQ(session->record().notices().size(), 1);
   EXPECT_EQ(session->ticket().value("OVKGutter"), QVariant("30"));
 }
 
@@ -56,7 +56,7 @@ TEST(SessionPreset, NamesWhatThePrinterCannotTakeAndKeepsItOutOfTheTicket) {
 
 TEST(SessionPreset, LeavesAloneWhatTheSessionIsToKeep) {
   const auto session = sessionOn("finisher.ppd");
-  session->ticket().setValue("OVKGutter", "10");
+  session->setTicketValue("OVKGutter", "10");
   applyPreset(*session, {"p", {}, {{"OVKFolding", "Saddle"}}, {{"OVKGutter", "30"}}},
               {"OVKGutter", "OVKFolding"});
   EXPECT_EQ(session->ticket().value("OVKGutter"), QVariant("10"));

@@ -30,7 +30,7 @@ class JobLayoutTest : public testing::Test {
   void write(const char *key, const QVariant &value) {
     {
       const ActionScope action(*session);
-      session->ticket().setValue(QString::fromLatin1(key), value);
+      session->setTicketValue(QString::fromLatin1(key), value);
     }
   }
   void pick(const char *option, const char *choice) {

@@ -41,7 +41,7 @@ class JobPreviewTest : public testing::Test {
   void write(const char *key, const QVariant &value) {
     {
       const ActionScope action(*session);
-      session->ticket().setValue(QString::fromLatin1(key), value);
+      session->setTicketValue(QString::fromLatin1(key), value);
     }
     EXPECT_TRUE(QTest::qWaitFor([this] { return preview->isComplete(); }, patience));
   }

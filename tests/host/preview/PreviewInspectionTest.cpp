@@ -36,7 +36,7 @@ TEST(PreviewInspection, TellsABookletSideBySide) {
   session->pick(QStringLiteral("OVKFolding"), QStringLiteral("Saddle"));
   {
     const ActionScope action(*session);
-    session->ticket().setValue(QStringLiteral("OVKEnableBooklet"), QStringLiteral("True"));
+    session->setTicketValue(QStringLiteral("OVKEnableBooklet"), QStringLiteral("True"));
   }
   const QJsonObject preview = inspectPreview(*session, {sample});
   EXPECT_EQ(preview["sheets"].toInt(), 2);

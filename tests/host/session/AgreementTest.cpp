@@ -85,7 +85,7 @@ class Agreement : public testing::TestWithParam<const char *> {
     expectNoMoreConflictsThan(own, *session);
     expectJobAsMarked(*session, pair);
     expectPanelAsMarked(*session);
-    EXPECT_FALSE(session->notices().isEmpty());
+    EXPECT_FALSE(session->record().notices().isEmpty());
     if (printer->isEquipment(pair.mark.option)) {
       EXPECT_EQ(session->marks().marked(pair.mark.option), pair.mark.choice);
     }

@@ -108,9 +108,9 @@ TEST_F(AvailabilityTest, AgreesWithWhatAPickDoes) {
     ASSERT_FALSE(choices.isEmpty());
     for (const auto &[choice, text] : choices) {
       const ChoiceAvailability said = availability->of(option, choice);
-      const QStringList before = session->notices();
+      const QStringList before = session->record().notices();
       EXPECT_EQ(session->pick(option, choice), said.kind != Kind::Unusable) << choice.toStdString();
-      EXPECT_EQ(session->notices() == before, said.isUsable()) << choice.toStdString();
+      EXPECT_EQ(session->record().notices() == before, said.isUsable()) << choice.toStdString();
     }
   }
 }

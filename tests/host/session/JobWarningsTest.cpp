@@ -59,12 +59,12 @@ TEST_F(JobWarnings, DependOnThePageCountOnlyWhereSheetsAreFolded) {
   EXPECT_TRUE(depend());
   session->pick("OVKFolding", "None");
   EXPECT_FALSE(depend());
-  session->ticket().setValue("OVKEnableBooklet", "True");
+  session->setTicketValue("OVKEnableBooklet", "True");
   EXPECT_TRUE(depend());
 }
 
 TEST_F(JobWarnings, NameABookletOfMoreSheetsThanThePrinterFolds) {
-  session->ticket().setValue("OVKEnableBooklet", "True");
+  session->setTicketValue("OVKEnableBooklet", "True");
   EXPECT_EQ(jobWarnings(*session, 60), QStringList());
   EXPECT_EQ(
       jobWarnings(*session, 61),
@@ -72,7 +72,7 @@ TEST_F(JobWarnings, NameABookletOfMoreSheetsThanThePrinterFolds) {
 }
 
 TEST_F(JobWarnings, CountOnlyThePagesThatAreAskedFor) {
-  session->ticket().setValue("OVKEnableBooklet", "True");
+  session->setTicketValue("OVKEnableBooklet", "True");
   JobSettings settings;
   settings.pageRanges = QStringLiteral("1-60");
   session->job().setSettings(settings);
@@ -102,7 +102,7 @@ TEST_F(JobWarnings, CountRangesAsThePrintSystemDoesWhereSeveralPagesShareASheet)
 }
 
 TEST_F(JobWarnings, DoNotJudgeADocumentOfUnknownLength) {
-  session->ticket().setValue("OVKEnableBooklet", "True");
+  session->setTicketValue("OVKEnableBooklet", "True");
   EXPECT_EQ(jobWarnings(*session, 0), QStringList());
 }
 

@@ -121,7 +121,7 @@ TEST(PrintSession, SettlesATicketThatContradictsItselfBeforePanelsSeeIt) {
   const RecordedSession recorded(setup);
   EXPECT_EQ(restores(recorded), 1);
   EXPECT_TRUE(recorded.session->marks().conflicts().isEmpty());
-  EXPECT_EQ(recorded.session->notices().size(), 1);
+  EXPECT_EQ(recorded.session->record().notices().size(), 1);
 }
 
 TEST(PrintSession, DropsWhatTheTicketAsksOfMissingEquipmentBeforePanelsSeeIt) {
@@ -131,7 +131,7 @@ TEST(PrintSession, DropsWhatTheTicketAsksOfMissingEquipmentBeforePanelsSeeIt) {
   const RecordedSession recorded(setup);
   EXPECT_EQ(recorded.marked("OVKStapling"), "None");
   EXPECT_FALSE(recorded.inTicket("OVKStapling").isValid());
-  EXPECT_EQ(recorded.session->notices().size(), 1);
+  EXPECT_EQ(recorded.session->record().notices().size(), 1);
   EXPECT_EQ(restores(recorded), 1);
 }
 
@@ -153,7 +153,7 @@ TEST(PrintSession, SaysTheSameRefusalOnlyOnceAnAction) {
     recorded.panel()->host().willChangePPDOptionKeyValue_ppdChoice("OVKStapling", "Front");
     recorded.panel()->host().willChangePPDOptionKeyValue_ppdChoice("OVKStapling", "Front");
   });
-  EXPECT_EQ(recorded.session->notices().size(), 1);
+  EXPECT_EQ(recorded.session->record().notices().size(), 1);
 }
 
 TEST(PrintSession, TellsViewsInWordsWhatConstraintsDid) {

@@ -26,7 +26,7 @@ class Words : public testing::Test {
   }
 
   void ask(const OptionChoice &word, const QList<OptionChoice> &beside = {}) {
-    session->ticket().setValue(word.option, word.choice);
+    session->setTicketValue(word.option, word.choice);
     session->job().pickWord(word, beside.isEmpty() ? QList<OptionChoice>{word} : beside);
   }
 
@@ -90,7 +90,7 @@ TEST_F(Words, ResolveConflictsAsAPickDoes) {
   ask({"output-bin", "upper"});
   EXPECT_EQ(marked("OutputBin"), "Upper");
   EXPECT_EQ(marked("OVKFolding"), "None");
-  EXPECT_EQ(session->notices().size(), 1);
+  EXPECT_EQ(session->record().notices().size(), 1);
 }
 
 TEST_F(Words, ThatStandForNothingMarkNothing) {

@@ -150,7 +150,7 @@ TEST_F(GeneralPageTest, LetsConstraintsHaveTheirWay) {
   session->pick("Duplex", "DuplexNoTumble");
   ASSERT_TRUE(pickText(box("paperSize"), "Envelope DL"));
   EXPECT_EQ(box("sides")->choice(), "None");
-  ASSERT_EQ(session->notices().size(), 1);
+  ASSERT_EQ(session->record().notices().size(), 1);
   session->undo();
   EXPECT_EQ(box("paperSize")->choice(), "A4");
   EXPECT_EQ(box("sides")->choice(), "DuplexNoTumble");
