@@ -5,7 +5,7 @@
 
 #include "Common/Utilities.h"
 #include "device/Commands.h"
-#include "platform/xml/Document.h"
+#include "platform/xml/XMLDocument.h"
 
 namespace orvek::device {
 namespace {

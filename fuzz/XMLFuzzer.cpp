@@ -4,7 +4,7 @@
 #include <cstdlib>
 
 #include "Common/Utilities.h"
-#include "platform/xml/Document.h"
+#include "platform/xml/XMLDocument.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size) {
   const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));

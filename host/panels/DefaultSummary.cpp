@@ -4,7 +4,7 @@
 #include "host/panels/DefaultSummary.h"
 
 #include "host/ppd/MarksTrial.h"
-#include "platform/printing/PrintSession.h"
+#include "platform/printing/PrintSessionHandle.h"
 
 namespace orvek {
 namespace {

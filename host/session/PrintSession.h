@@ -23,7 +23,7 @@
 #include "host/session/SessionJob.h"
 #include "host/session/SessionRecord.h"
 #include "host/session/SessionSetup.h"
-#include "platform/printing/PrintSession.h"
+#include "platform/printing/PrintSessionHandle.h"
 
 namespace orvek {
 

@@ -5,7 +5,7 @@
 #include <QString>
 
 #include "platform/printing/PPD.h"
-#include "platform/printing/PrintSession.h"
+#include "platform/printing/PrintSessionHandle.h"
 #include "platform/printing/PrintSettings.h"
 
 /// The host's callback object. Panels hold a counted reference to it; all that it hands out is

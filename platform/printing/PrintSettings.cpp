@@ -7,7 +7,7 @@
 #include <limits>
 #include <utility>
 
-#include "platform/printing/PrintSession.h"
+#include "platform/printing/PrintSessionHandle.h"
 
 namespace orvek {
 namespace {

@@ -2,7 +2,7 @@
 // Parses, then checks what the parser passes over. The check looks at the text before references
 // are expanded, so the document is parsed a second time for the reader.
 
-#include "platform/xml/Document.h"
+#include "platform/xml/XMLDocument.h"
 
 #include <algorithm>
 #include <array>

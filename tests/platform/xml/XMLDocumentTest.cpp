@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // What is taken for XML, and what is refused and with which words.
 
-#include "platform/xml/Document.h"
+#include "platform/xml/XMLDocument.h"
 
 #include <gtest/gtest.h>
 
