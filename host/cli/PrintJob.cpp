@@ -7,6 +7,7 @@
 #include "host/jobs/DocumentInfo.h"
 #include "host/jobs/FilterChain.h"
 #include "host/jobs/QueueJob.h"
+#include "host/printers/Queue.h"
 #include "host/session/JobWarnings.h"
 
 namespace orvek {
@@ -58,8 +59,9 @@ JobRequest jobRequestFor(const CommandLine &line, PrintSession &session,
   request.texts = session.job().optionsWithCustomValues();
   request.ppdFile = session.origin().printer ? session.origin().printer->path() : QString();
   request.outputFile = line.output;
-  request.queue = session.origin().destination.section(QLatin1Char('/'), 0, 0);
-  request.instance = session.origin().destination.section(QLatin1Char('/'), 1);
+  const Destination destination = destinationFrom(session.origin().destination);
+  request.queue = destination.queue;
+  request.instance = destination.instance;
   request.server = line.server;
   request.passwords = passwords;
   return request;

@@ -6,6 +6,7 @@
 #include "host/cli/Console.h"
 #include "host/cli/Presets.h"
 #include "host/cli/PrinterListing.h"
+#include "host/panels/PluginLoader.h"
 #include "host/session/QueueSetup.h"
 #include "host/ticket/JobOptionNames.h"
 

@@ -7,6 +7,7 @@
 #include <QRegularExpression>
 
 #include "host/ppd/CustomChoice.h"
+#include "host/ppd/Keyword.h"
 #include "host/ppd/LengthUnit.h"
 #include "platform/printing/PPD.h"
 
@@ -39,7 +40,7 @@ bool stacksReversed(const PrinterDescription &printer, const QString &tray) {
   const ppd_attr_t *order =
       name.isEmpty() ? nullptr : ppdFindAttr(printer.lend(), "PageStackOrder", name.constData());
   if (order == nullptr) order = ppdFindAttr(printer.lend(), "DefaultOutputOrder", nullptr);
-  return order != nullptr && QByteArray(order->value).compare("Reverse", Qt::CaseInsensitive) == 0;
+  return order != nullptr && sameKeyword(order->value, "Reverse");
 }
 
 std::optional<CustomPaperLimits> customPaperLimits(const PrinterDescription &printer) {

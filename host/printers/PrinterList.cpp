@@ -167,9 +167,9 @@ Result<Queue> findPrinter(const ServerAccess &access, const QString &destination
 
 Result<Queue> findPrinter(const CupsConnection &connection, const QString &destination) {
   if (const Status answers = checkAnswers(connection); !answers) return answers.failure();
-  const qsizetype slash = destination.lastIndexOf(u'/');
-  const QByteArray name = (slash < 0 ? destination : destination.left(slash)).toUtf8();
-  const QByteArray instance = slash < 0 ? QByteArray() : destination.mid(slash + 1).toUtf8();
+  const Destination wanted = destinationFrom(destination);
+  const QByteArray name = wanted.queue.toUtf8();
+  const QByteArray instance = wanted.instance.toUtf8();
   cups_dest_t *found =
       cupsGetNamedDest(connection.http(), name.isEmpty() ? nullptr : name.constData(),
                        instance.isEmpty() ? nullptr : instance.constData());

@@ -15,6 +15,8 @@ struct Text {
   Q_DECLARE_TR_FUNCTIONS(orvek::Queue)
 };
 
+constexpr QLatin1Char instanceMark('/');
+
 struct KnownReason {
   QLatin1String keyword;
   const char *words;
@@ -80,8 +82,14 @@ QString wordsOf(QString keyword) {
 
 }  // namespace
 
+Destination destinationFrom(const QString &text) {
+  const qsizetype slash = text.lastIndexOf(instanceMark);
+  if (slash < 0) return {text, {}};
+  return {text.left(slash), text.mid(slash + 1)};
+}
+
 QString Queue::destination() const {
-  return instance.isNull() ? name : name + u'/' + instance;
+  return instance.isNull() ? name : name + instanceMark + instance;
 }
 
 QString reasonInWords(const QString &keyword) {

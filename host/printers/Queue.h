@@ -8,6 +8,16 @@
 
 namespace orvek {
 
+/// Where a job goes, as a command line names it. Plain data.
+struct Destination {
+  QString queue;
+  /// Null: the queue itself.
+  QString instance;
+};
+
+/// Reads "NAME" or "NAME/INSTANCE". A null text gives null parts.
+Destination destinationFrom(const QString &text);
+
 enum class PrinterState { Unknown, Idle, Printing, Stopped };
 
 /// One destination: a queue of the server, or a queue with a named set of saved options (an

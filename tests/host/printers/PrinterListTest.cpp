@@ -46,6 +46,15 @@ class PrinterList : public ::testing::Test {
   std::unique_ptr<PrivateCups> cups;
 };
 
+TEST(Destination, IsAQueueAndWhatFollowsItsLastSlash) {
+  EXPECT_EQ(destinationFrom(QStringLiteral("office")).queue, QStringLiteral("office"));
+  EXPECT_TRUE(destinationFrom(QStringLiteral("office")).instance.isNull());
+  EXPECT_EQ(destinationFrom(QStringLiteral("office/draft")).queue, QStringLiteral("office"));
+  EXPECT_EQ(destinationFrom(QStringLiteral("office/draft")).instance, QStringLiteral("draft"));
+  EXPECT_EQ(destinationFrom(QStringLiteral("a/b/c")).queue, QStringLiteral("a/b"));
+  EXPECT_TRUE(destinationFrom(QString()).queue.isNull());
+}
+
 TEST_F(PrinterList, ListsQueuesByNameWithWhatPeopleKnowThemBy) {
   const auto queues = listPrinters({});
   ASSERT_TRUE(queues) << queues.failure().line().toStdString();
