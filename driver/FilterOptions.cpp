@@ -8,19 +8,14 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/printing/OptionValue.h"
+
 namespace orvek::driver {
 namespace {
 
-/// What would end a value, or be taken for something else, has a backslash before it. Collections
-/// are read up to their closing brace as they are.
-std::string quoted(std::string_view value) {
-  if (value.starts_with('{')) return std::string(value);
-  std::string text;
-  for (const char c : value) {
-    if (std::string_view(" \t\n\\'\"").find(c) != std::string_view::npos) text += '\\';
-    text += c;
-  }
-  return text.empty() ? "\"\"" : text;
+std::string written(std::string_view value) {
+  if (isOptionCollection(value)) return std::string(value);
+  return value.empty() ? "\"\"" : escapedOptionValue(value);
 }
 
 }  // namespace
@@ -53,7 +48,7 @@ std::string FilterOptions::text() const {
   std::string all;
   for (const cups_option_t &option : std::span(m_options, static_cast<std::size_t>(m_count))) {
     if (!all.empty()) all += ' ';
-    all += std::string(option.name) + '=' + quoted(option.value);
+    all += std::string(option.name) + '=' + written(option.value);
   }
   return all;
 }

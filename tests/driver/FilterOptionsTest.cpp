@@ -27,9 +27,10 @@ TEST(FilterOptions, FindNamesInLettersOfEitherCase) {
 TEST(FilterOptions, AreTheSameOnceWrittenAndReadAgain) {
   const FilterOptions options(
       "title=a\\ b\\'c quoted=\"x y\" empty= media-col={media-size={x-dimension=1 y-dimension=2}} "
-      "path=a\\\\b flag");
+      "path=a\\\\b open=\\{x page=a\\{1\\}\\{2\\} feed=a\\\fb flag");
   const FilterOptions again(options.text());
-  for (const char *name : {"title", "quoted", "empty", "media-col", "path", "flag"}) {
+  for (const char *name :
+       {"title", "quoted", "empty", "media-col", "path", "open", "page", "feed", "flag"}) {
     EXPECT_EQ(again.value(name), options.value(name)) << name;
   }
 }
