@@ -24,6 +24,9 @@ struct DialogSetup {
   using AskPrinter = std::function<Result<SessionSetup>(const QString &destinationOrPath,
                                                         const std::atomic<bool> &cancelled)>;
 
+  /// Begins a session with what was asked for, its panels open.
+  using BeginSession = std::function<Result<std::unique_ptr<PrintSession>>(const SessionSetup &)>;
+
   /// For people.
   QString documentName;
   /// What is known of it; more may come with setDocument.
@@ -43,8 +46,7 @@ struct DialogSetup {
   /// Reads the PPD file of this path.
   AskPrinter readDescription;
 
-  /// Begins a session with what was asked for, its panels open.
-  std::function<Result<std::unique_ptr<PrintSession>>(const SessionSetup &)> beginSession;
+  BeginSession beginSession;
 
   /// Null: no presets.
   std::shared_ptr<PresetStore> presets;

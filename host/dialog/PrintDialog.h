@@ -3,11 +3,14 @@
 // tickets or jobs; it shows what the session says and asks it for what the user wants.
 //
 //   Parts, in the window from top to bottom            Sources
-//   DocumentHeader    what is printed                  PrintDialog         parts, notices, size
-//   PrinterChooser    where; PresetChooser with what   PrintDialogPrinter  other printers, presets
+//   DocumentHeader    what is printed                  PrintDialog         parts and what they show
+//   ChooserRow        where, and with what preset      PrintDialogPrinter  other printers, presets
 //   NoticeBar         what happened; Undo              PrintDialogJob      a job's way
 //   SessionView       pages and summary
 //   JobBar            progress, Cancel, Print
+//
+//   Helpers: NoticeKeeper, what the bar says; PrinterSwitch, the way to another printer;
+//   WindowRoom, the window's size
 #pragma once
 
 #include <QDialog>
@@ -15,16 +18,19 @@
 #include <optional>
 
 #include "host/dialog/DialogSetup.h"
+#include "host/dialog/PrinterSwitch.h"
+#include "host/dialog/WindowRoom.h"
 #include "host/presets/SessionPreset.h"
 #include "host/printers/BackgroundTask.h"
 
 namespace orvek {
 
 class BackgroundJob;
+class ChooserRow;
 class DocumentHeader;
 class JobBar;
 class NoticeBar;
-class PresetChooser;
+class NoticeKeeper;
 class PrinterChooser;
 class SessionView;
 
@@ -66,22 +72,17 @@ class PrintDialog final : public QDialog {
  private:
   // Parts and what they show
   void build();
-  QWidget *buildChoosers();
   void connectParts();
   void followSession();
   void updateControls();
   void showHeader();
-  void showNotice(const QStringList &sentences);
-  void showEarlierNotices();
-  void sessionChanged();
-  void makeRoom();
+  void showDocument();
 
   // Other printers, presets
   void choosePrinter(const QString &destination);
   void chooseDescription();
   void ask(const DialogSetup::AskPrinter &asked, const QString &what, const QString &destination);
-  void stopAsking();
-  void moveTo(const Result<SessionSetup> &setup, const QString &destination);
+  void moveTo(PrinterSwitch::Session opened, const QString &destination);
   void takeSession(std::unique_ptr<PrintSession> session, const QString &destination);
   void applyPicked(const Preset &preset);
   void showMisfits(const QString &opening, const QList<PresetMisfit> &misfits);
@@ -100,27 +101,20 @@ class PrintDialog final : public QDialog {
   DialogSetup m_setup;
   JobRequest m_request;
   std::optional<JobOutcome> m_outcome;
-  /// As they stood when the notice was given.
-  MarksSnapshot m_noticedMarks;
-  /// The action that it belongs to still runs.
-  bool m_noticeIsNew = false;
   bool m_isCancelling = false;
-  /// The size that the window chose last; another one is the user's choice.
-  QSize m_ownSize;
+  WindowRoom m_room;
 
   DocumentHeader *m_document = nullptr;
+  ChooserRow *m_choosers = nullptr;
   PrinterChooser *m_printers = nullptr;
-  /// Null: no presets.
-  PresetChooser *m_presets = nullptr;
-  NoticeBar *m_notices = nullptr;
+  NoticeBar *m_noticeBar = nullptr;
+  NoticeKeeper *m_notices = nullptr;
   SessionView *m_view = nullptr;
   JobBar *m_jobBar = nullptr;
   BackgroundJob *m_job = nullptr;
-  /// The printer being asked for; null: none.
-  QString m_asked;
   /// The last two: they end before what they report to.
   BackgroundTask m_reading;
-  BackgroundTask m_asking;
+  PrinterSwitch m_switch;
 };
 
 }  // namespace orvek

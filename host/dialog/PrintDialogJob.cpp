@@ -6,22 +6,18 @@
 #include <QPushButton>
 
 #include "host/dialog/JobBar.h"
-#include "host/dialog/NoticeBar.h"
+#include "host/dialog/NoticeKeeper.h"
 #include "host/dialog/PrintDialog.h"
 #include "host/dialog/PrinterChooser.h"
 #include "host/dialog/ProgressText.h"
 #include "host/jobs/BackgroundJob.h"
 #include "host/jobs/FilterChain.h"
 #include "host/jobs/QueueJob.h"
+#include "host/printers/Queue.h"
 #include "host/session/JobWarnings.h"
 #include "host/translations/FailureText.h"
 
 namespace orvek {
-namespace {
-
-constexpr QLatin1Char instanceMark('/');
-
-}  // namespace
 
 JobRequest PrintDialog::gatherRequest() {
   {
@@ -29,10 +25,11 @@ JobRequest PrintDialog::gatherRequest() {
     m_session->panels().save();
   }
   JobRequest request = m_setup.jobRequest ? m_setup.jobRequest(*m_session) : JobRequest();
-  const QString &destination = m_setup.destination;
-  request.queue = destination.isEmpty() ? QString() : destination.section(instanceMark, 0, 0);
-  request.instance = destination.section(instanceMark, 1);
-  request.outputFile = destination.isEmpty() ? m_setup.outputFile : QString();
+  const bool isForFile = m_setup.destination.isEmpty();
+  const Destination destination = destinationFrom(isForFile ? QString() : m_setup.destination);
+  request.queue = destination.queue;
+  request.instance = destination.instance;
+  request.outputFile = isForFile ? m_setup.outputFile : QString();
   return request;
 }
 
@@ -56,7 +53,7 @@ bool PrintDialog::acceptsWarnings() {
 }
 
 void PrintDialog::print() {
-  if (m_job->isRunning() || !m_asked.isNull()) return;
+  if (m_job->isRunning() || m_switch.isAsking()) return;
   JobRequest request = gatherRequest();
   if (!acceptsWarnings() || !completeRequest(&request)) return;
   m_notices->fallSilent();
@@ -69,7 +66,7 @@ void PrintDialog::print() {
 
 void PrintDialog::reject() {
   if (!m_job->isRunning()) {
-    stopAsking();
+    m_switch.stop();
     QDialog::reject();
     return;
   }
@@ -100,8 +97,7 @@ void PrintDialog::showFailure(const Failure &failure) {
     words << tr("It can still be printed into a file: choose File as the printer.");
   }
   m_isCancelling = false;
-  m_noticedMarks = m_session->marks().snapshot();
-  m_notices->say(kind, words, false);
+  m_notices->say(kind, words);
   m_printers->refresh();
   updateControls();
 }

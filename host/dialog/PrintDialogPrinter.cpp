@@ -7,8 +7,7 @@
 #include <QLayout>
 #include <utility>
 
-#include "host/dialog/NoticeBar.h"
-#include "host/dialog/PresetChooser.h"
+#include "host/dialog/NoticeKeeper.h"
 #include "host/dialog/PrintDialog.h"
 #include "host/dialog/PrinterChooser.h"
 #include "host/dialog/SessionView.h"
@@ -16,8 +15,8 @@
 namespace orvek {
 
 void PrintDialog::choosePrinter(const QString &destination) {
-  if (!m_asked.isNull() && destination == m_asked) return;
-  stopAsking();
+  if (m_switch.isAskingFor(destination)) return;
+  m_switch.stop();
   if (destination.isEmpty()) m_setup.destination = QString();
   if (destination == m_setup.destination) {
     showHeader();
@@ -31,7 +30,7 @@ void PrintDialog::chooseDescription() {
   const QString path = QFileDialog::getOpenFileName(this, tr("Open a Printer Description"), {},
                                                     tr("Printer descriptions (*.ppd *.ppd.gz)"));
   if (path.isEmpty()) return;
-  stopAsking();
+  m_switch.stop();
   m_printers->showAsked(m_setup.destination, tr("Reading %1…").arg(QFileInfo(path).fileName()));
   ask(m_setup.readDescription, path, {});
 }
@@ -44,23 +43,11 @@ void PrintDialog::ask(const DialogSetup::AskPrinter &asked, const QString &what,
     showHeader();
     return;
   }
-  m_asked = what;
+  m_switch.ask(asked, what, destination);
   updateControls();
-  m_asking.start(
-      this,
-      [asked, what](const BackgroundTask::Cancelled &cancelled) { return asked(what, cancelled); },
-      [this, destination](const Result<SessionSetup> &setup) { moveTo(setup, destination); });
 }
 
-void PrintDialog::stopAsking() {
-  m_asking.cancel();
-  m_asked = QString();
-}
-
-void PrintDialog::moveTo(const Result<SessionSetup> &setup, const QString &destination) {
-  stopAsking();
-  auto opened = setup ? m_setup.beginSession(setup.value())
-                      : Result<std::unique_ptr<PrintSession>>(setup.failure());
+void PrintDialog::moveTo(PrinterSwitch::Session opened, const QString &destination) {
   if (!opened) {
     showHeader();
     showProblem(opened.failure());
@@ -81,8 +68,8 @@ void PrintDialog::takeSession(std::unique_ptr<PrintSession> session, const QStri
   auto *view = new SessionView(*session, m_setup.document, this);
   delete layout()->replaceWidget(m_view, view);
   delete std::exchange(m_view, view);
-  m_session = session.get();
-  m_ownSession = std::move(session);
+  const std::unique_ptr<PrintSession> old = std::exchange(m_ownSession, std::move(session));
+  m_session = m_ownSession.get();
   m_setup.destination = destination;
   followSession();
   showHeader();
@@ -94,12 +81,9 @@ void PrintDialog::applyPicked(const Preset &preset) {
 
 void PrintDialog::showMisfits(const QString &opening, const QList<PresetMisfit> &misfits) {
   if (misfits.isEmpty()) return;
-  QStringList sentences =
-      std::exchange(m_noticeIsNew, false) ? m_notices->sentences() : QStringList();
-  sentences << opening;
+  QStringList sentences{opening};
   for (const PresetMisfit &misfit : misfits) sentences << misfit.why;
-  m_noticedMarks = m_session->marks().snapshot();
-  m_notices->say(NoticeBar::Kind::Information, sentences, false);
+  m_notices->sayFurther(sentences);
 }
 
 }  // namespace orvek

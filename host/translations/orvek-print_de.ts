@@ -21,6 +21,17 @@
     </message>
 </context>
 <context>
+    <name>orvek::ChooserRow</name>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>Drucke&amp;r:</translation>
+    </message>
+    <message>
+        <source>Pr&amp;eset:</source>
+        <translation>Voreinst&amp;ellung:</translation>
+    </message>
+</context>
+<context>
     <name>orvek::CopiesRow</name>
     <message>
         <source>Copies</source>
@@ -842,14 +853,6 @@
     <message>
         <source>Print</source>
         <translation>Drucken</translation>
-    </message>
-    <message>
-        <source>P&amp;rinter:</source>
-        <translation>Drucke&amp;r:</translation>
-    </message>
-    <message>
-        <source>Pr&amp;eset:</source>
-        <translation>Voreinst&amp;ellung:</translation>
     </message>
     <message>
         <source>Document</source>

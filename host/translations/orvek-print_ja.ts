@@ -21,6 +21,17 @@
     </message>
 </context>
 <context>
+    <name>orvek::ChooserRow</name>
+    <message>
+        <source>P&amp;rinter:</source>
+        <translation>プリンター(&amp;R):</translation>
+    </message>
+    <message>
+        <source>Pr&amp;eset:</source>
+        <translation>プリセット(&amp;E):</translation>
+    </message>
+</context>
+<context>
     <name>orvek::CopiesRow</name>
     <message>
         <source>Copies</source>
@@ -842,14 +853,6 @@
     <message>
         <source>Print</source>
         <translation>印刷</translation>
-    </message>
-    <message>
-        <source>P&amp;rinter:</source>
-        <translation>プリンター(&amp;R):</translation>
-    </message>
-    <message>
-        <source>Pr&amp;eset:</source>
-        <translation>プリセット(&amp;E):</translation>
     </message>
     <message>
         <source>Document</source>

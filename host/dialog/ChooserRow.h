@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: Apache-2.0
+// Where a job goes and what it begins with: the pop-ups of printers and presets with their labels,
+// in one row.
+#pragma once
+
+#include <QWidget>
+#include <memory>
+
+#include "host/dialog/PresetChooser.h"
+#include "host/printers/ServerAccess.h"
+
+namespace orvek {
+
+class PrinterChooser;
+
+/// Lays the two out and does nothing by itself. Belongs to its parent, owns its child controls, and
+/// lives on the interface's thread. Nothing fails.
+class ChooserRow final : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// Without a store there are no presets.
+  ChooserRow(const ServerAccess &access, const std::shared_ptr<PresetStore> &store,
+             const PresetChooser::Snapshot &snapshot, QWidget *parent);
+
+  PrinterChooser *printers() const { return m_printers; }
+
+  /// Null: no presets.
+  PresetChooser *presets() const { return m_presets; }
+
+ private:
+  void add(QWidget *chooser, QWidget *menu, const QString &text, int column);
+
+  PrinterChooser *m_printers;
+  PresetChooser *m_presets = nullptr;
+};
+
+}  // namespace orvek
