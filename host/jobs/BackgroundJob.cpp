@@ -15,13 +15,6 @@ namespace {
 
 constexpr qint64 millisecondsBetweenReports = 50;
 
-JobRequest withFile(JobRequest request, const QString &path) {
-  request.title = effectiveTitle(request);
-  request.files = effectiveFiles(request);
-  std::replace(request.files.begin(), request.files.end(), standardInput(), path);
-  return request;
-}
-
 }  // namespace
 
 BackgroundJob::BackgroundJob(QObject *parent) : QObject(parent) {}
@@ -53,9 +46,14 @@ void BackgroundJob::start(const JobRequest &request, Work work) {
 
 Result<JobOutcome> BackgroundJob::run(const JobRequest &request, const Work &work,
                                       JobControl &control) {
-  if (!effectiveFiles(request).contains(standardInput())) return work(request, control);
-  if (const Status filled = m_spool.fill(control); !filled) return filled.failure();
-  return work(withFile(request, m_spool.path()), control);
+  const QStringList documents = effectiveFiles(request);
+  if (std::none_of(documents.begin(), documents.end(), comesOnce)) return work(request, control);
+  const auto files = m_files.of(documents, control);
+  if (!files) return files.failure();
+  JobRequest readable = request;
+  readable.title = effectiveTitle(request);
+  readable.files = files.value();
+  return work(readable, control);
 }
 
 void BackgroundJob::cancel() {

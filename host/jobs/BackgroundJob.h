@@ -14,8 +14,8 @@
 namespace orvek {
 
 /// One job at a time in the background; one that failed or was cancelled can be tried again, and
-/// standard input is kept for that. Use it from the thread that owns it; its signals come there.
-/// Destroying it cancels the job and waits for it, at most a few seconds.
+/// what came by standard input or a pipe is kept for that. Use it from the thread that owns it; its
+/// signals come there. Destroying it cancels the job and waits for it, at most a few seconds.
 class BackgroundJob : public QObject {
   Q_OBJECT
 
@@ -26,8 +26,8 @@ class BackgroundJob : public QObject {
   explicit BackgroundJob(QObject *parent = nullptr);
   ~BackgroundJob() override;
 
-  /// Starts; does nothing while a job runs. Where a document is standard input, `work` is given a
-  /// file with what came from there in its place.
+  /// Starts; does nothing while a job runs. Where a document comes once only, `work` is given
+  /// a file with what came in its place.
   void start(const JobRequest &request, Work work);
 
   /// Asks the job to end. `failed` follows, of the kind Cancelled; at once where possible.
@@ -47,7 +47,7 @@ class BackgroundJob : public QObject {
 
   std::shared_ptr<JobControl> m_control;
   /// The job's thread alone uses it, and one job follows the other.
-  InputSpool m_spool;
+  DocumentFiles m_files;
   std::thread m_thread;
   bool m_running = false;
 };

@@ -3,8 +3,11 @@
 
 #include "host/jobs/Document.h"
 
+#include <unistd.h>
+
 #include <QFile>
 #include <QFileInfo>
+#include <cerrno>
 
 namespace orvek {
 namespace {
@@ -15,9 +18,16 @@ Status checkDocument(const QString &file) {
     return Failure{FailureKind::Io, file,
                    Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "is a folder"))};
   }
+  // To open a pipe is to wait for its writer, who would then have lost its only reader.
+  if (comesOnce(file)) {
+    if (::access(QFile::encodeName(file).constData(), R_OK) == 0) return {};
+    return Failure{FailureKind::Io, file, Phrase::ofSystem(errno)};
+  }
   QFile document(file);
-  if (document.open(QIODevice::ReadOnly)) return {};
-  return Failure{FailureKind::Io, file, Phrase::ofSystem(document.errorString())};
+  if (!document.open(QIODevice::ReadOnly)) {
+    return Failure{FailureKind::Io, file, Phrase::ofSystem(document.errorString())};
+  }
+  return document.size() > 0 ? Status() : Status(emptyDocument(file));
 }
 
 }  // namespace
@@ -33,6 +43,16 @@ bool isStandardInput(const QString &file) {
 Phrase documentName(const QString &file) {
   if (!isStandardInput(file)) return file;
   return Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "standard input"));
+}
+
+bool comesOnce(const QString &file) {
+  const QFileInfo info(file);
+  return isStandardInput(file) || (info.exists() && !info.isFile() && !info.isDir());
+}
+
+Failure emptyDocument(const QString &file) {
+  return {FailureKind::Io, documentName(file),
+          Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "is empty, so there is nothing to print"))};
 }
 
 Status checkAllDocuments(const QStringList &files) {

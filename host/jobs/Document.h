@@ -19,8 +19,14 @@ bool isStandardInput(const QString &file);
 /// The name that messages use for a document.
 Phrase documentName(const QString &file);
 
-/// Whether a job's documents can be read: they exist, are no folders, and may be opened. Standard
-/// input always can, and may be among them once.
+/// The failure of a job whose document has no bytes.
+Failure emptyDocument(const QString &file);
+
+/// Whether a document's bytes come once only: those of standard input, a pipe or a device.
+bool comesOnce(const QString &file);
+
+/// Whether a job's documents can be read: they exist, are neither folders nor empty files, and may
+/// be opened. Nothing is taken from those that come once. Standard input may be among them once.
 Status checkAllDocuments(const QStringList &files);
 
 /// Size in bytes, or -1 where the document is no plain file.

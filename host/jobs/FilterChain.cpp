@@ -1,31 +1,23 @@
 // SPDX-License-Identifier: Apache-2.0
-// Starts the filter tool for each document and carries its output to the target. The output passes
-// through here rather than straight into the file: filters don't notice a full disk, the write here
-// does.
+// Looks at what is asked for, then has the filter tool print each document.
 
 #include "host/jobs/FilterChain.h"
 
-#include <sys/prctl.h>
-#include <unistd.h>
-#include <csignal>
-
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 #include <QStandardPaths>
+#include <algorithm>
 
 #include "host/jobs/BookletDriver.h"
 #include "host/jobs/Document.h"
-#include "host/jobs/FilterMessages.h"
+#include "host/jobs/DocumentInfo.h"
+#include "host/jobs/FilterRun.h"
 #include "host/jobs/InputSpool.h"
-#include "host/jobs/OptionText.h"
-#include "host/jobs/OutputTarget.h"
 
 namespace orvek {
 namespace {
 
-constexpr int pollMilliseconds = 100;
-constexpr int graceMilliseconds = 2000;
+const QString printerFormat = QStringLiteral("printer/foo");
 
 Status checkPPDFile(const QString &path) {
   QFile file(path);
@@ -39,121 +31,64 @@ Status checkPPDFile(const QString &path) {
   return {};
 }
 
-QStringList toolArguments(const JobRequest &request, const QString &ppd, const QString &document) {
-  // -e: without it the printer's own filters are left out and the output is not device-ready.
-  QStringList arguments{QStringLiteral("-e"),   QStringLiteral("-p"),          ppd,
-                        QStringLiteral("-m"),   QStringLiteral("printer/foo"), QStringLiteral("-t"),
-                        effectiveTitle(request)};
-  if (!request.user.isEmpty()) arguments << QStringLiteral("-U") << request.user;
-  auto options = effectiveOptions(request);
-  // Filters are told the copies apart from the options, and some multiply them if told both ways.
-  const QString copies = options.take(QStringLiteral("copies"));
-  if (!copies.isEmpty()) arguments << QStringLiteral("-n") << copies;
-  for (auto option = options.cbegin(); option != options.cend(); ++option) {
-    arguments << QStringLiteral("-o") << filterToolOptionText(option.key(), option.value());
-  }
-  // An absolute path can't be taken for an option, whatever the document is called.
-  return arguments << QFileInfo(document).absoluteFilePath();
+// Ranges are ascending, or make no sense, which filters say better.
+bool beginsWithin(const QString &pageRanges, int pages) {
+  const QStringList ranges = pageRanges.split(u',');
+  return std::any_of(ranges.begin(), ranges.end(), [pages](const QString &range) {
+    return range.section(u'-', 0, 0).toInt() <= pages;
+  });
 }
 
-/// A process group of its own, so that a cancelled job takes all its filters with it; and never
-/// left behind should this program be killed.
-void leadOwnGroup() {
-  ::setpgid(0, 0);
-  ::prctl(PR_SET_PDEATHSIG, SIGTERM);
+/// Filters make anything from nothing to a damaged file where no page is left.
+Status checkPagesOf(const QString &file, const Phrase &name, const JobRequest &request) {
+  const QString ranges = effectiveOptions(request).value(QStringLiteral("page-ranges"));
+  if (ranges.isEmpty()) return {};
+  const int pages = documentInfo(file).pages;
+  if (pages == 0 || beginsWithin(ranges, pages)) return {};
+  return Failure{
+      FailureKind::Io, name,
+      Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "has no page %1: the number of its pages is %2"),
+             {ranges, QString::number(pages)})};
 }
 
-void stop(QProcess &process) {
-  const auto group = static_cast<pid_t>(process.processId());
-  if (group <= 0) return;
-  ::kill(-group, SIGTERM);
-  process.waitForFinished(graceMilliseconds);
-  // The tool may be gone while a filter that does not listen goes on.
-  ::kill(-group, SIGKILL);
-  process.waitForFinished(graceMilliseconds);
+/// Other than by name: a file may have several.
+bool isSameFile(const QString &one, const QString &other) {
+  const QString canonical = QFileInfo(one).canonicalFilePath();
+  return !canonical.isEmpty() && canonical == QFileInfo(other).canonicalFilePath();
 }
 
-/// One job under way: where its bytes go and how far it is.
-struct Run {
-  const JobRequest &request;
-  JobControl &control;
-  const QString tool;
-  const QString ppd;
-  OutputTarget &target;
-  JobProgress progress;
-  int pagesOfEarlierDocuments = 0;
-};
-
-Status carryOutput(Run &run, QProcess &process, FilterMessages &messages) {
-  messages.add(process.readAllStandardError());
-  const QByteArray bytes = process.readAllStandardOutput();
-  const Status written =
-      bytes.isEmpty() ? Status()
-                      : run.target.write(bytes, [&run] { return !run.control.cancelled.load(); });
-  run.progress.bytes += bytes.size();
-  run.progress.pages = run.pagesOfEarlierDocuments + messages.pages();
-  run.control.report(run.progress);
-  return written;
-}
-
-Status carryUntilFinished(Run &run, QProcess &process, FilterMessages &messages) {
-  while (process.state() != QProcess::NotRunning) {
-    if (run.control.cancelled) return jobCancelled();
-    process.waitForReadyRead(pollMilliseconds);
-    if (Status carried = carryOutput(run, process, messages); !carried) return carried;
+Status checkOutput(const JobRequest &request) {
+  if (!QFileInfo(request.outputFile).isFile()) return {};
+  for (const QString &file : request.files) {
+    if (!isSameFile(file, request.outputFile)) continue;
+    return Failure{
+        FailureKind::Io, request.outputFile,
+        Phrase(QT_TRANSLATE_NOOP(
+            "orvek::Failure", "is the document itself, which would be lost; name another file"))};
   }
-  if (Status carried = carryOutput(run, process, messages); !carried) return carried;
-  return run.control.cancelled ? Status(jobCancelled()) : Status();
-}
-
-void prepare(QProcess &process, const Run &run, const QString &path) {
-  auto environment = QProcessEnvironment::systemEnvironment();
-  // The tool's messages are read here, so they have to come in one language.
-  environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-  // It asks a print server about queues, though it needs none: one that answers nothing would keep
-  // the job waiting for ever.
-  environment.insert(QStringLiteral("CUPS_SERVER"), QStringLiteral("/dev/null/no-server"));
-  process.setProcessEnvironment(environment);
-  process.setChildProcessModifier(leadOwnGroup);
-  process.setStandardInputFile(QProcess::nullDevice());
-  process.setProgram(run.tool);
-  process.setArguments(toolArguments(run.request, run.ppd, path));
-}
-
-Status filterDocument(Run &run, const QString &path, const Phrase &name) {
-  QProcess process;
-  FilterMessages messages;
-  prepare(process, run, path);
-  const qint64 bytesBefore = run.progress.bytes;
-  process.start();
-  if (!process.waitForStarted()) {
-    return Failure{FailureKind::Io, run.tool, Phrase::ofSystem(process.errorString())};
-  }
-  if (Status carried = carryUntilFinished(run, process, messages); !carried) {
-    stop(process);
-    return carried;
-  }
-  if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0) {
-    return messages.reason(name, run.request.ppdFile, process.exitCode());
-  }
-  if (run.progress.bytes == bytesBefore) {
-    return Failure{FailureKind::Io, name,
-                   Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "the filters made no output of it"))};
-  }
-  run.pagesOfEarlierDocuments = run.progress.pages;
   return {};
-}
-
-Status filterNamed(Run &run, const QString &file) {
-  if (!isStandardInput(file)) return filterDocument(run, file, file);
-  InputSpool spool;
-  if (Status filled = spool.fill(run.control); !filled) return filled;
-  return filterDocument(run, spool.path(), documentName(file));
 }
 
 Status checkRequest(const JobRequest &request) {
   if (Status ppd = checkPPDFile(request.ppdFile); !ppd) return ppd;
-  return checkAllDocuments(effectiveFiles(request));
+  if (Status documents = checkAllDocuments(effectiveFiles(request)); !documents) return documents;
+  return checkOutput(request);
+}
+
+Status printAll(FilterRun &run, const JobRequest &request, const QString &tool,
+                const QString &ppd) {
+  DocumentFiles copies;
+  for (const QString &document : effectiveFiles(request)) {
+    const auto files = copies.of({document}, run.control);
+    if (!files) return files.failure();
+    const QString file = files.value().constFirst();
+    const Phrase name = documentName(document);
+    if (Status pages = checkPagesOf(file, name, request); !pages) return pages;
+    const auto call = filterToolCall(request, tool, ppd, printerFormat, file);
+    if (Status done = runFilters(run, call, name); !done) return done;
+    ++run.progress.document;
+  }
+  return {};
 }
 
 }  // namespace
@@ -166,27 +101,28 @@ QString findFilterTool(const QString &searchPath) {
   return path.isEmpty() ? QString() : path;
 }
 
+Result<QString> requiredFilterTool() {
+  const QString tool = findFilterTool(qEnvironmentVariable("PATH"));
+  if (!tool.isNull()) return tool;
+  return Failure{
+      FailureKind::Io, QStringLiteral("cupsfilter"),
+      Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "not found; install the package \"cups\""))};
+}
+
 Result<JobOutcome> printThroughFilters(const JobRequest &request, JobControl &control) {
   if (Status checked = checkRequest(request); !checked) return checked.failure();
-  const QString tool = findFilterTool(qEnvironmentVariable("PATH"));
-  if (tool.isNull()) {
-    return Failure{
-        FailureKind::Io, QStringLiteral("cupsfilter"),
-        Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "not found; install the package \"cups\""))};
-  }
+  const auto tool = requiredFilterTool();
+  if (!tool) return tool.failure();
   const auto ppd =
       ChainPPD::of(request.ppdFile, effectiveOptions(request), DriverPlaces::ofThisProgram());
   if (!ppd) return ppd.failure();
   auto target = OutputTarget::open(request.outputFile);
   if (!target) return target.failure();
 
-  const QStringList files = effectiveFiles(request);
-  Run run{request, control, tool, ppd.value().path(), *target.value(), {}, 0};
-  run.progress.documents = static_cast<int>(files.size());
-  for (const QString &file : files) {
-    if (Status done = filterNamed(run, file); !done) return done.failure();
-    ++run.progress.document;
-  }
+  FilterRun run{request.ppdFile, control, *target.value()};
+  run.progress.documents = static_cast<int>(effectiveFiles(request).size());
+  const Status printed = printAll(run, request, tool.value(), ppd.value().path());
+  if (!printed) return printed.failure();
   if (Status placed = target.value()->commit(); !placed) return placed.failure();
   return JobOutcome{0, QString(), run.progress.documents, run.progress.bytes};
 }

@@ -13,11 +13,15 @@ namespace orvek {
 /// whether or not the PPD knows it. Memory does not grow with the documents.
 ///
 /// Failures: the PPD, a document or the output can't be opened; the filter tool is not installed; a
-/// document's type is unknown; a filter failed (its own last words); the disk is full; cancelled.
+/// document's type is unknown, it is empty, has no page of those asked for, or is the output file
+/// itself; a filter failed (its own last words); the disk is full; cancelled.
 Result<JobOutcome> printThroughFilters(const JobRequest &request, JobControl &control);
 
 /// The filter tool's path, or a null string where it is not installed. `searchPath` as in PATH; the
 /// administrator's folders are searched as well, as a user's PATH often lacks them.
 QString findFilterTool(const QString &searchPath);
+
+/// The same by this program's PATH; fails where it is not installed.
+Result<QString> requiredFilterTool();
 
 }  // namespace orvek

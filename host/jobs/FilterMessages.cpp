@@ -49,6 +49,23 @@ Phrase untrustedFilter(const QString &path, const QString &problem) {
                 {path, Phrase::ofSystem(problem.mid(missing.size()))});
 }
 
+// What the filters' libraries say of an encrypted document, each in its own words.
+Phrase refusalIn(const QString &line) {
+  static const QRegularExpression password(QStringLiteral("\\b(invalid|incorrect) password$"),
+                                           QRegularExpression::CaseInsensitiveOption);
+  if (password.match(line).hasMatch()) {
+    return Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
+                                    "it needs a password; print it from a program that opens it "
+                                    "with that password"));
+  }
+  if (line == QStringLiteral("Not allowed to print")) {
+    return Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
+                                    "whoever made it has encrypted it and does not allow that it "
+                                    "is printed"));
+  }
+  return {};
+}
+
 }  // namespace
 
 void FilterMessages::add(const QByteArray &bytes) {
@@ -62,7 +79,9 @@ void FilterMessages::add(const QByteArray &bytes) {
 }
 
 void FilterMessages::addLine(const QString &line) {
-  if (line.startsWith(pagePrefix)) {
+  if (const Phrase refusal = refusalIn(line); !refusal.isEmpty()) {
+    m_refusal = refusal;
+  } else if (line.startsWith(pagePrefix)) {
     ++m_pages;
   } else if (line.startsWith(errorPrefix)) {
     const QString text = line.mid(errorPrefix.size());
@@ -88,6 +107,7 @@ Failure FilterMessages::reason(const Phrase &document, const QString &ppdFile,
   if (m_toolError.startsWith(QStringLiteral("Unable to open PPD"))) {
     return {FailureKind::Invalid, ppdFile, m_toolError.section(QStringLiteral(": "), 1)};
   }
+  if (!m_refusal.isEmpty()) return {FailureKind::Io, document, m_refusal};
   if (!m_filterError.isEmpty()) return {FailureKind::Io, document, m_filterError};
   if (m_toolError.startsWith(QStringLiteral("Unable to determine MIME type"))) {
     return {

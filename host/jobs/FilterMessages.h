@@ -19,8 +19,9 @@ class FilterMessages {
   /// Pages that the filters have reported so far.
   int pages() const { return m_pages; }
 
-  /// Why a chain that ended with `exitStatus` failed: the filter's own last error, or the tool's
-  /// reason in plain words. `document` and `ppdFile` name what is to blame.
+  /// Why a chain that ended with `exitStatus` failed: that the document is encrypted, the filter's
+  /// own last error, or the tool's reason in plain words. `document` and `ppdFile` name what is to
+  /// blame.
   Failure reason(const Phrase &document, const QString &ppdFile, int exitStatus) const;
 
  private:
@@ -28,6 +29,8 @@ class FilterMessages {
   void addToolLine(const QString &text);
 
   QByteArray m_partial;
+  /// Why filters must not print the document.
+  Phrase m_refusal;
   /// A filter's own words.
   QString m_filterError;
   /// Which filter ended badly.

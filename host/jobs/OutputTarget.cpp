@@ -12,22 +12,16 @@
 #include <cerrno>
 #include <climits>
 
+#include "host/jobs/OpenStream.h"
+
 namespace orvek {
 namespace {
 
 constexpr int pollMilliseconds = 100;
 
-/// Descriptor number behind a name of an open stream, or -1. Opening such a name anew would start a
-/// redirected file from its beginning instead of going on where the caller's shell stands.
-int openStreamNumber(const QString &path) {
-  if (path == QStringLiteral("-") || path == QStringLiteral("/dev/stdout")) return STDOUT_FILENO;
-  if (path == QStringLiteral("/dev/stderr")) return STDERR_FILENO;
-  for (const QString &prefix : {QStringLiteral("/dev/fd/"), QStringLiteral("/proc/self/fd/")}) {
-    bool isNumber = false;
-    const int number = path.startsWith(prefix) ? path.mid(prefix.size()).toInt(&isNumber) : -1;
-    if (isNumber) return number;
-  }
-  return -1;
+/// Descriptor number of an open stream, or -1.
+int streamNumber(const QString &path) {
+  return path == QStringLiteral("-") ? STDOUT_FILENO : openStreamNumber(path);
 }
 
 bool isPlainFileOrAbsent(const QString &path) {
@@ -37,7 +31,7 @@ bool isPlainFileOrAbsent(const QString &path) {
 }
 
 int openStream(const QString &path) {
-  const int number = openStreamNumber(path);
+  const int number = streamNumber(path);
   if (number >= 0) return ::fcntl(number, F_DUPFD_CLOEXEC, 0);
   return ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CLOEXEC | O_NOCTTY);
 }
@@ -57,7 +51,7 @@ Failure OutputTarget::failure(const Phrase &why) const {
 
 Result<std::unique_ptr<OutputTarget>> OutputTarget::open(const QString &path) {
   std::unique_ptr<OutputTarget> target(new OutputTarget(path));
-  if (openStreamNumber(path) >= 0 || !isPlainFileOrAbsent(path)) {
+  if (streamNumber(path) >= 0 || !isPlainFileOrAbsent(path)) {
     target->m_stream = openStream(path);
     if (target->m_stream < 0) return target->failure(Phrase::ofSystem(errno));
     return target;

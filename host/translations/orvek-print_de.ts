@@ -459,6 +459,34 @@
         <source>Bad file descriptor</source>
         <translation>Dateideskriptor ist ungültig</translation>
     </message>
+    <message>
+        <source>has no page %1: the number of its pages is %2</source>
+        <translation>hat keine Seite %1: die Zahl seiner Seiten ist %2</translation>
+    </message>
+    <message>
+        <source>is the document itself, which would be lost; name another file</source>
+        <translation>ist das Dokument selbst, das dabei verloren ginge; geben Sie eine andere Datei an</translation>
+    </message>
+    <message>
+        <source>it needs a password; print it from a program that opens it with that password</source>
+        <translation>es braucht ein Kennwort; drucken Sie es aus einem Programm, das es mit dem Kennwort öffnet</translation>
+    </message>
+    <message>
+        <source>whoever made it has encrypted it and does not allow that it is printed</source>
+        <translation>wer es erstellt hat, hat es verschlüsselt und erlaubt das Drucken nicht</translation>
+    </message>
+    <message>
+        <source>%1; print it once more, and its sheets are made on this computer</source>
+        <translation>%1; drucken Sie noch einmal, dann entstehen die Bögen auf diesem Rechner</translation>
+    </message>
+    <message>
+        <source>the server&apos;s driver can&apos;t make booklets</source>
+        <translation>der Treiber des Servers kann keine Broschüren herstellen</translation>
+    </message>
+    <message>
+        <source>the server lacks the printer&apos;s driver and stops every job</source>
+        <translation>dem Server fehlt der Treiber des Druckers, und er hält jeden Auftrag an</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -905,6 +933,18 @@
     <message>
         <source>Reading %1…</source>
         <translation>%1 wird gelesen …</translation>
+    </message>
+    <message>
+        <source>The sheets can be made on this computer and sent finished.</source>
+        <translation>Die Bögen können auf diesem Rechner hergestellt und fertig gesendet werden.</translation>
+    </message>
+    <message>
+        <source>&amp;Impose here and print</source>
+        <translation>&amp;Hier ausschießen und drucken</translation>
+    </message>
+    <message>
+        <source>&amp;Prepare here and print</source>
+        <translation>&amp;Hier vorbereiten und drucken</translation>
     </message>
 </context>
 <context>

@@ -459,6 +459,34 @@
         <source>Bad file descriptor</source>
         <translation>descripteur de fichier non valide</translation>
     </message>
+    <message>
+        <source>has no page %1: the number of its pages is %2</source>
+        <translation>n’a pas de page %1 : le nombre de ses pages est %2</translation>
+    </message>
+    <message>
+        <source>is the document itself, which would be lost; name another file</source>
+        <translation>est le document lui-même, qui serait perdu ; indiquez un autre fichier</translation>
+    </message>
+    <message>
+        <source>it needs a password; print it from a program that opens it with that password</source>
+        <translation>il faut un mot de passe ; imprimez-le depuis un programme qui l’ouvre avec ce mot de passe</translation>
+    </message>
+    <message>
+        <source>whoever made it has encrypted it and does not allow that it is printed</source>
+        <translation>son auteur l’a chiffré et ne permet pas de l’imprimer</translation>
+    </message>
+    <message>
+        <source>%1; print it once more, and its sheets are made on this computer</source>
+        <translation>%1 ; imprimez encore une fois, et les feuilles seront préparées sur cet ordinateur</translation>
+    </message>
+    <message>
+        <source>the server&apos;s driver can&apos;t make booklets</source>
+        <translation>le pilote du serveur ne sait pas faire de livrets</translation>
+    </message>
+    <message>
+        <source>the server lacks the printer&apos;s driver and stops every job</source>
+        <translation>le serveur n’a pas le pilote de l’imprimante et arrête chaque tâche</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -905,6 +933,18 @@
     <message>
         <source>Reading %1…</source>
         <translation>Lecture de %1…</translation>
+    </message>
+    <message>
+        <source>The sheets can be made on this computer and sent finished.</source>
+        <translation>Les feuilles peuvent être préparées sur cet ordinateur et envoyées toutes faites.</translation>
+    </message>
+    <message>
+        <source>&amp;Impose here and print</source>
+        <translation>&amp;Imposer ici et imprimer</translation>
+    </message>
+    <message>
+        <source>&amp;Prepare here and print</source>
+        <translation>&amp;Préparer ici et imprimer</translation>
     </message>
 </context>
 <context>

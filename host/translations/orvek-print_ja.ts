@@ -459,6 +459,34 @@
         <source>Bad file descriptor</source>
         <translation>ファイル記述子が無効です</translation>
     </message>
+    <message>
+        <source>has no page %1: the number of its pages is %2</source>
+        <translation>ページ %1 がありません（ページ数は %2）</translation>
+    </message>
+    <message>
+        <source>is the document itself, which would be lost; name another file</source>
+        <translation>これは印刷する文書そのもので、失われてしまいます。別のファイルを指定してください</translation>
+    </message>
+    <message>
+        <source>it needs a password; print it from a program that opens it with that password</source>
+        <translation>パスワードが必要です。パスワードで開けるプログラムから印刷してください</translation>
+    </message>
+    <message>
+        <source>whoever made it has encrypted it and does not allow that it is printed</source>
+        <translation>作成者が暗号化し、印刷を許可していません</translation>
+    </message>
+    <message>
+        <source>%1; print it once more, and its sheets are made on this computer</source>
+        <translation>%1。もう一度印刷すると、用紙はこのコンピューターで作成されます</translation>
+    </message>
+    <message>
+        <source>the server&apos;s driver can&apos;t make booklets</source>
+        <translation>サーバーのドライバーは小冊子を作成できません</translation>
+    </message>
+    <message>
+        <source>the server lacks the printer&apos;s driver and stops every job</source>
+        <translation>サーバーにプリンターのドライバーがないため、すべてのジョブが停止されます</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -905,6 +933,18 @@
     <message>
         <source>Reading %1…</source>
         <translation>%1 を読み込み中…</translation>
+    </message>
+    <message>
+        <source>The sheets can be made on this computer and sent finished.</source>
+        <translation>用紙をこのコンピューターで作成し、完成した状態で送信できます。</translation>
+    </message>
+    <message>
+        <source>&amp;Impose here and print</source>
+        <translation>ここで面付けして印刷(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Prepare here and print</source>
+        <translation>ここで準備して印刷(&amp;P)</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QElapsedTimer>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 #include <thread>
@@ -108,6 +109,62 @@ TEST_F(FilterChain, PrintsOnlyThePagesAskedFor) {
   request.options.insert(QStringLiteral("page-ranges"), QStringLiteral("2"));
   ASSERT_TRUE(printThroughFilters(request, control));
   EXPECT_EQ(contentsOf(output).count("%%Page: "), 1);
+}
+
+TEST_F(FilterChain, SaysThatThePagesAskedForAreNotThere) {
+  const QString pdf = QStringLiteral(ORVEK_SOURCE_DIR "/samples/Finishing-Sample.pdf");
+  request.files = {pdf};
+  request.pageRanges = QStringLiteral("9-12,99");
+  EXPECT_EQ(failureLine(),
+            pdf.toStdString() + ": has no page 9-12,99: the number of its pages is 8");
+  request.files = {document};
+  request.pageRanges = QString();
+  request.options.insert(QStringLiteral("page-ranges"), QStringLiteral("3"));
+  EXPECT_EQ(failureLine(),
+            document.toStdString() + ": has no page 3: the number of its pages is 2");
+  request.options.insert(QStringLiteral("page-ranges"), QStringLiteral("-1,7"));
+  EXPECT_EQ(failureLine(), "no failure");
+}
+
+TEST_F(FilterChain, RefusesToWriteOverItsDocument) {
+  const QString link = folder.filePath(QStringLiteral("link.ps"));
+  QFile::link(document, link);
+  for (const QString &other : {document, link}) {
+    request.outputFile = other;
+    EXPECT_EQ(
+        failureLine(),
+        other.toStdString() + ": is the document itself, which would be lost; name another file");
+  }
+  EXPECT_TRUE(contentsOf(document) == postScriptDocument(2));
+}
+
+TEST_F(FilterChain, RefusesAnEmptyDocument) {
+  const QString empty = folder.filePath(QStringLiteral("empty.pdf"));
+  writeContents(empty, {});
+  request.files = {document, empty};
+  EXPECT_EQ(failureLine(), empty.toStdString() + ": is empty, so there is nothing to print");
+  EXPECT_FALSE(QFile::exists(output));
+}
+
+TEST_F(FilterChain, SaysThatAnEncryptedDocumentNeedsItsPassword) {
+  const QString encrypted = folder.filePath(QStringLiteral("encrypted.pdf"));
+  const QStringList arguments{QStringLiteral("--encrypt"),
+                              QStringLiteral("user"),
+                              QStringLiteral("owner"),
+                              QStringLiteral("256"),
+                              QStringLiteral("--"),
+                              QStringLiteral(ORVEK_SOURCE_DIR "/samples/Finishing-Sample.pdf"),
+                              encrypted};
+  if (QProcess::execute(QStringLiteral("qpdf"), arguments) != 0) {
+    GTEST_SKIP() << "qpdf is not installed";
+  }
+  request.files = {encrypted};
+  const std::string words =
+      encrypted.toStdString() +
+      ": it needs a password; print it from a program that opens it with that password";
+  EXPECT_EQ(failureLine(), words);
+  request.options.insert(QStringLiteral("OVKEnableBooklet"), QStringLiteral("True"));
+  EXPECT_EQ(failureLine(), words);
 }
 
 TEST_F(FilterChain, PutsSeveralDocumentsOneAfterTheOther) {

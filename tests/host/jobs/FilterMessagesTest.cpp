@@ -40,6 +40,22 @@ TEST(FilterMessages, NameTheTypeThatNoFilterPrints) {
             "a.pdf: no filter prints the type image/x-odd");
 }
 
+TEST(FilterMessages, SayThatADocumentNeedsAPassword) {
+  const std::string words =
+      "a.pdf: it needs a password; print it from a program that opens it with that password";
+  EXPECT_EQ(reasonOf("ERROR: loadFilename failed: /x/a.pdf: invalid password\n"
+                     "ERROR: pdftopdf (PID 7) stopped with status 1\n"),
+            words);
+  EXPECT_EQ(reasonOf("Command Line Error: Incorrect password\n"), words);
+  EXPECT_EQ(reasonOf("DEBUG: argv[3]=\"invalid password\"\n"),
+            "a.pdf: the filters ended with status 1");
+}
+
+TEST(FilterMessages, SayThatADocumentMustNotBePrinted) {
+  EXPECT_EQ(reasonOf("Not allowed to print\nERROR: pdftopdf (PID 7) stopped with status 2\n"),
+            "a.pdf: whoever made it has encrypted it and does not allow that it is printed");
+}
+
 TEST(FilterMessages, FallBackOnTheStatus) {
   EXPECT_EQ(reasonOf("DEBUG: nothing\n"), "a.pdf: the filters ended with status 1");
 }
