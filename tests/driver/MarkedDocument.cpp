@@ -36,15 +36,19 @@ std::string uprightFor(const MarkedPage &page) {
   }
 }
 
-std::string contentsOf(int number, const MarkedPage &page) {
+std::string marks(int number, imposition::Size size) {
   const auto [red, green, blue] = colourOf(number);
-  const double width = page.size.width;
-  const double height = page.size.height;
-  return text("q 1 0 0 1 %g %g cm ", page.around, page.around) + uprightFor(page) +
-         text("%g %g %g rg 0 0 %g %g re f ", red / 255.0, green / 255.0, blue / 255.0, width,
+  const double width = size.width;
+  const double height = size.height;
+  return text("%g %g %g rg 0 0 %g %g re f ", red / 255.0, green / 255.0, blue / 255.0, width,
               height) +
          text("0 G 1 w 0.5 0.5 %g %g re S ", width - 1, height - 1) +
-         text("0 g %g %g %g %g re f Q", width / 4, height * 0.9, width / 2, height / 20);
+         text("0 g %g %g %g %g re f", width / 4, height * 0.9, width / 2, height / 20);
+}
+
+std::string contentsOf(int number, const MarkedPage &page, const PageDrawing &drawing) {
+  return text("q 1 0 0 1 %g %g cm ", page.around, page.around) + uprightFor(page) +
+         drawing(number, page.size) + " Q\n";
 }
 
 std::string pageObject(const MarkedPage &page, std::size_t contents) {
@@ -54,7 +58,7 @@ std::string pageObject(const MarkedPage &page, std::size_t contents) {
   return text("<</Type/Page/Parent 2 0 R/Rotate %d/Contents %zu 0 R/Resources<<>>", page.rotate,
               contents) +
          text("/MediaBox[0 0 %g %g]", width + 2 * page.around, height + 2 * page.around) +
-         text("/CropBox[%g %g %g %g]>>", page.around, page.around, width + page.around,
+         text("/%s[%g %g %g %g]>>", page.shownBox, page.around, page.around, width + page.around,
               height + page.around);
 }
 
@@ -95,16 +99,20 @@ std::string pdfOf(const std::vector<std::string> &objects, const std::string &tr
          trailerExtras + ">>\nstartxref\n" + std::to_string(file.size()) + "\n%%EOF\n";
 }
 
-std::string markedDocument(const std::vector<MarkedPage> &pages) {
+std::string documentOf(const std::vector<MarkedPage> &pages, const PageDrawing &drawing) {
   std::vector<std::string> objects{"<</Type/Catalog/Pages 2 0 R>>", ""};
   std::string kids;
   for (std::size_t i = 0; i < pages.size(); ++i) {
     kids += std::to_string(objects.size() + 1) + " 0 R ";
     objects.push_back(pageObject(pages[i], objects.size() + 2));
-    objects.push_back(streamOf(contentsOf(static_cast<int>(i) + 1, pages[i])));
+    objects.push_back(streamOf(contentsOf(static_cast<int>(i) + 1, pages[i], drawing)));
   }
   objects[1] = "<</Type/Pages/Count " + std::to_string(pages.size()) + "/Kids[" + kids + "]>>";
   return pdfOf(objects);
+}
+
+std::string markedDocument(const std::vector<MarkedPage> &pages) {
+  return documentOf(pages, marks);
 }
 
 std::string markedDocument(int pages) {

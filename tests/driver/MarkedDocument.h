@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -17,9 +18,14 @@ struct MarkedPage {
   imposition::Size size{595, 842};
   /// How the page gets there: its /Rotate.
   int rotate = 0;
-  /// Points that the media box has beyond the crop box on each side.
+  /// Points that the media box has beyond the shown box on each side.
   double around = 0;
+  /// The box that says which part of the media is shown.
+  const char *shownBox = "CropBox";
 };
+
+/// What a page shows, as drawing operators in points from the lower left of the displayed page.
+using PageDrawing = std::function<std::string(int number, imposition::Size size)>;
 
 /// The bytes of a PDF file of these objects; the first is object 1, the catalog.
 std::string pdfOf(const std::vector<std::string> &objects, const std::string &trailerExtras = {});
@@ -27,7 +33,10 @@ std::string pdfOf(const std::vector<std::string> &objects, const std::string &tr
 /// A stream object's text.
 std::string streamOf(const std::string &contents, const std::string &dictionary = {});
 
-/// A document of such pages, numbered from 1.
+/// A document of pages that are drawn so, numbered from 1.
+std::string documentOf(const std::vector<MarkedPage> &pages, const PageDrawing &drawing);
+
+/// A document of marked pages.
 std::string markedDocument(const std::vector<MarkedPage> &pages);
 std::string markedDocument(int pages);
 

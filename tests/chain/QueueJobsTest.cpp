@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: Apache-2.0
+// Jobs by way of a print server: lp and the dialog print the same sheets, those of the preview.
+
+#include <gtest/gtest.h>
+
+#include <QRegularExpression>
+
+#include "tests/chain/Agreement.h"
+#include "tests/chain/CodedPages.h"
+#include "tests/driver/DriverKit.h"
+#include "tests/driver/MarkedDocument.h"
+#include "tests/driver/Picture.h"
+#include "tests/host/cli/Program.h"
+#include "tests/support/CapturingFilter.h"
+#include "tests/support/PrivateCups.h"
+
+namespace orvek::test {
+namespace {
+
+const QString kQueue = QStringLiteral("office");
+
+/// Options that lp and the dialog have alike, with a space between.
+constexpr const char *lines[] = {
+    "-o OVKEnableBooklet -o OVKGutter=36",
+    "-o OVKEnableBooklet=True -o OVKRightToLeft -o OVKCreep=-12 -o OVKTargetPaperSize=1 -P 2-8",
+    "-o OVKEnableBooklet -o OVKPrintPageBorders -n 2 -o media=A5",
+    "-o OVKEnableBooklet -o outputorder=reverse -o sides=one-sided",
+    "-o number-up=4 -o number-up-layout=tbrl -o sides=two-sided-long-edge",
+    "-o landscape -o number-up=2 -o Duplex=DuplexTumble -o page-ranges=1,3-",
+    "-o PageSize=Letter -o outputorder=reverse -n 2",
+};
+
+QStringList words(const char *line) {
+  return QString::fromLatin1(line).split(u' ', Qt::SkipEmptyParts);
+}
+
+/// Nine pages, some of them turned, some of another size.
+std::string document() {
+  std::vector<MarkedPage> pages(9);
+  pages[2].rotate = 90;
+  pages[4].size = {842, 595};
+  pages[5].size = {420, 595};
+  pages[6].rotate = 180;
+  return documentOf(pages, codedPage);
+}
+
+class QueueJobs : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    for (const QString &obstacle : {PrivateCups::obstacle(), obstacleToFilters()}) {
+      if (!obstacle.isEmpty()) GTEST_SKIP() << obstacle.toStdString();
+    }
+    if (!obstacleToLooking().empty()) GTEST_SKIP() << obstacleToLooking();
+    cups = std::make_unique<PrivateCups>();
+    ASSERT_EQ(cups->addQueue(kQueue, orvekPPD(QStringLiteral("6180"))).exitStatus, 0);
+    file = kit.write(QStringLiteral("in.pdf"), document());
+  }
+
+  QStringList onQueue(const QStringList &options) const {
+    return QStringList{QStringLiteral("-d"), kQueue} + options + QStringList{file};
+  }
+
+  PaperSides paperOfJob(const QString &said) {
+    const auto job =
+        QRegularExpression(QStringLiteral("office-([0-9]+)")).match(said).captured(1).toInt();
+    EXPECT_EQ(cups->waitForJob(job), QStringLiteral("completed")) << cups->log().toStdString();
+    return paperIn(cups->printedBy(kQueue));
+  }
+
+  PaperSides printWithLp(const QStringList &options) {
+    return paperOfJob(cups->run(QStringLiteral("lp"), onQueue(options)).output);
+  }
+
+  PaperSides printWithTheDialog(const QStringList &options) {
+    const auto run = runProgram(
+        QStringList{QStringLiteral("--headless"), QStringLiteral("--print")} + onQueue(options));
+    EXPECT_EQ(run.status, 0) << run.errors.toStdString();
+    return paperOfJob(QString::fromUtf8(run.output));
+  }
+
+  QJsonObject preview(const QStringList &options) const {
+    return runProgram(QStringList{QStringLiteral("--headless"), QStringLiteral("--inspect")} +
+                      onQueue(options))
+        .json()["preview"]
+        .toObject();
+  }
+
+  std::unique_ptr<PrivateCups> cups;
+  DriverKit kit;
+  QString file;
+};
+
+TEST_F(QueueJobs, ComeOutOfLpAndOfTheDialogAsThePreviewSays) {
+  for (const char *line : lines) {
+    SCOPED_TRACE(line);
+    const QStringList options = words(line);
+    const QJsonObject said = preview(options);
+    EXPECT_GT(said["sides"].toArray().size(), 0);
+    EXPECT_EQ(differences(said, printWithLp(options)), QStringList());
+    EXPECT_EQ(differences(said, printWithTheDialog(options)), QStringList());
+  }
+}
+
+TEST_F(QueueJobs, MakeOfLpsOptionsTheBookletThatThePanelMakes) {
+  const PaperSides paper = printWithLp({QStringLiteral("-o"), QStringLiteral("OVKEnableBooklet"),
+                                        QStringLiteral("-o"), QStringLiteral("OVKGutter=36")});
+  QStringList acts;
+  for (const char *act : {"foldingPopup=Saddle", "bookletChckBox=on", "gutterSlider=36"}) {
+    acts << QStringLiteral("--do") << QLatin1String(act);
+  }
+  const PaperSides panels = printWithTheDialog(acts);
+  EXPECT_EQ(paper.sides.size(), 6U);
+  expectSeen(panels.sides, paper.sides);
+  EXPECT_EQ(differences(preview(acts), paper), QStringList());
+}
+
+}  // namespace
+}  // namespace orvek::test
