@@ -130,7 +130,7 @@ TEST_F(JobLayoutTest, FollowsJobSettingsThatATicketBrings) {
 
 TEST_F(JobLayoutTest, FollowsWhatIsSavedForTheQueue) {
   SessionSetup setup;
-  setup.printer = PrinterDescription::open(session->printer()->path()).take();
+  setup.printer = PrinterDescription::open(session->origin().printer->path()).take();
   setup.destination = QStringLiteral("queue");
   setup.queueOptions = {{QStringLiteral("number-up"), QStringLiteral("2")},
                         {QStringLiteral("copies"), QStringLiteral("2")},
@@ -147,7 +147,7 @@ TEST_F(JobLayoutTest, FollowsWhatIsSavedForTheQueue) {
 
 TEST_F(JobLayoutTest, TurnsOrderRoundAsATrayThatPilesFaceUpWantsIt) {
   const QTemporaryDir folder;
-  QFile family(session->printer()->path());
+  QFile family(session->origin().printer->path());
   QFile faceUp(folder.filePath(QStringLiteral("face-up.ppd")));
   ASSERT_TRUE(family.open(QIODevice::ReadOnly) && faceUp.open(QIODevice::WriteOnly));
   faceUp.write(family.readAll() + "*DefaultOutputOrder: Reverse\n");

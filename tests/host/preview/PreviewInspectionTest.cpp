@@ -99,10 +99,10 @@ TEST(PreviewInspection, GivesOfEachPageWhatIsToBeSeen) {
   for (const char *scaling : {"none", "fill", "fit", "auto"}) {
     const auto session = familySession();
     const ActionScope action(*session);
-    session->ticket().setValue(QStringLiteral("print-scaling"), QString::fromLatin1(scaling));
+    session->setTicketValue(QStringLiteral("print-scaling"), QString::fromLatin1(scaling));
     expectVisible(inspectPreview(*session, {path}), false);
-    session->ticket().setValue(QStringLiteral("OVKEnableBooklet"), QStringLiteral("True"));
-    session->ticket().setValue(QStringLiteral("OVKCreep"), 36);
+    session->setTicketValue(QStringLiteral("OVKEnableBooklet"), QStringLiteral("True"));
+    session->setTicketValue(QStringLiteral("OVKCreep"), 36);
     expectVisible(inspectPreview(*session, {path}), true);
   }
 }
