@@ -132,7 +132,7 @@ class FailingQuery : public testing::Test {
 };
 
 TEST_F(FailingQuery, HasNoNameThatDNSCouldHold) {
-  EXPECT_TRUE(failsAtOnce((std::string(70, 'a') + ".local").c_str()));
+  EXPECT_TRUE(failsAtOnce(std::string(70, 'a').append(".local").c_str()));
 }
 
 TEST_F(FailingQuery, HasNoSocket) {
