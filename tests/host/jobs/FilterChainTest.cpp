@@ -114,11 +114,10 @@ TEST_F(FilterChain, PrintsOnlyThePagesAskedFor) {
 TEST_F(FilterChain, SaysThatThePagesAskedForAreNotThere) {
   const QString pdf = QStringLiteral(ORVEK_SOURCE_DIR "/samples/Finishing-Sample.pdf");
   request.files = {pdf};
-  request.pageRanges = QStringLiteral("9-12,99");
+  request.options.insert(QStringLiteral("page-ranges"), QStringLiteral("9-12,99"));
   EXPECT_EQ(failureLine(),
             pdf.toStdString() + ": has no page 9-12,99: the number of its pages is 8");
   request.files = {document};
-  request.pageRanges = QString();
   request.options.insert(QStringLiteral("page-ranges"), QStringLiteral("3"));
   EXPECT_EQ(failureLine(),
             document.toStdString() + ": has no page 3: the number of its pages is 2");
