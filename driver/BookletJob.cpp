@@ -6,26 +6,21 @@
 #include <unistd.h>
 
 #include <cstdlib>
+#include <span>
 #include <string_view>
 
 #include "driver/Imposer.h"
 #include "driver/JobPaper.h"
 #include "driver/StandardFilters.h"
 #include "driver/TemporaryFile.h"
+#include "imposition/SheetOptions.h"
 #include "imposition/StandardOptions.h"
 
 namespace orvek::driver {
 namespace {
 
-/// What other filters did to the pages before they came here. A second time, it would befall
-/// sheets.
-void removeWhatIsDone(FilterOptions *options) {
-  options->remove({"page-ranges", "page-set", "outputorder", "OutputOrder", "orientation-requested",
-                   "landscape", "mirror", "fit-to-page", "fitplot", "print-scaling", "scaling",
-                   "natural-scaling", "position", "number-up", "number-up-layout", "page-border",
-                   "booklet", "booklet-signature", "cupsEvenDuplex"});
-  options->remove({enableBookletKey.data(), rightToLeftKey.data(), pageBordersKey.data(),
-                   gutterKey.data(), creepKey.data(), targetPaperSizeKey.data()});
+void removeAll(FilterOptions *options, std::span<const char *const> names) {
+  for (const char *name : names) options->remove({name});
 }
 
 std::string ppdFile() {
@@ -106,15 +101,12 @@ Result<File> sheetsOf(const BookletJob &job, FilterOptions *options) {
 }  // namespace
 
 void prepareForSheets(FilterOptions *options, const std::string &pageSize) {
-  removeWhatIsDone(options);
-  options->remove({"sides", "Duplex", "JCLDuplex", "EFDuplex", "KD03Duplex", "duplex",
-                   "multiple-document-handling", "collate"});
-  options->set("Duplex", "DuplexTumble");
-  options->set("sides", "two-sided-short-edge");
-  options->set("Collate", "True");
+  removeAll(options, imposition::doneWithSheets);
+  removeAll(options, imposition::againstSheets);
+  for (const auto &[name, value] : imposition::sheetOptions) options->set(name, value);
   if (pageSize.empty()) return;
-  options->remove({"media", "media-col", "media-size", "PageSize", "PageRegion"});
-  options->set("PageSize", pageSize.c_str());
+  removeAll(options, imposition::paperOptions);
+  options->set(imposition::sheetPaperOption, pageSize.c_str());
 }
 
 Result<int> writeSheets(const BookletJob &job, FilterOptions *options) {

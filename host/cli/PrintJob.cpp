@@ -27,10 +27,21 @@ Status tellJob(const CommandLine &line, const QString &words) {
   return {};
 }
 
+void tellDriver(const JobOutcome &outcome) {
+  if (outcome.driver == ServerDriver::Works) return;
+  tell(QStringLiteral("%1: %2; the sheets were made here and sent finished")
+           .arg(outcome.queue, lackOfDriver(outcome.driver)));
+}
+
 Status printOnQueue(const CommandLine &line, const JobRequest &request) {
   JobControl control;
-  const Result<JobOutcome> outcome = submitToQueue(request, control);
-  return outcome ? tellJob(line, requestIdLine(request, outcome.value())) : outcome.failure();
+  // Nobody can be asked, and without its sheets the job would not be what was asked for.
+  JobRequest whole = request;
+  whole.mayMakeSheets = true;
+  const Result<JobOutcome> outcome = submitToQueue(whole, control);
+  if (!outcome) return outcome.failure();
+  tellDriver(outcome.value());
+  return tellJob(line, requestIdLine(request, outcome.value()));
 }
 
 // Only one document's pages are sure to end up in one set.
@@ -57,6 +68,7 @@ JobRequest jobRequestFor(const CommandLine &line, PrintSession &session,
   request.options = session.job().options();
   request.overruled = session.job().overruledOptions();
   request.texts = session.job().optionsWithCustomValues();
+  request.sheetPaper = session.job().sheetPaper();
   request.ppdFile = session.origin().printer ? session.origin().printer->path() : QString();
   request.outputFile = line.output;
   const Destination destination = destinationFrom(session.origin().destination);

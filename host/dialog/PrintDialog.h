@@ -91,6 +91,8 @@ class PrintDialog final : public QDialog {
   JobRequest gatherRequest();
   bool completeRequest(JobRequest *request);
   bool acceptsWarnings();
+  void start();
+  bool acceptsSheets(const JobOutcome &outcome);
   void showProgress(const JobProgress &progress);
   void end(const JobOutcome &outcome);
   void showFailure(const Failure &failure);

@@ -11,6 +11,7 @@
 #include "host/dialog/PrinterChooser.h"
 #include "host/dialog/ProgressText.h"
 #include "host/jobs/BackgroundJob.h"
+#include "host/jobs/BookletDriver.h"
 #include "host/jobs/FilterChain.h"
 #include "host/jobs/QueueJob.h"
 #include "host/printers/Queue.h"
@@ -52,14 +53,33 @@ bool PrintDialog::acceptsWarnings() {
   return question.clickedButton() == print;
 }
 
+// Of a job that was held back.
+bool PrintDialog::acceptsSheets(const JobOutcome &outcome) {
+  const Failure lack{FailureKind::Io, outcome.queue, lackOfDriver(outcome.driver)};
+  QMessageBox question(QMessageBox::Question, tr("Print"), failureText(lack) + QLatin1Char('.'),
+                       QMessageBox::Cancel, this);
+  question.setInformativeText(tr("The sheets can be made on this computer and sent finished."));
+  const QString words = asksForBooklet(m_request.options) ? tr("&Impose here and print")
+                                                          : tr("&Prepare here and print");
+  QPushButton *print = question.addButton(words, QMessageBox::AcceptRole);
+  question.setDefaultButton(print);
+  question.setEscapeButton(QMessageBox::Cancel);
+  question.exec();
+  return question.clickedButton() == print;
+}
+
 void PrintDialog::print() {
   if (m_job->isRunning() || m_switch.isAsking()) return;
   JobRequest request = gatherRequest();
   if (!acceptsWarnings() || !completeRequest(&request)) return;
+  m_request = request;
+  start();
+}
+
+void PrintDialog::start() {
   m_notices->fallSilent();
   m_isCancelling = false;
-  m_request = request;
-  m_job->start(request, request.queue.isNull() ? printThroughFilters : submitToQueue);
+  m_job->start(m_request, m_request.queue.isNull() ? printThroughFilters : submitToQueue);
   showProgress({});
   updateControls();
 }
@@ -81,6 +101,12 @@ void PrintDialog::showProgress(const JobProgress &progress) {
 }
 
 void PrintDialog::end(const JobOutcome &outcome) {
+  if (outcome.isHeldBack) {
+    updateControls();
+    m_request.mayMakeSheets = acceptsSheets(outcome);
+    if (m_request.mayMakeSheets) start();
+    return;
+  }
   m_outcome = outcome;
   if (m_setup.presets && !m_request.queue.isNull()) {
     // The job went; that it can't be remembered is no reason to stay.

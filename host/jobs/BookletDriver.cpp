@@ -46,12 +46,16 @@ QRegularExpression lines(const char *pattern) {
   return QRegularExpression(QLatin1String(pattern), QRegularExpression::MultilineOption);
 }
 
+bool makesBooklets(const QString &text) {
+  static const auto booklets = lines(R"(^\*OVKHasBooklet\s*:\s*"?True)");
+  return text.contains(booklets);
+}
+
 bool isOurs(const QString &text) {
   static const auto driver = lines(R"(^\*cupsFilter2\s*:\s*"[^"]*[ \t]orvek-booklet\s*")");
   static const auto anyFilter = lines(R"(^\*cupsFilter2?\s*:)");
-  static const auto booklets = lines(R"(^\*OVKHasBooklet\s*:\s*"?True)");
   if (text.contains(driver)) return true;
-  return text.contains(booklets) && !text.contains(anyFilter);
+  return makesBooklets(text) && !text.contains(anyFilter);
 }
 
 QString withoutFilters(QString text) {
@@ -88,6 +92,15 @@ QString findBookletDriver(const DriverPlaces &places) {
   return {};
 }
 
+Result<QString> requiredBookletDriver(const DriverPlaces &places) {
+  const QString driver = findBookletDriver(places);
+  if (!driver.isNull()) return driver;
+  return Failure{
+      FailureKind::Io, driverName,
+      Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
+                               "not found, so no booklet can be made; install this filter, too"))};
+}
+
 bool asksForBooklet(const QMap<QString, QString> &options) {
   const auto value = [&options](const char *key) -> std::optional<std::string> {
     const auto found = valueNamed(options, QLatin1String(key));
@@ -96,20 +109,26 @@ bool asksForBooklet(const QMap<QString, QString> &options) {
   return imposition::readBookletKeys(value).enabled;
 }
 
+NamedDriver driverNamedIn(const QString &ppdFile) {
+  static const auto driver = lines(R"(^\*cupsFilter2?\s*:\s*"[^"]*[ \t/]orvek-booklet\s*")");
+  // A line may say that a format is the printer's own, or speak of commands to it.
+  static const auto other =
+      lines(R"(^\*cupsFilter2?\s*:\s*"(?!application/vnd\.cups-command\s)[^"]*\s(?!-\s*")\S+\s*")");
+  const QString text = textOf(ppdFile);
+  if (text.contains(driver)) return NamedDriver::Ours;
+  return makesBooklets(text) && !text.contains(other) ? NamedDriver::NoneForBooklets
+                                                      : NamedDriver::Other;
+}
+
 Result<ChainPPD> ChainPPD::of(const QString &ppdFile, const QMap<QString, QString> &options,
                               const DriverPlaces &places) {
   const QString text = textOf(ppdFile);
   if (!isOurs(text)) return ChainPPD(ppdFile);
   if (!asksForBooklet(options)) return copied(ppdFile, withoutFilters(text).toLatin1());
-  const QString driver = findBookletDriver(places);
-  if (driver.isNull()) {
-    return Failure{
-        FailureKind::Io, driverName,
-        Phrase(QT_TRANSLATE_NOOP(
-            "orvek::Failure", "not found, so no booklet can be made; install this filter, too"))};
-  }
+  const auto driver = requiredBookletDriver(places);
+  if (!driver) return driver.failure();
   // Text of the PPD goes back as it came, byte by byte; so does the path.
-  const QString path = QString::fromLatin1(QFile::encodeName(driver));
+  const QString path = QString::fromLatin1(QFile::encodeName(driver.value()));
   return copied(ppdFile, withDriver(text, path).toLatin1());
 }
 

@@ -25,8 +25,23 @@ struct DriverPlaces {
 /// there is none.
 QString findBookletDriver(const DriverPlaces &places);
 
+/// The same; a failure where there is none.
+Result<QString> requiredBookletDriver(const DriverPlaces &places);
+
 /// Whether the driver would make a booklet of a job with these options.
 bool asksForBooklet(const QMap<QString, QString> &options);
+
+/// Whom a PPD leaves documents to.
+enum class NamedDriver {
+  /// It names the driver, by name or by path.
+  Ours,
+  /// It names no filter that has a part in documents, though its printer makes booklets.
+  NoneForBooklets,
+  /// Anything else; also a PPD that can't be read.
+  Other
+};
+
+NamedDriver driverNamedIn(const QString &ppdFile);
 
 /// The PPD that one job's filters are chosen by. Where it is a copy, the object owns that, and
 /// it goes with it. What fails is a value of of(). Use it on one thread at a time.

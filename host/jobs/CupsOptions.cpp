@@ -22,4 +22,12 @@ void CupsOptions::addMissing(const QMap<QString, QString> &options) {
   }
 }
 
+QMap<QString, QString> CupsOptions::all() const {
+  QMap<QString, QString> options;
+  for (int i = 0; i < m_count; ++i) {
+    options.insert(QString::fromUtf8(m_options[i].name), QString::fromUtf8(m_options[i].value));
+  }
+  return options;
+}
+
 }  // namespace orvek

@@ -24,6 +24,9 @@ class CupsOptions {
   /// An option's value, or null.
   const char *value(const char *name) const { return cupsGetOption(name, m_count, m_options); }
 
+  /// All of them.
+  QMap<QString, QString> all() const;
+
   int count() const { return m_count; }
   cups_option_t *array() const { return m_options; }
 

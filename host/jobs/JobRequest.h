@@ -8,6 +8,7 @@
 #include <atomic>
 #include <functional>
 
+#include "host/jobs/ServerDriver.h"
 #include "host/printers/ServerAccess.h"
 #include "platform/system/Result.h"
 
@@ -44,6 +45,11 @@ struct JobRequest {
   QString server;
   /// To a queue: how long its server may keep silent.
   std::chrono::milliseconds patience = serverPatience;
+  /// To a queue whose server lacks the driver: the sheets are made here and sent finished. Without
+  /// it nothing is sent there, and the outcome says so.
+  bool mayMakeSheets = false;
+  /// A booklet's: which choice of PageSize its sheets are; null: the job's own paper.
+  QString sheetPaper;
   /// To a queue: asked on the job's thread; null: nobody can be asked.
   std::shared_ptr<PasswordSource> passwords;
 };
@@ -72,6 +78,12 @@ struct JobOutcome {
   int documents = 0;
   /// As in JobProgress.
   qint64 bytes = 0;
+  /// Of a queue's server. Where it does not work, the sheets were made here, or the job was held
+  /// back.
+  ServerDriver driver = ServerDriver::Works;
+  /// Nothing was sent, and nothing failed: the driver does not work, and whoever asked for the job
+  /// has not said that its sheets may be made here.
+  bool isHeldBack = false;
 };
 
 /// Between a running job and whoever waits for it, who owns it until the job has ended. `cancelled`

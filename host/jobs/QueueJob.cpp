@@ -4,17 +4,24 @@
 #include "host/jobs/QueueJob.h"
 
 #include <QFileInfo>
+#include <algorithm>
 
+#include "host/jobs/BookletDriver.h"
 #include "host/jobs/CreateJob.h"
 #include "host/jobs/CupsOptions.h"
 #include "host/jobs/Document.h"
 #include "host/jobs/DocumentReader.h"
-#include "host/jobs/FilterChain.h"
+#include "host/jobs/FinishedSheets.h"
+#include "host/jobs/JobState.h"
+#include "host/jobs/ServerDriver.h"
 #include "host/printers/CupsConnection.h"
 #include "host/printers/PrinterList.h"
+#include "host/printers/QueuePPD.h"
 
 namespace orvek {
 namespace {
+
+constexpr const char *stateReasons = "printer-state-reasons";
 
 /// One job under way.
 struct Submission {
@@ -133,8 +140,101 @@ QMap<QString, QString> savedOptions(const Queue &queue, const JobRequest &reques
   return options;
 }
 
+// An administrator's description counts, whatever one the job was made with.
+QString descriptionOf(const CupsConnection &connection, const Queue &queue) {
+  const auto path = QueuePPD().fetch(connection, queue.name);
+  return path ? path.value() : QString();
+}
+
 QString destinationOf(const JobRequest &request) {
   return request.instance.isEmpty() ? request.queue : request.queue + u'/' + request.instance;
+}
+
+/// A queue that was found, and the connection to its server.
+struct Target {
+  std::unique_ptr<CupsConnection> connection;
+  Queue queue;
+};
+
+Result<Target> findTarget(const JobRequest &request, const JobControl &control) {
+  auto connection = CupsConnection::open(accessOf(request, &control.cancelled));
+  if (!connection) return connection.failure();
+  const auto queue = findPrinter(*connection.value(), destinationOf(request));
+  if (!queue) return control.cancelled ? jobCancelled() : queue.failure();
+  return Target{connection.take(), queue.value()};
+}
+
+void cancelQuietly(const JobRequest &request, const QString &queue, int jobId) {
+  ServerAccess quietly = accessOf(request, nullptr);
+  if (quietly.passwords) quietly.passwords = quietly.passwords->withoutAsking();
+  (void)cancelJob(quietly, queue, jobId);
+}
+
+Result<JobOutcome> send(Target &target, const JobRequest &request, const CupsOptions &options,
+                        const QByteArray &beginOfInput, JobControl &control) {
+  const QString name = target.queue.name;
+  Submission job{control, *target.connection, name.toUtf8(), options, beginOfInput, 0, {}};
+  if (Status created = createJob(job, target.queue, request); !created) return created.failure();
+  if (Status sent = sendAll(job, effectiveFiles(request)); !sent) {
+    // The connection may be in the middle of a document; only a new one can be used to cancel.
+    target.connection.reset();
+    cancelQuietly(request, name, job.jobId);
+    return sent.failure();
+  }
+  return JobOutcome{job.jobId, name, job.progress.documents, job.progress.bytes};
+}
+
+/// Makes the sheets of a job, all of whose options are `job`'s, and sends those.
+Result<JobOutcome> sendSheets(const JobRequest &job, ServerDriver driver,
+                              const QByteArray &beginOfInput, JobControl &control) {
+  const auto sheets = FinishedSheets::of(job, driver, control, beginOfInput);
+  if (!sheets) return sheets.failure();
+  const JobRequest &request = sheets.value()->request();
+  // That may have taken longer than a server keeps a connection.
+  auto target = findTarget(request, control);
+  if (!target) return target.failure();
+  auto sent = send(target.value(), request, CupsOptions(request.options), {}, control);
+  if (!sent) return sent;
+  sent.value().driver = driver;
+  return sent;
+}
+
+/// Another way for a job, all of whose options are `job`'s, that is not to be sent as it is.
+Result<JobOutcome> goAround(ServerDriver driver, const JobRequest &job, const QString &queue,
+                            const QByteArray &beginOfInput, JobControl &control) {
+  if (!job.mayMakeSheets) return JobOutcome{0, queue, 0, 0, driver, true};
+  return sendSheets(job, driver, beginOfInput, control);
+}
+
+ServerDriver driverOf(const Target &target, JobRequest *job) {
+  const QString reasons = target.queue.options.value(QLatin1String(stateReasons));
+  if (!dependsOnServerDriver(job->options, reasons)) return ServerDriver::Works;
+  job->ppdFile = descriptionOf(*target.connection, target.queue);
+  return serverDriverFor(job->options, reasons, job->ppdFile);
+}
+
+// A server forgets that it lacks a filter with every job that needs none, and remembers it with the
+// next that does.
+bool isStoppedForDriver(const Target &target, const JobRequest &job, int jobId) {
+  if (job.ppdFile.isNull() || driverNamedIn(job.ppdFile) != NamedDriver::Ours) return false;
+  return isStoppedByServer(target.connection->http(), jobId);
+}
+
+Result<JobOutcome> replaceStopped(const JobOutcome &stopped, JobRequest job, JobControl &control) {
+  auto target = findTarget(job, control);
+  if (!target) return target.failure();
+  const ServerDriver driver = driverOf(target.value(), &job);
+  if (driver != ServerDriver::StopsEveryJob) return stopped;
+  cancelQuietly(job, stopped.queue, stopped.jobId);
+  const QStringList files = effectiveFiles(job);
+  if (std::none_of(files.begin(), files.end(), comesOnce)) {
+    return goAround(driver, job, stopped.queue, {}, control);
+  }
+  return Failure{FailureKind::Io, stopped.queue,
+                 Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
+                                          "%1; print it once more, and its sheets are made "
+                                          "on this computer"),
+                        {lackOfDriver(driver)})};
 }
 
 }  // namespace
@@ -144,25 +244,20 @@ Result<JobOutcome> submitToQueue(const JobRequest &request, JobControl &control)
   if (Status checked = checkAllDocuments(files); !checked) return checked.failure();
   auto begin = beginOfStandardInput(files, control);
   if (!begin) return begin.failure();
-  auto connection = CupsConnection::open(accessOf(request, &control.cancelled));
-  if (!connection) return connection.failure();
-  const auto queue = findPrinter(*connection.value(), destinationOf(request));
-  if (!queue) return control.cancelled ? jobCancelled() : queue.failure();
+  auto target = findTarget(request, control);
+  if (!target) return target.failure();
 
   CupsOptions options(effectiveOptions(request));
-  options.addMissing(savedOptions(queue.value(), request));
-  const QString name = queue.value().name;
-  Submission job{control, *connection.value(), name.toUtf8(), options, begin.take(), 0, {}};
-  if (Status created = createJob(job, queue.value(), request); !created) return created.failure();
-  if (Status sent = sendAll(job, files); !sent) {
-    // The connection may be in the middle of a document; only a new one can be used to cancel.
-    connection.value().reset();
-    ServerAccess quietly = accessOf(request, nullptr);
-    if (quietly.passwords) quietly.passwords = quietly.passwords->withoutAsking();
-    (void)cancelJob(quietly, name, job.jobId);
-    return sent.failure();
+  options.addMissing(savedOptions(target.value().queue, request));
+  JobRequest job = request;
+  job.options = options.all();
+  const ServerDriver driver = driverOf(target.value(), &job);
+  if (driver != ServerDriver::Works) {
+    return goAround(driver, job, target.value().queue.name, begin.value(), control);
   }
-  return JobOutcome{job.jobId, name, job.progress.documents, job.progress.bytes};
+  const auto sent = send(target.value(), request, options, begin.value(), control);
+  if (!sent || !isStoppedForDriver(target.value(), job, sent.value().jobId)) return sent;
+  return replaceStopped(sent.value(), job, control);
 }
 
 Status cancelJob(const ServerAccess &access, const QString &queue, int jobId) {

@@ -14,6 +14,10 @@ namespace orvek {
 /// block, so memory does not grow with them. What is cancelled, or fails half-way, is cancelled on
 /// the server.
 ///
+/// Where the server lacks the driver that the job needs, its sheets are made here and sent finished
+/// (FinishedSheets.h), or, where the request does not allow that, nothing is sent: the outcome says
+/// so.
+///
 /// Failures: a document can't be read, standard input is empty, no server or one that hangs, no
 /// such queue, what the server refuses (in its words), cancelled.
 Result<JobOutcome> submitToQueue(const JobRequest &request, JobControl &control);

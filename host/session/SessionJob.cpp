@@ -4,12 +4,19 @@
 #include "host/session/SessionJob.h"
 
 #include "host/session/PrintSession.h"
+#include "host/ticket/BookletSettings.h"
 #include "host/ticket/JobOptionNames.h"
 #include "host/ticket/JobOptions.h"
 #include "host/ticket/ServerWords.h"
 #include "platform/plugin/BookletKeys.h"
 
 namespace orvek {
+namespace {
+
+const QString paperOption = QStringLiteral("PageSize");
+
+}  // namespace
+
 bool SessionJob::printerCollates() const {
   return m_session.marks().printer().has(collateOption);
 }
@@ -67,6 +74,13 @@ int SessionJob::pagesPerSheet() const {
 void SessionJob::setPagesPerSheet(int pages) {
   const ActionScope action(m_session);
   m_session.setTicketValue(layoutNUpKey, pages);
+}
+
+QString SessionJob::sheetPaper() const {
+  const auto papers = m_session.marks().printer().option(paperOption).choices();
+  const int target = bookletSettings(m_session.ticket().values()).targetPaper;
+  const auto choice = imposition::targetPaperChoice(target, static_cast<int>(papers.size()));
+  return choice ? papers[*choice].keyword : QString();
 }
 
 TicketValues SessionJob::ticketToKeep() {

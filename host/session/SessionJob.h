@@ -39,6 +39,9 @@ class SessionJob {
   int pagesPerSheet() const;
   void setPagesPerSheet(int pages);
 
+  /// The choice of PageSize that a booklet is to be made for; null: the job's own paper.
+  QString sheetPaper() const;
+
   /// What a job must say: every marked choice that is not the PPD's default or not the queue's,
   /// every ticket key, and in the words of the print server the pages per sheet, the job settings,
   /// and what was asked for in such words and still stands.

@@ -172,12 +172,28 @@ void PrivateCups::installPrograms(bool withDriver) {
   const QDir own(m_folder.filePath(QStringLiteral("bin")));
   const QDir filters(own.filePath(QStringLiteral("filter")));
   const QString driver = filters.filePath(QStringLiteral("orvek-booklet"));
+  installKeepingBackend();
   filters.mkpath(QStringLiteral("."));
   linkAllOf(QDir(machine.filePath(QStringLiteral("filter"))), filters);
   linkAllOf(machine, own);
   QFile::remove(driver);
   if (!withDriver) return;
   ASSERT_TRUE(QFile::copy(QStringLiteral(ORVEK_BOOKLET_FILTER), driver));
+}
+
+/// As a backend does that prints to a device: a job that no filter has touched comes as a file, and
+/// is sent as often as there are copies.
+void PrivateCups::installKeepingBackend() {
+  const QDir backends(m_folder.filePath(QStringLiteral("bin/backend")));
+  backends.mkpath(QStringLiteral("."));
+  linkAllOf(QDir(QStringLiteral(ORVEK_CUPS_SERVERBIN "/backend")), backends);
+  const QString keep = backends.filePath(QStringLiteral("keep"));
+  writeContents(keep,
+                "#!/bin/sh\n[ $# -gt 0 ] || { echo 'direct keep \"\" \"\"'; exit 0; }\n"
+                "copies=1; [ -z \"$6\" ] || copies=$4\n"
+                "for i in $(seq $copies); do cat ${6:+\"$6\"}; done > \"${DEVICE_URI#keep:}\"\n");
+  // What only its owner may run is run as root, who may write everywhere.
+  QFile::setPermissions(keep, QFile::ReadOwner | QFile::ExeOwner);
 }
 
 void PrivateCups::writeConfiguration(const PrivateCupsSetup &setup) {
@@ -244,6 +260,10 @@ void PrivateCups::resume() {
 
 QString PrivateCups::printedBy(const QString &queue) const {
   return m_folder.filePath(QStringLiteral("printed/") + queue);
+}
+
+QStringList PrivateCups::keepingBackend(const QString &queue) const {
+  return {QStringLiteral("-v"), QStringLiteral("keep:") + printedBy(queue)};
 }
 
 Ran PrivateCups::addQueue(const QString &name, const QString &ppdFile, const QStringList &more) {

@@ -68,6 +68,10 @@ class PrivateCups {
   Ran addQueue(const QString &name, const QString &ppdFile, const QStringList &more = {});
   QString printedBy(const QString &queue) const;
 
+  /// What makes a queue of addQueue() print there through a backend. The scheduler's own way into
+  /// files prints nothing of jobs that need no filter.
+  QStringList keepingBackend(const QString &queue) const;
+
   /// Runs a program of CUPS against this server.
   Ran run(const QString &program, const QStringList &arguments, const QByteArray &input = {}) const;
 
@@ -85,6 +89,7 @@ class PrivateCups {
 
  private:
   void installPrograms(bool withDriver);
+  void installKeepingBackend();
   void writeConfiguration(const PrivateCupsSetup &setup);
   void pointEnvironmentHere();
 

@@ -9,6 +9,7 @@
 #include "tests/driver/Picture.h"
 #include "tests/host/cli/Program.h"
 #include "tests/support/CapturingFilter.h"
+#include "tests/support/PrivateCups.h"
 
 namespace orvek::test {
 namespace {
@@ -50,6 +51,28 @@ TEST_F(ProgramBooklet, PrintsTheSampleOnTwoSheets) {
       print(QStringLiteral(ORVEK_SOURCE_DIR "/samples/Finishing-Sample.pdf"));
   EXPECT_EQ(printed.count("%%Page: "), 4);
   EXPECT_EQ(printed.count("%%BeginFeature: *Duplex DuplexTumble"), 1);
+}
+
+TEST_F(ProgramBooklet, IsMadeHereWhereTheServerCannotMakeItAndSaysSo) {
+  if (!PrivateCups::obstacle().isEmpty()) GTEST_SKIP() << PrivateCups::obstacle().toStdString();
+  PrivateCupsSetup setup;
+  setup.hasDriver = false;
+  PrivateCups cups(setup);
+  cups.addQueue(QStringLiteral("old"), kit.plainPPD());
+  const QString document = kit.write(QStringLiteral("in.pdf"), markedDocument(8));
+  const auto run = runProgram({QStringLiteral("--headless"), QStringLiteral("--print"),
+                               QStringLiteral("-d"), QStringLiteral("old"), QStringLiteral("--do"),
+                               QStringLiteral("bookletChckBox=on"), document});
+  EXPECT_EQ(run.status, 0) << run.errors.toStdString();
+  EXPECT_EQ(run.output, "request id is old-1 (1 file(s))\n");
+  EXPECT_TRUE(
+      run.errors.contains("old: the server's driver can't make booklets; the sheets were "
+                          "made here and sent finished\n"));
+  EXPECT_EQ(cups.waitForJob(1), QStringLiteral("completed"));
+  constexpr Size a4{595, 842};
+  const std::vector<Size> pages(8, a4);
+  expectSeen(look(cups.printedBy(QStringLiteral("old")).toStdString()),
+             expectedSides(imposition::imposeBooklet(pages, a4, {}), a4));
 }
 
 }  // namespace

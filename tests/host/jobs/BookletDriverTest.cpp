@@ -105,6 +105,33 @@ TEST_F(BookletDriver, LeavesOtherPrintersAlone) {
   }
 }
 
+TEST_F(BookletDriver, IsKnownToBeNamedByNameOrByPath) {
+  const QByteArray byPath = QByteArray(own).replace(" orvek-booklet\"", " /opt/orvek-booklet\"");
+  const QByteArray inTheOldForm =
+      plain + "*cupsFilter: \"application/vnd.cups-pdf 0 orvek-booklet\"\n";
+  for (const QByteArray &text : {own, byPath, inTheOldForm}) {
+    EXPECT_EQ(driverNamedIn(write(text)), NamedDriver::Ours);
+  }
+}
+
+TEST_F(BookletDriver, IsKnownToBeLeftOutWhereNoOtherFilterIsNamed) {
+  const QByteArray formatsAlone =
+      plain + "*cupsFilter2: \"application/postscript application/vnd.cups-postscript 0 -\"\n" +
+      "*cupsFilter: \"application/vnd.cups-command 0 commandtops\"\n";
+  for (const QByteArray &text : {plain, formatsAlone}) {
+    EXPECT_EQ(driverNamedIn(write(text)), NamedDriver::NoneForBooklets);
+  }
+}
+
+TEST_F(BookletDriver, IsNoMatterOfOtherPrinters) {
+  const QByteArray other = plain + "*cupsFilter: \"application/vnd.cups-postscript 0 theirs\"\n";
+  const QByteArray noBooklets = QByteArray(plain).replace("*OVKHasBooklet: \"True\"\n", "");
+  for (const QByteArray &text : {other, noBooklets, QByteArray("no PPD\n")}) {
+    EXPECT_EQ(driverNamedIn(write(text)), NamedDriver::Other);
+  }
+  EXPECT_EQ(driverNamedIn(folder.filePath(QStringLiteral("none.ppd"))), NamedDriver::Other);
+}
+
 TEST_F(BookletDriver, IsMissedByABookletOnly) {
   write(own);
   const auto ppd = ChainPPD::of(file, booklet, places);

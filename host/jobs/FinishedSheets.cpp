@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: Apache-2.0
+// Runs the filters and the driver that the server would have run.
+
+#include "host/jobs/FinishedSheets.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include "host/jobs/BookletDriver.h"
+#include "host/jobs/Document.h"
+#include "host/jobs/FilterChain.h"
+#include "host/jobs/FilterRun.h"
+#include "host/jobs/InputSpool.h"
+#include "host/jobs/OptionText.h"
+#include "host/jobs/OutputTarget.h"
+#include "imposition/SheetOptions.h"
+
+namespace orvek {
+namespace {
+
+using Options = QMap<QString, QString>;
+
+const QString copiesOption = QStringLiteral("copies");
+const QString formatOption = QStringLiteral("document-format");
+const QString bannersOption = QStringLiteral("job-sheets");
+
+template <typename Names>
+void removeAll(Options *options, const Names &names) {
+  for (const char *name : names) {
+    options->removeIf([name](const auto &option) {
+      return option.key().compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
+    });
+  }
+}
+
+// What a queue says of itself stands among the options saved for it.
+void removeDescriptions(Options *options) {
+  options->removeIf([](const auto &option) {
+    return option.key().startsWith(QStringLiteral("printer-")) ||
+           option.key().startsWith(QStringLiteral("marker-")) ||
+           option.key() == QStringLiteral("device-uri") || option.key() == bannersOption;
+  });
+}
+
+/// The job as the filters here get it.
+JobRequest filtered(const JobRequest &request) {
+  JobRequest job = request;
+  removeDescriptions(&job.options);
+  removeAll(&job.options, std::array{"document-format"});
+  return job;
+}
+
+/// Sheets are as many as the copies that the server makes of them.
+JobRequest withoutCopies(JobRequest request) {
+  removeAll(&request.options, std::array{"copies"});
+  return request;
+}
+
+void askForSheets(JobRequest *job, const QString &paper) {
+  removeAll(&job->options, imposition::doneWithSheets);
+  removeAll(&job->options, imposition::againstSheets);
+  for (const auto &[name, value] : imposition::sheetOptions) {
+    job->options.insert(QLatin1String(name), QLatin1String(value));
+  }
+  if (paper.isNull()) return;
+  removeAll(&job->options, imposition::paperOptions);
+  job->options.insert(QLatin1String(imposition::sheetPaperOption), paper);
+}
+
+// Printers take copies from the job's bytes; backends would make them once more.
+void askForNothingMore(JobRequest *job) {
+  removeAll(&job->options, imposition::doneWithSheets);
+  job->options.insert(copiesOption, QStringLiteral("1"));
+  job->options.insert(bannersOption, QStringLiteral("none"));
+  job->options.insert(formatOption, QStringLiteral("application/vnd.cups-raw"));
+}
+
+/// The job that prints finished sheets; its documents are still to be named.
+JobRequest finished(const JobRequest &request, ServerDriver driver) {
+  JobRequest job = request;
+  job.title = effectiveTitle(request);
+  job.options = effectiveOptions(request);
+  removeAll(&job.options, std::array{"document-format"});
+  if (driver == ServerDriver::StopsEveryJob) {
+    askForNothingMore(&job);
+  } else {
+    askForSheets(&job, request.sheetPaper);
+  }
+  job.files.clear();
+  return job;
+}
+
+QString textOf(const Options &options) {
+  QStringList texts;
+  for (auto option = options.cbegin(); option != options.cend(); ++option) {
+    texts << optionText(option.key(), option.value());
+  }
+  return texts.join(u' ');
+}
+
+Status runInto(const QString &file, const FilterProgram &program, const Phrase &document,
+               const QString &ppd, JobControl &control) {
+  auto target = OutputTarget::open(file);
+  if (!target) return target.failure();
+  FilterRun run{ppd, control, *target.value()};
+  if (Status done = runFilters(run, program, document); !done) return done;
+  return target.value()->commit();
+}
+
+/// One document on its way.
+struct OneDocument {
+  QString file;
+  Phrase name;
+  QString output;
+};
+
+Status imposeInto(const OneDocument &document, const JobRequest &request, JobControl &control) {
+  const DriverPlaces places = DriverPlaces::ofThisProgram();
+  const auto driver = requiredBookletDriver(places);
+  if (!driver) return driver.failure();
+  const auto tool = requiredFilterTool();
+  if (!tool) return tool.failure();
+  const auto ppd = ChainPPD::of(request.ppdFile, {}, places);
+  if (!ppd) return ppd.failure();
+  const QString path = ppd.value().path();
+  const QString pages = document.output + QStringLiteral(".pages");
+  const auto toPages = filterToolCall(request, tool.value(), path,
+                                      QStringLiteral("application/vnd.cups-pdf"), document.file);
+  if (Status made = runInto(pages, toPages, document.name, request.ppdFile, control); !made) {
+    return made;
+  }
+  const QString anything = QStringLiteral("1");
+  const FilterProgram toSheets{
+      driver.value(),
+      {QStringLiteral("--sheets"), anything, request.user, effectiveTitle(request), anything,
+       textOf(effectiveOptions(request)), pages},
+      {{QStringLiteral("PPD"), path}}};
+  const Status imposed =
+      runInto(document.output, toSheets, document.name, request.ppdFile, control);
+  QFile::remove(pages);
+  return imposed;
+}
+
+Status printInto(const OneDocument &document, JobRequest request, JobControl &control) {
+  request.title = effectiveTitle(request);
+  request.files = QStringList{document.file};
+  request.outputFile = document.output;
+  const auto printed = printThroughFilters(request, control);
+  if (printed) return {};
+  Failure failure = printed.failure();
+  if (failure.what == document.file) failure.what = document.name;
+  return failure;
+}
+
+}  // namespace
+
+// Each under its own name, by which the server knows a document.
+Result<QString> FinishedSheets::placeFor(const QString &document, const QString &suffix) {
+  const QDir folder(m_folder.filePath(QString::number(++m_places)));
+  if (!m_folder.isValid() || !folder.mkpath(QStringLiteral("."))) {
+    return Failure{FailureKind::Io, QDir::tempPath(), Phrase::ofSystem(m_folder.errorString())};
+  }
+  const QString name =
+      isStandardInput(document) ? QStringLiteral("stdin") : QFileInfo(document).completeBaseName();
+  return folder.filePath(name + suffix);
+}
+
+Result<std::unique_ptr<FinishedSheets>> FinishedSheets::of(const JobRequest &request,
+                                                           ServerDriver driver, JobControl &control,
+                                                           const QByteArray &beginOfStandardInput) {
+  const bool areForDevice = driver == ServerDriver::StopsEveryJob;
+  std::unique_ptr<FinishedSheets> sheets(new FinishedSheets(finished(request, driver)));
+  const JobRequest job = filtered(areForDevice ? request : withoutCopies(request));
+  DocumentFiles copies;
+  for (const QString &document : effectiveFiles(request)) {
+    const auto files = copies.of({document}, control, beginOfStandardInput);
+    if (!files) return files.failure();
+    const auto place =
+        sheets->placeFor(document, areForDevice ? QStringLiteral(".ps") : QStringLiteral(".pdf"));
+    if (!place) return place.failure();
+    const OneDocument one{files.value().constFirst(), documentName(document), place.value()};
+    const Status made = areForDevice ? printInto(one, job, control) : imposeInto(one, job, control);
+    if (!made) return made.failure();
+    sheets->m_request.files << one.output;
+  }
+  return sheets;
+}
+
+}  // namespace orvek

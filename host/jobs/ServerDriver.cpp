@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: Apache-2.0
+// Reads the queue's description and state.
+
+#include "host/jobs/ServerDriver.h"
+
+#include <cups/cups.h>
+
+#include <array>
+
+#include "host/jobs/BookletDriver.h"
+
+namespace orvek {
+namespace {
+
+const QString missingFilter = QStringLiteral("cups-missing-filter");
+const QString untrustedFilter = QStringLiteral("cups-insecure-filter");
+
+/// No filter of the server has a part in documents of these formats.
+constexpr std::array deviceFormats{CUPS_FORMAT_RAW, "application/vnd.cups-postscript"};
+
+bool isDeviceReady(const QMap<QString, QString> &options) {
+  const QString format = options.value(QStringLiteral("document-format"));
+  for (const char *ready : deviceFormats) {
+    if (format == QLatin1String(ready)) return true;
+  }
+  return options.contains(QStringLiteral("raw"));
+}
+
+bool lacksAFilter(const QString &stateReasons) {
+  return stateReasons.contains(missingFilter) || stateReasons.contains(untrustedFilter);
+}
+
+}  // namespace
+
+Phrase lackOfDriver(ServerDriver driver) {
+  switch (driver) {
+    case ServerDriver::MakesNoBooklets:
+      return Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "the server's driver can't make booklets"));
+    case ServerDriver::StopsEveryJob:
+      return Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
+                                      "the server lacks the printer's driver and stops every job"));
+    case ServerDriver::Works:
+      break;
+  }
+  return {};
+}
+
+bool dependsOnServerDriver(const QMap<QString, QString> &options, const QString &stateReasons) {
+  return !isDeviceReady(options) && (lacksAFilter(stateReasons) || asksForBooklet(options));
+}
+
+ServerDriver serverDriverFor(const QMap<QString, QString> &options, const QString &stateReasons,
+                             const QString &queuePPD) {
+  if (queuePPD.isNull() || !dependsOnServerDriver(options, stateReasons)) {
+    return ServerDriver::Works;
+  }
+  switch (driverNamedIn(queuePPD)) {
+    case NamedDriver::Ours:
+      return lacksAFilter(stateReasons) ? ServerDriver::StopsEveryJob : ServerDriver::Works;
+    case NamedDriver::NoneForBooklets:
+      return asksForBooklet(options) ? ServerDriver::MakesNoBooklets : ServerDriver::Works;
+    case NamedDriver::Other:
+      break;
+  }
+  return ServerDriver::Works;
+}
+
+}  // namespace orvek
