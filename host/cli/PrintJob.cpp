@@ -46,8 +46,9 @@ Status printOnQueue(const CommandLine &line, const JobRequest &request) {
 
 // Only one document's pages are sure to end up in one set.
 int pagesOfOneSet(const PrintSession &session, const JobRequest &request) {
-  const bool count = request.files.size() == 1 &&
-                     warningsDependOnPages(session.marks(), session.ticket().values());
+  const bool matters = warningsDependOnPages(session.marks(), session.ticket().values()) ||
+                       !session.job().settings().pageRanges.isEmpty();
+  const bool count = matters && request.files.size() == 1;
   return count ? documentInfo(request.files.first()).pages : 0;
 }
 

@@ -74,6 +74,14 @@ QString tooManySheets(const Marks &marks, const TicketValues &ticket, const JobS
       .arg(most);
 }
 
+QString noSuchPage(const JobSettings &settings, int pages) {
+  const bool isKnown = pages > 0 && !settings.pageRanges.isEmpty();
+  if (!isKnown || !pagesInRanges(settings.pageRanges, pages).isEmpty()) return {};
+  return Words::tr("The document has no page %1: the number of its pages is %2")
+      .arg(settings.pageRanges)
+      .arg(pages);
+}
+
 }  // namespace
 
 int maximumBookletSheets(const PrinterDescription &printer) {
@@ -88,7 +96,7 @@ bool warningsDependOnPages(const Marks &marks, const TicketValues &ticket) {
 QStringList jobWarnings(const Marks &marks, const TicketValues &ticket, const JobSettings &settings,
                         int pages) {
   QStringList words{settings.pageRangesProblem, staplesUncollated(marks, settings),
-                    tooManySheets(marks, ticket, settings, pages)};
+                    tooManySheets(marks, ticket, settings, pages), noSuchPage(settings, pages)};
   words.removeAll(QString());
   return words;
 }

@@ -15,7 +15,8 @@ class PrintSession;
 
 /// One sentence, without a full stop, for each of: page ranges that can't be read (all pages would
 /// be printed); staples in copies that are not collated; a booklet of more sheets than the printer
-/// folds. `pages` is the document's page count (0: unknown, and then the booklet is not judged).
+/// folds; page ranges that the document has no page of. `pages` is the document's page count (0:
+/// unknown, and then the last two are not judged).
 QStringList jobWarnings(const Marks &marks, const TicketValues &ticket, const JobSettings &settings,
                         int pages);
 

@@ -8,6 +8,7 @@
 
 #include "host/ppd/Wording.h"
 #include "host/session/FirstMarks.h"
+#include "host/session/TicketBounds.h"
 
 namespace orvek {
 
@@ -38,6 +39,7 @@ Status PrintSession::markFirst() {
   const Result<QList<Resolution>> settled = orvek::markFirst(m_picks.marks(), *m_ticket, m_origin);
   if (!settled) return settled.failure();
   for (const Resolution &resolution : settled.value()) notice(resolution);
+  m_record.noteNotices(boundCopies(*m_ticket, marks().printer()));
   // What the queue's words stand for is as good as said: whoever asks what the queue would do by
   // itself finds it by the PPD's name.
   m_origin.queueOptions = withMeanings(m_picks.marks(), m_origin.queueOptions);

@@ -19,6 +19,10 @@
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
     </message>
+    <message>
+        <source>a booklet is printed on both sides</source>
+        <translation>eine Broschüre wird beidseitig gedruckt</translation>
+    </message>
 </context>
 <context>
     <name>orvek::ChooserRow</name>
@@ -647,6 +651,10 @@
         <source>A booklet of %1 sheets is more than the printer folds at once: at most %2</source>
         <translation>Eine Broschüre aus %1 Blatt ist mehr, als der Drucker auf einmal falzt: höchstens %2</translation>
     </message>
+    <message>
+        <source>The document has no page %1: the number of its pages is %2</source>
+        <translation>Das Dokument hat keine Seite %1: die Zahl seiner Seiten ist %2</translation>
+    </message>
 </context>
 <context>
     <name>orvek::NoticeBar</name>
@@ -874,6 +882,10 @@
     <message>
         <source>&quot;%1&quot; of this printer takes %2</source>
         <translation>„%1“ nimmt bei diesem Drucker %2</translation>
+    </message>
+    <message>
+        <source>this printer makes no booklets</source>
+        <translation>dieser Drucker stellt keine Broschüren her</translation>
     </message>
 </context>
 <context>
@@ -1301,6 +1313,17 @@
     <message>
         <source>All settings of the job; those that were changed come first</source>
         <translation>Alle Einstellungen des Auftrags, geänderte zuerst</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::TicketBounds</name>
+    <message>
+        <source>Copies was set to 1: less is no job</source>
+        <translation>Die Zahl der Exemplare wurde auf 1 gesetzt: weniger ist kein Auftrag</translation>
+    </message>
+    <message>
+        <source>Copies was set to %1: no job makes more</source>
+        <translation>Die Zahl der Exemplare wurde auf %1 gesetzt: mehr macht kein Auftrag</translation>
     </message>
 </context>
 <context>

@@ -19,6 +19,10 @@
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
     </message>
+    <message>
+        <source>a booklet is printed on both sides</source>
+        <translation>un livret s’imprime recto verso</translation>
+    </message>
 </context>
 <context>
     <name>orvek::ChooserRow</name>
@@ -647,6 +651,10 @@
         <source>A booklet of %1 sheets is more than the printer folds at once: at most %2</source>
         <translation>Un livret de %1 feuilles dépasse ce que l’imprimante plie en une fois : %2 au plus</translation>
     </message>
+    <message>
+        <source>The document has no page %1: the number of its pages is %2</source>
+        <translation>Le document n’a pas de page %1 : le nombre de ses pages est %2</translation>
+    </message>
 </context>
 <context>
     <name>orvek::NoticeBar</name>
@@ -874,6 +882,10 @@
     <message>
         <source>&quot;%1&quot; of this printer takes %2</source>
         <translation>« %1 » de cette imprimante accepte %2</translation>
+    </message>
+    <message>
+        <source>this printer makes no booklets</source>
+        <translation>cette imprimante ne fait pas de livrets</translation>
     </message>
 </context>
 <context>
@@ -1301,6 +1313,17 @@
     <message>
         <source>All settings of the job; those that were changed come first</source>
         <translation>Tous les réglages du travail, ceux modifiés en premier</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::TicketBounds</name>
+    <message>
+        <source>Copies was set to 1: less is no job</source>
+        <translation>Le nombre de copies a été mis à 1 : il en faut au moins une</translation>
+    </message>
+    <message>
+        <source>Copies was set to %1: no job makes more</source>
+        <translation>Le nombre de copies a été mis à %1 : aucune tâche n’en fait plus</translation>
     </message>
 </context>
 <context>

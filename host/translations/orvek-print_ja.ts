@@ -19,6 +19,10 @@
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
     </message>
+    <message>
+        <source>a booklet is printed on both sides</source>
+        <translation>小冊子は両面に印刷されます</translation>
+    </message>
 </context>
 <context>
     <name>orvek::ChooserRow</name>
@@ -647,6 +651,10 @@
         <source>A booklet of %1 sheets is more than the printer folds at once: at most %2</source>
         <translation>%1 枚の小冊子は一度に折れる枚数 (最大 %2 枚) を超えています</translation>
     </message>
+    <message>
+        <source>The document has no page %1: the number of its pages is %2</source>
+        <translation>文書にページ %1 がありません（ページ数は %2）</translation>
+    </message>
 </context>
 <context>
     <name>orvek::NoticeBar</name>
@@ -874,6 +882,10 @@
     <message>
         <source>&quot;%1&quot; of this printer takes %2</source>
         <translation>このプリンターの「%1」に使える値は %2</translation>
+    </message>
+    <message>
+        <source>this printer makes no booklets</source>
+        <translation>このプリンターは小冊子を作成しません</translation>
     </message>
 </context>
 <context>
@@ -1301,6 +1313,17 @@
     <message>
         <source>All settings of the job; those that were changed come first</source>
         <translation>ジョブのすべての設定 (変更したものが先)</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::TicketBounds</name>
+    <message>
+        <source>Copies was set to 1: less is no job</source>
+        <translation>部数を 1 にしました。これより少なくはできません</translation>
+    </message>
+    <message>
+        <source>Copies was set to %1: no job makes more</source>
+        <translation>部数を %1 にしました。これより多くはできません</translation>
     </message>
 </context>
 <context>

@@ -60,5 +60,32 @@ TEST(JobSettings, BeginAsACommandLineAsks) {
   EXPECT_EQ(session->job().options(), (Options{{"page-ranges", "2-4"}}));
 }
 
+std::unique_ptr<PrintSession> sessionWithCopies(const QVariant &copies) {
+  SessionSetup setup;
+  setup.printer = PrinterDescription::open(orvek6180()).take();
+  setup.ticket = {{"copies", copies}};
+  return PrintSession::begin(setup).take();
+}
+
+TEST(JobSettings, OfATicketAreNoMoreCopiesThanTheDialogTakes) {
+  for (const QVariant &copies : {QVariant("99999"), QVariant(qint64{99999})}) {
+    const auto session = sessionWithCopies(copies);
+    EXPECT_EQ(session->record().notices(), QStringList("Copies was set to 9999: no job makes more"));
+    EXPECT_EQ(session->job().options().value("copies"), "9999");
+    EXPECT_EQ(session->ticket().value("copies").metaType(), copies.metaType());
+  }
+  const auto none = sessionWithCopies(qint64{-3});
+  EXPECT_EQ(none->record().notices(), QStringList("Copies was set to 1: less is no job"));
+  EXPECT_EQ(none->job().options().value("copies"), "1");
+}
+
+TEST(JobSettings, OfATicketStayWhatTheyAreWithinThat) {
+  for (const char *copies : {"1", "9999", "many"}) {
+    const auto session = sessionWithCopies(QString(copies));
+    EXPECT_EQ(session->record().notices(), QStringList());
+    EXPECT_EQ(session->job().options().value("copies"), copies);
+  }
+}
+
 }  // namespace
 }  // namespace orvek::test

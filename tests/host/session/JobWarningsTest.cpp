@@ -136,5 +136,15 @@ TEST(JobWarningsWithoutPpd, KnowNoStaples) {
   EXPECT_EQ(jobWarnings(*session, 8), QStringList());
 }
 
+TEST_F(JobWarnings, NamePagesThatTheDocumentLacks) {
+  JobSettings settings;
+  settings.pageRanges = "9-12,99";
+  session->job().setSettings(settings);
+  EXPECT_EQ(jobWarnings(*session, 8),
+            QStringList("The document has no page 9-12,99: the number of its pages is 8"));
+  EXPECT_EQ(jobWarnings(*session, 9), QStringList());
+  EXPECT_EQ(jobWarnings(*session, 0), QStringList());
+}
+
 }  // namespace
 }  // namespace orvek::test
