@@ -53,7 +53,7 @@ void PrintDialog::moveTo(PrinterSwitch::Session opened, const QString &destinati
     showProblem(opened.failure());
     return;
   }
-  const Preset entered = presetOf(*m_session, {});
+  const Preset entered = entriesOf(*m_session);
   const JobSettings settings = m_session->job().settings();
   takeSession(opened.take(), destination);
   const QList<PresetMisfit> misfits = applyPreset(*m_session, entered);

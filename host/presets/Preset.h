@@ -20,6 +20,8 @@ struct Preset {
   QMap<QString, QString> options;
   /// Ticket key to text or integer.
   TicketValues ticket;
+  /// Option's keyword to what that printer calls it; for messages, and not written anywhere.
+  QMap<QString, QString> titles = {};
 };
 
 /// The preset as a JSON object: "name", "printer", "options", "ticket".

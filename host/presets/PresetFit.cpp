@@ -6,9 +6,13 @@
 #include <QCoreApplication>
 
 #include "host/ppd/CustomValue.h"
+#include "host/ticket/BookletSettings.h"
+#include "platform/plugin/BookletKeys.h"
 
 namespace orvek {
 namespace {
+
+constexpr const char *bookletMakerAttribute = "OVKHasBooklet";
 
 /// The words of this file, for translation.
 struct Text {
@@ -29,9 +33,10 @@ QString customProblem(const PrinterDescription &printer, const OptionChoice &cho
 }
 
 // Null where the printer takes the choice.
-QString problemOf(const PrinterDescription &printer, const OptionChoice &choice) {
+QString problemOf(const PrinterDescription &printer, const OptionChoice &choice,
+                  const QString &title) {
   const PrinterOption option = printer.option(choice.option);
-  if (!option) return Text::tr("this printer has no option \"%1\"").arg(choice.option);
+  if (!option) return Text::tr("this printer has no option \"%1\"").arg(title);
   if (printer.isEquipment(choice.option)) {
     return Text::tr("\"%1\" is installed equipment, which a preset does not change")
         .arg(option.text());
@@ -45,6 +50,19 @@ QString problemOf(const PrinterDescription &printer, const OptionChoice &choice)
                           : Text::tr("\"%1\" of this printer takes %2").arg(option.text(), problem);
 }
 
+bool makesBooklets(const PrinterDescription &printer) {
+  return printer.attribute(bookletMakerAttribute) == trueValue;
+}
+
+void takeOutBooklet(PresetFit *fit) {
+  fit->misfits << PresetMisfit{enableBookletKey, trueValue,
+                               Text::tr("this printer makes no booklets")};
+  for (const QLatin1String key : {enableBookletKey, rightToLeftKey, pageBordersKey, gutterKey,
+                                  creepKey, targetPaperSizeKey}) {
+    fit->ticket.remove(key);
+  }
+}
+
 }  // namespace
 
 QString PresetMisfit::line() const {
@@ -55,13 +73,15 @@ PresetFit fitPreset(const Preset &preset, const PrinterDescription &printer) {
   PresetFit fit;
   fit.ticket = preset.ticket;
   for (auto option = preset.options.cbegin(); option != preset.options.cend(); ++option) {
-    const QString problem = problemOf(printer, {option.key(), option.value()});
+    const QString problem = problemOf(printer, {option.key(), option.value()},
+                                      preset.titles.value(option.key(), option.key()));
     if (!problem.isNull()) {
       fit.misfits << PresetMisfit{option.key(), option.value(), problem};
     } else if (const auto spelled = printer.spelled(option.key(), option.value())) {
       fit.options.insert(spelled->option, spelled->choice);
     }
   }
+  if (bookletSettings(fit.ticket).enabled && !makesBooklets(printer)) takeOutBooklet(&fit);
   return fit;
 }
 

@@ -26,7 +26,8 @@ struct PresetMisfit {
 struct PresetFit {
   /// What fits, spelled as the PPD spells it.
   QMap<QString, QString> options;
-  /// All of it: tickets are not the printer's.
+  /// All of it: tickets are not the printer's. But a booklet that is asked of a printer which makes
+  /// none is left out: no control would show it, and it would be printed all the same.
   TicketValues ticket;
   /// The rest, by keyword.
   QList<PresetMisfit> misfits;

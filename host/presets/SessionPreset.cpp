@@ -5,6 +5,9 @@
 
 #include <algorithm>
 
+#include "host/ppd/Wording.h"
+#include "host/session/CommonSettings.h"
+
 namespace orvek {
 namespace {
 
@@ -59,8 +62,18 @@ Preset presetOf(PrintSession &session, const QString &name) {
   for (const OptionChoice &mark : session.marks().differingFromDefaults()) {
     if (session.marks().printer().isEquipment(mark.option)) continue;
     preset.options.insert(mark.option, mark.choice);
+    preset.titles.insert(mark.option, optionText(session.marks().printer(), mark.option));
   }
   return preset;
+}
+
+Preset entriesOf(PrintSession &session) {
+  Preset entries = presetOf(session, {});
+  const auto paper = commonSetting(session, CommonSetting::PaperSize);
+  if (!paper || !paper->isInPpd || paper->current.isNull()) return entries;
+  entries.options.insert(paper->key, paper->current);
+  entries.titles.insert(paper->key, paper->title);
+  return entries;
 }
 
 QList<PresetMisfit> applyPreset(PrintSession &session, const Preset &preset,

@@ -13,6 +13,10 @@ namespace orvek {
 /// and the whole ticket.
 Preset presetOf(PrintSession &session, const QString &name);
 
+/// The same for a session on another printer: with the paper that its pages are laid out for,
+/// default or not, as the other printer's default may be another.
+Preset entriesOf(PrintSession &session);
+
 /// Puts a preset into the session, before or after its panels were opened: its ticket is written
 /// and each of its choices picked, so that constraints speak up as for a user's pick; open panels
 /// restore. Ticket keys and options in `keep` stay as the session has them. Gives what the printer

@@ -166,6 +166,33 @@ TEST_F(PrinterChoice, TakesAlongWhatFitsAndSaysWhatDoesNot) {
   EXPECT_GE(notices().sentences().size(), 2);
 }
 
+TEST_F(PrinterChoice, LeavesABookletBehindWhereThePrinterMakesNone) {
+  open();
+  list();
+  clickItem("foldingPopup", QStringLiteral("Saddle fold"));
+  click("bookletChckBox");
+  pickPrinter(QStringLiteral("small"));
+  const auto options = dialog->session().job().options();
+  for (const char *key : {"OVKEnableBooklet", "OVKGutter", "OVKCreep", "OVKTargetPaperSize"}) {
+    EXPECT_FALSE(options.contains(QLatin1String(key))) << key;
+  }
+  const QStringList said = notices().sentences();
+  EXPECT_TRUE(said.contains(QStringLiteral("this printer makes no booklets")));
+  EXPECT_TRUE(said.contains(QStringLiteral("this printer has no option \"Folding\"")))
+      << said.join(u'\n').toStdString();
+}
+
+TEST_F(PrinterChoice, KeepsThePaperWhateverTheOtherPrinterUses) {
+  server->addQueue(QStringLiteral("american"), printers + "Orvek-4150.ppd");
+  open();
+  list();
+  pickPrinter(QStringLiteral("american"));
+  EXPECT_EQ(dialog->session().marks().marked(QStringLiteral("PageSize")), QStringLiteral("A4"));
+  EXPECT_EQ(dialog->session().job().options().value(QStringLiteral("PageSize")),
+            QStringLiteral("A4"));
+  EXPECT_FALSE(notices().isVisible()) << notices().sentences().join(u'\n').toStdString();
+}
+
 TEST_F(PrinterChoice, KeepsEverythingWhenTheServerHasStopped) {
   open();
   list();

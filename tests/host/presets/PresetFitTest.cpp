@@ -71,5 +71,29 @@ TEST_F(PresetFitTest, TakesOnlyTheTicketWithoutAPPD) {
   EXPECT_EQ(fit.ticket.size(), 1);
 }
 
+TEST_F(PresetFitTest, CallsAnOptionWhatItsPrinterCalledIt) {
+  Preset preset = presetOf({{QStringLiteral("Glossy"), QStringLiteral("On")}});
+  preset.titles = {{QStringLiteral("Glossy"), QStringLiteral("Glossy finish")}};
+  const auto fit = fitPreset(preset, *printer);
+  ASSERT_EQ(fit.misfits.size(), 1);
+  EXPECT_EQ(fit.misfits[0].why, QStringLiteral("this printer has no option \"Glossy finish\""));
+}
+
+TEST_F(PresetFitTest, TakesOutTheBookletOfAPrinterThatMakesNone) {
+  const auto small = PrinterDescription::open(orvekPPD(QStringLiteral("2120"))).take();
+  Preset preset = presetOf({});
+  preset.ticket.insert(QStringLiteral("OVKCreep"), QStringLiteral("3"));
+  preset.ticket.insert(QStringLiteral("vendor"), QStringLiteral("1"));
+  preset.ticket.insert(QStringLiteral("OVKEnableBooklet"), QStringLiteral("False"));
+  EXPECT_EQ(linesOf(fitPreset(preset, *small)), QStringList());
+  EXPECT_EQ(fitPreset(preset, *small).ticket, preset.ticket);
+  preset.ticket.insert(QStringLiteral("OVKEnableBooklet"), QStringLiteral("True"));
+  EXPECT_EQ(linesOf(fitPreset(preset, *small)),
+            QStringList{QStringLiteral("OVKEnableBooklet=True: this printer makes no booklets")});
+  EXPECT_EQ(fitPreset(preset, *small).ticket.keys(), QStringList{QStringLiteral("vendor")});
+  EXPECT_TRUE(linesOf(fitPreset(preset, *printer)).isEmpty());
+  EXPECT_EQ(fitPreset(preset, *printer).ticket.size(), 4);
+}
+
 }  // namespace
 }  // namespace orvek::test
