@@ -8,11 +8,12 @@
 #include <algorithm>
 
 #include "host/ppd/Wording.h"
+#include "host/session/CommonSettings.h"
 
 namespace orvek {
 namespace {
 
-// Titles and values of the marks that are not the PPD's own.
+// Titles and values of the marks that are not the PPD's own, and of a booklet's sides.
 QMap<QString, QString> changedOptions(const PrintSession &session, QStringList *order) {
   QMap<QString, QString> changed;
   if (!session.origin().printer) return changed;
@@ -22,6 +23,11 @@ QMap<QString, QString> changedOptions(const PrintSession &session, QStringList *
     const QString title = optionText(printer, mark.option);
     *order << title;
     changed.insert(title, choiceText(printer, mark));
+  }
+  if (const auto sides = sidesOfBooklet(session)) {
+    const QString title = optionText(printer, sides->option);
+    if (!changed.contains(title)) *order << title;
+    changed.insert(title, choiceText(printer, *sides));
   }
   return changed;
 }

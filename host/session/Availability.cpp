@@ -6,6 +6,7 @@
 #include "host/ppd/ConstraintPartners.h"
 #include "host/ppd/Constraints.h"
 #include "host/ppd/Wording.h"
+#include "host/session/CommonSettings.h"
 
 namespace orvek {
 namespace {
@@ -56,6 +57,11 @@ Availability::Availability(PrintSession &session, QObject *parent)
 }
 
 ChoiceAvailability Availability::of(const QString &option, const QString &choice) {
+  const auto sides = sidesOfBooklet(m_session);
+  if (sides && sameKeyword(option, sides->option)) {
+    if (sameKeyword(choice, sides->choice)) return {};
+    return {ChoiceAvailability::Kind::Unusable, tr("a booklet is printed on both sides"), {}};
+  }
   if (!m_constrained.contains(option.toLower())) return {};
   const QString key = option + QLatin1Char('=') + choice;
   const auto known = m_answers.constFind(key);

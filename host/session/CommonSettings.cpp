@@ -9,6 +9,7 @@
 
 #include "host/ppd/CustomChoice.h"
 #include "host/session/PrintSession.h"
+#include "host/ticket/BookletSettings.h"
 #include "host/ticket/JobOptionNames.h"
 #include "imposition/StandardOptions.h"
 
@@ -41,6 +42,7 @@ const std::array<Names, 6> &allNames() {
   return names;
 }
 
+constexpr const char *bookletSides = "DuplexTumble";
 constexpr const char *manualFeedSize = "PageRegion";
 
 PrinterOption optionFor(const PrinterDescription &printer, const Names &names) {
@@ -98,6 +100,14 @@ bool isFurther(const SettingOffer &offer) {
 
 }  // namespace
 
+std::optional<OptionChoice> sidesOfBooklet(const PrintSession &session) {
+  if (!session.origin().printer || !bookletSettings(session.ticket().values()).enabled) return {};
+  const auto &names = allNames()[static_cast<std::size_t>(CommonSetting::Sides)];
+  const PrinterOption option = optionFor(*session.origin().printer, names);
+  return option ? session.origin().printer->spelled(option.keyword(), QLatin1String(bookletSides))
+                : std::nullopt;
+}
+
 std::optional<Setting> commonSetting(const PrintSession &session, CommonSetting which) {
   const Names &names = allNames()[static_cast<std::size_t>(which)];
   std::optional<Setting> setting;
@@ -108,6 +118,8 @@ std::optional<Setting> commonSetting(const PrintSession &session, CommonSetting 
     setting = offered(session, names);
   }
   if (setting && setting->choices.size() < 2) return std::nullopt;
+  const auto forced = which == CommonSetting::Sides ? sidesOfBooklet(session) : std::nullopt;
+  if (setting && forced) setting->current = forced->choice;
   return setting;
 }
 

@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <optional>
 
+#include "host/ppd/Marks.h"
 #include "host/printers/SettingOffer.h"
 
 namespace orvek {
@@ -32,7 +33,13 @@ struct Setting {
   bool isInPpd = true;
 };
 
-/// Nothing where the printer lacks the setting, or has just one choice for it.
+/// How a booklet's sheets are printed whatever is marked, as one of the choices of the setting
+/// Sides: turned over at the short edge. Nothing where no booklet is asked for, and for a printer
+/// that calls it otherwise.
+std::optional<OptionChoice> sidesOfBooklet(const PrintSession &session);
+
+/// Nothing where the printer lacks the setting, or has just one choice for it. In force is what is
+/// marked, but for a booklet's sides.
 std::optional<Setting> commonSetting(const PrintSession &session, CommonSetting setting);
 
 /// What a printer without PPD offers beyond those (output tray, finishings).

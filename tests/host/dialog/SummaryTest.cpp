@@ -34,10 +34,21 @@ TEST_F(Summary, CallsThePanelsOwnSettingsOfATicketChanged) {
   setup.ticket = {{QStringLiteral("OVKEnableBooklet"), QStringLiteral("True")},
                   {QStringLiteral("OVKGutter"), QStringLiteral("36")}};
   open(QStringLiteral("Orvek-6180"), setup);
-  const QSet<QString> wanted{QStringLiteral("Print as booklet"), QStringLiteral("Gutter (pt)")};
-  ASSERT_TRUE(QTest::qWaitFor([&] { return !changed().isEmpty(); }));
+  const QSet<QString> wanted{QStringLiteral("Print as booklet"), QStringLiteral("Gutter (pt)"),
+                             QStringLiteral("Two-sided printing")};
+  ASSERT_TRUE(QTest::qWaitFor([&] { return changed().size() > 1; }));
   EXPECT_EQ(changed(), wanted) << changed().values().join(QStringLiteral(", ")).toStdString();
   EXPECT_EQ(session->ticket().value(QStringLiteral("OVKGutter")).toString(), QStringLiteral("36"));
+}
+
+TEST_F(Summary, SaysOnWhichSidesABookletIsPrinted) {
+  open();
+  EXPECT_TRUE(summaryValue(QStringLiteral("Two-sided printing")).isNull());
+  click("bookletChckBox");
+  EXPECT_EQ(summaryValue(QStringLiteral("Two-sided printing")),
+            QStringLiteral("Short-edge binding"));
+  click("bookletChckBox");
+  EXPECT_TRUE(summaryValue(QStringLiteral("Two-sided printing")).isNull());
 }
 
 TEST_F(Summary, ComparesAChoiceWithThePrintersOwnDefault) {

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QTest>
+
 #include "tests/host/session/SessionKit.h"
 #include "tests/support/Printers.h"
 
@@ -125,6 +127,19 @@ TEST(AvailabilityWithoutPpd, HasNothingAgainstAnything) {
   const auto session = PrintSession::begin({}).take();
   Availability availability(*session);
   EXPECT_TRUE(availability.of("PageSize", "A4").isUsable());
+}
+
+TEST_F(AvailabilityTest, LeavesABookletNoChoiceOfSides) {
+  begin6180();
+  EXPECT_TRUE(availability->of("Duplex", "None").isUsable());
+  session->setTicketValue("OVKEnableBooklet", "True");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !availability->of("Duplex", "None").isUsable(); }));
+  for (const char *sides : {"None", "DuplexNoTumble"}) {
+    EXPECT_EQ(availability->of("Duplex", sides).kind, Kind::Unusable);
+    EXPECT_EQ(availability->of("duplex", sides).reason, "a booklet is printed on both sides");
+  }
+  EXPECT_TRUE(availability->of("Duplex", "DuplexTumble").isUsable());
+  EXPECT_TRUE(availability->of("Collate", "False").isUsable());
 }
 
 }  // namespace

@@ -265,5 +265,13 @@ TEST_F(GeneralPageTest, FitsASmallScreenBesideASummary) {
   EXPECT_LE(page->minimumSizeHint().height(), 480);
 }
 
+TEST_F(GeneralPageTest, ShowsHowABookletIsTurnedOverAndWhatIsMarkedAfterwards) {
+  session->setTicketValue("OVKEnableBooklet", "True");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return box("sides")->choice() == "DuplexTumble"; }));
+  EXPECT_EQ(marked("Duplex"), "None");
+  session->setTicketValue("OVKEnableBooklet", "False");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return box("sides")->choice() == "None"; }));
+}
+
 }  // namespace
 }  // namespace orvek::test
