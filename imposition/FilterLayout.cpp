@@ -210,13 +210,6 @@ Frame onPaper(Raised raised, const Medium &medium) {
   return {x, paper.height - y - across.height, across.width, across.height};
 }
 
-Frame within(const Frame &frame, Size paper) {
-  const double left = std::clamp(frame.x, 0.0, paper.width);
-  const double top = std::clamp(frame.y, 0.0, paper.height);
-  return {left, top, std::clamp(frame.right(), 0.0, paper.width) - left,
-          std::clamp(frame.bottom(), 0.0, paper.height) - top};
-}
-
 int ownTurn(int page, const FilterJob &job) {
   const auto index = static_cast<std::size_t>(page) - 1;
   return index < job.ownTurns.size() ? job.ownTurns[index] : 0;
@@ -266,15 +259,6 @@ std::vector<int> pageSequence(int pages, const FilterJob &job) {
   return all;
 }
 
-bool isSelected(int side, const SideSelection &sides) {
-  if (sides.parity == Parity::Odd && side % 2 == 0) return false;
-  if (sides.parity == Parity::Even && side % 2 != 0) return false;
-  if (sides.ranges.empty()) return true;
-  return std::any_of(sides.ranges.begin(), sides.ranges.end(), [side](const PageRange &range) {
-    return side >= range.first && (range.last == 0 || side <= range.last);
-  });
-}
-
 // So that the printer, which begins a sheet with each pair, has fronts where fronts belong.
 bool needsBlankSide(std::size_t sides, const SideSelection &selection) {
   const bool isAsked =
@@ -304,6 +288,15 @@ Position readPosition(const std::string &text) {
     if (word == before + "right") return {Across::Right, where};
   }
   return {};
+}
+
+bool isSelected(int side, const SideSelection &sides) {
+  if (sides.parity == Parity::Odd && side % 2 == 0) return false;
+  if (sides.parity == Parity::Even && side % 2 != 0) return false;
+  if (sides.ranges.empty()) return true;
+  return std::any_of(sides.ranges.begin(), sides.ranges.end(), [side](const PageRange &range) {
+    return side >= range.first && (range.last == 0 || side <= range.last);
+  });
 }
 
 int filteredSides(int pages, const FilterJob &job) {

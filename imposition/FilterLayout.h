@@ -100,6 +100,8 @@ struct FilterJob {
   /// Degrees clockwise that each page is turned by its own document, which matters to `position`
   /// alone. Those that are missing count as 0.
   std::vector<int> ownTurns;
+  /// Asked for in the words that the filter of PostScript knows ("fit-to-page", "fitplot").
+  bool fitsScripts = false;
 
   bool operator==(const FilterJob &) const = default;
 };
@@ -114,6 +116,9 @@ struct FilteredSide {
 /// their own off the middle; here they stand in it.) Nothing for no pages, or for paper without a
 /// size.
 std::vector<FilteredSide> layOutAsFiltered(std::span<const Size> pages, const FilterJob &job);
+
+/// Whether the filters print this side, counted from 1.
+bool isSelected(int side, const SideSelection &sides);
 
 /// How many sides that are for so many pages, blank ones counted.
 int filteredSides(int pages, const FilterJob &job);

@@ -25,4 +25,11 @@ Size scaledInto(Size size, Size room) {
   return {size.width * scale, size.height * scale};
 }
 
+Frame within(const Frame &frame, Size paper) {
+  const double left = std::clamp(frame.x, 0.0, paper.width);
+  const double top = std::clamp(frame.y, 0.0, paper.height);
+  return {left, top, std::clamp(frame.right(), 0.0, paper.width) - left,
+          std::clamp(frame.bottom(), 0.0, paper.height) - top};
+}
+
 }  // namespace orvek::imposition

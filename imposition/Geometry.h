@@ -31,4 +31,7 @@ bool isDrawable(Size size);
 /// room that is not drawable.
 Size scaledInto(Size size, Size room);
 
+/// The part of a frame that lies on paper of this size; an empty frame at its edge for none.
+Frame within(const Frame &frame, Size paper);
+
 }  // namespace orvek::imposition

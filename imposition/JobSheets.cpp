@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "imposition/PageOrder.h"
+#include "imposition/ScriptLayout.h"
 
 namespace orvek::imposition {
 namespace {
@@ -91,7 +92,12 @@ FedSide fedBookletSide(const Side &side, Face face, const std::vector<FilteredSi
 std::vector<FedSide> bookletSides(std::span<const Size> pages, const SheetJob &job) {
   FilterJob filters = job.filters;
   filters.sides.twoSided = false;  // a booklet is evened out by its own blank places
-  const std::vector<FilteredSide> contents = layOutAsFiltered(pages, filters);
+  std::vector<FilteredSide> contents = layOutAsFiltered(pages, filters);
+  // The blank side that evens a reversed job out is none of the document's pages.
+  const bool isEven = contents.size() % 2 == 0;
+  if (filters.sides.reverse && isEven && !contents.empty() && contents.front().pages.empty()) {
+    contents.erase(contents.begin());
+  }
   const Size paper = isDrawable(job.bookletPaper) ? job.bookletPaper : job.filters.paper;
   const std::vector<Size> sizes(contents.size(), job.filters.paper);
   const ImposedJob imposed = imposeBooklet(sizes, paper, job.booklet);
@@ -108,7 +114,8 @@ std::vector<FedSide> plainSides(std::span<const Size> pages, const SheetJob &job
   FilterJob filters = job.filters;
   filters.sides.twoSided = job.twoSided;
   std::vector<FedSide> sides;
-  for (FilteredSide &side : layOutAsFiltered(pages, filters)) {
+  auto laidOut = job.isScript ? layOutAsScript(pages, filters) : layOutAsFiltered(pages, filters);
+  for (FilteredSide &side : laidOut) {
     sides.push_back({filters.paper, std::move(side.pages)});
   }
   return sides;
@@ -116,7 +123,8 @@ std::vector<FedSide> plainSides(std::span<const Size> pages, const SheetJob &job
 
 // Beginning with a blank side, where there has to be one, so that backs stay backs.
 void turnForTray(std::vector<FedSide> *sides, bool twoSided) {
-  if (twoSided && sides->size() % 2 != 0) sides->push_back({sides->front().paper, {}});
+  const bool isOdd = sides->size() % 2 != 0 && sides->size() > 1;
+  if (twoSided && isOdd) sides->push_back({sides->front().paper, {}});
   std::reverse(sides->begin(), sides->end());
 }
 

@@ -15,6 +15,8 @@ namespace orvek::imposition {
 
 struct SheetJob {
   FilterJob filters;
+  /// The document is PostScript, which a filter of its own lays out. Not for booklets.
+  bool isScript = false;
   bool twoSided = false;
   /// Two-sided, the back's top where the front's foot is.
   bool turnsOverShortEdge = false;

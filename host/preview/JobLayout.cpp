@@ -161,6 +161,7 @@ void readPlaces(const Marks &marks, const Options &options, FilterJob *job) {
   job->position = readPosition(word(options, "position").toStdString());
   job->isMirrored =
       isOn(word(options, "mirror")) || isOn(marks.marked(QStringLiteral("MirrorPrint")));
+  job->fitsScripts = isOn(word(options, "fit-to-page")) || isOn(word(options, "fitplot"));
   const QString booklet = word(options, "booklet");
   if (isOn(booklet)) job->booklet = OwnBooklet::Sides;
   if (sameKeyword(booklet, "shuffle-only")) job->booklet = OwnBooklet::Order;
@@ -227,12 +228,9 @@ std::vector<PrintedSide> sidesOf(const DocumentPages &document, const SheetJob &
     asked.filters.paper = placed.paper;
     asked.filters.scaling = Scaling::None;
   }
-  // The filters of PostScript fit several pages into the printable area, never scale one, and turn
-  // the order round but once.
-  if (document.isScript && !job.booklet.enabled) {
-    asked.isTurnedForTray = false;
-    asked.filters.scaling = job.filters.pagesPerSide > 1 ? Scaling::Fit : Scaling::None;
-  }
+  // There is but one filter of PostScript, and it turns the order round but once.
+  asked.isScript = document.isScript && !job.booklet.enabled;
+  if (asked.isScript) asked.isTurnedForTray = false;
   return printedSides(sizes, asked);
 }
 

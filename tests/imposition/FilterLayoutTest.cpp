@@ -7,12 +7,11 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
-#include <algorithm>
 #include <random>
 
 #include "imposition/CellOrder.h"
+#include "tests/imposition/FilterComparison.h"
 #include "tests/support/NumberedPages.h"
 
 namespace orvek::imposition {
@@ -20,7 +19,7 @@ namespace {
 
 constexpr const char *filter = "/usr/lib/cups/filter/pdftopdf";
 constexpr double tolerance = 2;
-constexpr int randomJobs = 60;
+constexpr unsigned randomJobs = 60;
 
 struct PaperName {
   const char *name;
@@ -43,11 +42,6 @@ struct RandomJob {
   QStringList options;
   QList<test::NumberedPage> pages;
 };
-
-template <typename T>
-T any(std::mt19937 &random, const std::vector<T> &values) {
-  return values[std::uniform_int_distribution<std::size_t>(0, values.size() - 1)(random)];
-}
 
 void choosePages(std::mt19937 &random, RandomJob *job) {
   const int count = std::uniform_int_distribution<int>(1, 9)(random);
@@ -145,17 +139,7 @@ QList<test::FoundSide> filtered(const QTemporaryDir &folder, const RandomJob &jo
   if (!file.open(QIODevice::WriteOnly)) return {};
   file.write(test::numberedPdf(job.pages));
   file.close();
-  QProcess process;
-  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  environment.insert(QStringLiteral("PPD"),
-                     QStringLiteral(ORVEK_SOURCE_DIR "/printers/Orvek-6180.ppd"));
-  environment.insert(QStringLiteral("CONTENT_TYPE"), QStringLiteral("application/pdf"));
-  process.setProcessEnvironment(environment);
-  process.setStandardOutputFile(out);
-  process.start(QString::fromLatin1(filter),
-                {QStringLiteral("1"), QStringLiteral("user"), QStringLiteral("title"),
-                 QStringLiteral("1"), job.options.join(QLatin1Char(' ')), in});
-  process.waitForFinished(-1);
+  runFilter(QString::fromLatin1(filter), filterArguments(job.options, in), out, "application/pdf");
   return test::findPages(out);
 }
 
@@ -165,40 +149,13 @@ Size shownSize(const test::NumberedPage &page) {
   return {size.width(), size.height()};
 }
 
-QRectF rect(const Frame &frame) {
-  return {frame.x, frame.y, frame.width, frame.height};
-}
-
-void expectNear(const QRectF &found, const QRectF &expected) {
-  EXPECT_NEAR(found.left(), expected.left(), tolerance);
-  EXPECT_NEAR(found.top(), expected.top(), tolerance);
-  EXPECT_NEAR(found.right(), expected.right(), tolerance);
-  EXPECT_NEAR(found.bottom(), expected.bottom(), tolerance);
-}
-
-void expectSame(const test::FoundSide &found, FilteredSide expected, Size paper) {
-  auto &pages = expected.pages;
+void expectSame(const test::FoundSide &found, const FilteredSide &expected, Size paper) {
   // Blank sides that even a job out may lie the other way round.
-  if (!pages.empty()) {
+  if (!expected.pages.empty()) {
     EXPECT_NEAR(found.size.width(), paper.width, tolerance);
     EXPECT_NEAR(found.size.height(), paper.height, tolerance);
   }
-  std::erase_if(pages, [](const PlacedPage &page) {
-    return rect(page.frame).intersected(rect(page.clip)).isEmpty();
-  });
-  std::sort(pages.begin(), pages.end(),
-            [](const PlacedPage &one, const PlacedPage &other) { return one.page < other.page; });
-  ASSERT_EQ(found.pages.size(), static_cast<qsizetype>(pages.size()));
-  for (std::size_t i = 0; i < pages.size(); ++i) {
-    const test::FoundPage &page = found.pages[static_cast<qsizetype>(i)];
-    SCOPED_TRACE("page " + std::to_string(page.page));
-    EXPECT_EQ(page.page, pages[i].page);
-    expectNear(page.frame, rect(pages[i].frame).intersected(rect(pages[i].clip)));
-    const bool isWhole = rect(pages[i].clip).adjusted(-1, -1, 1, 1).contains(rect(pages[i].frame));
-    if (isWhole) {
-      EXPECT_EQ(page.turn.value_or(-1), pages[i].turn);
-    }
-  }
+  expectPages(found, expected.pages);
 }
 
 void expectAsFiltered(unsigned seed) {
@@ -219,11 +176,8 @@ void expectAsFiltered(unsigned seed) {
 
 TEST(FilterLayout, PutsPagesWhereTheFiltersPutThem) {
   if (!QFile::exists(QString::fromLatin1(filter))) GTEST_SKIP() << "needs cups-filters' pdftopdf";
-  const char *first = std::getenv("ORVEK_SEED");
-  const unsigned seed = first == nullptr ? 1 : static_cast<unsigned>(std::atoi(first));
-  const char *count = std::getenv("ORVEK_JOBS");
-  const unsigned jobs = count == nullptr ? randomJobs : static_cast<unsigned>(std::atoi(count));
-  for (unsigned i = 0; i < jobs; ++i) expectAsFiltered(seed + i);
+  const unsigned jobs = numberOfJobs(randomJobs);
+  for (unsigned i = 0; i < jobs; ++i) expectAsFiltered(firstSeed() + i);
 }
 
 TEST(FilterLayout, GivesNothingForNoPagesAndNoPaper) {

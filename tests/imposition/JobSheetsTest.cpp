@@ -203,6 +203,26 @@ TEST(JobSheets, ComeLastFirstWhereTheTrayWantsThem) {
   EXPECT_EQ(numbers(printedSides(document(7), job)[0]), (std::vector<int>{4, 5}));
 }
 
+TEST(JobSheets, MakeNoPageOfTheBlankSideThatEvensAReversedJobOut) {
+  SheetJob job = jobOn(a4);
+  job.booklet.enabled = true;
+  job.filters.sides.parity = Parity::Even;
+  job.filters.sides.reverse = true;
+  EXPECT_EQ(numbers(printedSides(document(6), job)[0]), std::vector<int>{6});
+}
+
+TEST(JobSheets, FollowTheFilterOfPostScriptWhereItIsIt) {
+  SheetJob job = jobOn(a4);
+  job.isScript = true;
+  job.filters.pagesPerSide = 8;
+  EXPECT_EQ(printedSides(document(3), job).size(), 3U);
+  job.filters.pagesPerSide = 1;
+  job.filters.turning = Turning::Landscape;
+  const auto sides = printedSides(document(1), job);
+  EXPECT_EQ(sides[0].size, a4Across);
+  EXPECT_EQ(sides[0].pages[0].frame, (Frame{0, -247, 595, 842}));
+}
+
 TEST(JobSheets, AreAsManyAsCountedBeforehand) {
   for (int seed = 0; seed < 600; ++seed) {
     SheetJob job = jobOn(a4);

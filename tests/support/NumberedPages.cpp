@@ -140,6 +140,20 @@ QByteArray numberedPdf(const QList<NumberedPage> &pages) {
   return writer.finish();
 }
 
+QByteArray numberedPostScript(int pages, QSizeF size) {
+  const QByteArray width = QByteArray::number(size.width());
+  const QByteArray height = QByteArray::number(size.height());
+  QByteArray script = "%!PS-Adobe-3.0\n%%BoundingBox: 0 0 " + width + ' ' + height +
+                      "\n%%Pages: " + QByteArray::number(pages) +
+                      "\n%%EndComments\n/rg{setrgbcolor}bind def/re{rectfill}bind def/f{}def\n";
+  for (int page = 1; page <= pages; ++page) {
+    const QByteArray number = QByteArray::number(page);
+    script += "%%Page: " + number + ' ' + number + '\n' + contents({size, 0, {}, {}}, page) +
+              "showpage\n";
+  }
+  return script + "%%Trailer\n%%EOF\n";
+}
+
 QList<FoundSide> findPages(const QString &pdf) {
   QProcess tool;
   tool.start(QStringLiteral("pdftoppm"),

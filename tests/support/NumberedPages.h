@@ -26,6 +26,9 @@ struct NumberedPage {
 /// At most 40 pages.
 QByteArray numberedPdf(const QList<NumberedPage> &pages);
 
+/// The same in PostScript, all pages of one size and unturned.
+QByteArray numberedPostScript(int pages, QSizeF size);
+
 /// A page as it was found. Points, y downwards from the top left corner; one point is one pixel.
 struct FoundPage {
   int page = 0;
