@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // Times whole programs, from start to end, as a print server runs them.
-//   bench-imposition DRIVER DOCUMENT...
+//   bench-imposition DRIVER DIALOG PPD DOCUMENT...
 
 #include <fcntl.h>
 #include <sys/wait.h>
@@ -16,6 +16,8 @@ namespace {
 
 constexpr int rounds = 7;
 constexpr double goal = 1.5;
+constexpr int printRounds = 3;  // each prints a thousand pages
+constexpr double printGoal = 1.3;
 
 double secondsOfProgram(std::vector<const char *> arguments) {
   arguments.push_back(nullptr);
@@ -34,20 +36,36 @@ double secondsOfProgram(std::vector<const char *> arguments) {
   });
 }
 
+void benchImposition(const char *driver, const char *document) {
+  const auto impose = [&] {
+    return secondsOfProgram({driver, "--sheets", "1", "me", "", "1", "", document});
+  };
+  const auto copy = [&] {
+    return secondsOfProgram({"qpdf", "--empty", "--pages", document, "--", "/dev/null"});
+  };
+  const bench::Pair pair = bench::compareMedians(rounds, impose, copy);
+  bench::line("impose " + std::filesystem::path(document).stem().string(), "qpdf --empty --pages",
+              pair, 1, "ms", goal);
+}
+
+void benchPrinting(const char *dialog, const char *ppd, const char *document) {
+  const auto print = [&](const char *booklet) {
+    return secondsOfProgram(
+        {dialog, "--headless", "--ppd", ppd, "-o", booklet, "--output", "/dev/null", document});
+  };
+  const bench::Pair pair = bench::compareMedians(
+      printRounds, [&] { return print("OVKEnableBooklet=True"); },
+      [&] { return print("OVKEnableBooklet=False"); });
+  bench::line("print " + std::filesystem::path(document).stem().string() + " as a booklet",
+              "no booklet", pair, 1, "ms", printGoal);
+}
+
 }  // namespace
 
 int main(int argc, char *argv[]) {
+  constexpr int firstDocument = 4;
   bench::head();
-  for (int i = 2; i < argc; ++i) {
-    const auto impose = [&] {
-      return secondsOfProgram({argv[1], "--sheets", "1", "me", "", "1", "", argv[i]});
-    };
-    const auto copy = [&] {
-      return secondsOfProgram({"qpdf", "--empty", "--pages", argv[i], "--", "/dev/null"});
-    };
-    const bench::Pair pair = bench::compareMedians(rounds, impose, copy);
-    bench::line("impose " + std::filesystem::path(argv[i]).stem().string(), "qpdf --empty --pages",
-                pair, 1, "ms", goal);
-  }
+  for (int i = firstDocument; i < argc; ++i) benchImposition(argv[1], argv[i]);
+  for (int i = firstDocument; i < argc; ++i) benchPrinting(argv[2], argv[3], argv[i]);
   return 0;
 }

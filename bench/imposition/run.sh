@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: Apache-2.0
-# Builds the benchmark of the driver's imposition, makes two documents of 1,000 pages and prints the
-# table.  bench/imposition/run.sh
+# Builds the benchmark of the driver's imposition and of whole booklets into a file, makes two documents
+# of 1,000 pages and prints the table.  bench/imposition/run.sh
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/../.."
 . tools/lib.sh
 
 ensure_packages run test
-build bench bench-imposition orvek-booklet
+build bench bench-imposition orvek-booklet orvek-print OrvekFinishing orvek-resources
 
 place=$(mktemp -d)
 trap 'rm -rf "$place"' EXIT
@@ -22,5 +22,6 @@ gs -q -dBATCH -dNOPAUSE -sDEVICE=pdfwrite -o "$place/text-1000.pdf" -c '
       line number cvs show (: the quick brown fox jumps over the lazy dog once more) show
     } for showpage
   } for'
-build-bench/bin/bench-imposition build-bench/cups/filter/orvek-booklet \
+QT_QPA_PLATFORM=offscreen build-bench/bin/bench-imposition build-bench/cups/filter/orvek-booklet \
+  build-bench/bin/orvek-print printers/Orvek-6180.ppd \
   "$place/sample-1000.pdf" "$place/text-1000.pdf"

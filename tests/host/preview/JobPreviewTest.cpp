@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <QLabel>
+#include <QScrollBar>
 #include <QTest>
 #include <QToolButton>
 #include <QWheelEvent>
@@ -96,6 +97,28 @@ TEST_F(JobPreviewTest, StepsThroughSidesByKeysWheelAndArrows) {
   QTest::keyClick(view(), Qt::Key_End);
   EXPECT_EQ(text("previewPlace"), "Sheet 4 of 4, back");
   EXPECT_FALSE(preview->findChild<QToolButton *>("previewForward")->isEnabled());
+}
+
+TEST_F(JobPreviewTest, StepsByArrowKeysAndZoomsByPlusAndMinus) {
+  QTest::keyClick(view(), Qt::Key_Right);
+  QTest::keyClick(view(), Qt::Key_Down);
+  EXPECT_EQ(view()->current(), 2);
+  QTest::keyClick(view(), Qt::Key_Left);
+  QTest::keyClick(view(), Qt::Key_Up);
+  EXPECT_EQ(view()->current(), 0);
+  QTest::keyClick(view(), Qt::Key_Plus);
+  EXPECT_GT(view()->zoom(), 1);
+  // Enlarged, arrow keys move the sheet, and pages are turned by the page keys.
+  QTest::keyClick(view(), Qt::Key_Down);
+  EXPECT_EQ(view()->current(), 0);
+  EXPECT_GT(view()->verticalScrollBar()->value(), 0);
+  QTest::keyClick(view(), Qt::Key_PageDown);
+  EXPECT_EQ(view()->current(), 1);
+  QTest::keyClick(view(), Qt::Key_Home);
+  QTest::keyClick(view(), Qt::Key_Minus);
+  QTest::keyClick(view(), Qt::Key_Minus);
+  EXPECT_TRUE(view()->showsSeveral());
+  EXPECT_EQ(view()->current(), 0);
 }
 
 TEST_F(JobPreviewTest, ZoomsByWheelWithControl) {
