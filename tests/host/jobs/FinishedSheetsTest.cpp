@@ -158,8 +158,8 @@ TEST_F(SheetsMadeHere, AskTheServerForNothingThatIsDone) {
 
 TEST_F(SheetsMadeHere, AreOnThePaperThatTheBookletIsFor) {
   const QByteArray ppd = contentsOf(orvekPPD(QStringLiteral("6180")));
-  qsizetype before = ppd.indexOf("\n*OpenUI *PageSize");
-  const int place = ppd.mid(before, ppd.indexOf("\n*PageSize A3/") - before).count("\n*PageSize ");
+  const qsizetype before = ppd.indexOf("\n*OpenUI *PageSize");
+  const auto place = ppd.mid(before, ppd.indexOf("\n*PageSize A3/") - before).count("\n*PageSize ");
   addOldQueue();
   request.files = {document(4)};
   request.sheetPaper = QStringLiteral("A3");
