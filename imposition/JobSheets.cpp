@@ -115,6 +115,7 @@ std::vector<FedSide> plainSides(std::span<const Size> pages, const SheetJob &job
   filters.sides.twoSided = job.twoSided;
   std::vector<FedSide> sides;
   auto laidOut = job.isScript ? layOutAsScript(pages, filters) : layOutAsFiltered(pages, filters);
+  sides.reserve(laidOut.size());
   for (FilteredSide &side : laidOut) {
     sides.push_back({filters.paper, std::move(side.pages)});
   }

@@ -6,6 +6,7 @@
 #include <array>
 #include <utility>
 
+#include "imposition/StandardOptions.h"
 #include "platform/plugin/BookletKeys.h"
 
 namespace orvek::imposition {
@@ -20,8 +21,13 @@ inline constexpr std::array doneWithSheets{
     pageBordersKey.data(), gutterKey.data(),   creepKey.data(),         targetPaperSizeKey.data()};
 
 /// Would turn the sheets over otherwise, or part the copies.
-inline constexpr std::array againstSheets{"sides",    "Duplex",     "JCLDuplex",
-                                          "EFDuplex", "KD03Duplex", "multiple-document-handling",
+inline constexpr std::array againstSheets{sidesOption,
+                                          duplexOptions[0],
+                                          duplexOptions[1],
+                                          duplexOptions[2],
+                                          duplexOptions[3],
+                                          duplexOptions[4],
+                                          "multiple-document-handling",
                                           "Collate"};
 
 /// How they are printed: turned over at the short edge, each copy a booklet.

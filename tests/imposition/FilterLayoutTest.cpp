@@ -78,16 +78,6 @@ void chooseSides(std::mt19937 &random, RandomJob *job) {
   if (sides.twoSided) job->options << QStringLiteral("Duplex=DuplexNoTumble");
 }
 
-void choosePlaces(std::mt19937 &random, RandomJob *job) {
-  const auto place = any<std::string>(
-      random, {"", "", "left", "top-right", "bottom", "bottom-left", "center", "top"});
-  job->job.position = readPosition(place);
-  if (!place.empty()) job->options << "position=" + QString::fromStdString(place);
-  for (const test::NumberedPage &page : job->pages) job->job.ownTurns.push_back(page.turn);
-  job->job.isMirrored = any<int>(random, {0, 1, 2, 3}) == 0;
-  if (job->job.isMirrored) job->options << QStringLiteral("mirror");
-}
-
 void chooseBooklet(std::mt19937 &random, RandomJob *job) {
   job->job.booklet = any<OwnBooklet>(random, {OwnBooklet::Off, OwnBooklet::Off, OwnBooklet::Off,
                                               OwnBooklet::Sides, OwnBooklet::Order});
@@ -97,6 +87,17 @@ void chooseBooklet(std::mt19937 &random, RandomJob *job) {
   job->job.signature = any<int>(random, {0, 0, 4, 8});
   if (job->job.signature == 0) return;
   job->options << QStringLiteral("booklet-signature=%1").arg(job->job.signature);
+}
+
+void choosePlaces(std::mt19937 &random, RandomJob *job) {
+  const auto place = any<std::string>(
+      random, {"", "", "left", "top-right", "bottom", "bottom-left", "center", "top"});
+  job->job.position = readPosition(place);
+  if (!place.empty()) job->options << "position=" + QString::fromStdString(place);
+  for (const test::NumberedPage &page : job->pages) job->job.ownTurns.push_back(page.turn);
+  job->job.isMirrored = any<int>(random, {0, 1, 2, 3}) == 0;
+  if (job->job.isMirrored) job->options << QStringLiteral("mirror");
+  chooseBooklet(random, job);
 }
 
 RandomJob randomJob(unsigned seed) {
@@ -128,7 +129,6 @@ RandomJob randomJob(unsigned seed) {
   job.options << QStringLiteral("print-scaling=%1")
                      .arg(QString::fromLatin1(words[static_cast<int>(job.job.scaling)]));
   choosePlaces(random, &job);
-  chooseBooklet(random, &job);
   return job;
 }
 

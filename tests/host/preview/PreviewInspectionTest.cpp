@@ -70,11 +70,12 @@ TEST(PreviewInspection, SaysCopiesOnceAndNullForNoFold) {
 
 // Every frame lies on its side; those of a booklet on their own half of it.
 void expectVisible(const QJsonObject &preview, bool isBooklet) {
-  for (const QJsonValue &side : preview["sides"].toArray()) {
+  for (const auto listed : preview["sides"].toArray()) {
+    const QJsonObject side = listed.toObject();
     const double width = side["size"].toArray()[0].toDouble();
     const double height = side["size"].toArray()[1].toDouble();
-    for (const QJsonValue &page : side["pages"].toArray()) {
-      const QJsonArray frame = page["frame"].toArray();
+    for (const auto page : side["pages"].toArray()) {
+      const QJsonArray frame = page.toObject()["frame"].toArray();
       const double left = frame[0].toDouble();
       const double right = left + frame[2].toDouble();
       const double bottom = frame[1].toDouble() + frame[3].toDouble();
