@@ -32,8 +32,9 @@ QByteArray fill(int red, int green, const QRectF &rect) {
   QByteArray text;
   for (const int shade : {red, green, pageBlue}) text += QByteArray::number(shade / whole) + ' ';
   text += "rg ";
-  for (const double number : {rect.x(), rect.y(), rect.width(), rect.height()})
+  for (const double number : {rect.x(), rect.y(), rect.width(), rect.height()}) {
     text += QByteArray::number(number) + ' ';
+  }
   return text + "re f\n";
 }
 
@@ -70,8 +71,9 @@ class Writer {
   QByteArray finish() {
     const qsizetype table = m_bytes.size();
     m_bytes += "xref\n0 " + QByteArray::number(m_places.size() + 1) + "\n0000000000 65535 f \n";
-    for (const qsizetype place : m_places)
+    for (const qsizetype place : m_places) {
       m_bytes += QByteArray::number(place).rightJustified(10, '0') + " 00000 n \n";
+    }
     m_bytes += "trailer<</Size " + QByteArray::number(m_places.size() + 1) +
                "/Root 1 0 R>>\nstartxref\n" + QByteArray::number(table) + "\n%%EOF\n";
     return m_bytes;
@@ -111,11 +113,13 @@ std::optional<int> turnOf(const Seen &seen) {
 
 FoundSide sideIn(const QImage &image) {
   QMap<int, Seen> seen;
-  for (int y = 0; y < image.height(); ++y)
+  for (int y = 0; y < image.height(); ++y) {
     for (int x = 0; x < image.width(); ++x) look(&seen, image.pixel(x, y), {x, y});
+  }
   FoundSide side{QSizeF(image.size()), {}};
-  for (auto page = seen.begin(); page != seen.end(); ++page)
+  for (auto page = seen.begin(); page != seen.end(); ++page) {
     side.pages.append({page.key(), QRectF(page->page), turnOf(*page)});
+  }
   return side;
 }
 
