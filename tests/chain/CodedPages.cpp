@@ -29,9 +29,9 @@ struct Colour {
 
 Colour colourOf(int number, PagePart part) {
   const int code = number - 1;
-  return {(darkest + digitStep * (code % digits)) / whole,
-          (darkest + digitStep * (code / digits)) / whole,
-          (darkestPart + partStep * static_cast<int>(part)) / whole};
+  const int low = darkest + digitStep * (code % digits);
+  const int high = darkest + digitStep * (code / digits);
+  return {low / whole, high / whole, (darkestPart + partStep * static_cast<int>(part)) / whole};
 }
 
 std::optional<int> digitOf(int value, int least, int step, int count) {
@@ -81,8 +81,8 @@ std::string codedPostScript(int pages, imposition::Size size) {
                      "\n%%Pages: " + std::to_string(pages) + "\n%%EndComments\n";
   for (int page = 1; page <= pages; ++page) {
     const std::string number = std::to_string(page);
-    text += "%%Page: " + number + ' ' + number + "\n" + drawn(inPostScript, page, size) +
-            "\nshowpage\n";
+    text.append("%%Page: ").append(number).append(" ").append(number).append("\n");
+    text.append(drawn(inPostScript, page, size)).append("\nshowpage\n");
   }
   return text + "%%Trailer\n%%EOF\n";
 }

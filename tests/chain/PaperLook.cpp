@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstddef>
 #include <cstring>
 #include <optional>
 
@@ -29,10 +30,11 @@ struct Picture {
 
   std::size_t rowBytes() const { return 3 * static_cast<std::size_t>(width); }
   const unsigned char *row(int y) const { return pixels + rowBytes() * static_cast<unsigned>(y); }
+  const unsigned char *pixel(int x, int y) const { return row(y) + std::ptrdiff_t{3} * x; }
   bool isDarkAt(int x, int y) const {
     if (x < 0 || y < 0 || x >= width || y >= height) return false;
-    const unsigned char *pixel = row(y) + 3 * x;
-    return std::max({pixel[0], pixel[1], pixel[2]}) < darkness;
+    const unsigned char *parts = pixel(x, y);
+    return std::max({parts[0], parts[1], parts[2]}) < darkness;
   }
 };
 
@@ -97,11 +99,13 @@ class Search {
 
   void readRow(int y) {
     m_runs.clear();
-    const unsigned char *row = m_picture.row(y);
     for (int first = 0; first < m_picture.width;) {
       int next = first + 1;
-      while (next < m_picture.width && std::memcmp(row + 3 * first, row + 3 * next, 3) == 0) ++next;
-      const auto spot = spotOf(row[3 * first], row[3 * first + 1], row[3 * first + 2]);
+      const unsigned char *colour = m_picture.pixel(first, y);
+      while (next < m_picture.width && std::memcmp(colour, m_picture.pixel(next, y), 3) == 0) {
+        ++next;
+      }
+      const auto spot = spotOf(colour[0], colour[1], colour[2]);
       if (spot) m_runs.push_back({*spot, first, next - 1});
       first = next;
     }

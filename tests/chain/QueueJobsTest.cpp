@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QJsonArray>
 #include <QRegularExpression>
 
 #include "tests/chain/Agreement.h"
@@ -47,10 +48,10 @@ std::string document() {
 class QueueJobs : public ::testing::Test {
  protected:
   void SetUp() override {
-    for (const QString &obstacle : {PrivateCups::obstacle(), obstacleToFilters()}) {
-      if (!obstacle.isEmpty()) GTEST_SKIP() << obstacle.toStdString();
-    }
-    if (!obstacleToLooking().empty()) GTEST_SKIP() << obstacleToLooking();
+    const QStringList obstacles{PrivateCups::obstacle(), obstacleToFilters(),
+                                QString::fromStdString(obstacleToLooking())};
+    const QString obstacle = obstacles.join(QString());
+    if (!obstacle.isEmpty()) GTEST_SKIP() << obstacle.toStdString();
     cups = std::make_unique<PrivateCups>();
     ASSERT_EQ(cups->addQueue(kQueue, orvekPPD(QStringLiteral("6180"))).exitStatus, 0);
     file = kit.write(QStringLiteral("in.pdf"), document());

@@ -156,11 +156,7 @@ bool hasPostScript(const RandomJob &job) {
 
 void chooseLayout(Dice &dice, RandomJob &job) {
   if (dice.oneIn(3)) {
-    // The filters of PostScript have fewer layouts.
-    const QString pages =
-        hasPostScript(job)
-            ? dice.word({"1", "2", "4", "9", "16"})
-            : dice.word({"2", "2", "2", "4", "4", "6", "9", "16", "3", "8", "10", "1"});
+    const QString pages = dice.word({"2", "2", "2", "4", "4", "6", "9", "16", "3", "8", "10", "1"});
     if (dice.oneIn(4)) {
       job.arguments << QStringLiteral("--do") << QStringLiteral("nup=") + pages;
     } else {
@@ -171,10 +167,25 @@ void chooseLayout(Dice &dice, RandomJob &job) {
                       dice.word({"lrtb", "lrbt", "rltb", "rlbt", "tblr", "tbrl", "btlr", "btrl"}));
     }
   }
-  if (dice.oneIn(4)) {
-    option(job, dice.word({"print-scaling=fit", "print-scaling=auto", "print-scaling=auto-fit",
-                           "fit-to-page", "fitplot"}));
+}
+
+void chooseScaling(Dice &dice, RandomJob &job) {
+  if (!dice.oneIn(4)) return;
+  option(job,
+         dice.word({"print-scaling=fit", "print-scaling=fill", "print-scaling=none",
+                    "print-scaling=auto", "print-scaling=auto-fit", "fit-to-page", "fitplot"}));
+}
+
+/// What fewer people know.
+void chooseOddity(Dice &dice, RandomJob &job) {
+  if (job.printer == QLatin1String("piles face up")) {
+    option(job, dice.word({"OutputBin=Standard", "OutputBin=OffsetBin", "output-bin=standard"}));
   }
+  if (!dice.oneIn(8)) return;
+  option(job, dice.word({"mirror", "position=top-left", "position=bottom", "position=right",
+                         "booklet=true", "booklet=shuffle-only", "ovkenablebooklet=true",
+                         "Sides=two-sided-long-edge", "OutputOrder=Reverse",
+                         "page-delivery=reverse-order", "copies=2"}));
 }
 
 void chooseCopies(Dice &dice, RandomJob &job) {
@@ -187,7 +198,7 @@ void chooseCopies(Dice &dice, RandomJob &job) {
 void pickBooklet(Dice &dice, RandomJob &job) {
   QStringList acts{QStringLiteral("foldingPopup=Saddle"), QStringLiteral("bookletChckBox=on")};
   if (dice.oneIn(2)) acts << QStringLiteral("gutterSlider=%1").arg(dice.from(0, 144));
-  if (dice.oneIn(2)) acts << QStringLiteral("creepSlider=%1").arg(dice.from(-36, 0));
+  if (dice.oneIn(2)) acts << QStringLiteral("creepSlider=%1").arg(dice.from(-36, 36));
   if (dice.oneIn(3)) acts << QStringLiteral("rToLChckBox=on");
   if (dice.oneIn(3)) acts << QStringLiteral("pageBroderChckBox=on");
   if (dice.oneIn(3)) acts << QStringLiteral("paperSizePopup=#%1").arg(dice.from(0, 9));
@@ -211,10 +222,10 @@ void chooseBooklet(Dice &dice, RandomJob &job) {
     option(job, dice.word({"OVKRightToLeft", "OVKRightToLeft=True", "noOVKRightToLeft"}));
   }
   if (dice.oneIn(2)) {
-    option(job, QStringLiteral("OVKGutter=%1").arg(dice.any({0, 24, 36, 72, 144, -5, 300})));
+    option(job, QStringLiteral("OVKGutter=%1").arg(dice.any({0, 10, 36, 72, 144, -5, 300})));
   }
   if (dice.oneIn(2)) {
-    option(job, QStringLiteral("OVKCreep=%1").arg(dice.any({-50, -36, -24, -12, -5, 0})));
+    option(job, QStringLiteral("OVKCreep=%1").arg(dice.any({-36, -12, -5, 6, 12, 24, 36, 50})));
   }
   if (dice.oneIn(3)) option(job, QStringLiteral("OVKPrintPageBorders"));
   if (dice.oneIn(3)) {
@@ -224,7 +235,7 @@ void chooseBooklet(Dice &dice, RandomJob &job) {
 
 QString anyPrinter(Dice &dice) {
   return dice.word({"6180", "6180", "6180", "6180", "6180", "6180", "4150", "4150",
-                    "small, in colour", "turns right"});
+                    "small, in colour", "turns right", "last page first", "piles face up"});
 }
 
 }  // namespace
@@ -239,14 +250,17 @@ RandomJob randomJob(unsigned seed) {
     job.printer = QStringLiteral("6180");
   } else {
     choosePaper(dice, job);
-    chooseOrientation(dice, job);
   }
+  chooseOrientation(dice, job);
   chooseSides(dice, job);
   choosePages(dice, job);
   if (dice.oneIn(5)) option(job, QStringLiteral("outputorder=reverse"));
   chooseLayout(dice, job);
+  // What the filters of PostScript make of it depends on the pages chosen.
+  if (!hasPostScript(job)) chooseScaling(dice, job);
   chooseCopies(dice, job);
   chooseBooklet(dice, job);
+  chooseOddity(dice, job);
   return job;
 }
 
@@ -261,7 +275,10 @@ QMap<QString, QByteArray> variantPPDs() {
                                                                   "LandscapeOrientation: Minus90")},
           {QStringLiteral("last page first"),
            QByteArray(ppd).replace("*LandscapeOrientation",
-                                   "*DefaultOutputOrder: Reverse\n*LandscapeOrientation")}};
+                                   "*DefaultOutputOrder: Reverse\n*LandscapeOrientation")},
+          {QStringLiteral("piles face up"),
+           QByteArray(ppd).replace("*LandscapeOrientation",
+                                   "*PageStackOrder Standard: Reverse\n*LandscapeOrientation")}};
 }
 
 }  // namespace orvek::test

@@ -29,7 +29,8 @@ struct RandomJob {
 RandomJob randomJob(unsigned seed);
 
 /// Printers that the family has none of, as PPDs made of one of theirs, by name: a small one that
-/// prints in colour, as pages are told apart by it; landscape turned to the other side.
+/// prints in colour, as pages are told apart by it; landscape turned to the other side; the
+/// last page first, by habit or in one tray.
 QMap<QString, QByteArray> variantPPDs();
 
 }  // namespace orvek::test
