@@ -25,7 +25,7 @@ QString field(const QString &text) {
 
 ServerAccess serverAccess(const CommandLine &line,
                           const std::shared_ptr<PasswordSource> &passwords) {
-  return {line.server, line.user, nullptr, serverPatience, passwords};
+  return {line.server, line.user, nullptr, serverPatience(), passwords};
 }
 
 Status listPrintersAsAsked(const CommandLine &line) {

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "host/cli/CommandLine.h"
-#include "host/printers/CupsConnection.h"
+#include "host/printers/ServerAccess.h"
 
 namespace orvek {
 

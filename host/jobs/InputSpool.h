@@ -15,8 +15,8 @@
 namespace orvek {
 
 /// Standard input, or a pipe, copied into a temporary file, which it owns and which goes away with
-/// it. Holds only one block of it in memory. May be handed from thread to thread, but used on one at
-/// a time. Only fill() fails.
+/// it. Holds only one block of it in memory. May be handed from thread to thread, but used on one
+/// at a time. Only fill() fails.
 class InputSpool {
  public:
   explicit InputSpool(QString document = standardInput()) : m_document(std::move(document)) {}

@@ -44,7 +44,7 @@ struct JobRequest {
   /// To a queue: HOST[:PORT] or a socket's path; null: the server in force.
   QString server;
   /// To a queue: how long its server may keep silent.
-  std::chrono::milliseconds patience = serverPatience;
+  std::chrono::milliseconds patience = serverPatience();
   /// To a queue whose server lacks the driver: the sheets are made here and sent finished. Without
   /// it nothing is sent there, and the outcome says so.
   bool mayMakeSheets = false;

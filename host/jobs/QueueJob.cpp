@@ -1,20 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
-// Creates the job, sends its documents, and cancels what did not go through.
+// Finds the queue, has the job sent, and cancels what did not go through.
 
 #include "host/jobs/QueueJob.h"
 
-#include <QFileInfo>
 #include <algorithm>
 
 #include "host/jobs/BookletDriver.h"
-#include "host/jobs/CreateJob.h"
-#include "host/jobs/CupsOptions.h"
 #include "host/jobs/Document.h"
 #include "host/jobs/DocumentReader.h"
 #include "host/jobs/FinishedSheets.h"
 #include "host/jobs/JobState.h"
+#include "host/jobs/QueueUpload.h"
 #include "host/jobs/ServerDriver.h"
-#include "host/printers/CupsConnection.h"
+#include "host/printers/CupsOptions.h"
 #include "host/printers/PrinterList.h"
 #include "host/printers/QueuePPD.h"
 
@@ -22,27 +20,6 @@ namespace orvek {
 namespace {
 
 constexpr const char *stateReasons = "printer-state-reasons";
-
-/// One job under way.
-struct Submission {
-  JobControl &control;
-  CupsConnection &connection;
-  QByteArray queue;
-  const CupsOptions &options;
-  QByteArray firstOfStandardInput;
-  int jobId = 0;
-  JobProgress progress;
-};
-
-qint64 expectedBytes(const QStringList &files) {
-  qint64 sum = 0;
-  for (const QString &file : files) {
-    const qint64 size = documentSize(file);
-    if (size < 0) return -1;
-    sum += size;
-  }
-  return sum;
-}
 
 /// Standard input's first block, before there is a job: an empty input makes none.
 Result<QByteArray> beginOfStandardInput(const QStringList &files, const JobControl &control) {
@@ -60,74 +37,6 @@ Result<QByteArray> beginOfStandardInput(const QStringList &files, const JobContr
   return jobCancelled();
 }
 
-QByteArray formatOf(const CupsOptions &options) {
-  if (options.value("raw")) return CUPS_FORMAT_RAW;
-  const char *format = options.value("document-format");
-  return format ? format : CUPS_FORMAT_AUTO;
-}
-
-Failure lastFailure(const Submission &job, const Phrase &what) {
-  return job.control.cancelled ? jobCancelled() : job.connection.lastFailure(what);
-}
-
-Status sendBlock(Submission &job, const QString &file, const QByteArray &block) {
-  if (job.control.cancelled) return jobCancelled();
-  if (block.isEmpty()) return {};
-  const http_status_t status = cupsWriteRequestData(job.connection.http(), block.constData(),
-                                                    static_cast<size_t>(block.size()));
-  if (status != HTTP_STATUS_CONTINUE) return lastFailure(job, documentName(file));
-  job.progress.bytes += block.size();
-  job.control.report(job.progress);
-  return {};
-}
-
-Status sendBlocks(Submission &job, const QString &file) {
-  auto reader = DocumentReader::open(file);
-  if (!reader) return reader.failure();
-  if (isStandardInput(file)) {
-    if (Status sent = sendBlock(job, file, job.firstOfStandardInput); !sent) return sent;
-  }
-  while (!reader.value()->atEnd()) {
-    const auto block = reader.value()->read();
-    if (!block) return block.failure();
-    if (Status sent = sendBlock(job, file, block.value()); !sent) return sent;
-  }
-  return {};
-}
-
-Status sendDocument(Submission &job, const QString &file, bool isLast) {
-  // Standard input has no name of its own; libcups then gives the document the job's.
-  const QByteArray name =
-      isStandardInput(file) ? QByteArray() : QFileInfo(file).fileName().toUtf8();
-  http_t *http = job.connection.http();
-  const http_status_t status = cupsStartDocument(http, job.queue.constData(), job.jobId,
-                                                 name.isNull() ? nullptr : name.constData(),
-                                                 formatOf(job.options).constData(), isLast ? 1 : 0);
-  if (status != HTTP_STATUS_CONTINUE) return lastFailure(job, documentName(file));
-  if (Status sent = sendBlocks(job, file); !sent) return sent;
-  const ipp_status_t finished = cupsFinishDocument(http, job.queue.constData());
-  const bool refused = finished > IPP_STATUS_OK_CONFLICTING;
-  if (refused || job.connection.isBroken()) return lastFailure(job, documentName(file));
-  return {};
-}
-
-Status sendAll(Submission &job, const QStringList &files) {
-  job.progress.documents = static_cast<int>(files.size());
-  job.progress.expected = expectedBytes(files);
-  for (const QString &file : files) {
-    const bool isLast = job.progress.document == job.progress.documents;
-    if (Status sent = sendDocument(job, file, isLast); !sent) return sent;
-    if (!isLast) ++job.progress.document;
-  }
-  return {};
-}
-
-Status createJob(Submission &job, const Queue &queue, const JobRequest &request) {
-  job.jobId = createJobOn(job.connection.http(), queue, effectiveTitle(request), job.options,
-                          request.texts);
-  return job.jobId > 0 ? Status() : Status(lastFailure(job, QString::fromUtf8(job.queue)));
-}
-
 ServerAccess accessOf(const JobRequest &request, const std::atomic<bool> *cancelled) {
   return {request.server, request.user, cancelled, request.patience, request.passwords};
 }
@@ -141,8 +50,8 @@ QMap<QString, QString> savedOptions(const Queue &queue, const JobRequest &reques
 }
 
 // An administrator's description counts, whatever one the job was made with.
-QString descriptionOf(const CupsConnection &connection, const Queue &queue) {
-  const auto path = QueuePPD().fetch(connection, queue.name);
+QString descriptionOf(ServerTalk &talk, const Queue &queue) {
+  const auto path = QueuePPD().fetch(talk, queue.name);
   return path ? path.value() : QString();
 }
 
@@ -152,16 +61,20 @@ QString destinationOf(const JobRequest &request) {
 
 /// A queue that was found, and the connection to its server.
 struct Target {
-  std::unique_ptr<CupsConnection> connection;
+  std::unique_ptr<ServerTalk> talk;
   Queue queue;
 };
 
 Result<Target> findTarget(const JobRequest &request, const JobControl &control) {
-  auto connection = CupsConnection::open(accessOf(request, &control.cancelled));
-  if (!connection) return connection.failure();
-  const auto queue = findPrinter(*connection.value(), destinationOf(request));
+  auto talk = ServerTalk::open(accessOf(request, &control.cancelled));
+  if (!talk) return control.cancelled ? jobCancelled() : talk.failure();
+  const auto queue = findPrinter(*talk.value(), destinationOf(request));
   if (!queue) return control.cancelled ? jobCancelled() : queue.failure();
-  return Target{connection.take(), queue.value()};
+  return Target{talk.take(), queue.value()};
+}
+
+QCborMap cancelFields(const QString &queue, int jobId) {
+  return {{QLatin1String("queue"), fieldOf(queue)}, {QLatin1String("job"), jobId}};
 }
 
 void cancelQuietly(const JobRequest &request, const QString &queue, int jobId) {
@@ -172,16 +85,14 @@ void cancelQuietly(const JobRequest &request, const QString &queue, int jobId) {
 
 Result<JobOutcome> send(Target &target, const JobRequest &request, const CupsOptions &options,
                         const QByteArray &beginOfInput, JobControl &control) {
-  const QString name = target.queue.name;
-  Submission job{control, *target.connection, name.toUtf8(), options, beginOfInput, 0, {}};
-  if (Status created = createJob(job, target.queue, request); !created) return created.failure();
-  if (Status sent = sendAll(job, effectiveFiles(request)); !sent) {
-    // The connection may be in the middle of a document; only a new one can be used to cancel.
-    target.connection.reset();
-    cancelQuietly(request, name, job.jobId);
-    return sent.failure();
+  QueueUpload upload(*target.talk, control, beginOfInput);
+  const auto sent = upload.send(target.queue, request, options.all());
+  if (!sent && upload.jobId() > 0) {
+    // That connection may be in the middle of a document, and nobody is to wait for another one.
+    ServerTalk::leave(accessOf(request, nullptr), target.talk->serverName(), ServerTask::Cancel,
+                      cancelFields(target.queue.name, upload.jobId()));
   }
-  return JobOutcome{job.jobId, name, job.progress.documents, job.progress.bytes};
+  return sent;
 }
 
 /// Makes the sheets of a job, all of whose options are `job`'s, and sends those.
@@ -209,7 +120,7 @@ Result<JobOutcome> goAround(ServerDriver driver, const JobRequest &job, const QS
 ServerDriver driverOf(const Target &target, JobRequest *job) {
   const QString reasons = target.queue.options.value(QLatin1String(stateReasons));
   if (!dependsOnServerDriver(job->options, reasons)) return ServerDriver::Works;
-  job->ppdFile = descriptionOf(*target.connection, target.queue);
+  job->ppdFile = descriptionOf(*target.talk, target.queue);
   return serverDriverFor(job->options, reasons, job->ppdFile);
 }
 
@@ -217,7 +128,7 @@ ServerDriver driverOf(const Target &target, JobRequest *job) {
 // next that does.
 bool isStoppedForDriver(const Target &target, const JobRequest &job, int jobId) {
   if (job.ppdFile.isNull() || driverNamedIn(job.ppdFile) != NamedDriver::Ours) return false;
-  return isStoppedByServer(target.connection->http(), jobId);
+  return isStoppedByServer(*target.talk, jobId);
 }
 
 Result<JobOutcome> replaceStopped(const JobOutcome &stopped, JobRequest job, JobControl &control) {
@@ -261,13 +172,10 @@ Result<JobOutcome> submitToQueue(const JobRequest &request, JobControl &control)
 }
 
 Status cancelJob(const ServerAccess &access, const QString &queue, int jobId) {
-  auto connection = CupsConnection::open(access);
-  if (!connection) return connection.failure();
-  constexpr int keepHistory = 0;
-  const ipp_status_t status =
-      cupsCancelJob2(connection.value()->http(), queue.toUtf8().constData(), jobId, keepHistory);
-  if (status <= IPP_STATUS_OK_CONFLICTING) return {};
-  return connection.value()->lastFailure(QStringLiteral("%1-%2").arg(queue).arg(jobId));
+  auto talk = ServerTalk::open(access);
+  if (!talk) return talk.failure();
+  const auto cancelled = talk.value()->ask(ServerTask::Cancel, cancelFields(queue, jobId));
+  return cancelled ? Status() : cancelled.failure();
 }
 
 QString requestIdLine(const JobRequest &request, const JobOutcome &outcome) {

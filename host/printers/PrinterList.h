@@ -5,8 +5,8 @@
 
 #include <QList>
 
-#include "host/printers/CupsConnection.h"
 #include "host/printers/Queue.h"
+#include "host/printers/ServerTalk.h"
 
 namespace orvek {
 
@@ -21,9 +21,6 @@ Result<QList<Queue>> listPrinters(const ServerAccess &access);
 Result<Queue> findPrinter(const ServerAccess &access, const QString &destination);
 
 /// The same over a connection that is open already.
-Result<Queue> findPrinter(const CupsConnection &connection, const QString &destination);
-
-/// A destination as libcups gives it.
-Queue queueFrom(const cups_dest_t &destination);
+Result<Queue> findPrinter(ServerTalk &talk, const QString &destination);
 
 }  // namespace orvek

@@ -4,7 +4,7 @@
 
 #include <QList>
 
-#include "host/printers/CupsConnection.h"
+#include "host/printers/ServerTalk.h"
 #include "host/printers/SettingOffer.h"
 
 namespace orvek {
@@ -15,7 +15,6 @@ namespace orvek {
 Result<QList<SettingOffer>> readQueueSettings(const ServerAccess &access, const QString &queue);
 
 /// The same over a connection that is open already.
-Result<QList<SettingOffer>> readQueueSettings(const CupsConnection &connection,
-                                              const QString &queue);
+Result<QList<SettingOffer>> readQueueSettings(ServerTalk &talk, const QString &queue);
 
 }  // namespace orvek

@@ -11,7 +11,6 @@
 #include <QSaveFile>
 #include <QStandardPaths>
 
-#include "host/printers/PPDDownload.h"
 #include "host/printers/PrinterList.h"
 
 namespace orvek {
@@ -32,32 +31,28 @@ QString keptPath(const QString &folder, const QString &server, const QString &qu
       .arg(folder, QString::fromLatin1(digestOf(server)), QString::fromLatin1(name));
 }
 
-time_t keptDate(const QString &path) {
+qint64 keptDate(const QString &path) {
   const QFileInfo kept(path);
-  return kept.isFile() && kept.size() > 0
-             ? static_cast<time_t>(kept.lastModified().toSecsSinceEpoch())
-             : 0;
+  return kept.isFile() && kept.size() > 0 ? kept.lastModified().toSecsSinceEpoch() : 0;
 }
 
-Status keep(const PPDAnswer &fetched, const QString &path) {
+Status keep(const QByteArray &ppd, qint64 date, const QString &path) {
   QDir().mkpath(QFileInfo(path).path());
   QSaveFile kept(path);
-  if (!kept.open(QIODevice::WriteOnly) || kept.write(fetched.ppd) != fetched.ppd.size() ||
-      !kept.commit()) {
+  if (!kept.open(QIODevice::WriteOnly) || kept.write(ppd) != ppd.size() || !kept.commit()) {
     return Failure{FailureKind::Io, path, Phrase::ofSystem(kept.errorString())};
   }
   QFile dated(path);
   // Undated, it would only be fetched again the next time.
   if (dated.open(QIODevice::ReadWrite)) {
-    dated.setFileTime(QDateTime::fromSecsSinceEpoch(fetched.date),
-                      QFileDevice::FileModificationTime);
+    dated.setFileTime(QDateTime::fromSecsSinceEpoch(date), QFileDevice::FileModificationTime);
   }
   return {};
 }
 
 /// No PPD is an answer as long as there is such a queue.
-Result<QString> withoutPPD(const CupsConnection &connection, const QString &queue) {
-  const auto found = findPrinter(connection, queue);
+Result<QString> withoutPPD(ServerTalk &talk, const QString &queue) {
+  const auto found = findPrinter(talk, queue);
   if (!found) return found.failure();
   return QString();
 }
@@ -72,25 +67,23 @@ QString QueuePPD::standardFolder() {
 }
 
 Result<QString> QueuePPD::fetch(const ServerAccess &access, const QString &queue) const {
-  auto connection = CupsConnection::open(access);
-  if (!connection) return connection.failure();
-  return fetch(*connection.value(), queue);
+  auto talk = ServerTalk::open(access);
+  if (!talk) return talk.failure();
+  return fetch(*talk.value(), queue);
 }
 
-Result<QString> QueuePPD::fetch(const CupsConnection &connection, const QString &queue) const {
-  const QString path = keptPath(m_folder, connection.serverName(), queue);
-  const PPDAnswer answer = downloadPPD(connection.http(), queue, keptDate(path));
-  if (connection.isBroken() || connection.lacksPassword()) return connection.lastFailure(queue);
-  if (answer.status == HTTP_STATUS_NOT_MODIFIED) return path;
-  if (answer.status == HTTP_STATUS_NOT_FOUND) return withoutPPD(connection, queue);
-  if (answer.status != HTTP_STATUS_OK) {
-    return Failure{
-        FailureKind::Io, queue,
-        Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
-                                 "the print server does not give its printer description (%1)"),
-               {QString::fromUtf8(httpStatus(answer.status))})};
-  }
-  const Status kept = keep(answer, path);
+Result<QString> QueuePPD::fetch(ServerTalk &talk, const QString &queue) const {
+  const QString path = keptPath(m_folder, talk.serverName(), queue);
+  auto answer = talk.ask(ServerTask::Description, {{QLatin1String("queue"), fieldOf(queue)},
+                                                   {QLatin1String("date"), keptDate(path)}});
+  if (!answer) return answer.failure();
+  const bool exists = answer.value().flag("exists");
+  const bool isNew = answer.value().flag("new");
+  const qint64 date = answer.value().number("date");
+  if (!answer.value().isSound() || isNew == talk.description().isNull()) return talk.unreadable();
+  if (!exists) return withoutPPD(talk, queue);
+  if (!isNew) return path;
+  const Status kept = keep(talk.description(), date, path);
   return kept ? Result<QString>(path) : Result<QString>(kept.failure());
 }
 

@@ -3,7 +3,7 @@
 // one.
 #pragma once
 
-#include "host/printers/CupsConnection.h"
+#include "host/printers/ServerTalk.h"
 
 namespace orvek {
 
@@ -22,7 +22,7 @@ class QueuePPD {
   Result<QString> fetch(const ServerAccess &access, const QString &queue) const;
 
   /// The same over an open connection.
-  Result<QString> fetch(const CupsConnection &connection, const QString &queue) const;
+  Result<QString> fetch(ServerTalk &talk, const QString &queue) const;
 
  private:
   QString m_folder;

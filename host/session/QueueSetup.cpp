@@ -18,8 +18,8 @@ QList<OptionChoice> savedOptions(const Queue &queue) {
   return options;
 }
 
-Status describe(const CupsConnection &connection, const QString &queue, SessionSetup *setup) {
-  const Result<QString> path = QueuePPD().fetch(connection, queue);
+Status describe(ServerTalk &talk, const QString &queue, SessionSetup *setup) {
+  const Result<QString> path = QueuePPD().fetch(talk, queue);
   if (!path) return path.failure();
   if (path.value().isNull()) return {};
   Result<std::shared_ptr<PrinterDescription>> printer = PrinterDescription::open(path.value());
@@ -29,22 +29,22 @@ Status describe(const CupsConnection &connection, const QString &queue, SessionS
 }
 
 // A queue that says nothing of itself still prints.
-QList<SettingOffer> offersOf(const CupsConnection &connection, const QString &queue) {
-  Result<QList<SettingOffer>> offers = readQueueSettings(connection, queue);
+QList<SettingOffer> offersOf(ServerTalk &talk, const QString &queue) {
+  Result<QList<SettingOffer>> offers = readQueueSettings(talk, queue);
   return offers ? offers.take() : QList<SettingOffer>();
 }
 
 }  // namespace
 
 Status setUpForQueue(const ServerAccess &access, const QString &destination, SessionSetup *setup) {
-  const Result<std::unique_ptr<CupsConnection>> connection = CupsConnection::open(access);
-  if (!connection) return connection.failure();
-  const Result<Queue> queue = findPrinter(*connection.value(), destination);
+  const Result<std::unique_ptr<ServerTalk>> talk = ServerTalk::open(access);
+  if (!talk) return talk.failure();
+  const Result<Queue> queue = findPrinter(*talk.value(), destination);
   if (!queue) return queue.failure();
-  if (Status described = describe(*connection.value(), queue.value().name, setup); !described) {
+  if (Status described = describe(*talk.value(), queue.value().name, setup); !described) {
     return described;
   }
-  if (!setup->printer) setup->offers = offersOf(*connection.value(), queue.value().name);
+  if (!setup->printer) setup->offers = offersOf(*talk.value(), queue.value().name);
   setup->queueOptions = savedOptions(queue.value());
   setup->destination = queue.value().destination();
   return {};

@@ -2,7 +2,7 @@
 // What a printing session needs to know of a queue.
 #pragma once
 
-#include "host/printers/CupsConnection.h"
+#include "host/printers/ServerAccess.h"
 #include "host/session/SessionSetup.h"
 
 namespace orvek {

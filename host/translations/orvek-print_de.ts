@@ -491,6 +491,30 @@
         <source>the server lacks the printer&apos;s driver and stops every job</source>
         <translation>dem Server fehlt der Treiber des Druckers, und er hält jeden Auftrag an</translation>
     </message>
+    <message>
+        <source>the print server wants it once more; print it from a file instead</source>
+        <translation>der Druckserver verlangt sie noch einmal; drucken Sie stattdessen aus einer Datei</translation>
+    </message>
+    <message>
+        <source>the print server sent an answer that cannot be read</source>
+        <translation>der Druckserver hat eine Antwort gesendet, die sich nicht lesen lässt</translation>
+    </message>
+    <message>
+        <source>the print server did not come to an end of its answer; try again later, or ask whoever runs it</source>
+        <translation>der Druckserver ist mit seiner Antwort nicht fertig geworden; versuchen Sie es später erneut, oder fragen Sie, wer ihn betreibt</translation>
+    </message>
+    <message>
+        <source>no print server has this name</source>
+        <translation>kein Druckserver trägt diesen Namen</translation>
+    </message>
+    <message>
+        <source>no print server answers there</source>
+        <translation>dort antwortet kein Druckserver</translation>
+    </message>
+    <message>
+        <source>the connection to the print server broke</source>
+        <translation>die Verbindung zum Druckserver ist abgebrochen</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>

@@ -491,6 +491,30 @@
         <source>the server lacks the printer&apos;s driver and stops every job</source>
         <translation>le serveur n’a pas le pilote de l’imprimante et arrête chaque tâche</translation>
     </message>
+    <message>
+        <source>the print server wants it once more; print it from a file instead</source>
+        <translation>le serveur d’impression la redemande ; imprimez plutôt à partir d’un fichier</translation>
+    </message>
+    <message>
+        <source>the print server sent an answer that cannot be read</source>
+        <translation>le serveur d’impression a envoyé une réponse illisible</translation>
+    </message>
+    <message>
+        <source>the print server did not come to an end of its answer; try again later, or ask whoever runs it</source>
+        <translation>le serveur d’impression n’a pas terminé sa réponse ; réessayez plus tard ou adressez-vous à son administrateur</translation>
+    </message>
+    <message>
+        <source>no print server has this name</source>
+        <translation>aucun serveur d’impression ne porte ce nom</translation>
+    </message>
+    <message>
+        <source>no print server answers there</source>
+        <translation>aucun serveur d’impression n’y répond</translation>
+    </message>
+    <message>
+        <source>the connection to the print server broke</source>
+        <translation>la connexion au serveur d’impression s’est rompue</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>

@@ -491,6 +491,30 @@
         <source>the server lacks the printer&apos;s driver and stops every job</source>
         <translation>サーバーにプリンターのドライバーがないため、すべてのジョブが停止されます</translation>
     </message>
+    <message>
+        <source>the print server wants it once more; print it from a file instead</source>
+        <translation>プリントサーバーがもう一度送るよう求めています。ファイルから印刷してください</translation>
+    </message>
+    <message>
+        <source>the print server sent an answer that cannot be read</source>
+        <translation>プリントサーバーから読み取れない応答が届きました</translation>
+    </message>
+    <message>
+        <source>the print server did not come to an end of its answer; try again later, or ask whoever runs it</source>
+        <translation>プリントサーバーの応答が終わりませんでした。後でやり直すか、管理者に問い合わせてください</translation>
+    </message>
+    <message>
+        <source>no print server has this name</source>
+        <translation>この名前のプリントサーバーはありません</translation>
+    </message>
+    <message>
+        <source>no print server answers there</source>
+        <translation>応答するプリントサーバーがありません</translation>
+    </message>
+    <message>
+        <source>the connection to the print server broke</source>
+        <translation>プリントサーバーとの接続が切れました</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>

@@ -65,7 +65,8 @@ class Installation(unittest.TestCase):
 
     def test_the_runtime_component_holds_programs_and_libraries_and_nothing_to_build_against(self):
         files = files_in(self.runtime)
-        for path in ["bin/orvek-print", "bin/orvek-device", "share/man/man1/orvek-print.1"]:
+        for path in ["bin/orvek-print", "bin/orvek-device", "libexec/orvek-print-server",
+                     "share/man/man1/orvek-print.1"]:
             self.assertIn(path, files)
         for name in LIBRARIES:
             self.assertIn(f"{LIBDIR}/{name}.so.1", files)
@@ -132,6 +133,9 @@ class Installation(unittest.TestCase):
         told = run(f"{moved}/bin/orvek-print", "--headless", "--ppd", f"{SOURCE}/printers/Orvek-6180.ppd",
                    "--do", "foldingPopup=Saddle", "--summary", env=environment)
         self.assertIn("Saddle", told)
+        asked = subprocess.run([f"{moved}/bin/orvek-print", "-h", "127.0.0.1:1", "--list-printers"],
+                               env=environment, capture_output=True, text=True, check=False)
+        self.assertIn("no print server answers there (Connection refused)", asked.stderr)
 
     def test_moved_elsewhere_with_its_driver_the_program_prints_a_booklet_into_a_file(self):
         if not shutil.which("cupsfilter", path=os.environ["PATH"] + ":/usr/sbin"):

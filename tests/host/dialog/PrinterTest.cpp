@@ -113,7 +113,7 @@ class PrinterChoice : public DialogTest {
   QString silentQueue;
   /// The destinations of the sessions that the window asked for.
   QStringList begun;
-  std::chrono::milliseconds patience = serverPatience;
+  std::chrono::milliseconds patience = serverPatience();
 };
 
 TEST_F(PrinterChoice, ShowsStateAndLocationOfAQueue) {

@@ -15,7 +15,6 @@
 #include <QTemporaryDir>
 
 #include "host/printers/QueueAttributes.h"
-#include "host/printers/SettingTitles.h"
 #include "platform/printing/PPD.h"
 #include "tests/support/CapturingFilter.h"
 #include "tests/support/FrontServer.h"
@@ -247,22 +246,6 @@ TEST_F(QueuePPDTest, SettingsFailForAQueueThatDoesNotExist) {
   const auto settings = readQueueSettings({}, QStringLiteral("gone"));
   ASSERT_FALSE(settings);
   EXPECT_EQ(settings.failure().what, QStringLiteral("gone"));
-}
-
-TEST(SettingTitles, AreWordsWhereAKeywordIsKnown) {
-  EXPECT_EQ(plainSettingTitle(QStringLiteral("sides")), QStringLiteral("Two-sided"));
-  EXPECT_EQ(plainChoiceTitle(QStringLiteral("sides"), QStringLiteral("two-sided-long-edge")),
-            QStringLiteral("Long edge"));
-  EXPECT_EQ(plainChoiceTitle(QStringLiteral("media"), QStringLiteral("iso_a4_210x297mm")),
-            QStringLiteral("A4"));
-  EXPECT_EQ(plainChoiceTitle(QStringLiteral("finishings"), QStringLiteral("4")),
-            QStringLiteral("Staple"));
-}
-
-TEST(SettingTitles, SpellOutWhatIsNotKnown) {
-  EXPECT_EQ(plainSettingTitle(QStringLiteral("vendor-oddity")), QStringLiteral("Vendor oddity"));
-  EXPECT_EQ(plainChoiceTitle(QStringLiteral("output-bin"), QStringLiteral("face-down")),
-            QStringLiteral("Face down"));
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // One GET, asked again where the server wants a password, another connection or encryption.
 
-#include "host/printers/PPDDownload.h"
+#include "host/server/PPDDownload.h"
 
 #include <array>
 
@@ -9,7 +9,6 @@ namespace orvek {
 namespace {
 
 constexpr int mostRounds = 12;  // passwords, new connections, encryption
-constexpr int connectMilliseconds = 5000;
 constexpr std::size_t blockBytes = 65536;
 constexpr qsizetype largestPPD = 64 << 20;
 
@@ -59,6 +58,13 @@ PPDAnswer readAnswer(http_t *http) {
   return answer;
 }
 
+Phrase whyNoPPD(http_status_t status) {
+  if (status == HTTP_STATUS_ERROR) return unreadableAnswer();
+  return Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
+                                  "the print server does not give its printer description (%1)"),
+                {QString::fromUtf8(httpStatus(status))});
+}
+
 }  // namespace
 
 PPDAnswer downloadPPD(http_t *http, const QString &queue, time_t date) {
@@ -74,6 +80,21 @@ PPDAnswer downloadPPD(http_t *http, const QString &queue, time_t date) {
   if (status == HTTP_STATUS_OK) return readAnswer(http);
   httpFlush(http);
   return {status, {}, 0};
+}
+
+Result<QCborMap> downloadPPDAsAsked(const CupsConnection &connection, Fields fields) {
+  const QString queue = fields.text("queue");
+  const PPDAnswer answer = downloadPPD(connection.http(), queue, fields.number("date"));
+  if (connection.isBroken() || connection.lacksPassword()) return connection.lastFailure(queue);
+  const bool exists = answer.status != HTTP_STATUS_NOT_FOUND;
+  const bool isNew = answer.status == HTTP_STATUS_OK;
+  if (exists && !isNew && answer.status != HTTP_STATUS_NOT_MODIFIED) {
+    return Failure{FailureKind::Io, queue, whyNoPPD(answer.status)};
+  }
+  if (isNew) connection.link().say({MessageKind::Description, answer.ppd});
+  return QCborMap{{QLatin1String("exists"), exists},
+                  {QLatin1String("new"), isNew},
+                  {QLatin1String("date"), static_cast<qint64>(answer.date)}};
 }
 
 }  // namespace orvek

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 // Sends Create-Job with what is known of the queue.
 
-#include "host/jobs/CreateJob.h"
+#include "host/server/CreateJob.h"
 
 #include <array>
+
+#include "host/server/Request.h"
 
 namespace orvek {
 namespace {
 
-constexpr const char *queueAddress = "printer-uri-supported";
 constexpr const char *networkService = "._tcp";
 constexpr std::size_t longestPart = 1024;
 
@@ -63,21 +64,23 @@ ipp_t *requestFor(const QByteArray &uri, const QByteArray &title, const CupsOpti
 
 }  // namespace
 
-int createJobOn(http_t *http, const Queue &queue, const QString &title, const CupsOptions &options,
-                const QStringList &texts) {
-  const QByteArray name = title.toUtf8();
-  const QByteArray uri = queue.options.value(QLatin1String(queueAddress)).toUtf8();
+Result<int> createJob(const CupsConnection &connection, const JobSheet &sheet) {
+  const QByteArray name = sheet.title.toUtf8();
+  const QByteArray uri = sheet.address.toUtf8();
   const QByteArray path = pathOf(uri);
   // libcups' own call asks the server for all that the queue can do before it makes the same
   // request, and reads the answer bit by bit; the whole run would take half as long again.
   if (path.isEmpty()) {
-    return cupsCreateJob(http, queue.name.toUtf8().constData(), name.constData(), options.count(),
-                         options.array());
+    const int job = cupsCreateJob(connection.http(), sheet.queue.toUtf8().constData(),
+                                  name.constData(), sheet.options.count(), sheet.options.array());
+    return job > 0 ? Result<int>(job) : connection.lastFailure(sheet.queue);
   }
-  ipp_t *response = cupsDoRequest(http, requestFor(uri, name, options, texts), path.constData());
-  const int job = jobIn(response);
-  ippDelete(response);
-  return cupsLastError() <= IPP_STATUS_OK_EVENTS_COMPLETE ? job : 0;
+  const auto answer = answerTo(connection, requestFor(uri, name, sheet.options, sheet.texts),
+                               path.constData(), sheet.queue);
+  if (!answer) return answer.failure();
+  const int job = jobIn(answer.value().get());
+  if (job > 0) return job;
+  return Failure{FailureKind::Io, sheet.queue, unreadableAnswer()};
 }
 
 }  // namespace orvek

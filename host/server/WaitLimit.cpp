@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 // Answers libcups' question whether to go on waiting.
 
-#include "host/printers/WaitLimit.h"
+#include "host/server/WaitLimit.h"
 
 namespace orvek {
 namespace {
 
-constexpr int connectMilliseconds = 5000;
 constexpr double askEverySeconds = 0.25;
 /// Asked more than this after the last time, a new wait has begun: bytes went over in between.
 constexpr qint64 newStallMilliseconds = 1000;
@@ -26,7 +25,7 @@ int WaitLimit::keepWaiting(http_t *, void *limit) {
 }
 
 bool WaitLimit::mayWaitLonger() {
-  if (isCancelled() || m_gaveUp) return false;
+  if (m_gaveUp) return false;
   if (!m_lastAsked.isValid() || m_lastAsked.elapsed() > newStallMilliseconds) m_stall.start();
   m_lastAsked.start();
   m_gaveUp = m_stall.elapsed() > m_patience.count();

@@ -3,7 +3,7 @@
 // hosts without any limit on the wait, so this asks in its place.
 #pragma once
 
-#include "host/printers/CupsConnection.h"
+#include "host/server/CupsConnection.h"
 
 namespace orvek {
 
@@ -21,5 +21,9 @@ struct PPDAnswer {
 /// `date` (0: in any case). Waits as the connection's limits have it, and gives passwords as it
 /// does.
 PPDAnswer downloadPPD(http_t *http, const QString &queue, time_t date);
+
+/// The answer to the question for a queue's description, which goes before it where it is new.
+/// Fails where the server gives none, though it has one.
+Result<QCborMap> downloadPPDAsAsked(const CupsConnection &connection, Fields fields);
 
 }  // namespace orvek

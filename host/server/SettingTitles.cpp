@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Tables of names; everything else is spelled out from its keyword.
 
-#include "host/printers/SettingTitles.h"
+#include "host/server/SettingTitles.h"
 
 #include <cups/cups.h>
 #include <cups/pwg.h>

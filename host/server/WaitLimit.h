@@ -5,7 +5,6 @@
 #include <cups/cups.h>
 
 #include <QElapsedTimer>
-#include <atomic>
 #include <chrono>
 #include <memory>
 
@@ -21,20 +20,16 @@ struct HttpCloser {
 using HttpHandle = std::unique_ptr<http_t, HttpCloser>;
 
 /// Ends every wait of one connection once the other side has neither taken nor given a byte for a
-/// while. Must outlive the connection. Borrows the flag that cancels; belongs to the connection's
-/// thread. Owns nothing. A wait that ended is no failure of its own: gaveUp() tells.
+/// while. Must outlive the connection, and belongs to its thread. Owns nothing. A wait that ended
+/// is no failure of its own: gaveUp() tells.
 class WaitLimit {
  public:
-  /// `cancelled` (may be null) ends every wait, too.
-  WaitLimit(std::chrono::milliseconds patience, const std::atomic<bool> *cancelled)
-      : m_patience(patience), m_cancelled(cancelled) {}
+  explicit WaitLimit(std::chrono::milliseconds patience) : m_patience(patience) {}
   WaitLimit(const WaitLimit &) = delete;
   WaitLimit &operator=(const WaitLimit &) = delete;
 
-  /// Connects within a few seconds; null where nobody answers (errno says why).
+  /// Connects within a few seconds; null where nobody answers.
   HttpHandle connect(const char *host, int port, http_encryption_t encryption);
-
-  bool isCancelled() const { return m_cancelled && *m_cancelled; }
 
   /// Whether it waited too long, once and for all.
   bool gaveUp() const { return m_gaveUp; }
@@ -44,12 +39,14 @@ class WaitLimit {
   bool mayWaitLonger();
 
   std::chrono::milliseconds m_patience;
-  const std::atomic<bool> *m_cancelled;
   /// Since the other side stopped taking or giving bytes.
   QElapsedTimer m_stall;
   /// Since libcups last asked whether to wait.
   QElapsedTimer m_lastAsked;
   bool m_gaveUp = false;
 };
+
+/// How long connecting may take.
+inline constexpr int connectMilliseconds = 5000;
 
 }  // namespace orvek

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Fills libcups' option array from a map.
 
-#include "host/jobs/CupsOptions.h"
+#include "host/printers/CupsOptions.h"
 
 namespace orvek {
 

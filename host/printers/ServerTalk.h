@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: Apache-2.0
+// The one way to a print server: questions to a helper process, which has a limit on its time, and
+// whose answers are data that may hold anything.
+#pragma once
+
+#include <QElapsedTimer>
+#include <memory>
+
+#include "host/printers/HelperProcess.h"
+#include "host/printers/Passwords.h"
+#include "host/printers/ServerAccess.h"
+#include "host/printers/ServerMessages.h"
+#include "platform/system/Result.h"
+
+namespace orvek {
+
+/// An open connection, in a process of its own. Questions follow one another on it, all of them
+/// within the limit on the whole. Owns the process; shares the passwords; borrows the flag that
+/// cancels it, which ends every call within a twentieth of a second. Use it on one thread. After a
+/// failure it is of no more use.
+class ServerTalk {
+ public:
+  /// Fails where the server is unknown or does not answer within a few seconds.
+  static Result<std::unique_ptr<ServerTalk>> open(const ServerAccess &access);
+
+  /// What to call the server in a message.
+  const QString &serverName() const { return m_serverName; }
+
+  /// Asks, and waits for the answer's fields. The failure is the server's, in words, or says why
+  /// there is no answer.
+  Result<Fields> ask(ServerTask task, const QCborMap &fields = {});
+
+  /// The description that came with the last answer; null where none did.
+  const QByteArray &description() const { return m_description; }
+
+  // For a question with more to say than one answer
+  void begin(ServerTask task, const QCborMap &fields);
+  void send(const Message &message);
+
+  /// The next message that is neither a wish for a password nor a failure. Without `waits` there
+  /// may be none yet.
+  Result<std::optional<Message>> hear(bool waits);
+
+  /// Counts the limit on the whole from now on: something was done.
+  void beginStep();
+
+  /// The failure for an answer that is not what it must be; ends the helper.
+  Failure unreadable();
+
+  /// Asks a helper of its own, and waits for nothing: it has a few seconds for it, also where this
+  /// program ends meanwhile. Nobody is asked for a password; the one kept for `serverName` counts.
+  static void leave(const ServerAccess &access, const QString &serverName, ServerTask task,
+                    const QCborMap &fields);
+
+ private:
+  ServerTalk(const ServerAccess &access, HelperProcess helper);
+
+  Status exchange(int milliseconds);
+  void write();
+  bool read();
+  std::optional<Failure> limitReached();
+  Result<std::optional<Message>> taken(const Message &message);
+  void answerPassword(const Message &message);
+  Failure ended();
+
+  ServerAccess m_access;
+  HelperProcess m_helper;
+  PasswordRounds m_passwords;
+  QString m_serverName;
+  QByteArray m_toSend;
+  MessageReader m_received;
+  QByteArray m_description;
+  QElapsedTimer m_clock;
+  /// Milliseconds of that in which the user was asked.
+  qint64 m_asked = 0;
+  bool m_isConnected = false;
+  bool m_hasEnded = false;
+};
+
+}  // namespace orvek

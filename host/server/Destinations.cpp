@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: Apache-2.0
+// Asks libcups for destinations.
+
+#include "host/server/Destinations.h"
+
+#include "host/printers/Queue.h"
+
+namespace orvek {
+namespace {
+
+/// Destinations of libcups, freed with their holder.
+class Destinations {
+ public:
+  explicit Destinations(http_t *http) : m_count(cupsGetDests2(http, &m_first)) {}
+  ~Destinations() { cupsFreeDests(m_count, m_first); }
+  Destinations(const Destinations &) = delete;
+  Destinations &operator=(const Destinations &) = delete;
+  const cups_dest_t *begin() const { return m_first; }
+  const cups_dest_t *end() const { return m_first + m_count; }
+  int count() const { return m_count; }
+
+ private:
+  cups_dest_t *m_first = nullptr;
+  int m_count = 0;
+};
+
+/// What drivers and devices said last, by queue. libcups leaves it out of the destinations.
+Result<QMap<QString, QString>> stateMessages(const CupsConnection &connection) {
+  static const char *const attributes[] = {"printer-name", "printer-state-message"};
+  constexpr int attributeCount = 2;
+  ipp_t *request = ippNewRequest(IPP_OP_CUPS_GET_PRINTERS);
+  ippAddStrings(request, IPP_TAG_OPERATION, IPP_CONST_TAG(IPP_TAG_KEYWORD), "requested-attributes",
+                attributeCount, nullptr, attributes);
+  ipp_t *response = cupsDoRequest(connection.http(), request, "/");
+  if (response == nullptr || connection.isBroken() || !serverAnswered(connection)) {
+    ippDelete(response);
+    return connection.lastFailure(connection.serverName());
+  }
+  QMap<QString, QString> messages;
+  QString name;
+  QString message;
+  // Within a queue's group the two come in any order; a group ends with an unnamed attribute.
+  for (auto *attribute = ippFirstAttribute(response); attribute;
+       attribute = ippNextAttribute(response)) {
+    const QByteArray keyword(ippGetName(attribute));
+    if (keyword.isNull()) {
+      name.clear();
+      message.clear();
+    }
+    if (keyword == "printer-name") name = QString::fromUtf8(ippGetString(attribute, 0, nullptr));
+    if (keyword == "printer-state-message") {
+      message = QString::fromUtf8(ippGetString(attribute, 0, nullptr));
+    }
+    if (!name.isEmpty() && !message.isEmpty()) messages.insert(name, message);
+  }
+  ippDelete(response);
+  return messages;
+}
+
+/// Where a question about one queue fails, libcups asks again over a connection of its own, which
+/// waits as long as the server likes. So a server has to show first that it answers at all.
+Status checkAnswers(const CupsConnection &connection) {
+  ipp_t *request = ippNewRequest(IPP_OP_CUPS_GET_DEFAULT);
+  ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+               "printer-name");
+  ippDelete(cupsDoRequest(connection.http(), request, "/"));
+  return connection.isBroken() ? connection.lastFailure(connection.serverName()) : Status();
+}
+
+Failure noSuchPrinter(const CupsConnection &connection, const QString &destination) {
+  return {
+      FailureKind::Io, destination,
+      Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
+                               "no such printer on %1; \"orvek-print --list-printers\" lists them"),
+             {connection.serverName()})};
+}
+
+Failure noDefault(const CupsConnection &connection) {
+  for (const char *variable : {"LPDEST", "PRINTER"}) {
+    const QString named = qEnvironmentVariable(variable);
+    const bool counts = !named.isEmpty() && named != QStringLiteral("lp");
+    if (counts) {
+      return {
+          FailureKind::Io, QString::fromLatin1(variable),
+          Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "names a printer that does not exist: \"%1\""),
+                 {named})};
+    }
+  }
+  return {
+      FailureKind::Io, connection.serverName(),
+      Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "there is no default printer; name one with -d"))};
+}
+
+FoundQueue foundFrom(const cups_dest_t &found) {
+  FoundQueue destination{
+      QString::fromUtf8(found.name), QString::fromUtf8(found.instance), found.is_default != 0, {}};
+  for (int i = 0; i < found.num_options; ++i) {
+    destination.options.insert(QString::fromUtf8(found.options[i].name),
+                               QString::fromUtf8(found.options[i].value));
+  }
+  return destination;
+}
+
+QCborMap fieldsOf(const FoundQueue &destination, const QString &message) {
+  return {{QLatin1String("name"), fieldOf(destination.name)},
+          {QLatin1String("instance"), fieldOf(destination.instance)},
+          {QLatin1String("default"), destination.isDefault},
+          {QLatin1String("message"), fieldOf(message)},
+          {QLatin1String("options"), fieldOf(destination.options)}};
+}
+
+}  // namespace
+
+bool serverAnswered(const CupsConnection &connection) {
+  const ipp_status_t status = cupsLastError();
+  if (connection.lacksPassword()) return false;
+  return status < IPP_STATUS_REDIRECTION_OTHER_SITE || status == IPP_STATUS_ERROR_NOT_FOUND;
+}
+
+Result<FoundQueue> findDestination(const CupsConnection &connection, const QString &wanted) {
+  if (const Status answers = checkAnswers(connection); !answers) return answers.failure();
+  const Destination parts = destinationFrom(wanted);
+  const QByteArray name = parts.queue.toUtf8();
+  const QByteArray instance = parts.instance.toUtf8();
+  cups_dest_t *found =
+      cupsGetNamedDest(connection.http(), name.isEmpty() ? nullptr : name.constData(),
+                       instance.isEmpty() ? nullptr : instance.constData());
+  if (!found) {
+    if (connection.isBroken() || !serverAnswered(connection)) {
+      return connection.lastFailure(connection.serverName());
+    }
+    return wanted.isEmpty() ? noDefault(connection) : noSuchPrinter(connection, wanted);
+  }
+  const FoundQueue destination = foundFrom(*found);
+  cupsFreeDests(1, found);
+  return destination;
+}
+
+Result<QCborMap> findDestinationAsAsked(const CupsConnection &connection, Fields fields) {
+  const auto found = findDestination(connection, fields.text("destination"));
+  return found ? Result<QCborMap>(fieldsOf(found.value(), {})) : found.failure();
+}
+
+Result<QCborMap> listDestinations(const CupsConnection &connection) {
+  const Destinations destinations(connection.http());
+  if (destinations.count() == 0 && (connection.isBroken() || !serverAnswered(connection))) {
+    return connection.lastFailure(connection.serverName());
+  }
+  const auto messages = stateMessages(connection);
+  if (!messages) return messages.failure();
+  QCborArray queues;
+  for (const cups_dest_t &found : destinations) {
+    const FoundQueue destination = foundFrom(found);
+    queues << fieldsOf(destination, messages.value().value(destination.name));
+  }
+  return QCborMap{{QLatin1String("queues"), queues}};
+}
+
+}  // namespace orvek
