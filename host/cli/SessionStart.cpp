@@ -109,6 +109,12 @@ Result<PluginList> pluginsFor(const CommandLine &line) {
 
 }  // namespace
 
+Status addWishes(const CommandLine &line, SessionSetup *setup) {
+  setup->marks = line.marks;
+  setup->panelsMayResize = line.resize;
+  return gatherTicket(line, setup);
+}
+
 Result<SessionSetup> gatherSetup(const CommandLine &line,
                                  const std::shared_ptr<PasswordSource> &passwords,
                                  const std::atomic<bool> *cancelled) {
@@ -116,9 +122,7 @@ Result<SessionSetup> gatherSetup(const CommandLine &line,
   if (const Status gathered = gatherPrinter(line, passwords, cancelled, &setup); !gathered) {
     return gathered.failure();
   }
-  if (const Status gathered = gatherTicket(line, &setup); !gathered) return gathered.failure();
-  setup.marks = line.marks;
-  setup.panelsMayResize = line.resize;
+  if (const Status added = addWishes(line, &setup); !added) return added.failure();
   return setup;
 }
 

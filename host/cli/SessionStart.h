@@ -18,6 +18,9 @@ Result<SessionSetup> gatherSetup(const CommandLine &line,
                                  const std::shared_ptr<PasswordSource> &passwords = {},
                                  const std::atomic<bool> *cancelled = nullptr);
 
+/// What the command line wishes of a session on whichever printer: its ticket and its marks.
+Status addWishes(const CommandLine &line, SessionSetup *setup);
+
 /// Begins a session with that and opens its panels. Installed plug-ins that are broken are reported
 /// and left out; one that the command line names is a failure.
 Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line,

@@ -6,8 +6,10 @@
 #include <QFileInfo>
 #include <QTimer>
 #include <optional>
+#include <utility>
 
 #include "host/cli/Console.h"
+#include "host/cli/FirstPrinter.h"
 #include "host/cli/Headless.h"
 #include "host/cli/PrintJob.h"
 #include "host/cli/SessionStart.h"
@@ -49,21 +51,85 @@ CommandLine lineFor(const CommandLine &line, const QString &destination, const Q
   return other;
 }
 
+/// How long a server may take for a window that opens at once with all that there is to show.
+constexpr std::chrono::milliseconds moment{150};
+/// For what no server has a part in.
+constexpr std::chrono::milliseconds forEver = std::chrono::hours(24);
+
 struct Opened {
   std::unique_ptr<PrintSession> session;
   /// Why it is a session without a printer.
   std::optional<Failure> problem;
 };
 
-// Where no server answers, the window is where the user can do something about it.
-Result<Opened> openSession(const CommandLine &line,
-                           const std::shared_ptr<PasswordSource> &passwords) {
-  Result<std::unique_ptr<PrintSession>> started = startSession(line, passwords);
-  if (started) return Opened{started.take(), {}};
-  if (!line.ppd.isNull() || started.failure().kind != FailureKind::Io) return started.failure();
+Result<Opened> openEmpty(const std::optional<Failure> &problem) {
   Result<std::unique_ptr<PrintSession>> empty = PrintSession::begin({});
   if (!empty) return empty.failure();
-  return Opened{empty.take(), started.failure()};
+  return Opened{empty.take(), problem};
+}
+
+Result<std::unique_ptr<PrintSession>> startFirst(const CommandLine &line,
+                                                 const SessionSetup &setup) {
+  Result<std::unique_ptr<PrintSession>> started = startSession(line, setup);
+  if (!started) return started;
+  if (Status done = runActions(line, *started.value()); !done) return done.failure();
+  return started;
+}
+
+// Where no server answers, the window is where the user can do something about it.
+bool canBeMended(const CommandLine &line, const Failure &failure) {
+  return line.ppd.isNull() && failure.kind == FailureKind::Io;
+}
+
+Result<Opened> openSession(const CommandLine &line, const Result<SessionSetup> &setup) {
+  const auto started = [&] {
+    return setup ? startFirst(line, setup.value())
+                 : Result<std::unique_ptr<PrintSession>>(setup.failure());
+  };
+  Result<std::unique_ptr<PrintSession>> session = started();
+  if (session) return Opened{session.take(), {}};
+  if (!canBeMended(line, session.failure())) return session.failure();
+  return openEmpty(session.failure());
+}
+
+/// A window's first printer, where the window did not wait for it. Lives as long as the window.
+struct Awaited {
+  FirstPrinter &printer;
+  bool isOver = false;
+  /// Why the window had to go.
+  std::optional<Failure> failure = {};
+};
+
+void awaitFirst(const CommandLine &line, Awaited &awaited, DialogSetup *setup) {
+  setup->firstPrinter =
+      line.destination.isEmpty() ? PrintDialog::tr("the default printer") : line.destination;
+  setup->askFirst = [&awaited](const QString &, const std::atomic<bool> &cancelled) {
+    return awaited.printer.wait(cancelled);
+  };
+  // The user may have picked another printer meanwhile; the command line meant whichever comes.
+  setup->beginSession = [&line, &awaited,
+                         later = setup->beginSession](const SessionSetup &gathered) {
+    if (std::exchange(awaited.isOver, true)) return later(gathered);
+    SessionSetup first = gathered;
+    const Status added = addWishes(line, &first);
+    return added ? startFirst(line, first) : Result<std::unique_ptr<PrintSession>>(added.failure());
+  };
+}
+
+void followAwaited(const CommandLine &line, Awaited &awaited, PrintDialog &dialog) {
+  QObject::connect(&dialog, &PrintDialog::firstFailed, &dialog,
+                   [&line, &awaited, &dialog](const Failure &failure) {
+                     awaited.isOver = true;
+                     if (canBeMended(line, failure)) return;
+                     awaited.failure = failure;
+                     dialog.reject();
+                   });
+}
+
+Status tellAll(const CommandLine &line, const PrintDialog &dialog) {
+  if (Status told = tellOutcome(line, dialog); !told) return told;
+  if (Status written = saveAndWrite(line, dialog.session()); !written) return written;
+  return printState(line, dialog.session());
 }
 
 }  // namespace
@@ -103,17 +169,20 @@ Status runWindow(const CommandLine &line) {
       [&passwordWindow](const auto &question, const auto *cancelled) {
         return passwordWindow.ask(question, cancelled);
       });
-  Result<Opened> opened = openSession(line, passwords);
+  FirstPrinter first(line, passwords);
+  const auto answer = first.within(line.ppd.isNull() ? moment : forEver);
+  Result<Opened> opened = answer ? openSession(line, *answer) : openEmpty({});
   if (!opened) return opened.failure();
   PrintSession &session = *opened.value().session;
-  if (Status done = runActions(line, session); !done) return done;
-  PrintDialog dialog(session, dialogSetupFor(line, session, passwords));
+  DialogSetup setup = dialogSetupFor(line, session, passwords);
+  Awaited awaited{first};
+  if (!answer) awaitFirst(line, awaited, &setup);
+  PrintDialog dialog(session, std::move(setup));
+  followAwaited(line, awaited, dialog);
   if (opened.value().problem) dialog.showProblem(*opened.value().problem);
   QTimer::singleShot(0, &dialog, &PrintDialog::lookAround);
   dialog.exec();
-  if (Status told = tellOutcome(line, dialog); !told) return told;
-  if (Status written = saveAndWrite(line, dialog.session()); !written) return written;
-  return printState(line, dialog.session());
+  return awaited.failure ? Status(*awaited.failure) : tellAll(line, dialog);
 }
 
 }  // namespace orvek

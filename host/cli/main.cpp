@@ -11,6 +11,7 @@
 #include "host/cli/PrinterListing.h"
 #include "host/cli/ToolkitMessages.h"
 #include "host/cli/Window.h"
+#include "host/printers/HelperProcess.h"
 #include "host/translations/Translations.h"
 #include "platform/system/MainBundle.h"
 
@@ -49,10 +50,20 @@ Status checkDisplay() {
                  QStringLiteral("there is no display (DISPLAY is not set), use --headless")};
 }
 
+// A window asks for its printer and for all of them, a job for its queue and for the job itself.
+int questionsToServers(const CommandLine &line) {
+  if (line.listPrinters) return 1;
+  if (line.listPresets || !line.deletePreset.isNull()) return 0;
+  const bool isForQueue = line.ppd.isNull();
+  if (!line.headless) return isForQueue ? 2 : 1;
+  return (isForQueue ? 1 : 0) + (line.print && line.output.isNull() ? 1 : 0);
+}
+
 int start(const CommandLine &line, char **argv) {
   if (!needsNoWindow(line)) {
     if (const Status checked = checkDisplay(); !checked) return report(checked.failure());
   }
+  HelperProcess::prepare(questionsToServers(line));
   if (needsNoWindow(line)) qputenv("QT_QPA_PLATFORM", platformWithoutDisplay(line));
   shapeToolkitMessages();
   // The options are the program's own; the toolkit must not look for its among them.

@@ -41,6 +41,11 @@ struct DialogSetup {
   /// says nothing.
   std::function<JobRequest(PrintSession &)> jobRequest;
 
+  /// Asks for the printer that the window is made for, where that is still to come: the session is
+  /// one without a printer until then. Empty: the session has it.
+  AskPrinter askFirst;
+  /// What that printer is called so far.
+  QString firstPrinter;
   /// Asks for a queue.
   AskPrinter askPrinter;
   /// Reads the PPD file of this path.

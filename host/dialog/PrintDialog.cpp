@@ -111,7 +111,7 @@ void PrintDialog::updateControls() {
   const bool isPrinting = m_job->isRunning();
   const bool isForFile = m_setup.destination.isEmpty();
   const bool hasFile = isForFile && !m_setup.outputFile.isNull();
-  m_view->setEnabled(!isPrinting);
+  m_view->setEnabled(!isPrinting && !m_awaitsFirst);
   m_noticeBar->setEnabled(!isPrinting);
   m_choosers->setEnabled(!isPrinting);
   const bool hasPrinter = !isForFile || m_session->origin().printer != nullptr;
@@ -144,6 +144,7 @@ void PrintDialog::setDocument(const DocumentInfo &document) {
 
 void PrintDialog::lookAround() {
   m_printers->refresh();
+  if (m_setup.askFirst) askFirst();
   const QString path = m_setup.document.path;
   if (path.isEmpty()) return;
   m_reading.start(

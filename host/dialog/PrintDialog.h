@@ -50,7 +50,8 @@ class PrintDialog final : public QDialog {
 
   void setDocument(const DocumentInfo &document);
 
-  /// Reads the document and asks the server for its printers, both in the background.
+  /// Reads the document and asks the server for its printers, and for the first one where that is
+  /// still to come, all in the background.
   void lookAround();
 
   /// What became of the job, and what it was; nothing where none was printed.
@@ -65,6 +66,10 @@ class PrintDialog final : public QDialog {
 
   /// A running job is stopped first; without one the window closes.
   void reject() override;
+
+ Q_SIGNALS:
+  /// The printer that the window was made for did not come, and why. It has been said by then.
+  void firstFailed(const orvek::Failure &failure);
 
  protected:
   bool event(QEvent *event) override;
@@ -81,8 +86,10 @@ class PrintDialog final : public QDialog {
   // Other printers, presets
   void choosePrinter(const QString &destination);
   void chooseDescription();
+  void askFirst();
   void ask(const DialogSetup::AskPrinter &asked, const QString &what, const QString &destination);
   void moveTo(PrinterSwitch::Session opened, const QString &destination);
+  void takeFirst(PrinterSwitch::Session opened, const QString &destination);
   void takeSession(std::unique_ptr<PrintSession> session, const QString &destination);
   void applyPicked(const Preset &preset);
   void showMisfits(const QString &opening, const QList<PresetMisfit> &misfits);
@@ -104,6 +111,8 @@ class PrintDialog final : public QDialog {
   JobRequest m_request;
   std::optional<JobOutcome> m_outcome;
   bool m_isCancelling = false;
+  /// Until a printer has come, or did not: there is none so far.
+  bool m_awaitsFirst = false;
   WindowRoom m_room;
 
   DocumentHeader *m_document = nullptr;

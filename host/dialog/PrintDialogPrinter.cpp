@@ -35,6 +35,13 @@ void PrintDialog::chooseDescription() {
   ask(m_setup.readDescription, path, {});
 }
 
+// Nothing can be picked so far, so nothing goes along.
+void PrintDialog::askFirst() {
+  m_awaitsFirst = true;
+  m_printers->showAsked(m_setup.firstPrinter, tr("Asking %1…").arg(m_setup.firstPrinter));
+  ask(m_setup.askFirst, m_setup.firstPrinter, m_setup.firstPrinter);
+}
+
 // A server may take its time: the window stays as it is, on the old printer, until there is an
 // answer. Whoever picks another one meanwhile drops it.
 void PrintDialog::ask(const DialogSetup::AskPrinter &asked, const QString &what,
@@ -48,6 +55,10 @@ void PrintDialog::ask(const DialogSetup::AskPrinter &asked, const QString &what,
 }
 
 void PrintDialog::moveTo(PrinterSwitch::Session opened, const QString &destination) {
+  if (std::exchange(m_awaitsFirst, false)) {
+    takeFirst(std::move(opened), destination);
+    return;
+  }
   if (!opened) {
     showHeader();
     showProblem(opened.failure());
@@ -59,6 +70,20 @@ void PrintDialog::moveTo(PrinterSwitch::Session opened, const QString &destinati
   const QList<PresetMisfit> misfits = applyPreset(*m_session, entered);
   m_session->job().setSettings(settings);
   showMisfits(tr("Not everything fits this printer:"), misfits);
+}
+
+// It may be another one than was asked for at first, if the user did not wait.
+void PrintDialog::takeFirst(PrinterSwitch::Session opened, const QString &destination) {
+  if (!opened) {
+    showHeader();
+    showProblem(opened.failure());
+    Q_EMIT firstFailed(opened.failure());
+    return;
+  }
+  const bool goesIntoFile = destination == m_setup.firstPrinter && !m_setup.outputFile.isNull();
+  const QString place = opened.value()->origin().destination;
+  takeSession(opened.take(), goesIntoFile ? QString() : place);
+  m_notices->sayEarlier();
 }
 
 void PrintDialog::takeSession(std::unique_ptr<PrintSession> session, const QString &destination) {

@@ -17,6 +17,7 @@
 #include <cerrno>
 #include <csignal>
 #include <mutex>
+#include <optional>
 #include <vector>
 
 namespace orvek {
@@ -69,10 +70,8 @@ class Beginning {
     ::posix_spawn_file_actions_init(&m_files);
     ::posix_spawn_file_actions_adddup2(&m_files, standardInput, STDIN_FILENO);
     ::posix_spawn_file_actions_addopen(&m_files, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
-#if !defined(__SANITIZE_ADDRESS__)
     // What a library complains of there would be a second line beside the failure.
     ::posix_spawn_file_actions_addopen(&m_files, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-#endif
     ::posix_spawn_file_actions_addclosefrom_np(&m_files, STDERR_FILENO + 1);
     sigset_t all;
     sigset_t none;
@@ -131,9 +130,49 @@ class Finishing {
   std::vector<HelperProcess> m_processes;
 };
 
+/// Helpers that wait for their first question.
+class Prepared {
+ public:
+  void add(HelperProcess process) {
+    const std::lock_guard lock(m_mutex);
+    m_processes.push_back(std::move(process));
+  }
+
+  std::optional<HelperProcess> take() {
+    const std::lock_guard lock(m_mutex);
+    while (!m_processes.empty()) {
+      HelperProcess process = std::move(m_processes.back());
+      m_processes.pop_back();
+      if (!process.hasEnded(0ms)) return process;
+    }
+    return std::nullopt;
+  }
+
+ private:
+  std::mutex m_mutex;
+  std::vector<HelperProcess> m_processes;
+};
+
+Prepared &prepared() {
+  static Prepared processes;
+  return processes;
+}
+
 }  // namespace
 
 Result<HelperProcess> HelperProcess::start() {
+  if (auto ready = prepared().take()) return std::move(*ready);
+  return startNew();
+}
+
+void HelperProcess::prepare(int count) {
+  for (int i = 0; i < count; ++i) {
+    // Whoever asks will hear why there is none.
+    if (auto process = startNew()) prepared().add(process.take());
+  }
+}
+
+Result<HelperProcess> HelperProcess::startNew() {
   const QString path = helperPath();
   SocketPair sockets;
   if (sockets.theirs() < 0) return Failure{FailureKind::Io, path, Phrase::ofSystem(errno)};

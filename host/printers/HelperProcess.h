@@ -16,8 +16,12 @@ namespace orvek {
 /// process, which does not outlive this program either. Use it on one thread.
 class HelperProcess {
  public:
-  /// Fails with the helper's path where it can't be run.
+  /// One that was prepared, or a new one. Fails with the helper's path where it can't be run.
   static Result<HelperProcess> start();
+
+  /// Has that many ready, so that they load while this program does. To be called on a thread that
+  /// lasts as long as the program.
+  static void prepare(int count);
 
   ~HelperProcess();
   HelperProcess(HelperProcess &&other) noexcept
@@ -40,6 +44,7 @@ class HelperProcess {
   static void letFinish(HelperProcess process);
 
  private:
+  static Result<HelperProcess> startNew();
   HelperProcess(pid_t process, int socket) : m_process(process), m_socket(socket) {}
 
   /// -1: has ended.

@@ -963,6 +963,10 @@
         <translation>Druckerbeschreibungen (*.ppd *.ppd.gz)</translation>
     </message>
     <message>
+        <source>the default printer</source>
+        <translation>der Standarddrucker</translation>
+    </message>
+    <message>
         <source>Asking %1…</source>
         <translation>%1 wird gefragt …</translation>
     </message>

@@ -963,6 +963,10 @@
         <translation>Descriptions d’imprimante (*.ppd *.ppd.gz)</translation>
     </message>
     <message>
+        <source>the default printer</source>
+        <translation>l’imprimante par défaut</translation>
+    </message>
+    <message>
         <source>Asking %1…</source>
         <translation>Interrogation de %1…</translation>
     </message>

@@ -963,6 +963,10 @@
         <translation>プリンター記述 (*.ppd *.ppd.gz)</translation>
     </message>
     <message>
+        <source>the default printer</source>
+        <translation>既定のプリンター</translation>
+    </message>
+    <message>
         <source>Asking %1…</source>
         <translation>%1 に問い合わせ中…</translation>
     </message>

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: Apache-2.0
+// A thread that asks, and whoever waits for it.
+
+#include "host/cli/FirstPrinter.h"
+
+#include "host/cli/SessionStart.h"
+
+namespace orvek {
+namespace {
+
+constexpr std::chrono::milliseconds lookAtCancelled{20};
+
+}  // namespace
+
+FirstPrinter::FirstPrinter(const CommandLine &line,
+                           const std::shared_ptr<PasswordSource> &passwords)
+    : m_thread([this, line, passwords] {
+        const Answer answer = gatherSetup(line, passwords, &m_cancelled);
+        const std::lock_guard lock(m_mutex);
+        m_answer = answer;
+        m_answered.notify_all();
+      }) {}
+
+FirstPrinter::~FirstPrinter() {
+  m_cancelled = true;
+  m_thread.join();
+}
+
+std::optional<FirstPrinter::Answer> FirstPrinter::within(std::chrono::milliseconds patience) {
+  std::unique_lock lock(m_mutex);
+  m_answered.wait_for(lock, patience, [this] { return m_answer.has_value(); });
+  return m_answer;
+}
+
+FirstPrinter::Answer FirstPrinter::wait(const std::atomic<bool> &cancelled) {
+  while (true) {
+    if (cancelled) m_cancelled = true;
+    if (auto answer = within(lookAtCancelled)) return *answer;
+  }
+}
+
+}  // namespace orvek
