@@ -136,6 +136,12 @@ class Installation(unittest.TestCase):
         asked = subprocess.run([f"{moved}/bin/orvek-print", "-h", "127.0.0.1:1", "--list-printers"],
                                env=environment, capture_output=True, text=True, check=False)
         self.assertIn("no print server answers there (Connection refused)", asked.stderr)
+        helper = f"{moved}/libexec/orvek-print-server"
+        os.remove(helper)
+        asked = subprocess.run([f"{moved}/bin/orvek-print", "--list-printers"], env=environment,
+                               capture_output=True, text=True, check=False)
+        self.assertEqual(asked.stderr, f"orvek-print: {helper}: No such file or directory\n")
+        self.assertEqual(asked.returncode, 1)
 
     def test_moved_elsewhere_with_its_driver_the_program_prints_a_booklet_into_a_file(self):
         if not shutil.which("cupsfilter", path=os.environ["PATH"] + ":/usr/sbin"):
