@@ -18,6 +18,8 @@ Status gatherPrinter(const CommandLine &line, const std::shared_ptr<PasswordSour
   if (line.ppd.isNull()) {
     ServerAccess access = serverAccess(line, passwords);
     access.cancelled = cancelled;
+    // A job follows, and the same questions once more.
+    access.staysOpen = line.headless && line.print && line.output.isNull();
     return setUpForQueue(access, line.destination, setup);
   }
   setup->destination = line.destination;

@@ -50,20 +50,17 @@ Status checkDisplay() {
                  QStringLiteral("there is no display (DISPLAY is not set), use --headless")};
 }
 
-// A window asks for its printer and for all of them, a job for its queue and for the job itself.
-int questionsToServers(const CommandLine &line) {
-  if (line.listPrinters) return 1;
-  if (line.listPresets || !line.deletePreset.isNull()) return 0;
-  const bool isForQueue = line.ppd.isNull();
-  if (!line.headless) return isForQueue ? 2 : 1;
-  return (isForQueue ? 1 : 0) + (line.print && line.output.isNull() ? 1 : 0);
+// One that asks for nothing but a PPD file's job has no use for a helper, or not soon.
+bool asksServerSoon(const CommandLine &line) {
+  if (line.listPrinters) return true;
+  return line.ppd.isNull() && !line.listPresets && line.deletePreset.isNull();
 }
 
 int start(const CommandLine &line, char **argv) {
   if (!needsNoWindow(line)) {
     if (const Status checked = checkDisplay(); !checked) return report(checked.failure());
   }
-  HelperProcess::prepare(questionsToServers(line));
+  if (asksServerSoon(line)) HelperProcess::prepare();
   if (needsNoWindow(line)) qputenv("QT_QPA_PLATFORM", platformWithoutDisplay(line));
   shapeToolkitMessages();
   // The options are the program's own; the toolkit must not look for its among them.

@@ -165,11 +165,9 @@ Result<HelperProcess> HelperProcess::start() {
   return startNew();
 }
 
-void HelperProcess::prepare(int count) {
-  for (int i = 0; i < count; ++i) {
-    // Whoever asks will hear why there is none.
-    if (auto process = startNew()) prepared().add(process.take());
-  }
+void HelperProcess::prepare() {
+  // Whoever asks will hear why there is none.
+  if (auto process = startNew()) prepared().add(process.take());
 }
 
 Result<HelperProcess> HelperProcess::startNew() {

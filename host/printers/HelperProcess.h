@@ -19,9 +19,9 @@ class HelperProcess {
   /// One that was prepared, or a new one. Fails with the helper's path where it can't be run.
   static Result<HelperProcess> start();
 
-  /// Has that many ready, so that they load while this program does. To be called on a thread that
-  /// lasts as long as the program.
-  static void prepare(int count);
+  /// Has one ready, so that it loads while this program does. To be called on a thread that lasts
+  /// as long as the program.
+  static void prepare();
 
   ~HelperProcess();
   HelperProcess(HelperProcess &&other) noexcept

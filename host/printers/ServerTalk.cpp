@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cerrno>
+#include <mutex>
 
 namespace orvek {
 namespace {
@@ -38,6 +39,18 @@ Message question(ServerTask task, QCborMap fields) {
   return messageOf(MessageKind::Question, fields);
 }
 
+/// A connection that nobody uses at present.
+struct Kept {
+  std::mutex mutex;
+  std::unique_ptr<ServerTalk> talk;
+  QElapsedTimer since;
+};
+
+Kept &kept() {
+  static Kept talk;
+  return talk;
+}
+
 }  // namespace
 
 ServerTalk::ServerTalk(const ServerAccess &access, HelperProcess helper)
@@ -48,7 +61,31 @@ ServerTalk::ServerTalk(const ServerAccess &access, HelperProcess helper)
   m_clock.start();
 }
 
+void ServerTalk::close(std::unique_ptr<ServerTalk> talk) {
+  if (!talk->m_access.staysOpen) return;
+  const std::lock_guard lock(kept().mutex);
+  kept().talk = std::move(talk);
+  kept().since.start();
+}
+
+std::unique_ptr<ServerTalk> ServerTalk::takeKept(const ServerAccess &access) {
+  // Servers wait longer before they close a connection.
+  constexpr qint64 moment = 2000;
+  const std::lock_guard lock(kept().mutex);
+  std::unique_ptr<ServerTalk> talk = std::move(kept().talk);
+  const bool isFit = talk && kept().since.elapsed() < moment &&
+                     talk->m_access.server == access.server && talk->m_access.user == access.user &&
+                     talk->m_access.patience == access.patience &&
+                     !talk->m_helper.hasEnded(std::chrono::milliseconds::zero());
+  if (!isFit) return nullptr;
+  talk->m_access = access;
+  talk->m_passwords = PasswordRounds(access.passwords);
+  talk->beginStep();
+  return talk;
+}
+
 Result<std::unique_ptr<ServerTalk>> ServerTalk::open(const ServerAccess &access) {
+  if (auto talk = takeKept(access)) return talk;
   auto helper = HelperProcess::start();
   if (!helper) return helper.failure();
   std::unique_ptr<ServerTalk> talk(new ServerTalk(access, helper.take()));

@@ -23,6 +23,9 @@ class ServerTalk {
   /// Fails where the server is unknown or does not answer within a few seconds.
   static Result<std::unique_ptr<ServerTalk>> open(const ServerAccess &access);
 
+  /// Ends it; where its access says so, only a moment later, unless it is opened again by then.
+  static void close(std::unique_ptr<ServerTalk> talk);
+
   /// What to call the server in a message.
   const QString &serverName() const { return m_serverName; }
 
@@ -54,6 +57,8 @@ class ServerTalk {
 
  private:
   ServerTalk(const ServerAccess &access, HelperProcess helper);
+
+  static std::unique_ptr<ServerTalk> takeKept(const ServerAccess &access);
 
   Status exchange(int milliseconds);
   void write();

@@ -37,7 +37,7 @@ QList<SettingOffer> offersOf(ServerTalk &talk, const QString &queue) {
 }  // namespace
 
 Status setUpForQueue(const ServerAccess &access, const QString &destination, SessionSetup *setup) {
-  const Result<std::unique_ptr<ServerTalk>> talk = ServerTalk::open(access);
+  Result<std::unique_ptr<ServerTalk>> talk = ServerTalk::open(access);
   if (!talk) return talk.failure();
   const Result<Queue> queue = findPrinter(*talk.value(), destination);
   if (!queue) return queue.failure();
@@ -47,6 +47,7 @@ Status setUpForQueue(const ServerAccess &access, const QString &destination, Ses
   if (!setup->printer) setup->offers = offersOf(*talk.value(), queue.value().name);
   setup->queueOptions = savedOptions(queue.value());
   setup->destination = queue.value().destination();
+  ServerTalk::close(talk.take());
   return {};
 }
 

@@ -5,7 +5,7 @@
 
 #include <arpa/inet.h>
 #include <cups/cups.h>
-#include <poll.h>
+#include <gtest/gtest.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -18,6 +18,8 @@ namespace {
 
 constexpr int dripMilliseconds = 100;
 constexpr qsizetype messageHead = 8;
+constexpr int many = 500;
+constexpr int deep = 10000;
 
 bool sendAll(int socket, const QByteArray &bytes) {
   for (qsizetype sent = 0; sent < bytes.size();) {
@@ -65,8 +67,9 @@ void describeQueue(ipp_t *message, int port) {
 QByteArray nested(int depth) {
   // A collection's value is empty; its members follow, each a name and a value, here another one.
   QByteArray bytes = QByteArray("\x34\x00\x01x\x00\x00", 6);
-  for (int i = 0; i < depth; ++i)
+  for (int i = 0; i < depth; ++i) {
     bytes += QByteArray("\x4a\x00\x00\x00\x01y\x34\x00\x00\x00\x00", 11);
+  }
   return bytes;
 }
 
@@ -113,9 +116,9 @@ HostileServer::HostileServer(Hostility hostility, int from)
   address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
   socklen_t size = sizeof address;
   auto *plain = reinterpret_cast<sockaddr *>(&address);
-  ::bind(m_listener, plain, size);
-  ::listen(m_listener, SOMAXCONN);
-  ::getsockname(m_listener, plain, &size);
+  EXPECT_EQ(::bind(m_listener, plain, size), 0);
+  EXPECT_EQ(::listen(m_listener, SOMAXCONN), 0);
+  EXPECT_EQ(::getsockname(m_listener, plain, &size), 0);
   m_port = ntohs(address.sin_port);
   m_acceptor = std::thread([this] { accept(); });
 }
@@ -136,6 +139,11 @@ HostileServer::~HostileServer() {
 QByteArray HostileServer::printed() const {
   const std::lock_guard lock(m_mutex);
   return m_printed;
+}
+
+std::size_t HostileServer::connections() const {
+  const std::lock_guard lock(m_mutex);
+  return m_sockets.size();
 }
 
 void HostileServer::accept() {
@@ -202,38 +210,20 @@ bool HostileServer::flood(int socket, const QByteArray &head, const QByteArray &
   bool isThere = sendAll(socket, head);
   while (isThere && !m_isEnding) {
     isThere = sendAll(socket, piece);
-    ::poll(nullptr, 0, pause);
+    std::this_thread::sleep_for(std::chrono::milliseconds(pause));
   }
   return false;
 }
 
 bool HostileServer::answerWithHostility(int socket, const HttpQuestion &question) {
-  constexpr qint64 endless = 1LL << 40;
-  constexpr int many = 500;
-  constexpr int deep = 10000;
   const QByteArray honest = honestMessage(question, question.requestId());
-  const QByteArray headAlone = headOf("200 OK", endless);
   switch (m_hostility) {
     case Hostility::None:
       return answerHonestly(socket, question);
     case Hostility::Garbage:
       sendAll(socket,
-              QByteArray("\xff\x00\x80 nothing that anybody could read \r\n", 38).repeated(many));
+              QByteArray("\xff\x00\x80 nothing that anybody could read", 35).repeated(many));
       return false;
-    case Hostility::Silence:
-      return flood(socket, {}, {}, dripMilliseconds);
-    case Hostility::Drip:
-      return flood(socket, headAlone + honest.left(messageHead), "\x01", dripMilliseconds);
-    case Hostility::EndlessBody:
-      return flood(socket, headAlone + honest.left(messageHead), QByteArray(65536, '\0'));
-    case Hostility::EndlessHeaders:
-      return flood(socket, "HTTP/1.1 200 OK\r\n",
-                   QByteArray("X-More: and more\r\n").repeated(many));
-    case Hostility::EndlessContinue:
-      return flood(socket, {}, QByteArray("HTTP/1.1 100 Continue\r\n\r\n").repeated(many));
-    case Hostility::ManyAttributes:
-      return flood(socket, headAlone + honest.chopped(1),
-                   QByteArray("\x44\x00\x01z\x00\x03yes", 9).repeated(many));
     case Hostility::NestedCollections:
       return sendAll(socket, whole(honest.chopped(1) + nested(deep)));
     case Hostility::CloseInBody:
@@ -244,7 +234,31 @@ bool HostileServer::answerWithHostility(int socket, const HttpQuestion &question
     case Hostility::Malformed:
       return sendAll(socket, whole("This is no answer at all."));
     default:
-      return answerWithStatus(socket, question);
+      return answerWithoutEnd(socket, honest) && answerWithStatus(socket, question);
+  }
+}
+
+// True where it has an end.
+bool HostileServer::answerWithoutEnd(int socket, const QByteArray &honest) {
+  constexpr qint64 endless = 1LL << 40;
+  const QByteArray head = headOf("200 OK", endless);
+  switch (m_hostility) {
+    case Hostility::Silence:
+      return flood(socket, {}, {}, dripMilliseconds);
+    case Hostility::Drip:
+      return flood(socket, head + honest.left(messageHead), "\x01", dripMilliseconds);
+    case Hostility::EndlessBody:
+      return flood(socket, head + honest.left(messageHead), QByteArray(65536, '\0'));
+    case Hostility::EndlessHeaders:
+      return flood(socket, "HTTP/1.1 200 OK\r\n",
+                   QByteArray("X-More: and more\r\n").repeated(many));
+    case Hostility::EndlessContinue:
+      return flood(socket, {}, QByteArray("HTTP/1.1 100 Continue\r\n\r\n").repeated(many));
+    case Hostility::ManyAttributes:
+      return flood(socket, head + honest.chopped(1),
+                   QByteArray("\x44\x00\x01z\x00\x03yes", 9).repeated(many));
+    default:
+      return true;
   }
 }
 

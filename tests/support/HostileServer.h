@@ -61,6 +61,7 @@ class HostileServer {
   /// The questions with documents that were answered as taken, one after the other.
   QByteArray printed() const;
   bool wasCancelled() const { return m_wasCancelled; }
+  std::size_t connections() const;
 
  private:
   void accept();
@@ -68,6 +69,7 @@ class HostileServer {
   bool answer(int socket, const HttpQuestion &question);
   bool answerHonestly(int socket, const HttpQuestion &question);
   bool answerWithHostility(int socket, const HttpQuestion &question);
+  bool answerWithoutEnd(int socket, const QByteArray &honest);
   bool answerWithStatus(int socket, const HttpQuestion &question);
   QByteArray honestMessage(const HttpQuestion &question, int requestId) const;
   bool flood(int socket, const QByteArray &head, const QByteArray &piece, int pause = 1);

@@ -5,6 +5,8 @@
 
 #include <sys/socket.h>
 
+#include <QList>
+#include <QString>
 #include <array>
 
 namespace orvek::test {

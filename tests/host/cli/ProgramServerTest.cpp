@@ -76,6 +76,17 @@ TEST(ProgramServer, IsNamedWithTheReasonWhereThereIsNone) {
             "orvek-print: 127.0.0.1:1: no print server answers there (Connection refused)\n");
 }
 
+TEST(ProgramServer, IsConnectedToOnceForASessionAndItsJob) {
+  const QTemporaryDir cache;
+  const HostileServer server(Hostility::None);
+  const ProgramRun run =
+      runProgram({"-h", server.hostAndPort(), "-d", "office", "--headless", "--print", document},
+                 {{"XDG_CACHE_HOME=" + cache.path()}, {}, {}});
+  EXPECT_EQ(run.status, 0) << run.errors.constData();
+  EXPECT_EQ(run.output, "request id is office-1 (1 file(s))\n");
+  EXPECT_EQ(server.connections(), 1U);
+}
+
 QByteArray childrenOf(qint64 process) {
   return contentsOf(QStringLiteral("/proc/%1/task/%1/children").arg(process)).simplified();
 }
