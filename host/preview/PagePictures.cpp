@@ -42,6 +42,11 @@ QImage partOf(const QImage &whole, const QRectF &part) {
                     qRound(part.width() * whole.width()), qRound(part.height() * whole.height()));
 }
 
+// The renderer scales a page before it turns it.
+QSize beforeTurning(const DocumentPage &page, QSize pixels) {
+  return page.turn % 180 == 0 ? pixels : pixels.transposed();
+}
+
 QStringList rendererArguments(const QString &pdf, int page, QSize pixels) {
   const QString number = QString::number(page);
   return {QStringLiteral("-cropbox"),
@@ -67,7 +72,8 @@ Result<QImage> renderPage(const DocumentPages &document, int page, QSize pixels,
   ToolLimits limits{patience, 0, memoryBytes};
   limits.outputBytes = qint64{size.width() + 1} * (size.height() + 1) * bytesPerPixel + headerBytes;
   const Result<QByteArray> picture = runTool(
-      QStringLiteral("pdftoppm"), rendererArguments(document.pdf, page, size), limits, cancelled);
+      QStringLiteral("pdftoppm"),
+      rendererArguments(document.pdf, page, beforeTurning(wanted, size)), limits, cancelled);
   if (!picture) return picture.failure();
   const QImage image = QImage::fromData(picture.value(), "ppm");
   if (image.isNull()) return failure;

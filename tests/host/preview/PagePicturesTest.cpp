@@ -61,6 +61,21 @@ TEST_F(PagePicturesTest, ShowThePrintedPartOfAPage) {
   }
 }
 
+TEST_F(PagePicturesTest, KeepTheProportionsOfPagesThatTheDocumentTurns) {
+  for (const int turn : {90, 180, 270}) {
+    const bool lies = turn != 180;
+    pictures.setDocument(document({{QSizeF(300, 400), turn, {}, {}}}));
+    const QSize size = lies ? QSize(200, 150) : QSize(150, 200);
+    pictures.want({{1, size}});
+    ASSERT_TRUE(waitUntilIdle());
+    EXPECT_EQ(pictures.picture(1).size(), size) << turn;
+    const Result<QImage> drawn =
+        renderPage(document({{QSizeF(300, 400), turn, {}, {}}}), 1, size, never);
+    ASSERT_TRUE(drawn.ok());
+    EXPECT_EQ(drawn.value().size(), size) << turn;
+  }
+}
+
 TEST_F(PagePicturesTest, GiveUpPagesThatCannotBeRendered) {
   DocumentPages broken = document(1);
   broken.pages << DocumentPage{QSizeF(300, 400), {0, 0, 1, 1}};  // the file has one page
