@@ -49,6 +49,7 @@ bool PrintDialog::acceptsWarnings() {
   question.setInformativeText(tr("Print all the same?"));
   QPushButton *print = question.addButton(tr("&Print"), QMessageBox::AcceptRole);
   question.setDefaultButton(QMessageBox::Cancel);
+  question.button(QMessageBox::Cancel)->setText(tr("Cancel"));
   question.exec();
   return question.clickedButton() == print;
 }
@@ -64,6 +65,7 @@ bool PrintDialog::acceptsSheets(const JobOutcome &outcome) {
   QPushButton *print = question.addButton(words, QMessageBox::AcceptRole);
   question.setDefaultButton(print);
   question.setEscapeButton(QMessageBox::Cancel);
+  question.button(QMessageBox::Cancel)->setText(tr("Cancel"));
   question.exec();
   return question.clickedButton() == print;
 }

@@ -7,7 +7,9 @@
 #include <algorithm>
 #include <array>
 
+#include "host/ppd/Constraints.h"
 #include "host/ppd/Wording.h"
+#include "host/session/CommonSettings.h"
 #include "host/session/PrintSession.h"
 #include "host/ticket/BookletSettings.h"
 #include "host/ticket/PageRanges.h"
@@ -74,6 +76,20 @@ QString tooManySheets(const Marks &marks, const TicketValues &ticket, const JobS
       .arg(most);
 }
 
+// A booklet is printed on both sides whatever the marks say, so no pick weighed them against it.
+QString notOnBothSides(const PrintSession &session) {
+  const auto sides = sidesOfBooklet(session);
+  if (!sides) return {};
+  QStringList partners;
+  for (const OptionChoice &partner : conflictsOf(session.marks(), *sides)) {
+    if (partner.option != sides->option)
+      partners << namedChoice(session.marks().printer(), partner);
+  }
+  if (partners.isEmpty()) return {};
+  return Words::tr("A booklet is printed on both sides, which can't be combined with %1")
+      .arg(partners.join(QStringLiteral(", ")));
+}
+
 QString noSuchPage(const JobSettings &settings, int pages) {
   const bool isKnown = pages > 0 && !settings.pageRanges.isEmpty();
   if (!isKnown || !pagesInRanges(settings.pageRanges, pages).isEmpty()) return {};
@@ -102,7 +118,11 @@ QStringList jobWarnings(const Marks &marks, const TicketValues &ticket, const Jo
 }
 
 QStringList jobWarnings(const PrintSession &session, int pages) {
-  return jobWarnings(session.marks(), session.ticket().values(), session.job().settings(), pages);
+  QStringList words =
+      jobWarnings(session.marks(), session.ticket().values(), session.job().settings(), pages);
+  words << notOnBothSides(session);
+  words.removeAll(QString());
+  return words;
 }
 
 }  // namespace orvek

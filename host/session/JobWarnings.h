@@ -20,7 +20,8 @@ class PrintSession;
 QStringList jobWarnings(const Marks &marks, const TicketValues &ticket, const JobSettings &settings,
                         int pages);
 
-/// The same for a session as it stands.
+/// The same for a session as it stands, and a sentence on choices that the PPD forbids beside the
+/// two sides a booklet is printed on.
 QStringList jobWarnings(const PrintSession &session, int pages);
 
 /// Whether jobWarnings() needs to know the page count: where sheets are folded. Counting the pages

@@ -668,6 +668,10 @@
 <context>
     <name>orvek::JobWarnings</name>
     <message>
+        <source>A booklet is printed on both sides, which can&apos;t be combined with %1</source>
+        <translation>Eine Broschüre wird beidseitig gedruckt, was sich nicht mit %1 verträgt</translation>
+    </message>
+    <message>
         <source>%1 with copies that are not collated: equal pages would be stapled together</source>
         <translation>%1 bei unsortierten Exemplaren: Es würden gleiche Seiten zusammengeheftet</translation>
     </message>
@@ -914,6 +918,10 @@
 </context>
 <context>
     <name>orvek::PrintDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
     <message>
         <source>Print</source>
         <translation>Drucken</translation>

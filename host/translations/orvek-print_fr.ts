@@ -668,6 +668,10 @@
 <context>
     <name>orvek::JobWarnings</name>
     <message>
+        <source>A booklet is printed on both sides, which can&apos;t be combined with %1</source>
+        <translation>Un livret est imprimé recto verso, ce qui est incompatible avec %1</translation>
+    </message>
+    <message>
         <source>%1 with copies that are not collated: equal pages would be stapled together</source>
         <translation>%1 avec des copies non assemblées : des pages identiques seraient agrafées ensemble</translation>
     </message>
@@ -914,6 +918,10 @@
 </context>
 <context>
     <name>orvek::PrintDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
     <message>
         <source>Print</source>
         <translation>Imprimer</translation>

@@ -668,6 +668,10 @@
 <context>
     <name>orvek::JobWarnings</name>
     <message>
+        <source>A booklet is printed on both sides, which can&apos;t be combined with %1</source>
+        <translation>小冊子は両面に印刷されるため、%1 と組み合わせられません</translation>
+    </message>
+    <message>
         <source>%1 with copies that are not collated: equal pages would be stapled together</source>
         <translation>%1 と部単位でない印刷の組み合わせ: 同じページどうしがとじられます</translation>
     </message>
@@ -914,6 +918,10 @@
 </context>
 <context>
     <name>orvek::PrintDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
     <message>
         <source>Print</source>
         <translation>印刷</translation>

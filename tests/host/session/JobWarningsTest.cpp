@@ -50,6 +50,17 @@ TEST_F(JobWarnings, NameStaplesInCopiesThatAreNotCollated) {
   EXPECT_EQ(jobWarnings(*session, 8), QStringList());
 }
 
+TEST_F(JobWarnings, NameWhatCannotBePrintedOnTheTwoSidesOfABooklet) {
+  session->pick("MediaType", "Transparency");
+  EXPECT_EQ(jobWarnings(*session, 8), QStringList());
+  session->setTicketValue(QStringLiteral("OVKEnableBooklet"), QStringLiteral("True"));
+  EXPECT_EQ(jobWarnings(*session, 8),
+            QStringList{"A booklet is printed on both sides, which can't be combined with "
+                        "Transparencies"});
+  session->pick("MediaType", "Plain");
+  EXPECT_EQ(jobWarnings(*session, 8), QStringList());
+}
+
 TEST_F(JobWarnings, DependOnThePageCountOnlyWhereSheetsAreFolded) {
   const auto depend = [this] {
     return warningsDependOnPages(session->marks(), session->ticket().values());
