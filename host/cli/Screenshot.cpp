@@ -3,28 +3,25 @@
 
 #include "host/cli/Screenshot.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEvent>
 #include <QEventLoop>
 #include <QImage>
 #include <QPixmap>
-#include <QSaveFile>
 #include <QTimer>
 
 #include "host/cli/Window.h"
 #include "host/dialog/PrintDialog.h"
 #include "host/preview/JobPreview.h"
+#include "platform/system/WholeFile.h"
 
 namespace orvek {
 namespace {
 
 constexpr int pollMilliseconds = 20;
 constexpr int pagesMilliseconds = 5000;
-
-Failure notWritten(const QString &path, const QString &why) {
-  return {FailureKind::Io, path, why};
-}
 
 // What waits for the first paint, and the document's pages, which come by and by.
 void waitForPages(const PrintDialog &dialog) {
@@ -55,11 +52,13 @@ QImage renderDialog(const CommandLine &line, PrintSession &session) {
 }  // namespace
 
 Status writeScreenshot(const CommandLine &line, PrintSession &session) {
-  const QString &path = line.screenshot;
-  const QImage picture = renderDialog(line, session);
-  QSaveFile file(path);
-  if (file.open(QIODevice::WriteOnly) && picture.save(&file, "PNG") && file.commit()) return {};
-  return notWritten(path, file.errorString());
+  QByteArray png;
+  QBuffer buffer(&png);
+  if (!buffer.open(QIODevice::WriteOnly) || !renderDialog(line, session).save(&buffer, "PNG")) {
+    return Failure{FailureKind::Io, line.screenshot,
+                   QStringLiteral("the picture can't be made into a PNG")};
+  }
+  return writeFile(line.screenshot, png);
 }
 
 }  // namespace orvek

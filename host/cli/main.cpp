@@ -2,6 +2,7 @@
 // orvek-print: reads the command line, decides whether a window is wanted, and runs.
 
 #include <QApplication>
+#include <csignal>
 
 #include "host/cli/CommandLine.h"
 #include "host/cli/Console.h"
@@ -56,7 +57,14 @@ bool asksServerSoon(const CommandLine &line) {
   return line.ppd.isNull() && !line.listPresets && line.deletePreset.isNull();
 }
 
+// A limit on the size of files is a failure of one file, not the end of the program. A handler, as
+// what is ignored would be ignored in the filters as well.
+void outliveFileSizeLimits() {
+  std::signal(SIGXFSZ, [](int) {});
+}
+
 int start(const CommandLine &line, char **argv) {
+  outliveFileSizeLimits();
   if (!needsNoWindow(line)) {
     if (const Status checked = checkDisplay(); !checked) return report(checked.failure());
   }

@@ -10,7 +10,7 @@
 #include <cerrno>
 
 #include "host/jobs/Document.h"
-#include "host/jobs/OpenStream.h"
+#include "platform/system/OpenStream.h"
 
 namespace orvek {
 namespace {

@@ -5,14 +5,13 @@
 
 #include <fcntl.h>
 #include <poll.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QFile>
 #include <cerrno>
 #include <climits>
 
-#include "host/jobs/OpenStream.h"
+#include "platform/system/OpenStream.h"
 
 namespace orvek {
 namespace {
@@ -22,12 +21,6 @@ constexpr int pollMilliseconds = 100;
 /// Descriptor number of an open stream, or -1.
 int streamNumber(const QString &path) {
   return path == QStringLiteral("-") ? STDOUT_FILENO : openStreamNumber(path);
-}
-
-bool isPlainFileOrAbsent(const QString &path) {
-  struct stat entry {};
-  if (::stat(QFile::encodeName(path).constData(), &entry) != 0) return true;
-  return S_ISREG(entry.st_mode);
 }
 
 int openStream(const QString &path) {
@@ -51,34 +44,15 @@ Failure OutputTarget::failure(const Phrase &why) const {
 
 Result<std::unique_ptr<OutputTarget>> OutputTarget::open(const QString &path) {
   std::unique_ptr<OutputTarget> target(new OutputTarget(path));
-  if (streamNumber(path) >= 0 || !isPlainFileOrAbsent(path)) {
+  if (streamNumber(path) >= 0 || !isReplaceable(path)) {
     target->m_stream = openStream(path);
     if (target->m_stream < 0) return target->failure(Phrase::ofSystem(errno));
     return target;
   }
-  // Replacing needs no right to write into what is replaced; whoever took that right away meant it.
-  const QByteArray place = QFile::encodeName(path);
-  if (::access(place.constData(), F_OK) == 0 && ::access(place.constData(), W_OK) != 0) {
-    return target->failure(Phrase::ofSystem(errno));
-  }
-  target->m_file = std::make_unique<QSaveFile>(path);
-  if (target->m_file->open(QIODevice::WriteOnly)) return target;
-  return target->failure(Phrase::ofSystem(target->m_file->errorString()));
-}
-
-Status OutputTarget::writeToFile(const QByteArray &bytes) {
-  // Unbuffered: a buffer would put off a full disk's answer and lose the system's reason.
-  qsizetype done = 0;
-  while (done < bytes.size()) {
-    const auto left = static_cast<size_t>(bytes.size() - done);
-    const ssize_t taken = ::write(m_file->handle(), bytes.constData() + done, left);
-    if (taken >= 0) {
-      done += taken;
-    } else if (errno != EINTR) {
-      return failure(Phrase::ofSystem(errno));
-    }
-  }
-  return {};
+  auto file = WholeFile::begin(path);
+  if (!file) return file.failure();
+  target->m_file = file.take();
+  return target;
 }
 
 Result<qsizetype> OutputTarget::writeSomeToStream(const char *bytes, qsizetype count) {
@@ -92,8 +66,7 @@ Result<qsizetype> OutputTarget::writeSomeToStream(const char *bytes, qsizetype c
 }
 
 Status OutputTarget::commit() {
-  if (!m_file || m_file->commit()) return {};
-  return failure(Phrase::ofSystem(m_file->errorString()));
+  return m_file ? m_file->commit() : Status();
 }
 
 }  // namespace orvek

@@ -3,11 +3,11 @@
 // whole.
 #pragma once
 
-#include <QSaveFile>
 #include <QString>
 #include <memory>
 
 #include "platform/system/Result.h"
+#include "platform/system/WholeFile.h"
 
 namespace orvek {
 
@@ -35,19 +35,18 @@ class OutputTarget {
  private:
   explicit OutputTarget(QString path) : m_path(std::move(path)) {}
   Failure failure(const Phrase &why) const;
-  Status writeToFile(const QByteArray &bytes);
   /// How many bytes a stream took, 0 where it took none in a tenth of a second, or why it never
   /// will.
   Result<qsizetype> writeSomeToStream(const char *bytes, qsizetype count);
 
   QString m_path;
   int m_stream = -1;
-  std::unique_ptr<QSaveFile> m_file;
+  std::unique_ptr<WholeFile> m_file;
 };
 
 template <typename KeepWaiting>
 Status OutputTarget::write(const QByteArray &bytes, const KeepWaiting &keepWaiting) {
-  if (m_file) return writeToFile(bytes);
+  if (m_file) return m_file->add(bytes);
   qsizetype done = 0;
   while (done < bytes.size() && keepWaiting()) {
     const auto taken = writeSomeToStream(bytes.constData() + done, bytes.size() - done);

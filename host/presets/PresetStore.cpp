@@ -7,11 +7,11 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <algorithm>
 
 #include "host/presets/PresetName.h"
+#include "platform/system/WholeFile.h"
 
 namespace orvek {
 namespace {
@@ -50,12 +50,7 @@ Status writePreset(const QString &path, const Preset &preset) {
   if (!QDir().mkpath(folder)) {
     return ioFailure(folder, Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "can't be made")));
   }
-  QSaveFile file(path);
-  const QByteArray json = presetToJson(preset);
-  if (!file.open(QIODevice::WriteOnly) || file.write(json) != json.size() || !file.commit()) {
-    return ioFailure(path, Phrase::ofSystem(file.errorString()));
-  }
-  return {};
+  return writeFile(path, presetToJson(preset));
 }
 
 /// Where a file is damaged, replacing it would lose what its owner may still want to mend.

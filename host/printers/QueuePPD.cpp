@@ -5,12 +5,10 @@
 
 #include <QCryptographicHash>
 #include <QDateTime>
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 
+#include "host/printers/KeptPPD.h"
 #include "host/printers/PrinterList.h"
 
 namespace orvek {
@@ -34,20 +32,6 @@ QString keptPath(const QString &folder, const QString &server, const QString &qu
 qint64 keptDate(const QString &path) {
   const QFileInfo kept(path);
   return kept.isFile() && kept.size() > 0 ? kept.lastModified().toSecsSinceEpoch() : 0;
-}
-
-Status keep(const QByteArray &ppd, qint64 date, const QString &path) {
-  QDir().mkpath(QFileInfo(path).path());
-  QSaveFile kept(path);
-  if (!kept.open(QIODevice::WriteOnly) || kept.write(ppd) != ppd.size() || !kept.commit()) {
-    return Failure{FailureKind::Io, path, Phrase::ofSystem(kept.errorString())};
-  }
-  QFile dated(path);
-  // Undated, it would only be fetched again the next time.
-  if (dated.open(QIODevice::ReadWrite)) {
-    dated.setFileTime(QDateTime::fromSecsSinceEpoch(date), QFileDevice::FileModificationTime);
-  }
-  return {};
 }
 
 /// No PPD is an answer as long as there is such a queue.
@@ -83,8 +67,7 @@ Result<QString> QueuePPD::fetch(ServerTalk &talk, const QString &queue) const {
   if (!answer.value().isSound() || isNew == talk.description().isNull()) return talk.unreadable();
   if (!exists) return withoutPPD(talk, queue);
   if (!isNew) return path;
-  const Status kept = keep(talk.description(), date, path);
-  return kept ? Result<QString>(path) : Result<QString>(kept.failure());
+  return keepPPD(talk.description(), date, path);
 }
 
 }  // namespace orvek

@@ -17,8 +17,9 @@ class QueuePPD {
   static QString standardFolder();
 
   /// The path of `queue`'s PPD file: asks the server whether it has another than the one kept, and
-  /// fetches that. A null path where the queue has none (a driverless or raw queue). Fails where
-  /// the server does not answer, has no such queue, or the cache can't be written.
+  /// fetches that. A null path where the queue has none (a driverless or raw queue). A cache that
+  /// can't be written is no obstacle (KeptPPD.h). Fails where the server does not answer or has no
+  /// such queue.
   Result<QString> fetch(const ServerAccess &access, const QString &queue) const;
 
   /// The same over an open connection.

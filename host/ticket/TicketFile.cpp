@@ -6,9 +6,10 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
-#include <QSaveFile>
 #include <cmath>
 #include <limits>
+
+#include "platform/system/WholeFile.h"
 
 namespace orvek {
 namespace {
@@ -57,17 +58,6 @@ QVariant ticketValue(const QJsonValue &value) {
   return std::trunc(real) == real ? QVariant(nearest64(real)) : QVariant();
 }
 
-// Pipes and devices have no folder entry to replace.
-bool isReplaceable(const QString &path) {
-  const QFileInfo info(path);
-  return !info.exists() || info.isFile();
-}
-
-template <typename File>
-bool writeAll(File &file, const QByteArray &bytes) {
-  return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
-}
-
 }  // namespace
 
 Result<TicketValues> parseTicket(const QByteArray &json, const QString &name) {
@@ -107,15 +97,7 @@ Result<TicketValues> readTicket(const QString &path) {
 }
 
 Status writeTicket(const QString &path, const TicketValues &values) {
-  const QByteArray json = QJsonDocument(ticketToJson(values)).toJson(QJsonDocument::Indented);
-  if (isReplaceable(path)) {
-    QSaveFile file(path);
-    if (writeAll(file, json) && file.commit()) return {};
-    return Failure{FailureKind::Io, path, file.errorString()};
-  }
-  QFile device(path);
-  if (writeAll(device, json)) return {};
-  return Failure{FailureKind::Io, path, device.errorString()};
+  return writeFile(path, QJsonDocument(ticketToJson(values)).toJson(QJsonDocument::Indented));
 }
 
 QJsonObject ticketToJson(const TicketValues &values) {

@@ -23,7 +23,8 @@ Result<TicketValues> readTicket(const QString &path);
 /// The same from bytes; `name` stands for the file in failures.
 Result<TicketValues> parseTicket(const QByteArray &json, const QString &name);
 
-/// Writes the ticket; the file is replaced as a whole or left as it was.
+/// Writes the ticket; a file is replaced as a whole or left as it was, a pipe or device written
+/// into.
 Status writeTicket(const QString &path, const TicketValues &values);
 
 /// Integers stay integers, text stays text.

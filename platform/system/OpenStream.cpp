@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Knows the names.
 
-#include "host/jobs/OpenStream.h"
+#include "platform/system/OpenStream.h"
 
 #include <unistd.h>
 
