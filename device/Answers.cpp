@@ -12,6 +12,7 @@
 
 #include "Common/RendezvousUtilities.h"
 #include "Common/ReplyCursor.h"
+#include "platform/system/OneLine.h"
 
 namespace orvek::device {
 namespace {
@@ -29,18 +30,26 @@ constexpr int recordLengthOffset = 8;
 constexpr int shortestServiceData = 7;
 constexpr unsigned int largestData = 65535;
 
+std::string escaped(char byte) {
+  std::array<char, 5> escape{};
+  std::snprintf(escape.data(), escape.size(), "\\%03u",
+                static_cast<unsigned int>(static_cast<unsigned char>(byte)));
+  return escape.data();
+}
+
+/// Without what a terminal would obey, and without bytes that are no text.
 std::string shown(std::string_view text, bool quoted) {
   std::string result;
-  for (const char c : text) {
-    const auto value = static_cast<unsigned char>(c);
-    if (value < 0x20 || value == 0x7F) {
-      std::array<char, 5> escape{};
-      std::snprintf(escape.data(), escape.size(), "\\%03u", static_cast<unsigned int>(value));
-      result += escape.data();
+  while (!text.empty()) {
+    const std::size_t length = characterLength(text);
+    const std::string_view character = text.substr(0, std::max<std::size_t>(length, 1));
+    if (length == 0 || isObeyed(character)) {
+      for (const char byte : character) result += escaped(byte);
     } else {
-      if (quoted && (c == '"' || c == '\\')) result += '\\';
-      result += c;
+      if (quoted && (character == "\"" || character == "\\")) result += '\\';
+      result += character;
     }
+    text.remove_prefix(character.size());
   }
   return result;
 }

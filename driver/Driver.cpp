@@ -14,6 +14,7 @@
 #include "driver/Cancel.h"
 #include "driver/StandardFilters.h"
 #include "driver/StandardPPD.h"
+#include "platform/system/OneLine.h"
 
 namespace orvek::driver {
 namespace {
@@ -58,7 +59,7 @@ int runDriver(std::span<char *const> arguments) {
   if (onlySheets) rest.erase(rest.begin() + 1);
   const auto status = carryOut(rest, onlySheets);
   if (status) return status.value();
-  std::fprintf(stderr, "ERROR: %s\n", status.failure().line().toUtf8().constData());
+  std::fprintf(stderr, "ERROR: %s\n", oneLine(status.failure().line().toStdString()).c_str());
   return 1;
 }
 

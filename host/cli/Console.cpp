@@ -6,15 +6,19 @@
 #include <cerrno>
 #include <cstdio>
 
+#include "platform/system/OneLine.h"
+
 namespace orvek {
 namespace {
 
-// A name from a command line or a file may hold line feeds; a report is one line all the same.
-QByteArray asOneLine(QString text) {
-  for (QChar &character : text) {
-    if (character.category() == QChar::Other_Control) character = QLatin1Char(' ');
-  }
-  return text.toUtf8();
+// A name from a command line, a file or a server may hold anything; a line is one line all the
+// same, and nothing that a terminal would obey.
+QByteArray asOneLine(const QString &text) {
+  return QByteArray::fromStdString(oneLine(text.toStdString()));
+}
+
+void writeToStandardError(const QByteArray &line) {
+  std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
 }
 
 }  // namespace
@@ -27,15 +31,29 @@ Status writeToStandardOutput(const QByteArray &bytes) {
   return Failure{FailureKind::Io, QStringLiteral("standard output"), Phrase::ofSystem(errno)};
 }
 
+Status writeLines(const QStringList &lines) {
+  QList<QStringList> rows;
+  for (const QString &line : lines) rows << QStringList{line};
+  return writeRows(rows);
+}
+
+Status writeRows(const QList<QStringList> &rows) {
+  QByteArray text;
+  for (const QStringList &row : rows) {
+    QByteArrayList fields;
+    for (const QString &field : row) fields << asOneLine(field);
+    text += fields.join('\t') + '\n';
+  }
+  return writeToStandardOutput(text);
+}
+
 int report(const Failure &failure) {
-  const QByteArray line = "orvek-print: " + asOneLine(failure.line()) + '\n';
-  std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
+  writeToStandardError("orvek-print: " + asOneLine(failure.line()) + '\n');
   return exitStatusOf(failure.kind);
 }
 
 void tell(const QString &sentence) {
-  const QByteArray line = asOneLine(sentence) + '\n';
-  std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stderr);
+  writeToStandardError(asOneLine(sentence) + '\n');
 }
 
 }  // namespace orvek

@@ -41,12 +41,12 @@ QJsonObject stateOf(const CommandLine &line, PrintSession &session) {
   return state;
 }
 
-QByteArray summaryText(const PrintSession &session) {
-  QString text;
+QStringList summaryLines(const PrintSession &session) {
+  QStringList lines;
   for (const auto &[title, value] : session.panels().summary()) {
-    text += title + QStringLiteral(": ") + value + QLatin1Char('\n');
+    lines << title + QStringLiteral(": ") + value;
   }
-  return text.toUtf8();
+  return lines;
 }
 
 }  // namespace
@@ -59,10 +59,13 @@ Status runActions(const CommandLine &line, PrintSession &session) {
 }
 
 Status printState(const CommandLine &line, PrintSession &session) {
-  QByteArray text;
-  if (line.inspect) text += QJsonDocument(stateOf(line, session)).toJson(QJsonDocument::Indented);
-  if (line.summary) text += summaryText(session);
-  return text.isEmpty() ? Status() : writeToStandardOutput(text);
+  if (line.inspect) {
+    const QJsonDocument state(stateOf(line, session));
+    if (Status written = writeToStandardOutput(state.toJson(QJsonDocument::Indented)); !written) {
+      return written;
+    }
+  }
+  return line.summary ? writeLines(summaryLines(session)) : Status();
 }
 
 Status saveAndWrite(const CommandLine &line, PrintSession &session) {

@@ -31,9 +31,7 @@ Status savePresetAsAsked(const CommandLine &line, PrintSession &session) {
 Status listPresets() {
   const PresetListing listing = PresetStore().list();
   for (const Failure &damaged : listing.damaged) report(damaged);
-  QByteArray text;
-  for (const QString &name : listing.names) text += name.toUtf8() + '\n';
-  return writeToStandardOutput(text);
+  return writeLines(listing.names);
 }
 
 Status deletePreset(const QString &name) {

@@ -22,7 +22,7 @@ Status printIntoFile(const JobRequest &request) {
 // The state as JSON must stay all there is on the standard output.
 Status tellJob(const CommandLine &line, const QString &words) {
   if (line.silent) return {};
-  if (!line.inspect && !line.summary) return writeToStandardOutput(words.toUtf8() + '\n');
+  if (!line.inspect && !line.summary) return writeLines({words});
   tell(words);
   return {};
 }

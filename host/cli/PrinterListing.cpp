@@ -16,7 +16,7 @@ QString stateOf(const Queue &queue) {
          QLatin1Char(')');
 }
 
-// An administrator's words may hold anything; a tab or line feed would break the line.
+// An administrator's words may hold a line feed where a space is meant.
 QString field(const QString &text) {
   return text.simplified();
 }
@@ -32,13 +32,13 @@ Status listPrintersAsAsked(const CommandLine &line) {
   const auto passwords = std::make_shared<PasswordSource>(askOnTerminal);
   const Result<QList<Queue>> queues = listPrinters(serverAccess(line, passwords));
   if (!queues) return queues.failure();
-  QString text;
+  QList<QStringList> rows;
   for (const Queue &queue : queues.value()) {
     QStringList fields{field(queue.destination()), field(stateOf(queue)), field(queue.location)};
     if (queue.isDefault) fields << QStringLiteral("default");
-    text += fields.join(QLatin1Char('\t')) + QLatin1Char('\n');
+    rows << fields;
   }
-  return writeToStandardOutput(text.toUtf8());
+  return writeRows(rows);
 }
 
 }  // namespace orvek

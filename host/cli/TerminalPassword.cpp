@@ -10,6 +10,8 @@
 
 #include <cerrno>
 
+#include "platform/system/OneLine.h"
+
 namespace orvek {
 namespace {
 
@@ -117,8 +119,9 @@ Result<Credentials> askOnTerminal(const PasswordQuestion &question,
                        "is no terminal to read it from")
             .arg(question.user)};
   }
-  terminal.write(
-      QStringLiteral("Password for %1 on %2? ").arg(question.user, question.server).toLocal8Bit());
+  const QString prompt =
+      QStringLiteral("Password for %1 on %2? ").arg(question.user, question.server);
+  terminal.write(QByteArray::fromStdString(oneLine(prompt.toStdString())));
   const QByteArray line = readLine(terminal, cancelled);
   if (!line.isEmpty()) return Credentials{question.user, QString::fromLocal8Bit(line)};
   return Failure{FailureKind::Io, question.server,

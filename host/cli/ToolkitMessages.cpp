@@ -7,6 +7,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "platform/system/OneLine.h"
+
 namespace orvek {
 namespace {
 
@@ -16,7 +18,8 @@ constexpr QLatin1String runtimeFolderMessage{"QStandardPaths: "};
 
 void writeMessage(QtMsgType type, const QMessageLogContext &context, const QString &message) {
   if (message.startsWith(runtimeFolderMessage)) return;
-  std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, message)));
+  const std::string line = oneLine(qFormatLogMessage(type, context, message).toStdString());
+  std::fprintf(stderr, "%s\n", line.c_str());
   if (type == QtFatalMsg) std::abort();
 }
 

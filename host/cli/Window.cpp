@@ -35,8 +35,7 @@ QString namesOf(const QStringList &files) {
 // As lp does: a job on a queue has a number, one into a file has none.
 Status tellOutcome(const CommandLine &line, const PrintDialog &dialog) {
   if (line.silent || !dialog.outcome() || dialog.outcome()->jobId == 0) return {};
-  const QString words = requestIdLine(dialog.request(), *dialog.outcome());
-  return writeToStandardOutput(words.toUtf8() + '\n');
+  return writeLines({requestIdLine(dialog.request(), *dialog.outcome())});
 }
 
 // For a session on a printer chosen in the window: what was entered there goes along by itself.

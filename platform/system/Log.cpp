@@ -12,8 +12,11 @@
 #include <cstdio>
 #include <memory>
 #include <mutex>
+#include <string>
 #include <utility>
 #include <vector>
+
+#include "platform/system/OneLine.h"
 
 namespace orvek {
 namespace {
@@ -44,13 +47,15 @@ void tellListeners(const QString &line) {
   }
 }
 
+// Texts of printers and servers are among what is logged: they neither begin a line of their own
+// nor move a terminal's cursor.
 void writeToStandardError(const QByteArray &text) {
   const QByteArray time =
       QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz")).toUtf8();
+  const std::string line = oneLine((text.endsWith('\n') ? text.chopped(1) : text).toStdString());
   // One write per line keeps lines of several processes whole on a shared terminal.
   const QByteArray whole = time + ' ' + program_invocation_short_name + '[' +
-                           QByteArray::number(getpid()) + "] " + text +
-                           (text.endsWith('\n') ? "" : "\n");
+                           QByteArray::number(getpid()) + "] " + line.c_str() + '\n';
   std::fwrite(whole.constData(), 1, static_cast<std::size_t>(whole.size()), stderr);
 }
 

@@ -102,6 +102,26 @@ TEST_F(Device, RefusesBadCommandLinesInOneLine) {
   }
 }
 
+TEST_F(Device, SaysNothingThatATerminalWouldObey) {
+  const Outcome result = run("\"$(printf 'a\\033[2J\\nb\\302\\233c\\233d')\"");
+  EXPECT_EQ(result.status, 2);
+  EXPECT_EQ(result.errors,
+            "orvek-device: a [2J b c?d: there is no such command (see orvek-device --help)\n");
+}
+
+TEST_F(Device, OutlivesANeighbourWhoseServiceTargetIsNoText) {
+  NEEDS_OWN_NETWORK();
+  const Responder responder(Responder::Place::PrinterByMulticast, [](const Bytes &query, int) {
+    return std::vector<Bytes>{serviceReplyTo(query, name({"b\xC3\xBCro"}))};
+  });
+  const Outcome result = run("url dnssd://Orvek._ipp._tcp.local./");
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.output, "");
+  EXPECT_EQ(result.errors,
+            "orvek-device: dnssd://Orvek._ipp._tcp.local./: what the network answers for this "
+            "name is no host's name; ask for the printer's address instead\n");
+}
+
 /// The libraries of which a command's loading costs most, as far as a run with `words` loads them.
 std::set<std::string> costlyLibrariesIn(const std::string &loaderLog) {
   std::set<std::string> found;

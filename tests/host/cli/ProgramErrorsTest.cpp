@@ -127,6 +127,39 @@ TEST_F(ProgramErrors, AReportStaysOneLineWhateverTheNameHolds) {
   expectFailure(runHeadless({"--ticket", "/no\nwhere\r.json"}), 1, "/no where");
 }
 
+// Hexadecimal digits stand for bytes in a PPD's texts.
+TEST_F(ProgramErrors, NoTextOfAPrinterMovesATerminalsCursorOrForgesALine) {
+  QFile original(testPpd("finisher.ppd"));
+  ASSERT_TRUE(original.open(QIODevice::ReadOnly));
+  QByteArray ppd = original.readAll();
+  ASSERT_TRUE(ppd.contains("*OVKStapling Front/"));
+  ppd.replace("*OVKStapling Front/", "*OVKStapling Front/A<1B>[2J<0A>Forged<9B>");
+  const QString path = file("forging.ppd", ppd);
+  const ProgramRun run = runProgram({"--headless", "--ppd", path, "--summary", "--mark",
+                                     "OVKOptionFinisher=False", "--do", "staplingPopup=Front"});
+  const ProgramRun summed =
+      runProgram({"--headless", "--ppd", path, "--summary", "--do", "staplingPopup=Front"});
+  EXPECT_EQ(summed.status, 0) << summed.errors.constData();
+  EXPECT_THAT(summed.output.toStdString(), HasSubstr("A [2J Forged 1 Staple"));
+  for (const QByteArray &said : {run.output, run.errors, summed.output, summed.errors}) {
+    EXPECT_FALSE(said.contains('\x1b')) << said.constData();
+    EXPECT_FALSE(said.contains("\xc2\x9b")) << said.constData();
+    EXPECT_FALSE(said.contains("\nForged")) << said.constData();
+  }
+}
+
+TEST_F(ProgramErrors, APresetsNameIsOneLineInTheList) {
+  QDir(dir.path()).mkpath("orvek-print/presets");
+  const Surroundings there{{"XDG_DATA_HOME=" + dir.path()}, {}, {}};
+  const QString name = QStringLiteral("A\x1b[2J\u202eB");
+  const ProgramRun saved = runHeadless({"--save-preset", name}, there);
+  const ProgramRun listed = runProgram({"--list-presets"}, there);
+  for (const QByteArray &said : {saved.errors, listed.output, listed.errors}) {
+    EXPECT_FALSE(said.contains('\x1b')) << said.constData();
+    EXPECT_FALSE(said.contains("\xe2\x80\xae")) << said.constData();
+  }
+}
+
 TEST_F(ProgramErrors, RefuseStandardInputTwiceInAWindowToo) {
   expectFailure(runProgram({"--ppd", testPpd("finisher.ppd"), "-", "-"},
                            {{"QT_QPA_PLATFORM=offscreen"}, {}, {}}),

@@ -29,6 +29,12 @@ TEST(Log, LetsAListenerHearEachLineAsItWasGiven) {
   EXPECT_EQ(log.lines(), QStringList({"first\n", "second"}));
 }
 
+TEST(Log, PutsWhatItIsGivenOnOneLineThatMovesNoCursor) {
+  const QString said = standardErrorOf(QStringLiteral("A\x1b[2J\nforged\rB\n"));
+  EXPECT_TRUE(said.endsWith(QStringLiteral("] A [2J forged B\n"))) << said.toStdString();
+  EXPECT_EQ(said.count(u'\n'), 1);
+}
+
 TEST(Log, EndsAListenerThatAnEmptyOneReplaces) {
   int heard = 0;
   setLogListener([&heard](const QString &) { ++heard; });
