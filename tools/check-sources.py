@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
 """Fails on sources without their opening, on sources that grew too long, on comments behind a field,
-and on words that have no place in the project (tools/words.json).
+on texts that the toolkit may take for markup, and on words that have no place in the project (tools/words.json).
 
 usage: check-sources.py [--root FOLDER] [--words FILE] [--longest LINES]
 """
@@ -12,6 +12,7 @@ import os
 import re
 
 from fields import comments_behind
+from markup import markup_problems
 from sources import SOURCE_SUFFIXES, finish, project_files, read_text
 
 SPDX = "SPDX-License-Identifier: Apache-2.0"
@@ -50,6 +51,8 @@ def check_file(path, text, words, longest):
     if path.endswith(SOURCE_SUFFIXES):
         for number in comments_behind(text):
             yield f"{path}:{number}: what is to be known of a field stands above it, not behind"
+        for number, problem in markup_problems(path, text):
+            yield f"{path}:{number}: {problem}"
     yield from word_problems(path, lines, words)
 
 

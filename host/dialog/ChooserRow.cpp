@@ -5,9 +5,9 @@
 
 #include <QComboBox>
 #include <QGridLayout>
-#include <QLabel>
 
 #include "host/dialog/PrinterChooser.h"
+#include "platform/ui/PlainText.h"
 
 namespace orvek {
 namespace {
@@ -32,7 +32,7 @@ ChooserRow::ChooserRow(const ServerAccess &access, const std::shared_ptr<PresetS
 
 // What stands below a menu has no part in the height of its label.
 void ChooserRow::add(QWidget *chooser, QWidget *menu, const QString &text, int column) {
-  auto *label = new QLabel(text, this);
+  auto *label = new PlainLabel(text, this);
   label->setBuddy(menu);
   label->setFixedHeight(menu->sizeHint().height());
   auto *grid = static_cast<QGridLayout *>(layout());

@@ -4,11 +4,11 @@
 #include "host/dialog/DocumentHeader.h"
 
 #include <QGridLayout>
-#include <QLabel>
 #include <QTimer>
 #include <utility>
 
 #include "host/dialog/ElidedLabel.h"
+#include "platform/ui/PlainText.h"
 
 namespace orvek {
 namespace {
@@ -21,11 +21,10 @@ constexpr int gap = 10;
 
 DocumentHeader::DocumentHeader(QWidget *parent)
     : QWidget(parent),
-      m_picture(new QLabel(this)),
+      m_picture(new PlainLabel(this)),
       m_name(new ElidedLabel(Qt::ElideMiddle, this)),
-      m_detail(new QLabel(this)) {
+      m_detail(new PlainLabel(this)) {
   m_picture->hide();
-  m_detail->setTextFormat(Qt::PlainText);
   m_name->setMinimumWidth(leastNameWidth);
   auto *grid = new QGridLayout(this);
   grid->setContentsMargins(0, 0, 0, 0);

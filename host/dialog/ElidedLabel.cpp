@@ -5,20 +5,20 @@
 
 namespace orvek {
 
-ElidedLabel::ElidedLabel(Qt::TextElideMode mode, QWidget *parent) : QLabel(parent), m_mode(mode) {
-  setTextFormat(Qt::PlainText);
+ElidedLabel::ElidedLabel(Qt::TextElideMode mode, QWidget *parent)
+    : PlainLabel(parent), m_mode(mode) {
   setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 }
 
 void ElidedLabel::setWholeText(const QString &text) {
   m_text = text;
-  setToolTip(text);
+  setToolTip(plainToolTip(text));
   setAccessibleName(text);
   fit();
 }
 
 void ElidedLabel::resizeEvent(QResizeEvent *event) {
-  QLabel::resizeEvent(event);
+  PlainLabel::resizeEvent(event);
   fit();
 }
 

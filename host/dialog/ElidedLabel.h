@@ -2,13 +2,13 @@
 // A line of text that takes what width there is and is shortened to it.
 #pragma once
 
-#include <QLabel>
+#include "platform/ui/PlainText.h"
 
 namespace orvek {
 
 /// The whole text is the tool tip and the accessible name. Belongs to its parent; for the
 /// interface's thread. Nothing fails.
-class ElidedLabel final : public QLabel {
+class ElidedLabel final : public PlainLabel {
   Q_OBJECT
 
  public:

@@ -5,9 +5,10 @@
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
+
+#include "platform/ui/PlainText.h"
 
 namespace orvek {
 namespace {
@@ -18,7 +19,7 @@ constexpr int wholeJob = 100;
 }  // namespace
 
 JobBar::JobBar(QWidget *parent)
-    : QWidget(parent), m_words(new QLabel(this)), m_progress(new QProgressBar(this)) {
+    : QWidget(parent), m_words(new PlainLabel(this)), m_progress(new QProgressBar(this)) {
   auto *buttons = new QDialogButtonBox(this);
   m_print = buttons->addButton(tr("&Print"), QDialogButtonBox::AcceptRole);
   m_print->setObjectName(QStringLiteral("printButton"));

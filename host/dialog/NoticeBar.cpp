@@ -5,11 +5,12 @@
 
 #include <QAccessible>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyle>
 #include <QToolButton>
+
+#include "platform/ui/PlainText.h"
 
 namespace orvek {
 namespace {
@@ -32,8 +33,8 @@ QColor mixed(const QColor &background, const QColor &colour, qreal share) {
 
 NoticeBar::NoticeBar(QWidget *parent)
     : QFrame(parent),
-      m_icon(new QLabel(this)),
-      m_text(new QLabel(this)),
+      m_icon(new PlainLabel(this)),
+      m_text(new PlainLabel(this)),
       m_undo(new QPushButton(tr("&Undo"), this)),
       m_close(new QToolButton(this)) {
   setObjectName(QStringLiteral("noticeBar"));

@@ -7,13 +7,14 @@
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QThread>
 #include <QVBoxLayout>
 #include <chrono>
 #include <condition_variable>
+
+#include "platform/ui/PlainText.h"
 
 namespace orvek {
 namespace {
@@ -40,7 +41,7 @@ PasswordDialog::PasswordDialog(const PasswordQuestion &question, QWidget *parent
     : QDialog(parent), m_user(new QLineEdit(question.user, this)), m_password(new QLineEdit(this)) {
   setWindowTitle(tr("Password"));
   setObjectName(QStringLiteral("passwordDialog"));
-  auto *words = new QLabel(wordsFor(question), this);
+  auto *words = new PlainLabel(wordsFor(question), this);
   words->setObjectName(QStringLiteral("passwordWords"));
   m_user->setObjectName(QStringLiteral("userField"));
   m_password->setObjectName(QStringLiteral("passwordField"));

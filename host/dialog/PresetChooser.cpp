@@ -7,9 +7,10 @@
 #include <QHBoxLayout>
 #include <QInputDialog>
 #include <QMenu>
-#include <QMessageBox>
 #include <QToolButton>
 #include <utility>
+
+#include "platform/ui/PlainText.h"
 
 namespace orvek {
 namespace {
@@ -120,9 +121,8 @@ QString PresetChooser::askForName(const QString &title, const QString &proposal)
 
 bool PresetChooser::mayReplace(const QString &name) {
   if (!m_store->list().names.contains(name)) return true;
-  return QMessageBox::question(this, tr("Save Preset"),
-                               tr("There is a preset “%1” already. Replace it?").arg(name)) ==
-         QMessageBox::Yes;
+  return isConfirmed(this, tr("Save Preset"),
+                     tr("There is a preset “%1” already. Replace it?").arg(name));
 }
 
 void PresetChooser::saveAs() {
@@ -150,9 +150,7 @@ void PresetChooser::rename() {
 
 void PresetChooser::remove() {
   const QString name = currentName();
-  const auto answer =
-      QMessageBox::question(this, tr("Delete Preset"), tr("Delete the preset “%1”?").arg(name));
-  if (answer != QMessageBox::Yes) return;
+  if (!isConfirmed(this, tr("Delete Preset"), tr("Delete the preset “%1”?").arg(name))) return;
   if (const Status removed = m_store->remove(name); !removed) Q_EMIT failed(removed.failure());
   reload(m_queue);
 }

@@ -2,7 +2,6 @@
 // A job's way: gathered, warned of, sent, watched, ended.
 
 #include <QFileDialog>
-#include <QMessageBox>
 #include <QPushButton>
 
 #include "host/dialog/JobBar.h"
@@ -17,6 +16,7 @@
 #include "host/printers/Queue.h"
 #include "host/session/JobWarnings.h"
 #include "host/translations/FailureText.h"
+#include "platform/ui/PlainText.h"
 
 namespace orvek {
 
@@ -43,9 +43,9 @@ bool PrintDialog::completeRequest(JobRequest *request) {
 bool PrintDialog::acceptsWarnings() {
   const QStringList warnings = jobWarnings(*m_session, m_setup.document.pages);
   if (warnings.isEmpty()) return true;
-  QMessageBox question(QMessageBox::Warning, tr("Print"),
-                       warnings.join(QStringLiteral(".\n")) + QLatin1Char('.'), QMessageBox::Cancel,
-                       this);
+  PlainMessageBox question(QMessageBox::Warning, tr("Print"),
+                           warnings.join(QStringLiteral(".\n")) + QLatin1Char('.'),
+                           QMessageBox::Cancel, this);
   question.setInformativeText(tr("Print all the same?"));
   QPushButton *print = question.addButton(tr("&Print"), QMessageBox::AcceptRole);
   question.setDefaultButton(QMessageBox::Cancel);
@@ -57,8 +57,8 @@ bool PrintDialog::acceptsWarnings() {
 // Of a job that was held back.
 bool PrintDialog::acceptsSheets(const JobOutcome &outcome) {
   const Failure lack{FailureKind::Io, outcome.queue, lackOfDriver(outcome.driver)};
-  QMessageBox question(QMessageBox::Question, tr("Print"), failureText(lack) + QLatin1Char('.'),
-                       QMessageBox::Cancel, this);
+  PlainMessageBox question(QMessageBox::Question, tr("Print"), failureText(lack) + QLatin1Char('.'),
+                           QMessageBox::Cancel, this);
   question.setInformativeText(tr("The sheets can be made on this computer and sent finished."));
   const QString words = asksForBooklet(m_request.options) ? tr("&Impose here and print")
                                                           : tr("&Prepare here and print");

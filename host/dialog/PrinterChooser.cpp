@@ -11,6 +11,7 @@
 
 #include "host/dialog/ElidedLabel.h"
 #include "host/translations/FailureText.h"
+#include "platform/ui/PlainText.h"
 
 namespace orvek {
 namespace {
@@ -122,7 +123,7 @@ void PrinterChooser::fill(const QString &destination) {
   for (const Queue &queue : m_queues) {
     m_menu->addItem(titleOf(queue), queue.destination());
     const int row = m_menu->count() - 1;
-    m_menu->setItemData(row, detailOf(queue), Qt::ToolTipRole);
+    m_menu->setItemData(row, plainToolTip(detailOf(queue)), Qt::ToolTipRole);
     const QString spoken = titleOf(queue) + QStringLiteral(", ") + detailOf(queue);
     m_menu->setItemData(row, spoken, Qt::AccessibleTextRole);
   }

@@ -4,7 +4,6 @@
 #include "host/dialog/SessionView.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTimer>
@@ -17,6 +16,7 @@
 #include "host/preview/JobPreview.h"
 #include "host/settings/GeneralPage.h"
 #include "host/settings/OptionsPage.h"
+#include "platform/ui/PlainText.h"
 
 namespace orvek {
 namespace {
@@ -52,7 +52,7 @@ SessionView::SessionView(PrintSession &session, const DocumentInfo &document, QW
 }
 
 QLayout *SessionView::buildAside() {
-  auto *title = new QLabel(tr("Summary"), this);
+  auto *title = new PlainLabel(tr("Summary"), this);
   // As high as a tab, so that both sides of the window have the same headings.
   title->setFixedHeight(m_pages->tabBar()->sizeHint().height() - 1);
   m_aside = new QVBoxLayout;

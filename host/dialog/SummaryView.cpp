@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QStyledItemDelegate>
 
+#include "platform/ui/PlainText.h"
+
 namespace orvek {
 namespace {
 
@@ -69,8 +71,8 @@ QTreeWidgetItem *itemFor(const SummaryLine &line, const QFont &plain) {
                                ? SummaryView::tr("%1: %2 (changed)").arg(line.title, line.value)
                                : SummaryView::tr("%1: %2").arg(line.title, line.value);
   item->setData(0, Qt::AccessibleTextRole, sentence);
-  item->setToolTip(0, sentence);
-  item->setToolTip(1, sentence);
+  item->setToolTip(0, plainToolTip(sentence));
+  item->setToolTip(1, plainToolTip(sentence));
   return item;
 }
 

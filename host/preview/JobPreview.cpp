@@ -7,7 +7,6 @@
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QIcon>
-#include <QLabel>
 #include <QPainter>
 #include <QPixmap>
 #include <QToolButton>
@@ -18,6 +17,7 @@
 #include "host/preview/SheetsView.h"
 #include "host/preview/SpokenSide.h"
 #include "platform/plugin/FinishingKeywords.h"
+#include "platform/ui/PlainText.h"
 
 namespace orvek {
 namespace {
@@ -44,7 +44,7 @@ QToolButton *arrowButton(Qt::ArrowType arrow, const QString &name, QWidget *pare
   button->setArrowType(arrow);
   button->setAutoRaise(true);
   button->setAutoRepeat(true);
-  button->setToolTip(name);
+  button->setToolTip(plainToolTip(name));
   button->setAccessibleName(name);
   return button;
 }
@@ -79,7 +79,7 @@ JobPreview::JobPreview(PrintSession &session, const QString &document, QWidget *
       m_with(printedWith(session)),
       m_pictures(new PagePictures(this)),
       m_view(new SheetsView(*m_pictures, this)),
-      m_caption(new QLabel(this)) {
+      m_caption(new PlainLabel(this)) {
   m_pool.setMaxThreadCount(2);
   m_document = sample(m_job.filters.paper);
   m_isRead = m_path.isEmpty() || m_path == QLatin1String("-");
@@ -100,7 +100,6 @@ void JobPreview::build() {
   m_view->setObjectName(QStringLiteral("previewSheets"));
   m_view->setAccessibleName(tr("Preview"));
   m_caption->setObjectName(QStringLiteral("previewCaption"));
-  m_caption->setTextFormat(Qt::PlainText);
   m_caption->setWordWrap(true);
   m_caption->setAlignment(Qt::AlignHCenter);
   auto *column = new QVBoxLayout(this);
@@ -119,7 +118,7 @@ QWidget *JobPreview::buildBar() {
   m_forward = arrowButton(Qt::RightArrow, tr("Next side"), bar);
   m_back->setObjectName(QStringLiteral("previewBack"));
   m_forward->setObjectName(QStringLiteral("previewForward"));
-  m_place = new QLabel(bar);
+  m_place = new PlainLabel(bar);
   m_place->setObjectName(QStringLiteral("previewPlace"));
   m_place->setAlignment(Qt::AlignCenter);
   m_several = new QToolButton(bar);

@@ -6,6 +6,8 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
+#include "platform/ui/PlainText.h"
+
 namespace orvek {
 namespace {
 
@@ -35,7 +37,8 @@ void ChoiceBox::setChoices(const QString &option, const QList<SettingChoice> &ch
 void ChoiceBox::setChoice(const QString &keyword) {
   const QSignalBlocker silent(this);
   setCurrentIndex(m_choices->rowOf(keyword));
-  setToolTip(m_choices->data(m_choices->index(currentIndex()), Qt::ToolTipRole).toString());
+  const QModelIndex current = m_choices->index(currentIndex());
+  setToolTip(plainToolTip(m_choices->data(current, Qt::AccessibleDescriptionRole).toString()));
 }
 
 // Scrolling over a page must not change a setting on the way.

@@ -6,6 +6,8 @@
 #include <QApplication>
 #include <QPalette>
 
+#include "platform/ui/PlainText.h"
+
 namespace orvek {
 
 ChoiceModel::ChoiceModel(Availability *availability, QObject *parent)
@@ -55,7 +57,8 @@ QVariant ChoiceModel::data(const QModelIndex &index, int role) const {
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole: {
       const QString words = availabilityAt(index.row()).words();
-      return words.isNull() ? QVariant() : QVariant(words);
+      if (words.isNull()) return {};
+      return role == Qt::ToolTipRole ? plainToolTip(words) : words;
     }
     case Qt::ForegroundRole:
       if (availabilityAt(index.row()).isUsable()) return {};

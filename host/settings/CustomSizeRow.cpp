@@ -5,9 +5,10 @@
 
 #include <QDoubleSpinBox>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QSignalBlocker>
 #include <cmath>
+
+#include "platform/ui/PlainText.h"
 
 namespace orvek {
 namespace {
@@ -36,7 +37,7 @@ CustomSizeRow::CustomSizeRow(QWidget *parent) : QWidget(parent), m_unit(PaperUni
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(gap);
   m_width = addField(QStringLiteral("customWidth"), tr("Paper width"));
-  row->addWidget(new QLabel(QStringLiteral("×"), this));
+  row->addWidget(new PlainLabel(QStringLiteral("×"), this));
   m_height = addField(QStringLiteral("customHeight"), tr("Paper height"));
   row->addStretch(1);
   setFocusProxy(m_width);
@@ -46,7 +47,7 @@ QDoubleSpinBox *CustomSizeRow::addField(const QString &name, const QString &text
   auto *field = new QDoubleSpinBox(this);
   field->setObjectName(name);
   field->setAccessibleName(text);
-  field->setToolTip(text);
+  field->setToolTip(plainToolTip(text));
   field->setDecimals(m_unit.decimals);
   field->setSuffix(QLatin1Char(' ') + QString::fromLatin1(m_unit.cupsName));
   // Each digit on the way to a size would be a pick of its own.

@@ -5,12 +5,12 @@
 
 #include <QDoubleSpinBox>
 #include <QFormLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QSignalBlocker>
 #include <algorithm>
 
 #include "host/settings/Mnemonics.h"
+#include "platform/ui/PlainText.h"
 
 namespace orvek {
 namespace {
@@ -41,7 +41,7 @@ void showText(QLineEdit *field, const QString &text) {
 }  // namespace
 
 CustomValueForm::CustomValueForm(QWidget *parent)
-    : QWidget(parent), m_rows(new QFormLayout(this)), m_problem(new QLabel(this)) {
+    : QWidget(parent), m_rows(new QFormLayout(this)), m_problem(new PlainLabel(this)) {
   setObjectName(QStringLiteral("customValues"));
   m_problem->setObjectName(QStringLiteral("customProblem"));
   m_problem->setWordWrap(true);
@@ -95,7 +95,7 @@ void CustomValueForm::makeFields(const QList<CustomParameter> &parameters) {
     QWidget *field = parameter.isNumber() ? makeNumber(parameter) : makeText(parameter);
     field->setObjectName(QStringLiteral("custom") + parameter.name);
     field->setAccessibleName(parameter.text);
-    auto *label = new QLabel(withoutMnemonic(parameter.text) + QLatin1Char(':'), this);
+    auto *label = new PlainLabel(withoutMnemonic(parameter.text) + QLatin1Char(':'), this);
     label->setBuddy(field);
     m_rows->insertRow(m_rows->rowCount() - 1, label, field);
     m_fields.append({parameter, field});
@@ -114,7 +114,7 @@ QWidget *CustomValueForm::makeNumber(const CustomParameter &parameter) {
   const QString limits =
       tr("%1 to %2")
           .arg(field->textFromValue(parameter.least), field->textFromValue(parameter.most));
-  field->setToolTip(limits);
+  field->setToolTip(plainToolTip(limits));
   field->setAccessibleDescription(limits);
   connect(field, &QDoubleSpinBox::valueChanged, this, &CustomValueForm::offer);
   return field;

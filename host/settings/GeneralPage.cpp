@@ -6,7 +6,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
-#include <QLabel>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <array>
@@ -18,6 +17,7 @@
 #include "host/settings/CustomSizeRow.h"
 #include "host/settings/Mnemonics.h"
 #include "host/settings/PagesRow.h"
+#include "platform/ui/PlainText.h"
 
 namespace orvek {
 namespace {
@@ -130,7 +130,7 @@ void GeneralPage::addGap() {
 }
 
 QLabel *GeneralPage::addRow(const QString &text, QWidget *field) {
-  auto *label = new QLabel(withoutMnemonic(text), this);
+  auto *label = new PlainLabel(withoutMnemonic(text), this);
   label->setBuddy(field);
   m_form->addRow(label, field);
   return label;

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "host/ppd/Wording.h"
+#include "platform/ui/PlainText.h"
 
 namespace orvek {
 namespace {
@@ -161,7 +162,8 @@ QVariant OptionsModel::optionData(const OptionEntry &entry, int column, int role
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole: {
       const QString words = description(entry);
-      return words.isNull() ? QVariant() : QVariant(words);
+      if (words.isNull()) return {};
+      return role == Qt::ToolTipRole ? plainToolTip(words) : words;
     }
     case Qt::FontRole: {
       if (column != ChoiceColumn || !isChanged(m_session.marks(), entry)) return {};

@@ -5,7 +5,6 @@
 
 #include <QCheckBox>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -18,6 +17,7 @@
 #include "host/settings/Mnemonics.h"
 #include "host/settings/OptionsModel.h"
 #include "host/settings/OptionsView.h"
+#include "platform/ui/PlainText.h"
 
 namespace orvek {
 namespace {
@@ -40,7 +40,7 @@ OptionsPage::OptionsPage(PrintSession &session, const QStringList &claimedKeys, 
       m_custom(new CustomValueForm(this)),
       m_search(new QLineEdit(this)),
       m_onlyChanged(new QCheckBox(tr("Only changed"), this)),
-      m_state(new QLabel(this)),
+      m_state(new PlainLabel(this)),
       m_setBack(new QPushButton(tr("Set Back"), this)),
       m_setAllBack(new QPushButton(tr("Set All Back"), this)) {
   build();

@@ -5,12 +5,12 @@
 
 #include <QAccessible>
 #include <QGridLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
 
 #include "host/ticket/PageRanges.h"
 #include "host/translations/FailureText.h"
+#include "platform/ui/PlainText.h"
 
 namespace orvek {
 namespace {
@@ -25,7 +25,7 @@ PagesRow::PagesRow(QWidget *parent)
       m_all(new QRadioButton(tr("All"), this)),
       m_some(new QRadioButton(tr("Range"), this)),
       m_ranges(new QLineEdit(this)),
-      m_problem(new QLabel(this)) {
+      m_problem(new PlainLabel(this)) {
   m_all->setObjectName(QStringLiteral("allPages"));
   m_all->setAccessibleName(tr("All pages"));
   m_all->setChecked(true);
@@ -35,7 +35,6 @@ PagesRow::PagesRow(QWidget *parent)
   m_ranges->setAccessibleName(tr("Page range"));
   m_ranges->setPlaceholderText(tr("e.g. 1-3, 7"));
   m_problem->setObjectName(QStringLiteral("pageRangesProblem"));
-  m_problem->setTextFormat(Qt::PlainText);
   m_problem->setWordWrap(true);
   setFocusProxy(m_all);
   arrange();

@@ -14,6 +14,7 @@
 #include "platform/system/Log.h"
 #include "platform/ui/Actions.h"
 #include "platform/ui/Bundle.h"
+#include "platform/ui/PlainText.h"
 
 namespace orvek {
 namespace {
@@ -44,7 +45,7 @@ QUiLoader &loader() {
 }
 
 void localize(QWidget *widget, const Bundle &bundle) {
-  widget->setToolTip(bundle.localizedString(widget->toolTip()));
+  widget->setToolTip(plainToolTip(bundle.localizedString(widget->toolTip())));
   widget->setAccessibleName(bundle.localizedString(widget->accessibleName()));
 }
 

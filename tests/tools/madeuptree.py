@@ -40,3 +40,4 @@ class MadeUpTree(unittest.TestCase):
         status, lines = self.run_checker(name, *arguments)
         self.assertEqual((status, len(lines)), (1, 1), lines)
         self.assertTrue(lines[0].startswith(start), lines[0])
+        return lines[0]

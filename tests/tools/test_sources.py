@@ -69,6 +69,41 @@ class Sources(MadeUpTree):
         )
         self.assert_clean(CHECKER)
 
+    def test_what_may_take_a_text_for_markup_is_refused(self):
+        for line, words in [
+            ("auto *label = new QLabel(text, this);", "use PlainLabel"),
+            ("A::A() : m_text(new QLabel(this)) {}", "use PlainLabel"),
+            ("QLabel label(text);", "use PlainLabel"),
+            ("class B : public QLabel {};", "use PlainLabel"),
+            ("QMessageBox box(QMessageBox::Warning, a, b);", "use PlainMessageBox or isConfirmed"),
+            ("if (QMessageBox::question(this, a, b) == yes) f();", "use PlainMessageBox or isConfirmed"),
+            ("field->setToolTip(words);", "give it plainToolTip"),
+            ("item->setToolTip(0, tr(\"%1: %2\").arg(a, b));", "give it plainToolTip"),
+            ("case Qt::ToolTipRole: return words;", "give it plainToolTip"),
+            ("QToolTip::showText(place, words);", "takes texts for markup"),
+            ("label->setTextFormat(Qt::RichText);", "takes texts for markup"),
+        ]:
+            with self.subTest(line=line):
+                self.source("host/A.cpp", line)
+                violation = self.assert_one_violation(CHECKER, "host/A.cpp:3: ")
+                self.assertIn(words, violation)
+
+    def test_what_shows_a_text_letter_by_letter_passes(self):
+        self.source(
+            "host/A.cpp",
+            "QLabel *m_text = nullptr;",
+            "auto *label = new PlainLabel(text, this);",
+            "auto *found = qobject_cast<const QLabel *>(control);",
+            "field->setToolTip(plainToolTip(words));",
+            "field->setToolTip(",
+            "    tr(\"Several sheets (at once)\"));",
+            "return role == Qt::ToolTipRole ? plainToolTip(words) : words;",
+            "// new QLabel(text) would not do.",
+        )
+        self.source("platform/ui/PlainText.h", "class PlainLabel : public QLabel {};")
+        self.source("tests/A.cpp", "QLabel label(text);")
+        self.assert_clean(CHECKER)
+
     def test_unwanted_words_are_named_with_their_line(self):
         for text in [
             "see /ho" + "me/jane/notes",
