@@ -7,6 +7,8 @@
 #include <QSet>
 #include <utility>
 
+#include "host/panels/PluginTrust.h"
+
 namespace orvek {
 namespace {
 
@@ -45,6 +47,9 @@ Result<std::unique_ptr<PDEPlugin>> makeFactory(const PluginInfo &info) {
 Result<LoadedPlugin> loadPlugin(const QString &bundlePath) {
   Result<PluginInfo> info = readPluginInfo(bundlePath);
   if (!info) return info.failure();
+  if (const Status trusted = checkNobodyElseWrites(bundlePath, info.value().executable); !trusted) {
+    return trusted.failure();
+  }
   Result<std::unique_ptr<PDEPlugin>> factory = makeFactory(info.value());
   if (!factory) return factory.failure();
   return LoadedPlugin{info.take(), factory.take()};

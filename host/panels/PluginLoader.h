@@ -21,7 +21,8 @@ struct LoadedPlugin {
   std::unique_ptr<PDEPlugin> factory;
 };
 
-/// Loads one bundle and hands the bundle to its factory. Invalid failures name bundle and file.
+/// Loads one bundle and hands the bundle to its factory. A bundle that others can write is refused
+/// (PluginTrust.h). Invalid failures name bundle and file.
 Result<LoadedPlugin> loadPlugin(const QString &bundlePath);
 
 /// What came of looking for installed plug-ins: the sound ones, which it shares, and what is wrong

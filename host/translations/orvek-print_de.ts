@@ -460,6 +460,14 @@
         <translation>die Fabrik des Plug-ins hat ihr Bündel abgelehnt</translation>
     </message>
     <message>
+        <source>belongs to another user, whose code would run as yours; a plug-in must be yours or the administrator&apos;s</source>
+        <translation>gehört einem anderen Benutzer, dessen Programm unter Ihrem Namen liefe; ein Plug-in muss Ihnen oder dem Systemverwalter gehören</translation>
+    </message>
+    <message>
+        <source>can be written by others, whose code would run as yours; take that right from them (chmod go-w)</source>
+        <translation>kann von anderen beschrieben werden, deren Programm unter Ihrem Namen liefe; nehmen Sie ihnen dieses Recht (chmod go-w)</translation>
+    </message>
+    <message>
         <source>Bad file descriptor</source>
         <translation>Dateideskriptor ist ungültig</translation>
     </message>

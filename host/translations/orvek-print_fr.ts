@@ -460,6 +460,14 @@
         <translation>la fabrique du module a refusé son paquet</translation>
     </message>
     <message>
+        <source>belongs to another user, whose code would run as yours; a plug-in must be yours or the administrator&apos;s</source>
+        <translation>appartient à un autre utilisateur, dont le code s’exécuterait en votre nom ; un module doit être à vous ou à l’administrateur</translation>
+    </message>
+    <message>
+        <source>can be written by others, whose code would run as yours; take that right from them (chmod go-w)</source>
+        <translation>peut être modifié par d’autres, dont le code s’exécuterait en votre nom ; retirez-leur ce droit (chmod go-w)</translation>
+    </message>
+    <message>
         <source>Bad file descriptor</source>
         <translation>descripteur de fichier non valide</translation>
     </message>

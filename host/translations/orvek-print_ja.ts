@@ -460,6 +460,14 @@
         <translation>プラグインのファクトリーがバンドルを拒否しました</translation>
     </message>
     <message>
+        <source>belongs to another user, whose code would run as yours; a plug-in must be yours or the administrator&apos;s</source>
+        <translation>別のユーザーのものであり、そのコードがあなたの権限で実行されてしまいます。プラグインはあなたか管理者のものでなければなりません</translation>
+    </message>
+    <message>
+        <source>can be written by others, whose code would run as yours; take that right from them (chmod go-w)</source>
+        <translation>ほかのユーザーが書き込めるため、そのコードがあなたの権限で実行されてしまいます。その権限を取り消してください (chmod go-w)</translation>
+    </message>
+    <message>
         <source>Bad file descriptor</source>
         <translation>ファイル記述子が無効です</translation>
     </message>

@@ -72,6 +72,21 @@ TEST_F(ProgramErrors, ABrokenPluginThatWasNamedIsThree) {
   expectFailure(runHeadless({"--plugin", dir.filePath("a.bundle")}), 3, "a.bundle/libA.so: ");
 }
 
+TEST_F(ProgramErrors, APluginThatOthersCanWriteIsRefused) {
+  const QString place = dir.filePath("open");
+  QDir(dir.path()).mkdir("open");
+  ASSERT_EQ(QProcess::execute("cp", {"-RL", ORVEK_BUNDLE_DIR, place + "/a.bundle"}), 0);
+  const QString bundle = place + "/a.bundle";
+  EXPECT_EQ(runHeadless({"--plugin", bundle, "--inspect"}).status, 0);
+  ASSERT_EQ(QProcess::execute("chmod", {"o+w", place}), 0);
+  expectFailure(runHeadless({"--plugin", bundle, "--inspect"}), 3,
+                "/open: can be written by others");
+  const ProgramRun installed =
+      runHeadless({"--inspect"}, {{"ORVEK_PRINT_PLUGIN_PATH=" + place}, {}, {}});
+  EXPECT_EQ(installed.status, 0);
+  EXPECT_EQ(installed.errorLines().size(), 1) << installed.errors.constData();
+}
+
 TEST_F(ProgramErrors, ABrokenInstalledPluginIsReportedAndLeftOut) {
   QDir(dir.path()).mkdir("a.bundle");
   const ProgramRun run =

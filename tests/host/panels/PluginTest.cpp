@@ -2,6 +2,8 @@
 // Finding plug-in bundles, checking what they say of themselves, and loading their code.
 
 #include <gmock/gmock.h>
+#include <pwd.h>
+#include <unistd.h>
 
 #include <QDir>
 #include <QFile>
@@ -11,6 +13,7 @@
 
 #include "host/panels/PluginFinder.h"
 #include "host/panels/PluginLoader.h"
+#include "host/panels/PluginTrust.h"
 
 namespace orvek::test {
 namespace {
@@ -59,6 +62,62 @@ TEST_F(PluginTest, KnowsASoundBundlesClassAndCode) {
   EXPECT_EQ(info.value().principalClass, "TestPlugin");
   EXPECT_EQ(info.value().executable, path + "/libTest.so");
   EXPECT_EQ(info.value().identifier, "test.plugin");
+}
+
+Status trustIn(const QString &bundle) {
+  return checkNobodyElseWrites(bundle, bundle + "/libTest.so");
+}
+
+TEST_F(PluginTest, TrustsWhatNobodyElseCanWrite) {
+  const QString path = makeBundle(QStringLiteral("a.bundle"), soundInfo());
+  const Status trusted = trustIn(path);
+  EXPECT_TRUE(trusted.ok()) << trusted.failure().line().toStdString();
+}
+
+TEST_F(PluginTest, RefusesCodeThatOthersCanPutInItsPlace) {
+  const QString path = makeBundle(QStringLiteral("deep/a.bundle"), soundInfo());
+  for (const QString &open :
+       QStringList{path + "/libTest.so", path + "/Info.json", path, dir.filePath("deep")}) {
+    const QFile::Permissions before = QFile::permissions(open);
+    QFile::setPermissions(open, before | QFile::WriteOther);
+    const Status trusted = trustIn(path);
+    ASSERT_FALSE(trusted.ok()) << open.toStdString();
+    EXPECT_EQ(trusted.failure().what, open);
+    EXPECT_THAT(trusted.failure().why.toStdString(), HasSubstr("can be written by others"));
+    EXPECT_EQ(loadPlugin(path).failure().line(), trusted.failure().line());
+    QFile::setPermissions(open, before);
+  }
+  EXPECT_TRUE(trustIn(path).ok());
+}
+
+TEST_F(PluginTest, RefusesCodeThatAGroupCanWriteUnlessItIsTheUsersOwn) {
+  if (::geteuid() != 0) GTEST_SKIP() << "only root can give files to any group";
+  const QString code = makeBundle(QStringLiteral("a.bundle"), soundInfo()) + "/libTest.so";
+  QFile::setPermissions(code, QFile::permissions(code) | QFile::WriteGroup);
+  constexpr gid_t anotherGroup = 1;
+  for (const gid_t group : {::getpwuid(0)->pw_gid, anotherGroup}) {
+    ASSERT_EQ(::chown(code.toLocal8Bit(), 0, group), 0);
+    EXPECT_EQ(trustIn(dir.filePath("a.bundle")).ok(), group != anotherGroup);
+  }
+}
+
+TEST_F(PluginTest, RefusesALinkThatStandsWhereOthersCanWrite) {
+  const QString path = makeBundle(QStringLiteral("kept/a.bundle"), soundInfo());
+  QDir(dir.path()).mkdir("open");
+  ASSERT_TRUE(QFile::link(path, dir.filePath("open/a.bundle")));
+  EXPECT_TRUE(trustIn(dir.filePath("open/a.bundle")).ok());
+  QFile::setPermissions(dir.filePath("open"),
+                        QFile::permissions(dir.filePath("open")) | QFile::WriteOther);
+  EXPECT_EQ(trustIn(dir.filePath("open/a.bundle")).failure().what, dir.filePath("open"));
+}
+
+TEST_F(PluginTest, RefusesCodeOfAnotherUser) {
+  if (::geteuid() != 0) GTEST_SKIP() << "only root can give files away";
+  const QString path = makeBundle(QStringLiteral("a.bundle"), soundInfo());
+  constexpr uid_t anotherUser = 65534;
+  ASSERT_EQ(::chown((path + "/libTest.so").toLocal8Bit(), anotherUser, 0), 0);
+  EXPECT_EQ(trustIn(path).failure().what, path + "/libTest.so");
+  EXPECT_THAT(trustIn(path).failure().why.toStdString(), HasSubstr("belongs to another user"));
 }
 
 TEST_F(PluginTest, RefusesWhatIsNoBundle) {
