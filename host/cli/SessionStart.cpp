@@ -92,14 +92,17 @@ Status applyOptions(const CommandLine &line, PrintSession &session) {
   return {};
 }
 
-PluginList installedPlugins() {
+Result<PluginList> installedPlugins(const CommandLine &line) {
   const PluginHarvest harvest = loadInstalledPlugins(PluginPlaces::ofThisProgram());
+  // Without a panel the actions on its controls would fail as well, which is not what is wrong.
+  const bool isAllBroken = harvest.plugins.isEmpty() && !harvest.failures.isEmpty();
+  if (isAllBroken && !line.actions.isEmpty()) return harvest.failures.first();
   for (const Failure &failure : harvest.failures) report(failure);
-  return {harvest.plugins.begin(), harvest.plugins.end()};
+  return PluginList{harvest.plugins.begin(), harvest.plugins.end()};
 }
 
 Result<PluginList> pluginsFor(const CommandLine &line) {
-  if (line.plugins.isEmpty()) return installedPlugins();
+  if (line.plugins.isEmpty()) return installedPlugins(line);
   PluginList plugins;
   for (const QString &path : line.plugins) {
     Result<LoadedPlugin> plugin = loadPlugin(path);

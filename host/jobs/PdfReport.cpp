@@ -18,6 +18,11 @@ constexpr ToolLimits glance{2s, 1 << 20, memoryBytes};
 constexpr ToolLimits closeLook{20s, 512 << 20, memoryBytes};
 constexpr qint64 headerBytes = 1024;  // readers look for "%PDF-" this far
 
+// Title, author and so on come first, as they are, and may hold lines that look like the tool's.
+QByteArray withoutTheDocumentsWords(const QByteArray &report) {
+  return report.mid(report.lastIndexOf("\nPages:") + 1);
+}
+
 }  // namespace
 
 Result<QByteArray> pdfReport(const QString &pdf, ReportOn pages,
@@ -29,8 +34,10 @@ Result<QByteArray> pdfReport(const QString &pdf, ReportOn pages,
   }
   // An absolute path, since a name may begin with a dash.
   arguments << QFileInfo(pdf).absoluteFilePath();
-  return runTool(QStringLiteral("pdfinfo"), arguments,
-                 pages == ReportOn::AllPages ? closeLook : glance, cancelled);
+  const auto report = runTool(QStringLiteral("pdfinfo"), arguments,
+                              pages == ReportOn::AllPages ? closeLook : glance, cancelled);
+  if (!report) return report;
+  return withoutTheDocumentsWords(report.value());
 }
 
 bool beginsAsPdf(const QByteArray &bytes) {

@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "host/presets/PresetName.h"
+#include "host/ticket/TicketFile.h"
 #include "platform/system/WholeFile.h"
 
 namespace orvek {
@@ -38,11 +39,9 @@ Result<Preset> readPreset(const QString &path, const Phrase &where) {
   if (!file.open(QIODevice::ReadOnly)) {
     return ioFailure(where, Phrase::ofSystem(file.errorString()));
   }
-  const QByteArray json = file.readAll();
-  if (file.error() != QFileDevice::NoError) {
-    return ioFailure(where, Phrase::ofSystem(file.errorString()));
-  }
-  return presetFromJson(json, where);
+  const Result<QByteArray> json = readSettings(file, where);
+  if (!json) return json.failure();
+  return presetFromJson(json.value(), where);
 }
 
 Status writePreset(const QString &path, const Preset &preset) {

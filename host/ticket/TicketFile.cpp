@@ -83,17 +83,34 @@ Result<TicketValues> parseTicket(const QByteArray &json, const QString &name) {
   return values;
 }
 
+Result<QByteArray> readSettings(QIODevice &file, const Phrase &name) {
+  QByteArray bytes;
+  while (bytes.size() <= largestSettings) {
+    const QByteArray more = file.read(largestSettings + 1 - bytes.size());
+    if (more.isEmpty()) break;
+    bytes += more;
+  }
+  if (bytes.size() > largestSettings) {
+    return Failure{FailureKind::Invalid, name,
+                   Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
+                                            "is larger than 1 MB, as no ticket and no preset is"))};
+  }
+  const auto *asFile = qobject_cast<const QFileDevice *>(&file);
+  if (asFile != nullptr && asFile->error() != QFileDevice::NoError) {
+    return Failure{FailureKind::Io, name, Phrase::ofSystem(file.errorString())};
+  }
+  return bytes;
+}
+
 Result<TicketValues> readTicket(const QString &path) {
   QFile file(path);
   if (QFileInfo(path).isDir()) {
     return Failure{FailureKind::Io, path, QStringLiteral("is a folder, not a ticket")};
   }
   if (!file.open(QIODevice::ReadOnly)) return Failure{FailureKind::Io, path, file.errorString()};
-  const QByteArray json = file.readAll();
-  if (file.error() != QFileDevice::NoError) {
-    return Failure{FailureKind::Io, path, file.errorString()};
-  }
-  return parseTicket(json, path);
+  const Result<QByteArray> json = readSettings(file, path);
+  if (!json) return json.failure();
+  return parseTicket(json.value(), path);
 }
 
 Status writeTicket(const QString &path, const TicketValues &values) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QIODevice>
 #include <QJsonObject>
 #include <QMap>
 #include <QString>
@@ -15,9 +16,16 @@ namespace orvek {
 /// A ticket's content: text (QString) or integer (qint64) by key.
 using TicketValues = QMap<QString, QVariant>;
 
-/// Reads a ticket. Failures: Io where the file can't be read; Invalid, with the line or the key,
-/// where it is no flat JSON object of text and integers. Integers beyond 64 bits become the nearest
-/// that fits.
+/// In bytes. Reading JSON takes many times the memory that it has as a file.
+inline constexpr qint64 largestSettings = 1 << 20;
+
+/// The bytes of a ticket or preset from an open file or pipe, called `name` in failures: Invalid
+/// above largestSettings, Io where it can't be read.
+Result<QByteArray> readSettings(QIODevice &file, const Phrase &name);
+
+/// Reads a ticket of largestSettings at most. Failures: Io where the file can't be read; Invalid,
+/// with the line or the key, where it is no flat JSON object of text and integers. Integers beyond
+/// 64 bits become the nearest that fits.
 Result<TicketValues> readTicket(const QString &path);
 
 /// The same from bytes; `name` stands for the file in failures.

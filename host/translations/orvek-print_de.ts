@@ -460,6 +460,10 @@
         <translation>die Fabrik des Plug-ins hat ihr Bündel abgelehnt</translation>
     </message>
     <message>
+        <source>is larger than 1 MB, as no ticket and no preset is</source>
+        <translation>ist größer als 1 MB, was kein Ticket und keine Voreinstellung ist</translation>
+    </message>
+    <message>
         <source>belongs to another user, whose code would run as yours; a plug-in must be yours or the administrator&apos;s</source>
         <translation>gehört einem anderen Benutzer, dessen Programm unter Ihrem Namen liefe; ein Plug-in muss Ihnen oder dem Systemverwalter gehören</translation>
     </message>

@@ -460,6 +460,10 @@
         <translation>la fabrique du module a refusé son paquet</translation>
     </message>
     <message>
+        <source>is larger than 1 MB, as no ticket and no preset is</source>
+        <translation>dépasse 1 Mo, ce qu’aucun ticket ni préréglage ne fait</translation>
+    </message>
+    <message>
         <source>belongs to another user, whose code would run as yours; a plug-in must be yours or the administrator&apos;s</source>
         <translation>appartient à un autre utilisateur, dont le code s’exécuterait en votre nom ; un module doit être à vous ou à l’administrateur</translation>
     </message>

@@ -460,6 +460,10 @@
         <translation>プラグインのファクトリーがバンドルを拒否しました</translation>
     </message>
     <message>
+        <source>is larger than 1 MB, as no ticket and no preset is</source>
+        <translation>1 MB を超えています。チケットやプリセットがそれほど大きくなることはありません</translation>
+    </message>
+    <message>
         <source>belongs to another user, whose code would run as yours; a plug-in must be yours or the administrator&apos;s</source>
         <translation>別のユーザーのものであり、そのコードがあなたの権限で実行されてしまいます。プラグインはあなたか管理者のものでなければなりません</translation>
     </message>

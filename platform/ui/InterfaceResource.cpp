@@ -3,6 +3,7 @@
 
 #include "platform/ui/InterfaceResource.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QFile>
 #include <QPointer>
@@ -15,6 +16,7 @@
 #include "platform/ui/Actions.h"
 #include "platform/ui/Bundle.h"
 #include "platform/ui/PlainText.h"
+#include "platform/ui/ResourceBounds.h"
 
 namespace orvek {
 namespace {
@@ -77,7 +79,14 @@ bool loadInterface(const Bundle *bundle, const QString &name, QObject *owner) {
     logLine(QStringLiteral("%1: %2").arg(path, file.errorString()));
     return false;
   }
-  QWidget *root = loader().load(&file, nullptr);
+  QByteArray bytes = file.readAll();
+  if (const QString problem = lengthProblem(bytes); !problem.isNull()) {
+    logLine(QStringLiteral("%1: %2").arg(path, problem));
+    return false;
+  }
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::ReadOnly);
+  QWidget *root = loader().load(&buffer, nullptr);
   if (root == nullptr) {
     logLine(QStringLiteral("%1: %2").arg(file.fileName(), loader().errorString()));
     return false;

@@ -96,6 +96,18 @@ TEST_F(ProgramErrors, ABrokenInstalledPluginIsReportedAndLeftOut) {
   EXPECT_TRUE(run.json().value("panel").isObject());
 }
 
+// Away from the build tree, whose own plug-in would take the broken one's place.
+TEST_F(ProgramErrors, AnActionOnTheOnlyPluginWhichIsBrokenIsThreeInOneLine) {
+  QDir(dir.path()).mkpath("place/bin");
+  QDir(dir.path()).mkpath("plugins/a.bundle");
+  Surroundings elsewhere{{"ORVEK_PRINT_PLUGIN_PATH=" + dir.filePath("plugins")}, {}, {}};
+  elsewhere.program = dir.filePath("place/bin/orvek-print");
+  ASSERT_TRUE(QFile::copy(ORVEK_BINARY_DIR "/bin/orvek-print", elsewhere.program));
+  expectFailure(runHeadless({"--do", "foldingPopup=#0", "--inspect"}, elsewhere), 3,
+                "a.bundle/Info.json: ");
+  EXPECT_EQ(runHeadless({"--inspect"}, elsewhere).status, 0);
+}
+
 TEST_F(ProgramErrors, AnActionOnWhatIsNotThereIsTwo) {
   expectFailure(runHeadless({"--inspect", "--do", "flyPopup=#0"}), 2, "--do flyPopup=#0: ");
   expectFailure(runHeadless({"--inspect", "--do", "staplingLbl=x"}), 2, "user can change");

@@ -87,6 +87,17 @@ TEST_F(DocumentInfoTest, DoesNotWaitForAPipe) {
   EXPECT_EQ(documentInfo(path).pages, 0);
 }
 
+TEST_F(DocumentInfoTest, BelievesNoNumberOfPagesThatATitleClaims) {
+  if (!hasPdfTool()) GTEST_SKIP() << "pdfinfo (poppler-utils) is not installed";
+  const QString path = write("titled.pdf",
+                             "%PDF-1.4\n1 0 obj<</Type/Catalog/Pages 2 0 R>>endobj\n"
+                             "2 0 obj<</Type/Pages/Count 1/Kids[3 0 R]>>endobj\n"
+                             "3 0 obj<</Type/Page/Parent 2 0 R/MediaBox[0 0 200 200]>>endobj\n"
+                             "4 0 obj<</Title(x\\nPages: 999)/Producer(y\\nPages: 998)>>endobj\n"
+                             "trailer<</Root 1 0 R/Info 4 0 R>>\n");
+  EXPECT_EQ(documentInfo(path).pages, 1);
+}
+
 TEST_F(DocumentInfoTest, SurvivesAPdfCutAtAnyPlace) {
   if (!hasPdfTool()) GTEST_SKIP() << "pdfinfo (poppler-utils) is not installed";
   QFile file(sample("Finishing-Sample.pdf"));

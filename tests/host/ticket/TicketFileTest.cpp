@@ -71,6 +71,24 @@ TEST(TicketFile, SaysWhichFileCannotBeRead) {
   EXPECT_EQ(readTicket(QStringLiteral("/")).failure().kind, FailureKind::Io);
 }
 
+TEST(TicketFile, RefusesWhatIsTooLargeForATicket) {
+  const QTemporaryDir dir;
+  QFile file(dir.filePath("large.json"));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  const QByteArray begin("{\"a\": \"");
+  const QByteArray end("\"}");
+  file.write(begin + QByteArray(largestSettings - begin.size() - end.size(), 'x') + end);
+  file.flush();
+  EXPECT_TRUE(readTicket(file.fileName()).ok());
+  file.write(" ");
+  file.close();
+  const auto ticket = readTicket(file.fileName());
+  ASSERT_FALSE(ticket.ok());
+  EXPECT_EQ(ticket.failure().kind, FailureKind::Invalid);
+  EXPECT_EQ(ticket.failure().line(),
+            file.fileName() + ": is larger than 1 MB, as no ticket and no preset is");
+}
+
 TEST(TicketFile, ReadsBackWhatItWrote) {
   QTemporaryDir dir;
   const QString path = dir.filePath(QStringLiteral("t.json"));

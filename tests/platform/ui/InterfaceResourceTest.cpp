@@ -54,6 +54,35 @@ TEST_F(InterfaceResourceTest, FillsTheOwnersOutletsByName) {
   EXPECT_EQ(owner->gutterTxtBox, owner->pdeView->findChild<QLineEdit *>("gutterTxtBox"));
 }
 
+QByteArray sized(const char *property, const char *width) {
+  return QByteArray("<property name=\"") + property + "\"><size><width>" + width +
+         "</width><height>20</height></size></property>";
+}
+
+TEST_F(InterfaceResourceTest, IsRefusedWhereItAsksForALengthThatNoWindowHas) {
+  for (const QByteArray &content :
+       {sized("minimumSize", "16777000"), sized("minimumSize", "2147483647"),
+        sized("minimumSize", "99999999999"), sized("maximumSize", "16777216"),
+        QByteArray("<property name=\"geometry\"><rect><x>-2147483000</x><y>0</y><width>9</width>"
+                   "<height>9</height></rect></property>"),
+        QByteArray("<property name=\"minimumWidth\"><number>2000000000</number></property>"),
+        QByteArray("<layout class=\"QGridLayout\" columnminimumwidth=\"0,2000000000\"/>"),
+        QByteArray(
+            "<property name=\"font\"><font><pointsize>90000</pointsize></font></property>")}) {
+    const LogCapture log;
+    writeInterface(content);
+    EXPECT_FALSE(load()) << content.constData();
+    ASSERT_EQ(log.lines().size(), 1);
+    EXPECT_TRUE(log.lines().first().endsWith("line 1: a length beyond 16384 pixels"))
+        << log.lines().first().toStdString();
+  }
+}
+
+TEST_F(InterfaceResourceTest, MayHaveTheLengthsThatWindowsHave) {
+  writeInterface(sized("minimumSize", "16384") + sized("maximumSize", "16777215"));
+  EXPECT_TRUE(load());
+}
+
 TEST_F(InterfaceResourceTest, LeavesAnOutletNullThatTheResourceLacks) {
   writeInterface(widget("QLineEdit", "gutterTxtBox"));
   ASSERT_TRUE(load());
