@@ -11,6 +11,8 @@
 #include <QElapsedTimer>
 #include <QProcess>
 
+#include "host/jobs/ToolEnvironment.h"
+
 namespace orvek {
 namespace {
 
@@ -36,9 +38,7 @@ void restrictSelf(qint64 memoryBytes) {
 }
 
 void prepare(QProcess &process, const ToolLimits &limits) {
-  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-  process.setProcessEnvironment(environment);
+  process.setProcessEnvironment(toolEnvironment());
   process.setStandardInputFile(QProcess::nullDevice());
   process.setStandardErrorFile(QProcess::nullDevice());
   process.setChildProcessModifier([memory = limits.memoryBytes] { restrictSelf(memory); });

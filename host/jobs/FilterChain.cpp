@@ -35,7 +35,7 @@ Status checkPPDFile(const QString &path) {
 bool beginsWithin(const QString &pageRanges, int pages) {
   const QStringList ranges = pageRanges.split(u',');
   return std::any_of(ranges.begin(), ranges.end(), [pages](const QString &range) {
-    return range.section(u'-', 0, 0).toInt() <= pages;
+    return range.section(u'-', 0, 0).toDouble() <= pages;
   });
 }
 

@@ -13,6 +13,7 @@
 
 #include "host/jobs/FilterMessages.h"
 #include "host/jobs/OptionText.h"
+#include "host/jobs/ToolEnvironment.h"
 
 namespace orvek {
 namespace {
@@ -60,12 +61,7 @@ Status carryUntilFinished(FilterRun &run, QProcess &process, FilterMessages &mes
 }
 
 void prepare(QProcess &process, const FilterProgram &program) {
-  auto environment = QProcessEnvironment::systemEnvironment();
-  // The messages are read here, so they have to come in one language.
-  environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-  // The filter tool asks a print server about queues, though it needs none: one that answers
-  // nothing would keep the job waiting for ever.
-  environment.insert(QStringLiteral("CUPS_SERVER"), QStringLiteral("/dev/null/no-server"));
+  auto environment = toolEnvironment();
   for (auto entry = program.environment.cbegin(); entry != program.environment.cend(); ++entry) {
     environment.insert(entry.key(), entry.value());
   }

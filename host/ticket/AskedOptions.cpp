@@ -3,6 +3,7 @@
 
 #include "host/ticket/AskedOptions.h"
 
+#include <QRegularExpression>
 #include <algorithm>
 #include <array>
 #include <optional>
@@ -65,6 +66,12 @@ bool readOrder(JobSettings *settings, const QString &value) {
   return isAnyOf(value, {lastPageFirst, firstPageFirst});
 }
 
+// A number that no filter can hold would come out as another one.
+QString asWritten(const QString &value, const JobSettings &read) {
+  static const QRegularExpression tooLong(QStringLiteral("[0-9]{10}"));
+  return value.contains(tooLong) && !read.pageRanges.isEmpty() ? read.pageRanges : value;
+}
+
 struct Reader {
   QLatin1String name;
   bool (*read)(JobSettings *, const QString &);
@@ -92,7 +99,7 @@ Result<bool> AskedOptions::take(const QString &name, const QString &value) {
                    QStringLiteral("the option has no such value")};
   }
   settings = read;
-  words.insert(name, value);
+  words.insert(name, reader->name == pageRangesOption ? asWritten(value, read) : value);
   return true;
 }
 

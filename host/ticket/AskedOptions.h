@@ -13,7 +13,7 @@ namespace orvek {
 /// Kept as they were written: a job that nobody changed since carries the very same words. A value
 /// of its own, for any thread. Only take() fails.
 struct AskedOptions {
-  /// Name to value, as written.
+  /// Name to value, as written; but page ranges whose numbers are too long, as they are read.
   QMap<QString, QString> words;
   /// What they come to.
   JobSettings settings;

@@ -33,11 +33,16 @@ QString plainSigns(QString text) {
   return text;
 }
 
-int pageNumber(const QString &digits, int absent) {
-  if (digits.isEmpty()) return absent;
+// What is beyond any document is as good as its end.
+int lastPage(const QString &digits) {
   bool fits = false;
   const int number = digits.toInt(&fits);
   return fits ? number : lastPossiblePage;
+}
+
+// 0 where no document has so many pages.
+int firstPage(const QString &digits) {
+  return digits.isEmpty() ? 1 : digits.toInt();
 }
 
 std::optional<Range> readRange(const QString &text) {
@@ -47,7 +52,7 @@ std::optional<Range> readRange(const QString &text) {
   const QString first = match.captured(1);
   const QString last = match.captured(3);
   if (!match.hasMatch() || (first.isEmpty() && last.isEmpty())) return std::nullopt;
-  Range range{pageNumber(first, 1), pageNumber(last, lastPossiblePage)};
+  Range range{firstPage(first), lastPage(last)};
   if (match.captured(2).isEmpty()) {
     if (!last.isEmpty()) return std::nullopt;  // "1 3"
     range.last = range.first;

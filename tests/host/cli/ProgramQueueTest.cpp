@@ -181,6 +181,19 @@ TEST_F(ProgramQueue, IsNotAskedByTheFiltersEither) {
   EXPECT_FALSE(server.wasAsked());
 }
 
+TEST_F(ProgramQueue, IsNotAskedForTheSakeOfThePreviewEither) {
+  const SilentServer server;
+  ASSERT_TRUE(server.listens());
+  QFile notes(cache.filePath("notes.txt"));
+  ASSERT_TRUE(notes.open(QIODevice::WriteOnly) && notes.write("notes\n") > 0);
+  notes.close();
+  const ProgramRun run = runProgram({"--headless", "--ppd", testPpd("finisher.ppd"), "--inspect",
+                                     "--output", cache.filePath("out.ps"), notes.fileName()},
+                                    {{"CUPS_SERVER=" + server.address()}, {}, {}});
+  EXPECT_EQ(run.json().value("preview")["sheets"].toInt(), 1) << run.errors.constData();
+  EXPECT_FALSE(server.wasAsked());
+}
+
 TEST_F(ProgramQueue, GetsNoJobWithoutPrint) {
   ASSERT_EQ(run({"--headless", document}).status, 0);
   EXPECT_TRUE(cups->jobAttributes(1).isEmpty());

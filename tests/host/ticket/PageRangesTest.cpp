@@ -58,6 +58,11 @@ TEST(PageRanges, TakesNumbersBeyondAnyDocument) {
   EXPECT_EQ(normalized("5-99999999999"), "5-");
 }
 
+TEST(PageRanges, RefusesToBeginBeyondAnyDocument) {
+  EXPECT_EQ(normalized("4294967297"), "refused");
+  EXPECT_EQ(normalized("1,4294967297-99999999999"), "refused");
+}
+
 TEST(PageRanges, PicksThePagesOfADocument) {
   EXPECT_EQ(pagesInRanges("1-3,7", 8), (QList<int>{1, 2, 3, 7}));
   EXPECT_EQ(pagesInRanges("7-", 9), (QList<int>{7, 8, 9}));
