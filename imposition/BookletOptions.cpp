@@ -14,16 +14,9 @@ bool isSpace(char c) {
   return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
-// CUPS does not keep the letters of a boolean: "False" on a command line reaches filters as
-// "false".
-bool isOff(const std::string &value) {
-  const std::string word = lowerCase(value);
-  return word == "false" || word == "off" || word == "no" || word == "0";
-}
-
 bool flag(const ValueOf &valueOf, QLatin1String key) {
   const auto value = valueOf(key.data());
-  return value && !isOff(*value);
+  return value && readsAsOn(*value);
 }
 
 int number(const ValueOf &valueOf, const char *key, int absent) {
@@ -51,6 +44,13 @@ int leadingInteger(const std::string &text) {
     value = std::min(value * 10 + (*c - '0'), beyond);
   }
   return static_cast<int>(negative ? -value : std::min(value, beyond - 1));
+}
+
+// CUPS does not keep the letters of a boolean: "False" on a command line reaches filters as
+// "false".
+bool readsAsOn(const std::string &flag) {
+  const std::string word = lowerCase(flag);
+  return word != "false" && word != "off" && word != "no" && word != "0";
 }
 
 BookletKeys readBookletKeys(const ValueOf &valueOf) {

@@ -29,8 +29,11 @@ struct BookletKeys {
   bool operator==(const BookletKeys &) const = default;
 };
 
-/// Reads a job's keys. A flag that is there is on unless it is "false", "off", "no" or "0" in
-/// letters of either case: CUPS hands on what a panel wrote as "False" as "false". A number is read
+/// Whether a flag that is there is on: unless it is "false", "off", "no" or "0" in letters of
+/// either case. CUPS hands on what a panel wrote as "False" as "false".
+bool readsAsOn(const std::string &flag);
+
+/// Reads a job's keys, its flags as above. A number is read
 /// as far as it is one, 0 where it begins as none, and one beyond its range becomes the nearest
 /// within. What is absent has the default above.
 BookletKeys readBookletKeys(const ValueOf &valueOf);

@@ -8,6 +8,7 @@
 #include "host/cli/PrinterListing.h"
 #include "host/panels/PluginLoader.h"
 #include "host/session/QueueSetup.h"
+#include "host/ticket/BookletSettings.h"
 #include "host/ticket/JobOptionNames.h"
 
 namespace orvek {
@@ -54,7 +55,8 @@ Status applyJobOption(const OptionChoice &option, const QList<OptionChoice> &bes
   const Result<bool> taken = session.job().take(option.option, option.choice);
   if (!taken) return taken.failure();
   if (taken.value()) return {};
-  session.setTicketValue(option.option, option.choice);
+  const OptionChoice entry = bookletEntry(option).value_or(option);
+  session.setTicketValue(entry.option, entry.choice);
   session.job().pickWord(option, beside);
   return {};
 }

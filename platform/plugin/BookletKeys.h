@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QLatin1String>
+#include <array>
 
 namespace orvek {
 
@@ -41,6 +42,10 @@ inline constexpr BookletNumber creepRange{0, -36, 36};
 /// PageSize, counted from 1; below zero, none was picked. Absent is the job's own.
 inline constexpr QLatin1String targetPaperSizeKey{"OVKTargetPaperSize"};
 inline constexpr int jobsOwnPaper = 0;
+
+/// All of a booklet's keys, by what their values are.
+inline constexpr std::array bookletFlags{enableBookletKey, rightToLeftKey, pageBordersKey};
+inline constexpr std::array bookletNumbers{gutterKey, creepKey, targetPaperSizeKey};
 
 /// Pages per sheet, 0 for one: the host's own layout control writes it, as a number. Any other
 /// number excludes a booklet.

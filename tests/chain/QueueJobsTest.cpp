@@ -31,6 +31,18 @@ constexpr const char *lines[] = {
     "-o PageSize=Letter -o outputorder=reverse -n 2",
 };
 
+/// Flags that are off, or on in other words and letters than a panel's.
+constexpr const char *flagLines[] = {
+    "-o OVKEnableBooklet=false",
+    "-o OVKEnableBooklet=off",
+    "-o OVKEnableBooklet=no",
+    "-o OVKEnableBooklet=0",
+    "-o noOVKEnableBooklet",
+    "-o OVKEnableBooklet=none",
+    "-o OVKEnableBooklet -o OVKRightToLeft=false -o OVKPrintPageBorders=no",
+    "-o ovkenablebooklet=true -o OVKGUTTER=36 -o ovkrighttoleft=yes -o ovkprintpageborders=off",
+};
+
 QStringList words(const char *line) {
   return QString::fromLatin1(line).split(u' ', Qt::SkipEmptyParts);
 }
@@ -58,7 +70,7 @@ class QueueJobs : public ::testing::Test {
   }
 
   QStringList onQueue(const QStringList &options) const {
-    return QStringList{QStringLiteral("-d"), kQueue} + options + QStringList{file};
+    return QStringList{QStringLiteral("-d"), destination} + options + QStringList{file};
   }
 
   PaperSides paperOfJob(const QString &said) {
@@ -86,7 +98,21 @@ class QueueJobs : public ::testing::Test {
         .toObject();
   }
 
+  void save(const QString &place, const char *options) const {
+    const auto saved = cups->run(QStringLiteral("lpoptions"),
+                                 QStringList{QStringLiteral("-p"), place} + words(options));
+    ASSERT_EQ(saved.exitStatus, 0) << saved.errors.toStdString();
+  }
+
+  void expectAgreement(const QStringList &options) {
+    const QJsonObject said = preview(options);
+    EXPECT_GT(said["sides"].toArray().size(), 0);
+    EXPECT_EQ(differences(said, printWithLp(options)), QStringList());
+    EXPECT_EQ(differences(said, printWithTheDialog(options)), QStringList());
+  }
+
   std::unique_ptr<PrivateCups> cups;
+  QString destination = kQueue;
   DriverKit kit;
   QString file;
 };
@@ -94,11 +120,14 @@ class QueueJobs : public ::testing::Test {
 TEST_F(QueueJobs, ComeOutOfLpAndOfTheDialogAsThePreviewSays) {
   for (const char *line : lines) {
     SCOPED_TRACE(line);
-    const QStringList options = words(line);
-    const QJsonObject said = preview(options);
-    EXPECT_GT(said["sides"].toArray().size(), 0);
-    EXPECT_EQ(differences(said, printWithLp(options)), QStringList());
-    EXPECT_EQ(differences(said, printWithTheDialog(options)), QStringList());
+    expectAgreement(words(line));
+  }
+}
+
+TEST_F(QueueJobs, HaveTheirFlagsReadAsLpHasThemRead) {
+  for (const char *line : flagLines) {
+    SCOPED_TRACE(line);
+    expectAgreement(words(line));
   }
 }
 

@@ -29,6 +29,14 @@ class ProgramTicket : public testing::Test {
                       {{"XDG_CONFIG_HOME=" + dir.path(), "XDG_DATA_HOME=" + dir.path()}, {}, {}});
   }
 
+  static QJsonObject ticketFor(const QStringList &more) {
+    const ProgramRun done = runProgram(QStringList{"--headless", "--inspect", "--ppd",
+                                                   ORVEK_SOURCE_DIR "/printers/Orvek-6180.ppd"} +
+                                       more);
+    EXPECT_EQ(done.status, 0) << done.errors.constData();
+    return done.json().value("ticket").toObject();
+  }
+
   QByteArray printed() const {
     QFile out(dir.filePath("out.ps"));
     EXPECT_TRUE(out.open(QIODevice::ReadOnly));
@@ -71,6 +79,28 @@ TEST_F(ProgramTicket, StaplesNothingForAPresetEither) {
 
 TEST_F(ProgramTicket, StaplesNothingForAnOptionEither) {
   expectUnstapled(run(noFinisher + QStringList{"-o", "OVKStapling=Front"}));
+}
+
+// A panel takes any other word for a flag that is on.
+TEST_F(ProgramTicket, SpellsTheBookletsFlagsAsPanelsDo) {
+  const QStringList keys{"OVKEnableBooklet", "OVKRightToLeft", "OVKPrintPageBorders"};
+  for (const QString &key : keys) {
+    for (const char *off : {"%1=false", "%1=Off", "%1=no", "%1=0", "no%1"}) {
+      const QString option = QString(off).arg(key);
+      EXPECT_EQ(ticketFor({"-o", option}).value(key), QJsonValue("False")) << option.toStdString();
+    }
+    for (const char *on : {"%1", "%1=true", "%1=yes", "%1=1"}) {
+      const QString option = QString(on).arg(key);
+      EXPECT_EQ(ticketFor({"-o", option}).value(key), QJsonValue("True")) << option.toStdString();
+    }
+  }
+}
+
+TEST_F(ProgramTicket, HasTheBookletsKeysOnceInWhateverLettersTheyWereAskedFor) {
+  const QJsonObject usual = ticketFor({"-o", "OVKEnableBooklet=true", "-o", "OVKGutter=36"});
+  EXPECT_EQ(usual.value("OVKEnableBooklet"), QJsonValue("True"));
+  EXPECT_EQ(usual.value("OVKGutter"), QJsonValue("36"));
+  EXPECT_EQ(ticketFor({"-o", "ovkenablebooklet=true", "-o", "OVKGUTTER=36"}), usual);
 }
 
 }  // namespace

@@ -41,5 +41,34 @@ TEST(BookletSettings, GiveWayToSeveralPagesPerSheet) {
   EXPECT_FALSE(bookletSettings(ticket).enabled);
 }
 
+// A panel takes whatever isn't exactly "False" for on.
+TEST(BookletEntry, HasAFlagAsPanelsWriteIt) {
+  for (const QLatin1String key : bookletFlags) {
+    for (const char *off : {"false", "FALSE", "off", "No", "0"}) {
+      EXPECT_EQ(bookletEntry({key, off}), (OptionChoice{key, "False"})) << off;
+    }
+    for (const char *on : {"true", "on", "yes", "1", "none", ""}) {
+      EXPECT_EQ(bookletEntry({key, on}), (OptionChoice{key, "True"})) << on;
+    }
+  }
+}
+
+TEST(BookletEntry, LeavesANumberAsItIsWritten) {
+  EXPECT_EQ(bookletEntry({"OVKGutter", "036pt"}), (OptionChoice{"OVKGutter", "036pt"}));
+  EXPECT_EQ(bookletEntry({"OVKCreep", "-4"}), (OptionChoice{"OVKCreep", "-4"}));
+  EXPECT_EQ(bookletEntry({"OVKTargetPaperSize", "0"}), (OptionChoice{"OVKTargetPaperSize", "0"}));
+}
+
+TEST(BookletEntry, HasTheKeysOwnSpelling) {
+  EXPECT_EQ(bookletEntry({"ovkenablebooklet", "true"}), (OptionChoice{"OVKEnableBooklet", "True"}));
+  EXPECT_EQ(bookletEntry({"OVKGUTTER", "36"}), (OptionChoice{"OVKGutter", "36"}));
+}
+
+TEST(BookletEntry, IsNothingForAnyOtherOption) {
+  for (const char *other : {"sides", "OVKFolding", "OVKEnable", "OVKEnableBooklets", ""}) {
+    EXPECT_EQ(bookletEntry({other, "true"}), std::nullopt) << other;
+  }
+}
+
 }  // namespace
 }  // namespace orvek::test
