@@ -9,8 +9,26 @@
 #include "host/ppd/Wording.h"
 #include "host/session/FirstMarks.h"
 #include "host/session/TicketBounds.h"
+#include "host/ticket/BookletSettings.h"
+#include "platform/system/OptionMap.h"
 
 namespace orvek {
+namespace {
+
+// A job does without saying what its queue does by itself, but a panel knows the ticket alone, and
+// what it reads there it says: a booklet that was missing would be called off.
+void beginTicket(Ticket &ticket, const SessionSetup &setup, const PrinterDescription &printer) {
+  for (const OptionChoice &saved : setup.queueOptions) {
+    const auto entry = bookletEntry(saved);
+    if (!entry || printer.has(entry->option)) continue;
+    if (!valueNamed(setup.ticket, entry->option)) ticket.setValue(entry->option, entry->choice);
+  }
+  for (auto entry = setup.ticket.begin(); entry != setup.ticket.end(); ++entry) {
+    ticket.setValue(entry.key(), entry.value());
+  }
+}
+
+}  // namespace
 
 Result<std::unique_ptr<PrintSession>> PrintSession::begin(const SessionSetup &setup) {
   std::unique_ptr<PrintSession> session(new PrintSession(setup));
@@ -25,9 +43,7 @@ PrintSession::PrintSession(const SessionSetup &setup)
       m_job(*this),
       m_action(*this),
       m_panels(*this, {marks().printer().lend(), &m_handle, m_ticket}, setup.panelsMayResize) {
-  for (auto entry = setup.ticket.begin(); entry != setup.ticket.end(); ++entry) {
-    m_ticket->setValue(entry.key(), entry.value());
-  }
+  beginTicket(*m_ticket, setup, marks().printer());
 }
 
 PrintSession::~PrintSession() {

@@ -33,6 +33,7 @@ class PrintSession final : public QObject, private PanelListener, private Action
   Q_OBJECT
 
  public:
+  /// Fills the ticket: with what the queue's options say of a booklet, then as the setup's has it.
   /// Marks the PPD: its defaults, the queue's options, the ticket's choices, then the given marks.
   /// What conflicts among them gives way or is dropped as for a pick (FirstMarks.h), and the record
   /// says so. A given mark that the PPD lacks is a Usage failure.

@@ -24,7 +24,8 @@ struct SessionSetup {
 
   TicketValues ticket = {};
 
-  /// The queue's and the user's saved options; what the PPD lacks is passed over.
+  /// The queue's and the user's saved options. A booklet's keys among them are the ticket's
+  /// beginning, which `ticket` overrules; of the rest, what the PPD lacks is passed over.
   QList<OptionChoice> queueOptions = {};
 
   /// Equipment, an earlier job: marked last, the ticket left alone.

@@ -144,5 +144,32 @@ TEST_F(QueueJobs, MakeOfLpsOptionsTheBookletThatThePanelMakes) {
   EXPECT_EQ(differences(preview(acts), paper), QStringList());
 }
 
+TEST_F(QueueJobs, BecomeTheBookletThatTheUserSaved) {
+  save(kQueue, "-o OVKEnableBooklet=true -o OVKGutter=36");
+  EXPECT_EQ(printWithLp({}).sides.size(), 6U);
+  expectAgreement({});
+  expectAgreement(words("-o OVKEnableBooklet=false"));
+  expectAgreement(words("-o ovkgutter=0 -o OVKRightToLeft"));
+}
+
+TEST_F(QueueJobs, BecomeTheBookletOfTheirInstanceAlone) {
+  save(kQueue + QStringLiteral("/booklet"), "-o ovkenablebooklet=yes -o OVKRightToLeft=off");
+  expectAgreement({});
+  destination = kQueue + QStringLiteral("/booklet");
+  EXPECT_EQ(printWithLp({}).sides.size(), 6U);
+  expectAgreement({});
+}
+
+TEST_F(QueueJobs, BecomeTheBookletThatTheServerMakesOfJobsThatSayNothing) {
+  const auto set = cups->run(QStringLiteral("lpadmin"),
+                             QStringList{QStringLiteral("-p"), kQueue} +
+                                 words("-o OVKEnableBooklet-default=true -o OVKGutter-default=36"));
+  ASSERT_EQ(set.exitStatus, 0) << set.errors.toStdString();
+  EXPECT_EQ(printWithLp({}).sides.size(), 6U);
+  expectAgreement({});
+  save(kQueue, "-o OVKEnableBooklet=false");
+  expectAgreement({});
+}
+
 }  // namespace
 }  // namespace orvek::test

@@ -37,6 +37,27 @@ TEST(PrintSession, MarksDefaultsThenQueueThenTicketThenGivenMarks) {
   EXPECT_EQ(session->ticket().values(), setup.ticket);
 }
 
+TEST(PrintSession, BeginsItsTicketWithTheBookletThatTheQueueMakes) {
+  SessionSetup setup;
+  setup.queueOptions = {{"ovkenablebooklet", "true"},
+                        {"OVKRightToLeft", "off"},
+                        {"OVKGutter", "36"},
+                        {"printer-info", "Office"}};
+  setup.printer = openTestPpd(QStringLiteral("finisher.ppd"));
+  EXPECT_EQ(PrintSession::begin(setup).take()->ticket().values(),
+            (TicketValues{
+                {"OVKEnableBooklet", "True"}, {"OVKRightToLeft", "False"}, {"OVKGutter", "36"}}));
+}
+
+TEST(PrintSession, PrefersWhatTheTicketSaysOfABookletInWhateverLetters) {
+  SessionSetup setup;
+  setup.queueOptions = {{"OVKEnableBooklet", "true"}, {"OVKGutter", "36"}, {"OVKCreep", "4"}};
+  setup.ticket = {{"OVKEnableBooklet", "False"}, {"ovkgutter", 12}};
+  setup.printer = openTestPpd(QStringLiteral("finisher.ppd"));
+  EXPECT_EQ(PrintSession::begin(setup).take()->ticket().values(),
+            (TicketValues{{"OVKEnableBooklet", "False"}, {"ovkgutter", 12}, {"OVKCreep", "4"}}));
+}
+
 TEST(PrintSession, RefusesAGivenMarkThatThePpdLacks) {
   SessionSetup setup;
   setup.printer = openTestPpd(QStringLiteral("finisher.ppd"));
