@@ -76,13 +76,18 @@ Status applyOption(const OptionChoice &option, const QList<OptionChoice> &beside
   return {};
 }
 
-// Copies and page ranges have letters of their own, and are options like any other.
+// Copies and page ranges have letters of their own, and are options like any other; a complaint
+// names the letter.
 Status applyJobOptions(const CommandLine &line, PrintSession &session) {
   QList<OptionChoice> options;
-  if (line.copies > 0) options.append({QStringLiteral("copies"), QString::number(line.copies)});
-  if (!line.pageRanges.isNull()) options.append({QStringLiteral("page-ranges"), line.pageRanges});
+  if (line.copies > 0) options.append({copiesOption, QString::number(line.copies)});
+  if (!line.pageRanges.isNull()) options.append({pageRangesOption, line.pageRanges});
   for (const OptionChoice &option : options) {
-    if (Status applied = applyJobOption(option, options, session); !applied) return applied;
+    const Status applied = applyJobOption(option, options, session);
+    if (applied) continue;
+    const auto letter = option.option == copiesOption ? QLatin1String("-n") : QLatin1String("-P");
+    return Failure{applied.failure().kind, QStringLiteral("%1 %2").arg(letter, option.choice),
+                   applied.failure().why};
   }
   return {};
 }

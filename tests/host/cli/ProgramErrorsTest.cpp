@@ -62,6 +62,12 @@ TEST_F(ProgramErrors, AnOptionThatThePrinterCannotTakeIsTwo) {
   expectFailure(runHeadless({"-o", "number-up=x", "--inspect"}), 2, "number-up=x: ");
 }
 
+TEST_F(ProgramErrors, APageRangeThatMakesNoSenseIsNamedAsItWasTyped) {
+  expectFailure(runHeadless({"-P", "3-1", "--inspect"}), 2, "orvek-print: -P 3-1: ");
+  expectFailure(runHeadless({"-o", "page-ranges=3-1", "--inspect"}), 2,
+                "orvek-print: -o page-ranges=3-1: ");
+}
+
 TEST_F(ProgramErrors, ABrokenPluginThatWasNamedIsThree) {
   expectFailure(runHeadless({"--plugin", dir.filePath("none.bundle")}), 3, "none.bundle: ");
   QDir(dir.path()).mkdir("a.bundle");
