@@ -14,6 +14,7 @@
 #include "host/jobs/OptionText.h"
 #include "host/jobs/OutputTarget.h"
 #include "imposition/SheetOptions.h"
+#include "platform/system/OptionMap.h"
 
 namespace orvek {
 namespace {
@@ -26,11 +27,7 @@ const QString bannersOption = QStringLiteral("job-sheets");
 
 template <typename Names>
 void removeAll(Options *options, const Names &names) {
-  for (const char *name : names) {
-    options->removeIf([name](const auto &option) {
-      return option.key().compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
-    });
-  }
+  for (const char *name : names) removeNamed(options, name);
 }
 
 // What a queue says of itself stands among the options saved for it.

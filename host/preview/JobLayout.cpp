@@ -136,7 +136,7 @@ Scaling scalingOf(const Options &options) {
 // The printer's own habit counts where the job says nothing: a tray that piles sheets face up.
 bool printsLastFirst(const Marks &marks) {
   const QString order = marks.marked(QStringLiteral("OutputOrder"));
-  if (!order.isNull()) return order.compare(QLatin1String("Reverse"), Qt::CaseInsensitive) == 0;
+  if (!order.isNull()) return sameKeyword(order, "Reverse");
   return stacksReversed(marks.printer(), marks.marked(QStringLiteral("OutputBin")));
 }
 

@@ -23,4 +23,12 @@ std::optional<Value> valueNamed(const QMap<QString, Value> &options, QAnyStringV
   return found;
 }
 
+/// Takes an option out, in whatever spellings of its name it stands there.
+template <typename Value>
+void removeNamed(QMap<QString, Value> *options, QAnyStringView name) {
+  options->removeIf([name](const auto &option) {
+    return QAnyStringView::compare(option.key(), name, Qt::CaseInsensitive) == 0;
+  });
+}
+
 }  // namespace orvek
