@@ -122,6 +122,13 @@ bool turnsRight(const PrinterDescription &printer) {
   return printer.attribute("LandscapeOrientation") == QLatin1String("Minus90");
 }
 
+// "landscape" is the printer's own turn, whichever that is; a number says which one is meant.
+Turning turningIn(const Options &options, bool turnsRight) {
+  const Turning turning = turningOf(settingsIn(options).orientation);
+  const bool isPrintersOwn = isOn(word(options, landscapeOption.data()));
+  return turnsRight && isPrintersOwn ? Turning::ReverseLandscape : turning;
+}
+
 Scaling scalingOf(const Options &options) {
   const QString asked = word(options, "print-scaling");
   if (sameKeyword(asked, "fit")) return Scaling::Fit;
@@ -190,8 +197,8 @@ SheetJob sheetJobOf(PrintSession &session) {
   const Marks &marks = session.marks();
   SheetJob job;
   readPaper(session, options, &job.filters);
-  job.filters.turning = turningOf(settingsIn(options).orientation);
   job.filters.landscapeTurnsRight = turnsRight(marks.printer());
+  job.filters.turning = turningIn(options, job.filters.landscapeTurnsRight);
   job.filters.scaling = scalingOf(options);
   readSelection(options, &job.filters);
   readPlaces(marks, options, &job.filters);

@@ -168,6 +168,26 @@ TEST_F(JobLayoutTest, TurnsOrderRoundAsATrayThatPilesFaceUpWantsIt) {
   EXPECT_EQ(first(), 1);
 }
 
+TEST_F(JobLayoutTest, TurnsLandscapeAsThePrinterDoesAndNumbersAsTheySay) {
+  const QTemporaryDir folder;
+  QFile family(session->origin().printer->path());
+  QFile turnsRight(folder.filePath(QStringLiteral("turns-right.ppd")));
+  ASSERT_TRUE(family.open(QIODevice::ReadOnly) && turnsRight.open(QIODevice::WriteOnly));
+  turnsRight.write(
+      family.readAll().replace("LandscapeOrientation: Plus90", "LandscapeOrientation: Minus90"));
+  turnsRight.close();
+  SessionSetup setup;
+  setup.printer = PrinterDescription::open(turnsRight.fileName()).take();
+  session = PrintSession::begin(setup).take();
+  write("landscape", QStringLiteral("true"));
+  EXPECT_EQ(sheetJobOf(*session).filters.turning, Turning::ReverseLandscape);
+  write("landscape", QStringLiteral("no"));
+  EXPECT_EQ(sheetJobOf(*session).filters.turning, Turning::Portrait);
+  session = PrintSession::begin(setup).take();
+  write("orientation-requested", QStringLiteral("4"));
+  EXPECT_EQ(sheetJobOf(*session).filters.turning, Turning::Landscape);
+}
+
 TEST_F(JobLayoutTest, KnowsWhatIsPrintedInGray) {
   EXPECT_FALSE(sheetJobOf(*session).inGray);
   pick("ColorModel", "Gray");
