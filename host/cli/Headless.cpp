@@ -4,6 +4,8 @@
 #include "host/cli/Headless.h"
 
 #include <QJsonDocument>
+#include <algorithm>
+#include <optional>
 
 #include "host/cli/ActionRunner.h"
 #include "host/cli/Console.h"
@@ -13,6 +15,8 @@
 #include "host/cli/Screenshot.h"
 #include "host/cli/SessionStart.h"
 #include "host/cli/TerminalPassword.h"
+#include "host/jobs/Document.h"
+#include "host/jobs/InputSpool.h"
 #include "host/preview/PreviewInspection.h"
 
 namespace orvek {
@@ -23,22 +27,58 @@ void savePanels(PrintSession &session) {
   session.panels().save();
 }
 
-Status writeFiles(const CommandLine &line, PrintSession &session) {
+Status writeFiles(const CommandLine &line, PrintSession &session, const SeenDocuments &documents) {
   if (!line.ticketOut.isNull()) {
     if (Status written = writeTicket(line.ticketOut, session.job().ticketToKeep()); !written) {
       return written;
     }
   }
   if (Status saved = savePresetAsAsked(line, session); !saved) return saved;
-  return line.screenshot.isNull() ? Status() : writeScreenshot(line, session);
+  if (line.screenshot.isNull()) return {};
+  const QString only = documents.files.size() == 1 ? documents.files.first() : QString();
+  return writeScreenshot(line, session, comesOnce(only) ? QString() : only);
 }
 
-QJsonObject stateOf(const CommandLine &line, PrintSession &session) {
-  QJsonObject state = inspect(session);
-  if (!line.files.isEmpty()) {
-    state.insert(QStringLiteral("preview"), inspectPreview(session, line.files));
+/// The state as text, and what could not be read for it.
+struct State {
+  QByteArray text;
+  std::optional<Failure> unread;
+};
+
+State stateOf(PrintSession &session, const QStringList &files) {
+  State state;
+  QJsonObject json = inspect(session);
+  if (!files.isEmpty()) {
+    const InspectedPreview preview = inspectPreview(session, files);
+    json.insert(QStringLiteral("preview"), preview.json);
+    state.unread = preview.unread;
   }
+  state.text = QJsonDocument(json).toJson(QJsonDocument::Indented);
   return state;
+}
+
+bool prints(const CommandLine &line) {
+  return line.print || !line.output.isNull();
+}
+
+/// What comes once is read at once where it is to be looked at as well as printed; else it goes
+/// through block by block. Without a name standard input is a document only of those who print.
+/// That nothing came is for these to say, in their turn.
+Result<SeenDocuments> seenDocuments(const CommandLine &line, DocumentFiles &copies) {
+  SeenDocuments seen{line.files, prints(line)};
+  if (seen.files.isEmpty() && prints(line)) seen.files << standardInput();
+  const bool areSeen = line.inspect || !line.screenshot.isNull();
+  if (!areSeen || std::none_of(seen.files.begin(), seen.files.end(), comesOnce)) return seen;
+  if (Status checked = checkAllDocuments(seen.files); !checked) return checked.failure();
+  const auto files = copies.of(seen.files, JobControl());
+  if (files) {
+    seen.files = files.value();
+  } else if (seen.arePrinted && files.failure().why != emptyDocument({}).why) {
+    return files.failure();
+  } else {
+    seen.unread = files.failure();
+  }
+  return seen;
 }
 
 QStringList summaryLines(const PrintSession &session) {
@@ -58,19 +98,23 @@ Status runActions(const CommandLine &line, PrintSession &session) {
   return {};
 }
 
-Status printState(const CommandLine &line, PrintSession &session) {
-  if (line.inspect) {
-    const QJsonDocument state(stateOf(line, session));
-    if (Status written = writeToStandardOutput(state.toJson(QJsonDocument::Indented)); !written) {
-      return written;
-    }
+Status printState(const CommandLine &line, PrintSession &session, const SeenDocuments &documents) {
+  const State state = line.inspect ? stateOf(session, documents.files) : State();
+  if (!state.text.isEmpty()) {
+    if (Status written = writeToStandardOutput(state.text); !written) return written;
   }
-  return line.summary ? writeLines(summaryLines(session)) : Status();
+  if (line.summary) {
+    if (Status written = writeLines(summaryLines(session)); !written) return written;
+  }
+  const auto &unread = documents.unread ? documents.unread : state.unread;
+  const bool isFailure = line.inspect && unread && !documents.arePrinted;
+  return isFailure ? Status(*unread) : Status();
 }
 
-Status saveAndWrite(const CommandLine &line, PrintSession &session) {
+Status saveAndWrite(const CommandLine &line, PrintSession &session,
+                    const SeenDocuments &documents) {
   savePanels(session);
-  return writeFiles(line, session);
+  return writeFiles(line, session, documents);
 }
 
 Status runHeadless(const CommandLine &line) {
@@ -79,11 +123,16 @@ Status runHeadless(const CommandLine &line) {
   if (!started) return started.failure();
   PrintSession &session = *started.value();
   if (Status done = runActions(line, session); !done) return done;
-  const Status written = saveAndWrite(line, session);
+  DocumentFiles copies;
+  const auto documents = seenDocuments(line, copies);
+  if (!documents) return documents.failure();
+  const Status written = saveAndWrite(line, session, documents.value());
   for (const QString &sentence : session.record().notices()) tell(sentence);
   if (!written) return written;
-  if (Status printed = printAsAsked(line, session, passwords); !printed) return printed;
-  return printState(line, session);
+  if (Status printed = printAsAsked(line, session, documents.value().files, passwords); !printed) {
+    return printed;
+  }
+  return printState(line, session, documents.value());
 }
 
 }  // namespace orvek

@@ -4,6 +4,7 @@
 #include "host/cli/PrintJob.h"
 
 #include "host/cli/Console.h"
+#include "host/jobs/Document.h"
 #include "host/jobs/DocumentInfo.h"
 #include "host/jobs/FilterChain.h"
 #include "host/jobs/QueueJob.h"
@@ -13,10 +14,31 @@
 namespace orvek {
 namespace {
 
-Status printIntoFile(const JobRequest &request) {
+/// A job, and the files that stand for its documents.
+struct ReadJob {
+  JobRequest request;
+  QStringList files;
+
+  /// The job on those files, under its own title.
+  JobRequest onFiles() const {
+    JobRequest job = request;
+    job.title = effectiveTitle(request);
+    job.files = files;
+    return job;
+  }
+
+  /// A failure of a file said of the document that it stands for.
+  Failure named(Failure failure) const {
+    const qsizetype document = files.indexOf(failure.what);
+    if (document >= 0) failure.what = documentName(effectiveFiles(request).value(document));
+    return failure;
+  }
+};
+
+Status printIntoFile(const ReadJob &job) {
   JobControl control;
-  const Result<JobOutcome> outcome = printThroughFilters(request, control);
-  return outcome ? Status() : outcome.failure();
+  const Result<JobOutcome> outcome = printThroughFilters(job.onFiles(), control);
+  return outcome ? Status() : job.named(outcome.failure());
 }
 
 // The state as JSON must stay all there is on the standard output.
@@ -33,15 +55,15 @@ void tellDriver(const JobOutcome &outcome) {
            .arg(outcome.queue, lackOfDriver(outcome.driver)));
 }
 
-Status printOnQueue(const CommandLine &line, const JobRequest &request) {
+Status printOnQueue(const CommandLine &line, const ReadJob &job) {
   JobControl control;
   // Nobody can be asked, and without its sheets the job would not be what was asked for.
-  JobRequest whole = request;
+  JobRequest whole = job.onFiles();
   whole.mayMakeSheets = true;
   const Result<JobOutcome> outcome = submitToQueue(whole, control);
-  if (!outcome) return outcome.failure();
+  if (!outcome) return job.named(outcome.failure());
   tellDriver(outcome.value());
-  return tellJob(line, requestIdLine(request, outcome.value()));
+  return tellJob(line, requestIdLine(job.request, outcome.value()));
 }
 
 // Only one document's pages are sure to end up in one set.
@@ -80,12 +102,12 @@ JobRequest jobRequestFor(const CommandLine &line, PrintSession &session,
   return request;
 }
 
-Status printAsAsked(const CommandLine &line, PrintSession &session,
+Status printAsAsked(const CommandLine &line, PrintSession &session, const QStringList &files,
                     const std::shared_ptr<PasswordSource> &passwords) {
   if (line.output.isNull() && !line.print) return {};
-  const JobRequest request = jobRequestFor(line, session, passwords);
-  tellWarnings(session, request);
-  return line.output.isNull() ? printOnQueue(line, request) : printIntoFile(request);
+  const ReadJob job{jobRequestFor(line, session, passwords), files};
+  tellWarnings(session, job.request);
+  return line.output.isNull() ? printOnQueue(line, job) : printIntoFile(job);
 }
 
 }  // namespace orvek

@@ -15,8 +15,9 @@ JobRequest jobRequestFor(const CommandLine &line, PrintSession &session,
 
 /// Prints one job where the command line asks for it: into --output's file, whether or not --print
 /// is there as well, else on the queue with --print. Waits until the job has been taken. Success
-/// where it asks for neither; no document is touched then.
-Status printAsAsked(const CommandLine &line, PrintSession &session,
+/// where it asks for neither; no document is touched then. `files` are the documents, or copies of
+/// them where they have been read already.
+Status printAsAsked(const CommandLine &line, PrintSession &session, const QStringList &files,
                     const std::shared_ptr<PasswordSource> &passwords);
 
 }  // namespace orvek

@@ -37,9 +37,9 @@ void waitForPages(const PrintDialog &dialog) {
 }
 
 // Shown without a screen, so that sizes, styles and texts are those of the real window.
-QImage renderDialog(const CommandLine &line, PrintSession &session) {
+QImage renderDialog(const CommandLine &line, PrintSession &session, const QString &document) {
   DialogSetup setup = dialogSetupFor(line, session);
-  if (!setup.document.path.isEmpty()) setup.document = documentInfo(setup.document.path);
+  setup.document = document.isEmpty() ? DocumentInfo() : documentInfo(document);
   PrintDialog dialog(session, std::move(setup));
   dialog.setAttribute(Qt::WA_DontShowOnScreen);
   dialog.show();
@@ -51,10 +51,11 @@ QImage renderDialog(const CommandLine &line, PrintSession &session) {
 
 }  // namespace
 
-Status writeScreenshot(const CommandLine &line, PrintSession &session) {
+Status writeScreenshot(const CommandLine &line, PrintSession &session, const QString &document) {
   QByteArray png;
   QBuffer buffer(&png);
-  if (!buffer.open(QIODevice::WriteOnly) || !renderDialog(line, session).save(&buffer, "PNG")) {
+  if (!buffer.open(QIODevice::WriteOnly) ||
+      !renderDialog(line, session, document).save(&buffer, "PNG")) {
     return Failure{FailureKind::Io, line.screenshot,
                    QStringLiteral("the picture can't be made into a PNG")};
   }

@@ -7,8 +7,9 @@
 
 namespace orvek {
 
-/// Writes the window as it would be shown into --screenshot's file, as a PNG; the file is replaced
-/// as a whole or left as it was.
-Status writeScreenshot(const CommandLine &line, PrintSession &session);
+/// Writes the window as it would be shown with `document` into --screenshot's file, as a PNG; the
+/// file is replaced as a whole or left as it was. `document` can be read more than once; null:
+/// there is none, or not only one.
+Status writeScreenshot(const CommandLine &line, PrintSession &session, const QString &document);
 
 }  // namespace orvek

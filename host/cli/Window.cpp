@@ -3,6 +3,8 @@
 
 #include "host/cli/Window.h"
 
+#include <unistd.h>
+
 #include <QFileInfo>
 #include <QTimer>
 #include <optional>
@@ -127,8 +129,17 @@ void followAwaited(const CommandLine &line, Awaited &awaited, PrintDialog &dialo
 
 Status tellAll(const CommandLine &line, const PrintDialog &dialog) {
   if (Status told = tellOutcome(line, dialog); !told) return told;
-  if (Status written = saveAndWrite(line, dialog.session()); !written) return written;
-  return printState(line, dialog.session());
+  SeenDocuments documents{line.files, dialog.outcome().has_value()};
+  const QString only = dialog.document().path;
+  if (line.files.size() < 2 && !only.isEmpty()) documents.files = {only};
+  if (Status written = saveAndWrite(line, dialog.session(), documents); !written) return written;
+  return printState(line, dialog.session(), documents);
+}
+
+// A terminal is no document that anybody waits for; a job may read it all the same.
+QString onlyDocument(const QStringList &files) {
+  if (files.size() == 1) return files.first();
+  return files.isEmpty() && ::isatty(STDIN_FILENO) == 0 ? standardInput() : QString();
 }
 
 }  // namespace
@@ -138,7 +149,7 @@ DialogSetup dialogSetupFor(const CommandLine &line, PrintSession &session,
   DialogSetup setup;
   if (line.output.isNull()) setup.destination = session.origin().destination;
   setup.documentName = line.title.isNull() ? namesOf(line.files) : line.title;
-  if (line.files.size() == 1) setup.document.path = line.files.first();
+  setup.document.path = onlyDocument(line.files);
   setup.askPrinter = [&line, passwords](const QString &destination,
                                         const std::atomic<bool> &cancelled) {
     return gatherSetup(lineFor(line, destination, QString()), passwords, &cancelled);

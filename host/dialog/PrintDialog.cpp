@@ -17,6 +17,8 @@
 #include "host/dialog/PrinterChooser.h"
 #include "host/dialog/SessionView.h"
 #include "host/jobs/BackgroundJob.h"
+#include "host/jobs/Document.h"
+#include "host/jobs/InputSpool.h"
 #include "host/translations/FailureText.h"
 
 namespace orvek {
@@ -30,6 +32,16 @@ QFrame *separator(QWidget *parent) {
   line->setFrameShape(QFrame::HLine);
   line->setFrameShadow(QFrame::Sunken);
   return line;
+}
+
+// What comes once can be looked at as a copy, which is what will be printed, too.
+DocumentInfo knownOf(const QString &path, DocumentFiles &copies,
+                     const BackgroundTask::Cancelled &cancelled) {
+  if (!comesOnce(path)) return documentInfo(path);
+  const auto files = copies.of({path}, cancelled);
+  DocumentInfo known = files ? documentInfo(files.value().constFirst()) : DocumentInfo();
+  known.name = documentInfo(path).name;
+  return known;
 }
 
 }  // namespace
@@ -148,7 +160,10 @@ void PrintDialog::lookAround() {
   const QString path = m_setup.document.path;
   if (path.isEmpty()) return;
   m_reading.start(
-      this, [path](const BackgroundTask::Cancelled &) { return documentInfo(path); },
+      this,
+      [path, copies = m_job->files()](const BackgroundTask::Cancelled &cancelled) {
+        return knownOf(path, *copies, cancelled);
+      },
       [this](const DocumentInfo &document) { setDocument(document); });
 }
 

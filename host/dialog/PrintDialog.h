@@ -50,6 +50,10 @@ class PrintDialog final : public QDialog {
 
   void setDocument(const DocumentInfo &document);
 
+  /// What is known of the document by now. One that comes once, and that could be read, is a file
+  /// by then, which lives as long as the window.
+  const DocumentInfo &document() const { return m_setup.document; }
+
   /// Reads the document and asks the server for its printers, and for the first one where that is
   /// still to come, all in the background.
   void lookAround();

@@ -48,7 +48,7 @@ Result<JobOutcome> BackgroundJob::run(const JobRequest &request, const Work &wor
                                       JobControl &control) {
   const QStringList documents = effectiveFiles(request);
   if (std::none_of(documents.begin(), documents.end(), comesOnce)) return work(request, control);
-  const auto files = m_files.of(documents, control);
+  const auto files = m_files->of(documents, control);
   if (!files) return files.failure();
   JobRequest readable = request;
   readable.title = effectiveTitle(request);

@@ -35,6 +35,10 @@ class BackgroundJob : public QObject {
 
   bool isRunning() const { return m_running; }
 
+  /// What its jobs have read, and will read: for whoever looks at a document that comes once before
+  /// it is printed. Never null.
+  std::shared_ptr<DocumentFiles> files() const { return m_files; }
+
  Q_SIGNALS:
   /// At most some twenty times a second.
   void progressed(const orvek::JobProgress &progress);
@@ -46,8 +50,7 @@ class BackgroundJob : public QObject {
   void end(const Result<JobOutcome> &result);
 
   std::shared_ptr<JobControl> m_control;
-  /// The job's thread alone uses it, and one job follows the other.
-  DocumentFiles m_files;
+  const std::shared_ptr<DocumentFiles> m_files = std::make_shared<DocumentFiles>();
   std::thread m_thread;
   bool m_running = false;
 };

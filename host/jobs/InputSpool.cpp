@@ -10,17 +10,19 @@
 namespace orvek {
 namespace {
 
+constexpr std::chrono::milliseconds patience{100};
+
 Status writeBlock(QTemporaryFile &file, const QByteArray &block) {
   if (file.write(block) == block.size() && file.flush()) return {};
   return Failure{FailureKind::Io, QDir::tempPath(), Phrase::ofSystem(file.errorString())};
 }
 
 Status copyInto(QTemporaryFile &file, const QString &document, const QByteArray &begin,
-                const JobControl &control) {
+                const std::atomic<bool> &cancelled) {
   auto reader = DocumentReader::open(document);
   if (!reader) return reader.failure();
   if (Status written = writeBlock(file, begin); !written) return written;
-  while (!control.cancelled) {
+  while (!cancelled) {
     const auto block = reader.value()->read();
     if (!block) return block.failure();
     if (Status written = writeBlock(file, block.value()); !written) return written;
@@ -30,36 +32,44 @@ Status copyInto(QTemporaryFile &file, const QString &document, const QByteArray 
 }
 
 Result<std::unique_ptr<QTemporaryFile>> spool(const QString &document, const QByteArray &begin,
-                                              const JobControl &control) {
+                                              const std::atomic<bool> &cancelled) {
   // Without a suffix: the type is to be found from the contents, not from a name that we made up.
   auto file = std::make_unique<QTemporaryFile>(QDir::tempPath() + QStringLiteral("/orvek-XXXXXX"));
   if (!file->open()) {
     return Failure{FailureKind::Io, QDir::tempPath(), Phrase::ofSystem(file->errorString())};
   }
-  if (Status copied = copyInto(*file, document, begin, control); !copied) return copied.failure();
+  if (Status copied = copyInto(*file, document, begin, cancelled); !copied) return copied.failure();
   if (file->size() > 0) return file;
   return emptyDocument(document);
 }
 
 }  // namespace
 
-Status InputSpool::fill(const JobControl &control, const QByteArray &begin) {
+Status InputSpool::fill(const std::atomic<bool> &cancelled, const QByteArray &begin) {
   if (m_file) return {};
-  if (m_isBroken) {
-    return Failure{
-        FailureKind::Io, documentName(m_document),
-        Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
-                                 "only a part of it was read before the job was cancelled"))};
+  if (m_broken) return *m_broken;
+  auto spooled = spool(m_document, begin, cancelled);
+  if (spooled) {
+    m_file = spooled.take();
+    return {};
   }
-  auto spooled = spool(m_document, begin, control);
-  m_isBroken = !spooled;
-  if (!spooled) return spooled.failure();
-  m_file = spooled.take();
-  return {};
+  m_broken = spooled.failure();
+  if (m_broken->kind == FailureKind::Cancelled) {
+    m_broken =
+        Failure{FailureKind::Io, documentName(m_document),
+                Phrase(QT_TRANSLATE_NOOP(
+                    "orvek::Failure", "only a part of it was read before the job was cancelled"))};
+  }
+  return spooled.failure();
 }
 
-Result<QStringList> DocumentFiles::of(const QStringList &documents, const JobControl &control,
+Result<QStringList> DocumentFiles::of(const QStringList &documents,
+                                      const std::atomic<bool> &cancelled,
                                       const QByteArray &beginOfStandardInput) {
+  while (!m_mutex.try_lock_for(patience)) {
+    if (cancelled) return jobCancelled();
+  }
+  const std::lock_guard<std::timed_mutex> lock(m_mutex, std::adopt_lock);
   QStringList files;
   for (const QString &document : documents) {
     if (!comesOnce(document)) {
@@ -68,7 +78,7 @@ Result<QStringList> DocumentFiles::of(const QStringList &documents, const JobCon
     }
     InputSpool &copy = m_copies.try_emplace(document, document).first->second;
     const QByteArray begin = isStandardInput(document) ? beginOfStandardInput : QByteArray();
-    if (const Status filled = copy.fill(control, begin); !filled) return filled.failure();
+    if (const Status filled = copy.fill(cancelled, begin); !filled) return filled.failure();
     files << copy.path();
   }
   return files;

@@ -5,8 +5,11 @@
 
 #include <QByteArray>
 #include <QTemporaryFile>
+#include <chrono>
 #include <map>
 #include <memory>
+#include <mutex>
+#include <optional>
 
 #include "host/jobs/Document.h"
 #include "host/jobs/JobRequest.h"
@@ -24,8 +27,8 @@ class InputSpool {
   /// Reads the document to its end, `begin` before that: what has been read of it already. Once
   /// that was done there is nothing more to do. Fails where it is empty or can't be read, where the
   /// disk is full, and where the job is cancelled; what was read by then is lost, so every later
-  /// call fails, too.
-  Status fill(const JobControl &control, const QByteArray &begin = {});
+  /// call fails, too, and says why the first one did.
+  Status fill(const std::atomic<bool> &cancelled, const QByteArray &begin = {});
 
   /// The file; null before fill() succeeded.
   QString path() const { return m_file ? m_file->fileName() : QString(); }
@@ -33,19 +36,27 @@ class InputSpool {
  private:
   QString m_document;
   std::unique_ptr<QTemporaryFile> m_file;
-  bool m_isBroken = false;
+  /// Why there is no file, and never will be.
+  std::optional<Failure> m_broken;
 };
 
 /// The documents of a job, each of them in a file. Keeps what it has copied; a second call for the
-/// same documents gives the same files. Used on one thread at a time.
+/// same documents gives the same files. For any thread: who comes while another one reads waits for
+/// that.
 class DocumentFiles {
  public:
   /// For every document a file with its bytes: its own, or a copy where it comes once only.
-  /// `beginOfStandardInput` has been read of that already. Fails as InputSpool does.
-  Result<QStringList> of(const QStringList &documents, const JobControl &control,
+  /// `beginOfStandardInput` has been read of that already. Fails as InputSpool does; as cancelled
+  /// also where that was waited for.
+  Result<QStringList> of(const QStringList &documents, const std::atomic<bool> &cancelled,
                          const QByteArray &beginOfStandardInput = {});
+  Result<QStringList> of(const QStringList &documents, const JobControl &control,
+                         const QByteArray &beginOfStandardInput = {}) {
+    return of(documents, control.cancelled, beginOfStandardInput);
+  }
 
  private:
+  std::timed_mutex m_mutex;
   std::map<QString, InputSpool> m_copies;
 };
 

@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "host/jobs/Document.h"
 #include "host/ppd/Wording.h"
 #include "host/preview/SheetsView.h"
 #include "host/preview/SpokenSide.h"
@@ -82,7 +83,7 @@ JobPreview::JobPreview(PrintSession &session, const QString &document, QWidget *
       m_caption(new PlainLabel(this)) {
   m_pool.setMaxThreadCount(2);
   m_document = sample(m_job.filters.paper);
-  m_isRead = m_path.isEmpty() || m_path == QLatin1String("-");
+  m_isRead = m_path.isEmpty();
   build();
   m_pictures->setInGray(m_job.inGray);
   connect(&session, &PrintSession::changed, this, &JobPreview::followSession);
@@ -153,7 +154,7 @@ bool JobPreview::isComplete() const {
 
 void JobPreview::showEvent(QShowEvent *event) {
   QWidget::showEvent(event);
-  if (m_reading == 0 && !m_isRead) read();
+  if (m_reading == 0 && !m_isRead && !comesOnce(m_path)) read();
 }
 
 void JobPreview::followSession() {

@@ -24,7 +24,8 @@ class JobPreview final : public QWidget {
 
  public:
   /// `document` is a file's path. Empty, or nothing that pages could be read of: a sample stands
-  /// for it. Borrows the session, which must outlive the preview.
+  /// for it. One that comes once is not read here: its pages are still to come. Borrows the
+  /// session, which must outlive the preview.
   JobPreview(PrintSession &session, const QString &document, QWidget *parent = nullptr);
   ~JobPreview() override;
 

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/jobs/Document.h"
 #include "host/preview/JobLayout.h"
 #include "host/session/PrintSession.h"
 
@@ -65,26 +66,37 @@ QJsonObject sideOf(const PrintedSide &side, int sheet, const std::string &fold) 
           {QStringLiteral("marks"), marksOf(side)}};
 }
 
+// Of a file that isn't there the system says it best.
+Result<DocumentPages> readPages(const QString &document, const PrintedWith &with) {
+  if (const Status checked = checkAllDocuments({document}); !checked) return checked.failure();
+  const std::atomic<bool> cancelled = false;
+  return readDocumentPages(document, with, cancelled);
+}
+
 }  // namespace
 
-QJsonObject inspectPreview(PrintSession &session, const QStringList &documents) {
+InspectedPreview inspectPreview(PrintSession &session, const QStringList &documents) {
   const SheetJob job = sheetJobOf(session);
   const PrintedWith with = printedWith(session);
-  const std::atomic<bool> cancelled = false;
   QJsonArray sides;
+  InspectedPreview preview;
   int sheets = 0;
   for (const QString &document : documents) {
-    const Result<DocumentPages> pages = readDocumentPages(document, with, cancelled);
-    if (!pages) continue;
+    const Result<DocumentPages> pages = readPages(document, with);
+    if (!pages) {
+      if (!preview.unread) preview.unread = pages.failure();
+      continue;
+    }
     const std::vector<PrintedSide> printed = sidesOf(pages.value(), job);
     for (const PrintedSide &side : printed) {
       sides.append(sideOf(side, sheets + side.sheet, job.finishing.fold));
     }
     sheets += sheetCount(printed);
   }
-  return {{QStringLiteral("sheets"), sheets},
-          {QStringLiteral("copies"), copiesOf(session)},
-          {QStringLiteral("sides"), sides}};
+  preview.json = {{QStringLiteral("sheets"), sheets},
+                  {QStringLiteral("copies"), copiesOf(session)},
+                  {QStringLiteral("sides"), sides}};
+  return preview;
 }
 
 }  // namespace orvek

@@ -38,7 +38,7 @@ TEST(PreviewInspection, TellsABookletSideBySide) {
     const ActionScope action(*session);
     session->setTicketValue(QStringLiteral("OVKEnableBooklet"), QStringLiteral("True"));
   }
-  const QJsonObject preview = inspectPreview(*session, {sample});
+  const QJsonObject preview = inspectPreview(*session, {sample}).json;
   EXPECT_EQ(preview["sheets"].toInt(), 2);
   EXPECT_EQ(preview["copies"].toInt(), 1);
   ASSERT_EQ(preview["sides"].toArray().size(), 4);
@@ -62,7 +62,7 @@ TEST(PreviewInspection, SaysCopiesOnceAndNullForNoFold) {
   settings.copies = 3;
   settings.pageRanges = QStringLiteral("2");
   session->job().setSettings(settings);
-  const QJsonObject preview = inspectPreview(*session, {sample});
+  const QJsonObject preview = inspectPreview(*session, {sample}).json;
   EXPECT_EQ(preview["copies"].toInt(), 3);
   ASSERT_EQ(preview["sides"].toArray().size(), 1);
   EXPECT_TRUE(preview["sides"].toArray()[0].toObject()["fold"].isNull());
@@ -101,10 +101,10 @@ TEST(PreviewInspection, GivesOfEachPageWhatIsToBeSeen) {
     const auto session = familySession();
     const ActionScope action(*session);
     session->setTicketValue(QStringLiteral("print-scaling"), QString::fromLatin1(scaling));
-    expectVisible(inspectPreview(*session, {path}), false);
+    expectVisible(inspectPreview(*session, {path}).json, false);
     session->setTicketValue(QStringLiteral("OVKEnableBooklet"), QStringLiteral("True"));
     session->setTicketValue(QStringLiteral("OVKCreep"), 36);
-    expectVisible(inspectPreview(*session, {path}), true);
+    expectVisible(inspectPreview(*session, {path}).json, true);
   }
 }
 
@@ -113,25 +113,27 @@ TEST(PreviewInspection, HasNoSidesWhereTheRangesLieBeyondTheDocument) {
   JobSettings settings;
   settings.pageRanges = QStringLiteral("9-12");
   session->job().setSettings(settings);
-  EXPECT_EQ(inspectPreview(*session, {sample})["sheets"].toInt(), 0);
+  EXPECT_EQ(inspectPreview(*session, {sample}).json["sheets"].toInt(), 0);
   settings.pageRanges = QStringLiteral("8-12");
   session->job().setSettings(settings);
-  EXPECT_EQ(inspectPreview(*session, {sample})["sheets"].toInt(), 1);
+  EXPECT_EQ(inspectPreview(*session, {sample}).json["sheets"].toInt(), 1);
 }
 
 TEST(PreviewInspection, CountsTheSheetsOfSeveralDocumentsOn) {
   const auto session = familySession();
   session->pick(QStringLiteral("Duplex"), QStringLiteral("DuplexNoTumble"));
-  const QJsonObject preview = inspectPreview(*session, {sample, sample});
+  const QJsonObject preview = inspectPreview(*session, {sample, sample}).json;
   EXPECT_EQ(preview["sheets"].toInt(), 8);
   EXPECT_EQ(preview["sides"].toArray()[8].toObject()["sheet"].toInt(), 5);
 }
 
 TEST(PreviewInspection, HasNoSidesOfADocumentThatCannotBeRead) {
   const auto session = familySession();
-  const QJsonObject preview = inspectPreview(*session, {QStringLiteral("/no/such/file")});
-  EXPECT_EQ(preview["sheets"].toInt(), 0);
-  EXPECT_TRUE(preview["sides"].toArray().isEmpty());
+  const InspectedPreview preview = inspectPreview(*session, {QStringLiteral("/no/such/file")});
+  EXPECT_EQ(preview.json["sheets"].toInt(), 0);
+  EXPECT_TRUE(preview.json["sides"].toArray().isEmpty());
+  ASSERT_TRUE(preview.unread);
+  EXPECT_EQ(preview.unread->line(), "/no/such/file: No such file or directory");
 }
 
 }  // namespace
