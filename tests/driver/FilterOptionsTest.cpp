@@ -20,6 +20,22 @@ TEST(FilterOptions, ReadBooleansInTheirShortForm) {
   EXPECT_EQ(options.value("OVKCreep"), std::nullopt);
 }
 
+TEST(FilterOptions, SayOfSheetsOnlyHowABookletsAreTurnedOver) {
+  FilterOptions options(
+      "JCLDuplex=DuplexNoTumble EFDuplex=True ARDuplex=None KD03Duplex=None Duplex=None "
+      "Collate=False "
+      "multiple-document-handling=separate-documents-uncollated-copies sides=one-sided copies=2");
+  prepareForSheets(&options, {});
+  for (const char *name :
+       {"JCLDuplex", "EFDuplex", "ARDuplex", "KD03Duplex", "multiple-document-handling"}) {
+    EXPECT_EQ(options.value(name), std::nullopt) << name;
+  }
+  EXPECT_EQ(options.value("Duplex"), "DuplexTumble");
+  EXPECT_EQ(options.value("sides"), "two-sided-short-edge");
+  EXPECT_EQ(options.value("Collate"), "True");
+  EXPECT_EQ(options.value("copies"), "2");
+}
+
 TEST(FilterOptions, FindNamesInLettersOfEitherCase) {
   EXPECT_EQ(FilterOptions("ovkgutter=36").value("OVKGutter"), "36");
 }

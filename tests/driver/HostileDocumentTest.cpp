@@ -19,12 +19,18 @@ namespace {
 using orvek::test::markedDocument;
 using orvek::test::pdfOf;
 
-Result<int> impose(const std::string &document) {
+Result<int> impose(const std::string &document, std::string *sheets = nullptr) {
   const File input = namelessFile().take();
   std::fwrite(document.data(), 1, document.size(), input.get());
   std::rewind(input.get());
   const File output = namelessFile().take();
-  return imposeDocument(input.get(), output.get(), {{}, imposition::Size{595, 842}, false});
+  auto sides = imposeDocument(input.get(), output.get(), {{}, imposition::Size{595, 842}, false});
+  if (sheets == nullptr) return sides;
+  std::rewind(output.get());
+  for (int byte = std::fgetc(output.get()); byte != EOF; byte = std::fgetc(output.get())) {
+    sheets->push_back(static_cast<char>(byte));
+  }
+  return sides;
 }
 
 void expectOneLine(const std::string &document, const char *part) {
@@ -54,9 +60,12 @@ TEST(HostileDocument, SaysThatItIsEncrypted) {
 }
 
 TEST(HostileDocument, IsPrintedWhereItOpensWithoutAPassword) {
-  const auto sides = impose(encrypted(""));
+  std::string sheets;
+  const auto sides = impose(encrypted(""), &sheets);
   ASSERT_TRUE(sides) << sides.failure().line().toStdString();
   EXPECT_EQ(sides.value(), 2);
+  EXPECT_NE(sheets.find("%%EOF"), std::string::npos);
+  EXPECT_EQ(sheets.find("/Encrypt"), std::string::npos);
 }
 
 TEST(HostileDocument, IsRepairedWhereItHasLostItsTable) {

@@ -130,6 +130,29 @@ TEST_F(Imposer, JoinsContentsThatComeInPieces) {
   EXPECT_EQ(seen[0].pages[0].page, 1);
 }
 
+TEST_F(Imposer, LeavesOutLayersThatAreHidden) {
+  const auto pagesSeen = [this](const std::string &hidden) {
+    const auto seen = imposed(
+        orvek::test::pdfOf(
+            {"<</Type/Catalog/Pages 2 0 R/OCProperties<</OCGs[5 0 R]/D<<" + hidden + ">>>>>>",
+             "<</Type/Pages/Count 1/Kids[3 0 R]/MediaBox[0 0 595 842]>>",
+             "<</Type/Page/Parent 2 0 R/Contents 4 0 R/Resources<</Properties<</L 5 0 R>>>>>>",
+             orvek::test::streamOf("/OC /L BDC " + filled + " EMC"), "<</Type/OCG/Name(Layer)>>"}),
+        {{}, a4, false});
+    return seen.at(0).pages.size();
+  };
+  EXPECT_EQ(pagesSeen({}), 1U);
+  EXPECT_EQ(pagesSeen("/OFF[5 0 R]"), 0U);
+}
+
+TEST_F(Imposer, KeepsWhatAPageSaysOfItsTransparency) {
+  imposed(onePage("/Contents 4 0 R/Group<</S/Transparency/I true>>",
+                  {orvek::test::streamOf(filled), "null"}),
+          {{}, a4, false});
+  const QByteArray sheets = orvek::test::contentsOf(folder.filePath(QStringLiteral("out.pdf")));
+  EXPECT_EQ(sheets.count("/S /Transparency"), 1);
+}
+
 TEST_F(Imposer, KeepsAnnotationsThatPrintingShows) {
   const std::string appearance =
       orvek::test::streamOf(filled, "/Type/XObject/Subtype/Form/BBox[0 0 595 842]");

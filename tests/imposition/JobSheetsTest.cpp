@@ -109,6 +109,18 @@ TEST(JobSheets, ShowABookletAsOneReadsIt) {
   }
 }
 
+TEST(JobSheets, FoldABookletInTheMiddleWhateverTheFinisherDoes) {
+  SheetJob job = jobOn(a4);
+  job.booklet.enabled = true;
+  for (const PrintedSide &side : printedSides(document(8), job)) {
+    ASSERT_EQ(side.folds.size(), 1U);
+    EXPECT_NEAR(side.folds[0].x1, side.size.width / 2, tolerance);
+    EXPECT_NEAR(side.folds[0].x2, side.size.width / 2, tolerance);
+  }
+  job.booklet.enabled = false;
+  EXPECT_TRUE(printedSides(document(8), job).at(0).folds.empty());
+}
+
 TEST(JobSheets, PlaceABookletsPagesAsItsImpositionDoes) {
   SheetJob job = jobOn(a4);
   job.booklet.enabled = true;
