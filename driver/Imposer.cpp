@@ -30,6 +30,10 @@ Failure failure(const QString &why) {
   return {FailureKind::Io, QStringLiteral("the document"), why};
 }
 
+Failure unwritten() {
+  return failure(QStringLiteral("its sheets can't be written; make room for temporary files"));
+}
+
 /// What libqpdf says may quote the document.
 QString oneLine(const std::string &text) {
   constexpr qsizetype longest = 200;
@@ -130,7 +134,10 @@ Result<int> impose(QPDF &document, std::FILE *sheets, const BookletRequest &requ
   const auto sides = sidesOf(document, formsOf(pages.value(), paper), paper, request.keys);
   replacePages(document, sides);
   write(document, sheets, hasAnnotations);
-  if (std::fflush(sheets) != 0) return failure(QStringLiteral("its sheets can't be written"));
+  // What earlier writes lost is no longer there to be flushed.
+  if (std::fflush(sheets) != 0 || std::ferror(sheets) != 0) {
+    return unwritten();
+  }
   return static_cast<int>(sides.size());
 }
 
@@ -145,6 +152,7 @@ Result<int> imposeDocument(std::FILE *document, std::FILE *sheets, const Booklet
   } catch (const QPDFExc &error) {
     return failureOf(error);
   } catch (const std::exception &error) {
+    if (std::ferror(sheets) != 0) return unwritten();
     return failure(oneLine(error.what()));
   }
 }
