@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <span>
 #include <string_view>
+#include <utility>
 
 #include "driver/Imposer.h"
 #include "driver/JobPaper.h"
@@ -19,6 +20,8 @@
 namespace orvek::driver {
 namespace {
 
+constexpr const char *nameless = "the document";
+
 void removeAll(FilterOptions *options, std::span<const char *const> names) {
   for (const char *name : names) options->remove({name});
 }
@@ -28,12 +31,12 @@ std::string ppdFile() {
   return path == nullptr ? std::string() : path;
 }
 
+constexpr std::size_t bytesThatTell = 4096;
+
 /// Filters hand on what printers are to understand; without a single page that is a frame of
 /// commands around nothing.
-bool hasPages(std::FILE *document) {
-  constexpr std::size_t bytesThatTell = 4096;
+bool hasPages(const std::string &bytes) {
   constexpr std::string_view jobLanguage = "\033%-12345X";
-  const std::string bytes = beginningOf(document, bytesThatTell);
   return !bytes.starts_with(jobLanguage) || bytes.size() == bytesThatTell ||
          bytes.find("%!") != std::string::npos || bytes.find("%PDF-") != std::string::npos;
 }
@@ -51,7 +54,12 @@ Result<File> pagesOfPostScript(FilterCall call, const File &document) {
   const auto made = runStandardFilters({"gstopdf", "pdftopdf"}, call, ::fileno(document.get()),
                                        ::fileno(pages.value().get()));
   if (!made) return made.failure();
-  if (made.value() != 0) {
+  if (made.value().status == 0 && made.value().written == 0) {
+    return Failure{FailureKind::Io, QStringLiteral("the document"),
+                   QStringLiteral("nothing came of its PostScript; look at the page ranges, and "
+                                  "make room for temporary files")};
+  }
+  if (made.value().status != 0) {
     return Failure{FailureKind::Io, QStringLiteral("the document"),
                    QStringLiteral("its PostScript can't be made into pages")};
   }
@@ -59,16 +67,19 @@ Result<File> pagesOfPostScript(FilterCall call, const File &document) {
   return pages;
 }
 
-Result<File> documentOf(const BookletJob &job) {
-  auto document = job.call.file.empty() ? spooled(STDIN_FILENO) : openedFile(job.call.file);
-  if (!document) return document;
-  if (!hasPages(document.value().get())) return noPages();
-  if (job.kind != DocumentKind::PostScript) return document;
-  return pagesOfPostScript(job.call, document.value());
+Result<File> fileOf(BookletJob *job) {
+  if (job->document.copy) return std::move(job->document.copy);
+  return job->call.file.empty() ? spooled(STDIN_FILENO, nameless) : openedFile(job->call.file);
 }
 
-bool isEmpty(std::FILE *file) {
-  return std::fgetc(file) == EOF;
+Result<File> documentOf(BookletJob *job) {
+  auto document = fileOf(job);
+  if (!document) return document;
+  const auto beginning = beginningOf(::fileno(document.value().get()), 0, bytesThatTell, nameless);
+  if (!beginning) return beginning.failure();
+  if (!hasPages(beginning.value())) return noPages();
+  if (job->document.kind != DocumentKind::PostScript) return document;
+  return pagesOfPostScript(job->call, document.value());
 }
 
 BookletRequest requestOf(const BookletJob &job, const FilterOptions &options,
@@ -82,16 +93,16 @@ BookletRequest requestOf(const BookletJob &job, const FilterOptions &options,
 }
 
 /// The sheets of the job's document, ready to be read; empty for an empty document.
-Result<File> sheetsOf(const BookletJob &job, FilterOptions *options) {
+Result<File> sheetsOf(BookletJob *job, FilterOptions *options) {
   auto document = documentOf(job);
   if (!document) return document;
   auto sheets = namelessFile();
   if (!sheets) return sheets;
-  const auto paper = paperOf(ppdFile(), *options, job.keys);
-  const BookletRequest request = requestOf(job, *options, paper);
+  const auto paper = paperOf(ppdFile(), *options, job->keys);
+  const BookletRequest request = requestOf(*job, *options, paper);
   prepareForSheets(options, paper ? paper->pageSize : std::string());
   // Whoever made nothing of the document has said why.
-  if (isEmpty(document.value().get())) return sheets;
+  if (job->document.isEmpty) return sheets;
   const auto imposed = imposeDocument(document.value().get(), sheets.value().get(), request);
   if (!imposed) return imposed.failure();
   ::lseek(::fileno(sheets.value().get()), 0, SEEK_SET);
@@ -109,8 +120,8 @@ void prepareForSheets(FilterOptions *options, const std::string &pageSize) {
   options->set(imposition::sheetPaperOption, pageSize.c_str());
 }
 
-Result<int> writeSheets(const BookletJob &job, FilterOptions *options) {
-  const auto sheets = sheetsOf(job, options);
+Result<int> writeSheets(BookletJob job, FilterOptions *options) {
+  const auto sheets = sheetsOf(&job, options);
   if (!sheets) return sheets.failure();
   if (const Status copied = copyOut(sheets.value().get(), STDOUT_FILENO); !copied) {
     return copied.failure();
@@ -118,13 +129,13 @@ Result<int> writeSheets(const BookletJob &job, FilterOptions *options) {
   return 0;
 }
 
-Result<int> printBooklet(const BookletJob &job, FilterOptions *options) {
-  const auto sheets = sheetsOf(job, options);
+Result<int> printBooklet(BookletJob job, FilterOptions *options) {
+  const auto sheets = sheetsOf(&job, options);
   if (!sheets) return sheets.failure();
   FilterCall call = job.call;
   call.file.clear();
   call.options = options->text();
-  return runStandardFilters({"pdftops"}, call, ::fileno(sheets.value().get()), STDOUT_FILENO);
+  return printWith("pdftops", call, ::fileno(sheets.value().get()), job.document.isEmpty);
 }
 
 }  // namespace orvek::driver

@@ -4,6 +4,7 @@
 
 #include "driver/FilterCall.h"
 #include "driver/FilterOptions.h"
+#include "driver/JobDocument.h"
 #include "imposition/BookletOptions.h"
 
 namespace orvek::driver {
@@ -11,16 +12,16 @@ namespace orvek::driver {
 /// What a booklet's job has to be told, and by whom it came.
 struct BookletJob {
   FilterCall call;
-  DocumentKind kind = DocumentKind::PDF;
+  JobDocument document;
   imposition::BookletKeys keys;
 };
 
 /// Imposes the job's document and writes the sheets, as a PDF, to standard output.
-Result<int> writeSheets(const BookletJob &job, FilterOptions *options);
+Result<int> writeSheets(BookletJob job, FilterOptions *options);
 
 /// Imposes the job's document and has the standard filter print the sheets: two-sided, turned over
 /// at the short edge, each copy a booklet. Gives the filter's exit status.
-Result<int> printBooklet(const BookletJob &job, FilterOptions *options);
+Result<int> printBooklet(BookletJob job, FilterOptions *options);
 
 /// Leaves in the options what is still to be done once the sheets are made: takes out what has been
 /// carried out on the pages, and what would turn the sheets over otherwise or part the copies.

@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "driver/BookletJob.h"
@@ -32,9 +33,15 @@ bool isBanner() {
   return type == "application/vnd.cups-banner" || type == "application/vnd.cups-pdf-banner";
 }
 
-Result<int> passOn(const BookletJob &job) {
-  const char *filter = job.kind == DocumentKind::PostScript ? "pstops" : "pdftops";
-  return runStandardFilters({filter}, job.call, STDIN_FILENO, STDOUT_FILENO);
+Result<int> passOn(BookletJob job) {
+  const JobDocument &document = job.document;
+  const char *filter = document.kind == DocumentKind::PostScript ? "pstops" : "pdftops";
+  int input = STDIN_FILENO;
+  if (document.copy) {
+    job.call.file.clear();
+    input = ::fileno(document.copy.get());
+  }
+  return printWith(filter, job.call, input, document.isEmpty);
 }
 
 Result<int> carryOut(std::span<char *const> arguments, bool onlySheets) {
@@ -45,9 +52,12 @@ Result<int> carryOut(std::span<char *const> arguments, bool onlySheets) {
       imposition::readBookletKeys([&options](const char *key) { return options.value(key); });
   const auto ppd = StandardPPD::of(variable("PPD"));
   if (!ppd) return ppd.failure();
-  const BookletJob job{call.value(), documentKind(call.value()), keys};
-  if (onlySheets) return writeSheets(job, &options);
-  return keys.enabled && !isBanner() ? printBooklet(job, &options) : passOn(job);
+  auto document = lookAtDocument(call.value());
+  if (!document) return document.failure();
+  BookletJob job{call.value(), document.take(), keys};
+  if (onlySheets) return writeSheets(std::move(job), &options);
+  if (keys.enabled && !isBanner()) return printBooklet(std::move(job), &options);
+  return passOn(std::move(job));
 }
 
 }  // namespace

@@ -29,11 +29,4 @@ struct FilterCall {
 /// Fails, with the usage, unless there are five or six arguments besides the program's own place.
 Result<FilterCall> readFilterCall(std::span<char *const> arguments);
 
-/// What a document is by its first bytes.
-enum class DocumentKind { PDF, PostScript };
-
-/// Looks at the beginning of the call's file or, without taking anything from it, of standard
-/// input. Whatever is not PostScript counts as PDF.
-DocumentKind documentKind(const FilterCall &call);
-
 }  // namespace orvek::driver

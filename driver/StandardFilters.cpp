@@ -138,9 +138,9 @@ class Outlet {
 
   /// Copies until nobody writes any more, the job is cancelled or there is no room. Filters that
   /// still write end for want of a reader.
-  Status drain() {
+  Result<std::uintmax_t> drain() {
     ::close(std::exchange(m_pipe[1], -1));
-    const Status copied = copyUntilCancelled(m_pipe[0], m_output);
+    const auto copied = copyUntilCancelled(m_pipe[0], m_output);
     closeBoth();
     return copied;
   }
@@ -189,14 +189,15 @@ std::string standardFilterPath(const std::string &name) {
   return {};
 }
 
-Result<int> runStandardFilters(const std::vector<std::string> &names, const FilterCall &call,
-                               int input, int output) {
+Result<FilterRun> runStandardFilters(const std::vector<std::string> &names, const FilterCall &call,
+                                     int input, int output) {
   Outlet outlet(output);
   if (!outlet.isOpen()) return failure(names.back(), std::strerror(errno));
   std::vector<RunningFilter> running;
   Status good = startAll(names, call, input, outlet.inlet(), &running);
   int status = 0;
-  if (const Status written = outlet.drain(); good && !written) good = written.failure();
+  const auto written = outlet.drain();
+  if (good && !written) good = written.failure();
   // All are waited for, whatever the first ones gave.
   for (const RunningFilter &filter : running) {
     const Result<int> ended = outcome(filter);
@@ -204,7 +205,17 @@ Result<int> runStandardFilters(const std::vector<std::string> &names, const Filt
     if (ended && status == 0) status = ended.value();
   }
   if (!good) return good.failure();
-  return status;
+  return FilterRun{status, written.value()};
+}
+
+Result<int> printWith(const std::string &name, const FilterCall &call, int input, bool isEmpty) {
+  const auto run = runStandardFilters({name}, call, input, STDOUT_FILENO);
+  if (!run) return run.failure();
+  const bool isLost = run.value().status == 0 && run.value().written == 0 && !isEmpty;
+  if (isLost) {
+    return failure(name, "it made nothing of the document; make room for its temporary files");
+  }
+  return run.value().status;
 }
 
 }  // namespace orvek::driver

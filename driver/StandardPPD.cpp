@@ -13,11 +13,15 @@ namespace {
 
 constexpr const char *ppdVariable = "PPD";
 
-std::string contentsOf(std::FILE *file) {
+Result<std::string> contentsOf(std::FILE *file, const std::string &name) {
   std::string all;
   std::array<char, 1 << 16> bytes{};
   while (const std::size_t size = std::fread(bytes.data(), 1, bytes.size(), file)) {
     all.append(bytes.data(), size);
+  }
+  if (std::ferror(file) != 0) {
+    return Failure{FailureKind::Io, QString::fromStdString(name),
+                   QStringLiteral("this PPD can't be read")};
   }
   return all;
 }
@@ -54,9 +58,10 @@ Result<std::unique_ptr<StandardPPD>> StandardPPD::of(const std::string &ppdFile)
   if (!ppdFile.empty()) {
     const auto file = openedFile(ppdFile);
     if (!file) return file.failure();
-    const std::string all = contentsOf(file.value().get());
-    const std::string rest = withoutFilterLines(all);
-    if (rest.size() != all.size()) {
+    const auto all = contentsOf(file.value().get(), ppdFile);
+    if (!all) return all.failure();
+    const std::string rest = withoutFilterLines(all.value());
+    if (rest.size() != all.value().size()) {
       auto written = NamedFile::with(rest);
       if (!written) return written.failure();
       copy = written.take();

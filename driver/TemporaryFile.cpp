@@ -41,13 +41,21 @@ bool writeAll(int file, const char *bytes, std::size_t size) {
   return true;
 }
 
-bool copyAll(int from, int to) {
+void waitForMore(int from) {
+  pollfd ready{from, POLLIN, 0};
+  ::poll(&ready, 1, pollMilliseconds);
+}
+
+/// `source`, `target`: what failures call them.
+Status copyAll(int from, int to, const std::string &source, const std::string &target) {
   std::array<char, bufferSize> bytes{};
   for (;;) {
     const ssize_t size = ::read(from, bytes.data(), bytes.size());
-    if (size < 0 && errno == EINTR) continue;
-    if (size <= 0) return size == 0;
-    if (!writeAll(to, bytes.data(), static_cast<std::size_t>(size))) return false;
+    if (size == 0) return {};
+    if (size < 0 && errno == EAGAIN) waitForMore(from);
+    if (size < 0 && (errno == EINTR || errno == EAGAIN)) continue;
+    if (size < 0) return failure(source);
+    if (!writeAll(to, bytes.data(), static_cast<std::size_t>(size))) return failure(target);
   }
 }
 
@@ -67,41 +75,45 @@ Result<File> namelessFile() {
   return file;
 }
 
-Result<File> spooled(int descriptor) {
+Result<File> spooled(int descriptor, const std::string &name) {
   auto file = namelessFile();
   if (!file) return file;
   const int target = ::fileno(file.value().get());
-  if (!copyAll(descriptor, target)) return failure("the document");
+  const Status copied = copyAll(descriptor, target, name, folder());
+  if (!copied) return copied.failure();
   ::lseek(target, 0, SEEK_SET);
   return file;
 }
 
-Status copyUntilCancelled(int from, int to) {
+Result<std::uintmax_t> copyUntilCancelled(int from, int to) {
   std::array<char, bufferSize> bytes{};
+  std::uintmax_t copied = 0;
   while (!isCancelled()) {
     // A filter that doesn't listen may hold its end open for ever.
     pollfd ready{from, POLLIN, 0};
     if (::poll(&ready, 1, pollMilliseconds) <= 0) continue;
     const ssize_t size = ::read(from, bytes.data(), bytes.size());
     if (size < 0 && errno == EINTR) continue;
-    if (size == 0) return {};
+    if (size == 0) break;
     if (size < 0 || !writeAll(to, bytes.data(), static_cast<std::size_t>(size))) {
       return failure("what is printed");
     }
+    copied += static_cast<std::uintmax_t>(size);
   }
-  return {};
+  return copied;
 }
 
-std::string beginningOf(std::FILE *file, std::size_t most) {
+Result<std::string> beginningOf(int file, off_t place, std::size_t most, const std::string &name) {
   std::string bytes(most, '\0');
-  const ssize_t size = ::pread(::fileno(file), bytes.data(), bytes.size(), 0);
-  bytes.resize(size > 0 ? static_cast<std::size_t>(size) : 0);
+  const ssize_t size = ::pread(file, bytes.data(), bytes.size(), place);
+  if (size < 0) return failure(name);
+  bytes.resize(static_cast<std::size_t>(size));
   return bytes;
 }
 
 Status copyOut(std::FILE *file, int descriptor) {
-  if (!copyAll(::fileno(file), descriptor)) return failure("the sheets");
-  return {};
+  constexpr const char *name = "the sheets";
+  return copyAll(::fileno(file), descriptor, name, name);
 }
 
 Result<File> openedFile(const std::string &path) {

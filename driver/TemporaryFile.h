@@ -2,6 +2,9 @@
 // Files that are gone when the driver is, in the folder that TMPDIR names.
 #pragma once
 
+#include <sys/types.h>
+
+#include <cstdint>
 #include <cstdio>
 #include <memory>
 #include <string>
@@ -18,15 +21,17 @@ using File = std::unique_ptr<std::FILE, CloseFile>;
 /// A file for reading and writing that has no name: however the driver ends, nothing stays.
 Result<File> namelessFile();
 
-/// A nameless file with everything that a descriptor still has to give, ready to be read.
-Result<File> spooled(int descriptor);
+/// A nameless file with everything that a descriptor still has to give, ready to be read. `name`:
+/// what a failure calls it.
+Result<File> spooled(int descriptor, const std::string &name);
 
 /// Writes on to another descriptor everything that one still gives, until the job is cancelled.
-/// Fails where there is no room for it, or nobody who takes it.
-Status copyUntilCancelled(int from, int to);
+/// Gives the number of bytes. Fails where there is no room for it, or nobody who takes it.
+Result<std::uintmax_t> copyUntilCancelled(int from, int to);
 
-/// The first bytes of a file, wherever it is being read; fewer where it is shorter.
-std::string beginningOf(std::FILE *file, std::size_t most);
+/// The bytes from some place of a file on, wherever it is being read; fewer where it is shorter.
+/// `name`: what a failure calls it.
+Result<std::string> beginningOf(int file, off_t place, std::size_t most, const std::string &name);
 
 /// Writes everything from a file's descriptor on to another.
 Status copyOut(std::FILE *file, int descriptor);

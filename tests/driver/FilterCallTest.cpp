@@ -8,6 +8,7 @@
 
 #include <QTemporaryDir>
 
+#include "driver/JobDocument.h"
 #include "tests/support/CapturingFilter.h"
 
 namespace orvek::driver {
@@ -47,7 +48,9 @@ DocumentKind kindOf(const QByteArray &contents) {
   orvek::test::writeContents(file, contents);
   FilterCall call;
   call.file = file.toStdString();
-  return documentKind(call);
+  const auto document = lookAtDocument(call);
+  EXPECT_TRUE(document);
+  return document ? document.value().kind : DocumentKind::PDF;
 }
 
 TEST(DocumentKind, IsToldByTheFirstBytes) {

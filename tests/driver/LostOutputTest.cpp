@@ -78,5 +78,77 @@ TEST_F(LostOutput, IsNoticedWhereThereIsNoRoomForAllOfTheSheets) {
   }
 }
 
+TEST_F(LostOutput, IsNoticedWhereAFilterHasNoRoomForTheDocument) {
+  expectRefused("cat \"$PDF\" | (trap '' XFSZ; ulimit -f 0; " + kJob + ")",
+                QStringLiteral("pdftops: it made nothing of the document"));
+}
+
+TEST_F(LostOutput, IsNoticedWhereAFilterMakesNothingOfTheSheets) {
+  run(
+      QStringLiteral("mkdir -p \"$TMPDIR/filter\"; cd \"$TMPDIR/filter\"; "
+                     "printf '#!/bin/sh\\ncat >/dev/null\\n' >pdftops; chmod 755 pdftops"));
+  environment.insert(QStringLiteral("CUPS_SERVERBIN"), kit.path(QString()));
+  expectRefused(kBooklet + "\"$PDF\"", QStringLiteral("pdftops: it made nothing of the document"));
+}
+
+TEST_F(LostOutput, IsNoFaultWhereTheDocumentIsEmpty) {
+  for (const QString &job : {kJob, kBooklet, kSheets}) {
+    const Printed printed = run(job + "</dev/null");
+    EXPECT_EQ(printed.exitStatus, 0) << job.toStdString();
+    EXPECT_TRUE(printed.lines(kError).isEmpty()) << printed.messages.join(u'|').toStdString();
+  }
+}
+
+TEST_F(LostOutput, IsNoticedWhereADocumentCanNotBeRead) {
+  for (const QString &job : {kSheets, kJob, kBooklet}) {
+    expectRefused(job + "/usr", QStringLiteral("/usr: Is a directory"));
+    expectRefused(job + "/proc/self/mem", QStringLiteral("/proc/self/mem: Input/output error"));
+    expectRefused(job + "</usr", QStringLiteral("the document: Is a directory"));
+  }
+}
+
+TEST_F(LostOutput, IsNoticedWhereThePPDCanNotBeRead) {
+  environment.insert(QStringLiteral("PPD"), QStringLiteral("/usr"));
+  expectRefused(kSheets + "\"$PDF\"", QStringLiteral("/usr: this PPD can't be read"));
+}
+
+TEST_F(LostOutput, IsNoneWhereADocumentComesByAFIFO) {
+  const QString fifo = QStringLiteral("mkfifo \"$TMPDIR/fifo\"; cat \"$%1\" >\"$TMPDIR/fifo\" & ");
+  const QString end =
+      QStringLiteral("timeout 30 %1 \"$TMPDIR/fifo\"; s=$?; rm \"$TMPDIR/fifo\"; exit $s");
+  const Printed sheets = run(fifo.arg(QStringLiteral("PDF")) + end.arg(kSheets));
+  EXPECT_EQ(sheets.exitStatus, 0);
+  EXPECT_EQ(sheets.output.size(), run(kSheets + "\"$PDF\"").output.size());
+  const Printed printed = run(fifo.arg(QStringLiteral("PS")) + end.arg(kJob));
+  EXPECT_EQ(printed.exitStatus, 0);
+  EXPECT_EQ(printed.lines(QStringLiteral("PAGE: ")).size(), 3);
+}
+
+TEST_F(LostOutput, IsNoneWherePostScriptIsSlowInComing) {
+  for (const QString &job : {kJob, kBooklet}) {
+    const Printed atOnce = run(job + "<\"$PS\"");
+    const Printed slow = run("(printf %%; sleep .3; tail -c +2 \"$PS\") | " + job);
+    EXPECT_EQ(slow.exitStatus, 0);
+    EXPECT_FALSE(atOnce.lines(QStringLiteral("PAGE: ")).isEmpty());
+    EXPECT_EQ(slow.lines(QStringLiteral("PAGE: ")), atOnce.lines(QStringLiteral("PAGE: ")));
+  }
+}
+
+TEST_F(LostOutput, IsNoneWherePostScriptComesByASocket) {
+  std::array<int, 2> ends{};
+  ASSERT_EQ(::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()), 0);
+  const QByteArray document = contentsOf(script);
+  ASSERT_EQ(::write(ends[1], document.constData(), std::size_t(document.size())), document.size());
+  ::close(ends[1]);
+  QProcess process;
+  process.setProcessEnvironment(environment);
+  process.setChildProcessModifier([&] { ::dup2(ends[0], STDIN_FILENO); });
+  process.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), kJob});
+  const Printed printed = ended(process);
+  ::close(ends[0]);
+  EXPECT_EQ(printed.exitStatus, 0);
+  EXPECT_EQ(printed.lines(QStringLiteral("PAGE: ")).size(), 3);
+}
+
 }  // namespace
 }  // namespace orvek::test
