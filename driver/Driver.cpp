@@ -16,6 +16,7 @@
 #include "driver/StandardFilters.h"
 #include "driver/StandardPPD.h"
 #include "platform/system/OneLine.h"
+#include "platform/system/StandardDescriptors.h"
 
 namespace orvek::driver {
 namespace {
@@ -44,9 +45,22 @@ Result<int> passOn(BookletJob job) {
   return printWith(filter, job.call, input, document.isEmpty);
 }
 
+Status checkDescriptors(const FilterCall &call) {
+  if (call.file.empty() && !isReadable(STDIN_FILENO)) {
+    return Failure{FailureKind::Io, QStringLiteral("standard input"),
+                   QStringLiteral("it is closed; name a file, or let the document come by it")};
+  }
+  if (!isWritable(STDOUT_FILENO)) {
+    return Failure{FailureKind::Io, QStringLiteral("standard output"),
+                   QStringLiteral("it is closed; say where the output goes")};
+  }
+  return {};
+}
+
 Result<int> carryOut(std::span<char *const> arguments, bool onlySheets) {
   auto call = readFilterCall(arguments);
   if (!call) return call.failure();
+  if (const Status open = checkDescriptors(call.value()); !open) return open.failure();
   FilterOptions options(call.value().options);
   const auto keys =
       imposition::readBookletKeys([&options](const char *key) { return options.value(key); });

@@ -4,7 +4,9 @@
 #include <cstddef>
 
 #include "driver/Driver.h"
+#include "platform/system/StandardDescriptors.h"
 
 int main(int argc, char *argv[]) {
+  orvek::openStandardDescriptors();
   return orvek::driver::runDriver({argv, static_cast<std::size_t>(argc)});
 }

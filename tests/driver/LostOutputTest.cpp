@@ -112,6 +112,25 @@ TEST_F(LostOutput, IsNoticedWhereThePPDCanNotBeRead) {
   expectRefused(kSheets + "\"$PDF\"", QStringLiteral("/usr: this PPD can't be read"));
 }
 
+TEST_F(LostOutput, IsNoticedWhereAStandardDescriptorIsClosed) {
+  const QString input = QStringLiteral("standard input: it is closed");
+  const QString output = QStringLiteral("standard output: it is closed");
+  for (const QString &job : {kSheets, kJob, kBooklet}) {
+    expectRefused(job + "\"$PDF\" <&- >&-", output);
+    expectRefused(job + "\"$PDF\" >&-", output);
+    expectRefused(job + "<&-", input);
+    EXPECT_EQ(run(job + "\"$PDF\" >&- 2>&-").exitStatus, 1) << job.toStdString();
+  }
+}
+
+TEST_F(LostOutput, IsNoneWhereOnlyStandardInputIsClosedAndTheDocumentIsAFile) {
+  const Printed open = run(kSheets + "\"$PDF\" </dev/null");
+  const Printed closed = run(kSheets + "\"$PDF\" <&- 2>&-");
+  EXPECT_EQ(closed.exitStatus, 0);
+  EXPECT_EQ(closed.output.size(), open.output.size());
+  EXPECT_EQ(run(kJob + "\"$PS\" <&-").lines(QStringLiteral("PAGE: ")).size(), 3);
+}
+
 TEST_F(LostOutput, IsNoneWhereADocumentComesByAFIFO) {
   const QString fifo = QStringLiteral("mkfifo \"$TMPDIR/fifo\"; cat \"$%1\" >\"$TMPDIR/fifo\" & ");
   const QString end =
