@@ -15,6 +15,7 @@
 #include "host/printers/HelperProcess.h"
 #include "host/translations/Translations.h"
 #include "platform/system/MainBundle.h"
+#include "platform/system/StandardDescriptors.h"
 
 namespace {
 
@@ -86,6 +87,7 @@ int start(const CommandLine &line, char **argv) {
 }  // namespace
 
 int main(int argc, char **argv) {
+  openStandardDescriptors();
   QByteArrayList words;
   for (int i = 1; i < argc; ++i) words << argv[i];
   const Result<CommandLine> line = parseCommandLine(words);

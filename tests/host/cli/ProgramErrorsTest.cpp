@@ -193,6 +193,22 @@ TEST_F(ProgramErrors, APresetsNameIsOneLineInTheList) {
   }
 }
 
+TEST_F(ProgramErrors, AClosedStandardInputIsNoDocumentToWaitFor) {
+  const QString program = Surroundings().program;
+  const ProgramRun run =
+      runProgram({"-c", "exec \"$0\" --headless --ppd \"$1\" --output \"$2\" - <&-", program,
+                  testPpd("finisher.ppd"), dir.filePath("out.ps")},
+                 {{}, {}, {}, true, "sh"});
+  expectFailure(run, 1, "standard input: ");
+}
+
+TEST_F(ProgramErrors, AClosedStandardOutputLosesNothingWithoutAWord) {
+  const ProgramRun run = runProgram({"-c", "exec \"$0\" --headless --ppd \"$1\" --summary >&-",
+                                     Surroundings().program, testPpd("finisher.ppd")},
+                                    {{}, {}, {}, true, "sh"});
+  expectFailure(run, 1, "standard output: ");
+}
+
 TEST_F(ProgramErrors, RefuseStandardInputTwiceInAWindowToo) {
   expectFailure(runProgram({"--ppd", testPpd("finisher.ppd"), "-", "-"},
                            {{"QT_QPA_PLATFORM=offscreen"}, {}, {}}),
