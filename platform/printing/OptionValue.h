@@ -9,8 +9,8 @@
 
 namespace orvek {
 
-/// The value with a backslash before white space, quotes, backslashes and braces. An empty one stays
-/// empty.
+/// The value with a backslash before white space, quotes, backslashes and braces. An empty one
+/// stays empty.
 inline std::string escapedOptionValue(std::string_view value) {
   constexpr std::string_view syntax = " \t\n\r\v\f\\'\"{}";
   std::string text;

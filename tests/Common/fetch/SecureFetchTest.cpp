@@ -51,7 +51,8 @@ class WebServer : public testing::Test {
 
   static void TearDownTestSuite() {
     if (folder == nullptr) return;
-    const std::string stop = "cd " + root() + " && nginx -p . -c nginx.conf -s stop >/dev/null 2>&1";
+    const std::string stop =
+        "cd " + root() + " && nginx -p . -c nginx.conf -s stop >/dev/null 2>&1";
     EXPECT_EQ(std::system(stop.c_str()), 0);
     std::this_thread::sleep_for(std::chrono::milliseconds(200));
     delete folder;

@@ -70,7 +70,8 @@ std::unique_ptr<PrintSession> sessionWithCopies(const QVariant &copies) {
 TEST(JobSettings, OfATicketAreNoMoreCopiesThanTheDialogTakes) {
   for (const QVariant &copies : {QVariant("99999"), QVariant(qint64{99999})}) {
     const auto session = sessionWithCopies(copies);
-    EXPECT_EQ(session->record().notices(), QStringList("Copies was set to 9999: no job makes more"));
+    EXPECT_EQ(session->record().notices(),
+              QStringList("Copies was set to 9999: no job makes more"));
     EXPECT_EQ(session->job().options().value("copies"), "9999");
     EXPECT_EQ(session->ticket().value("copies").metaType(), copies.metaType());
   }
