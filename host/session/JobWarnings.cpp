@@ -82,8 +82,8 @@ QString notOnBothSides(const PrintSession &session) {
   if (!sides) return {};
   QStringList partners;
   for (const OptionChoice &partner : conflictsOf(session.marks(), *sides)) {
-    if (partner.option != sides->option)
-      partners << namedChoice(session.marks().printer(), partner);
+    const bool isItself = partner.option == sides->option;
+    if (!isItself) partners << namedChoice(session.marks().printer(), partner);
   }
   if (partners.isEmpty()) return {};
   return Words::tr("A booklet is printed on both sides, which can't be combined with %1")

@@ -10,7 +10,7 @@
 namespace orvek::imposition {
 namespace {
 
-ValueOf among(std::map<std::string, std::string> options) {
+ValueOf among(const std::map<std::string, std::string> &options) {
   return [options](const char *key) -> std::optional<std::string> {
     const auto found = options.find(key);
     return found == options.end() ? std::nullopt : std::optional(found->second);

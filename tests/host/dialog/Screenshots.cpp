@@ -222,7 +222,7 @@ class Shot {
     JobRequest request;
     request.files = QStringList{source + "/samples/Finishing-Sample.pdf"};
     request.options = now.job().options();
-    request.ppdFile = now.printer()->path();
+    request.ppdFile = now.origin().printer->path();
     return request;
   }
 
