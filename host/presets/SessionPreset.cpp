@@ -7,6 +7,7 @@
 
 #include "host/ppd/Wording.h"
 #include "host/session/CommonSettings.h"
+#include "host/ticket/BookletSettings.h"
 
 namespace orvek {
 namespace {
@@ -51,6 +52,18 @@ void pickWords(PrintSession &session, const PresetFit &fit, const QMap<QString, 
   for (const OptionChoice &option : asked) session.job().pickWord(option, beside);
 }
 
+// Panels also write down what nobody asked for. It says what an absent key says, and on another
+// queue it would overrule the booklet that is saved there.
+TicketValues withoutAbsentBooklet(const TicketValues &ticket) {
+  TicketValues said;
+  for (auto entry = ticket.begin(); entry != ticket.end(); ++entry) {
+    const bool isBooklets = bookletEntry({entry.key(), textReading(*entry)}).has_value();
+    const bool saysNothing = bookletSettings({{entry.key(), *entry}}) == bookletSettings({});
+    if (!isBooklets || !saysNothing) said.insert(entry.key(), *entry);
+  }
+  return said;
+}
+
 }  // namespace
 
 Preset presetOf(PrintSession &session, const QString &name) {
@@ -69,6 +82,7 @@ Preset presetOf(PrintSession &session, const QString &name) {
 
 Preset entriesOf(PrintSession &session) {
   Preset entries = presetOf(session, {});
+  entries.ticket = withoutAbsentBooklet(entries.ticket);
   const auto paper = commonSetting(session, CommonSetting::PaperSize);
   if (!paper || !paper->isInPpd || paper->current.isNull()) return entries;
   entries.options.insert(paper->key, paper->current);

@@ -14,7 +14,8 @@ namespace orvek {
 Preset presetOf(PrintSession &session, const QString &name);
 
 /// The same for a session on another printer: with the paper that its pages are laid out for,
-/// default or not, as the other printer's default may be another.
+/// default or not, as the other printer's default may be another; and without what its ticket says
+/// of a booklet only as panels write defaults down, as the other queue may have a booklet saved.
 Preset entriesOf(PrintSession &session);
 
 /// Puts a preset into the session, before or after its panels were opened: its ticket is written

@@ -63,5 +63,22 @@ TEST(SessionPreset, LeavesAloneWhatTheSessionIsToKeep) {
   EXPECT_EQ(session->marks().marked("OVKFolding"), "None");
 }
 
+TEST(SessionEntries, LeaveTheBookletThatAnotherQueueHasSavedAlone) {
+  const auto former = sessionOn("finisher.ppd");
+  for (const char *key : {"OVKEnableBooklet", "OVKRightToLeft", "OVKPrintPageBorders"}) {
+    former->setTicketValue(key, "False");
+  }
+  former->setTicketValue("OVKGutter", "24");
+  former->setTicketValue("OVKTargetPaperSize", "0");
+  former->setTicketValue("OVKCreep", "5");
+  const auto next = sessionOn("finisher.ppd");
+  next->setTicketValue("OVKEnableBooklet", "True");
+  next->setTicketValue("OVKGutter", "36");
+  EXPECT_TRUE(applyPreset(*next, entriesOf(*former)).isEmpty());
+  EXPECT_EQ(next->ticket().value("OVKEnableBooklet"), QVariant("True"));
+  EXPECT_EQ(next->ticket().value("OVKGutter"), QVariant("36"));
+  EXPECT_EQ(next->ticket().value("OVKCreep"), QVariant("5"));
+}
+
 }  // namespace
 }  // namespace orvek::test
