@@ -100,7 +100,8 @@ struct FilterJob {
   /// Degrees clockwise that each page is turned by its own document, which matters to `position`
   /// alone. Those that are missing count as 0.
   std::vector<int> ownTurns;
-  /// Asked for in the words that the filter of PostScript knows ("fit-to-page", "fitplot").
+  /// Asked for in the words that the filter of PostScript knows ("fit-to-page",
+  /// "ipp-attribute-fidelity").
   bool fitsScripts = false;
 
   bool operator==(const FilterJob &) const = default;

@@ -13,6 +13,7 @@
 #include "host/jobs/InputSpool.h"
 #include "host/jobs/OptionText.h"
 #include "host/jobs/OutputTarget.h"
+#include "host/printers/Queue.h"
 #include "imposition/SheetOptions.h"
 #include "platform/system/OptionMap.h"
 
@@ -30,18 +31,16 @@ void removeAll(Options *options, const Names &names) {
   for (const char *name : names) removeNamed(options, name);
 }
 
-// What a queue says of itself stands among the options saved for it.
 void removeDescriptions(Options *options) {
   options->removeIf([](const auto &option) {
-    return option.key().startsWith(QStringLiteral("printer-")) ||
-           option.key().startsWith(QStringLiteral("marker-")) ||
-           option.key() == QStringLiteral("device-uri") || option.key() == bannersOption;
+    return describesQueue(option.key()) || option.key() == bannersOption;
   });
 }
 
 /// The job as the filters here get it.
 JobRequest filtered(const JobRequest &request) {
   JobRequest job = request;
+  job.saved.clear();
   removeDescriptions(&job.options);
   removeAll(&job.options, std::array{"document-format"});
   return job;

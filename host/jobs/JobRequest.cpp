@@ -25,7 +25,8 @@ QString effectiveTitle(const JobRequest &request) {
 }
 
 QMap<QString, QString> effectiveOptions(const JobRequest &request) {
-  QMap<QString, QString> options = request.options;
+  QMap<QString, QString> options = request.outputFile.isNull() ? request.options : request.saved;
+  if (!request.outputFile.isNull()) options.insert(request.options);
   if (request.priority > 0) {
     options.insert(QStringLiteral("job-priority"), QString::number(request.priority));
   }

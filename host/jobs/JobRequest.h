@@ -27,6 +27,8 @@ struct JobRequest {
   int priority = 0;
   /// Keyword or attribute to its value, neither quoted nor escaped.
   QMap<QString, QString> options;
+  /// Into a file: what was saved for the queue that the session is about, and no server adds.
+  QMap<QString, QString> saved;
   /// To a queue: options whose value is text even in braces.
   QStringList texts;
   /// To a queue: options saved for it that must not go with the job.
@@ -105,7 +107,7 @@ Failure jobCancelled();
 QString effectiveTitle(const JobRequest &request);
 
 /// The options of a request with its priority among them, under the name that CUPS gives it, where
-/// it wins over what `options` say.
+/// it wins over what `options` say; into a file, with what was saved besides.
 QMap<QString, QString> effectiveOptions(const JobRequest &request);
 
 /// The documents of a request: its files, or standard input where it names none.

@@ -39,15 +39,9 @@ bool isOn(const QString &value) {
   return isAnyOf(value, {"true", "on", "yes"});
 }
 
-// What was saved for a queue goes with a job that says nothing else.
 Options allOptions(PrintSession &session) {
   Options options = session.job().options();
-  const QStringList overruled = session.job().overruledOptions();
-  for (const OptionChoice &saved : session.origin().queueOptions) {
-    const bool isSaid = valueNamed(options, saved.option).has_value();
-    if (isSaid || overruled.contains(saved.option, Qt::CaseInsensitive)) continue;
-    options.insert(saved.option, saved.choice);
-  }
+  options.insert(session.job().savedOptions());
   return options;
 }
 
@@ -161,6 +155,12 @@ void readSelection(const Options &options, FilterJob *job) {
   if (sameKeyword(set, "even")) job->sides.parity = Parity::Even;
 }
 
+// The filter of PostScript knows fewer words for it, and no other spelling of a boolean.
+bool fitsScripts(const Options &options) {
+  const auto isTrue = [&](const char *name) { return sameKeyword(word(options, name), "true"); };
+  return isTrue("fit-to-page") || isTrue("ipp-attribute-fidelity");
+}
+
 // What the standard filters do beside choosing and scaling pages.
 void readPlaces(const Marks &marks, const Options &options, FilterJob *job) {
   job->pagesPerSide = std::max(1, leadingInteger(word(options, numberUpOption).toStdString()));
@@ -168,7 +168,7 @@ void readPlaces(const Marks &marks, const Options &options, FilterJob *job) {
   job->position = readPosition(word(options, "position").toStdString());
   job->isMirrored =
       isOn(word(options, "mirror")) || isOn(marks.marked(QStringLiteral("MirrorPrint")));
-  job->fitsScripts = isOn(word(options, "fit-to-page")) || isOn(word(options, "fitplot"));
+  job->fitsScripts = fitsScripts(options);
   const QString booklet = word(options, "booklet");
   if (isOn(booklet)) job->booklet = OwnBooklet::Sides;
   if (sameKeyword(booklet, "shuffle-only")) job->booklet = OwnBooklet::Order;

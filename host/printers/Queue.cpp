@@ -92,6 +92,12 @@ QString Queue::destination() const {
   return instance.isNull() ? name : name + instanceMark + instance;
 }
 
+bool describesQueue(const QString &option) {
+  if (option == QStringLiteral("printer-resolution")) return false;
+  return option.startsWith(QStringLiteral("printer-")) ||
+         option.startsWith(QStringLiteral("marker-")) || option == QStringLiteral("device-uri");
+}
+
 QString reasonInWords(const QString &keyword) {
   if (keyword == QStringLiteral("none")) return {};
   const QString plain = withoutSeverity(keyword);

@@ -48,6 +48,10 @@ struct Queue {
   QString destination() const;
 };
 
+/// Whether this one of a queue's options says what the queue is ("printer-info", "device-uri"), and
+/// nothing of how a job is printed.
+bool describesQueue(const QString &option);
+
 /// "Idle", "Printing", "Stopped"; with "takes no jobs" where that is so.
 QString stateInWords(const Queue &queue);
 

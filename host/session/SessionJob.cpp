@@ -3,12 +3,14 @@
 
 #include "host/session/SessionJob.h"
 
+#include "host/printers/Queue.h"
 #include "host/session/PrintSession.h"
 #include "host/ticket/BookletSettings.h"
 #include "host/ticket/JobOptionNames.h"
 #include "host/ticket/JobOptions.h"
 #include "host/ticket/ServerWords.h"
 #include "platform/plugin/BookletKeys.h"
+#include "platform/system/OptionMap.h"
 
 namespace orvek {
 namespace {
@@ -99,6 +101,19 @@ QStringList SessionJob::overruledOptions() {
 QMap<QString, QString> SessionJob::options() {
   return jobOptionsFor(m_session.marksToTry(), {m_session.origin().queueOptions,
                                                 m_session.ticket().values(), m_settings, m_asked});
+}
+
+QMap<QString, QString> SessionJob::savedOptions() {
+  const QMap<QString, QString> said = options();
+  const QStringList overruled = overruledOptions();
+  QMap<QString, QString> saved;
+  for (const OptionChoice &option : m_session.origin().queueOptions) {
+    const bool isSaid = valueNamed(said, option.option).has_value();
+    const bool isOverruled = overruled.contains(option.option, Qt::CaseInsensitive);
+    if (isSaid || isOverruled || describesQueue(option.option)) continue;
+    saved.insert(option.option, option.choice);
+  }
+  return saved;
 }
 
 }  // namespace orvek

@@ -171,9 +171,9 @@ void chooseLayout(Dice &dice, RandomJob &job) {
 
 void chooseScaling(Dice &dice, RandomJob &job) {
   if (!dice.oneIn(4)) return;
-  option(job,
-         dice.word({"print-scaling=fit", "print-scaling=fill", "print-scaling=none",
-                    "print-scaling=auto", "print-scaling=auto-fit", "fit-to-page", "fitplot"}));
+  option(job, dice.word({"print-scaling=fit", "print-scaling=fill", "print-scaling=none",
+                         "print-scaling=auto", "print-scaling=auto-fit", "fit-to-page", "fitplot",
+                         "ipp-attribute-fidelity"}));
 }
 
 /// What fewer people know.
@@ -256,8 +256,7 @@ RandomJob randomJob(unsigned seed) {
   choosePages(dice, job);
   if (dice.oneIn(5)) option(job, QStringLiteral("outputorder=reverse"));
   chooseLayout(dice, job);
-  // What the filters of PostScript make of it depends on the pages chosen.
-  if (!hasPostScript(job)) chooseScaling(dice, job);
+  chooseScaling(dice, job);
   chooseCopies(dice, job);
   chooseBooklet(dice, job);
   chooseOddity(dice, job);

@@ -127,6 +127,20 @@ TEST_F(ProgramQueue, GetsNoJobThatGoesIntoAFile) {
   EXPECT_TRUE(cups->jobAttributes(1).isEmpty());
 }
 
+TEST_F(ProgramQueue, LendsItsSavedOptionsToAJobThatGoesIntoAFile) {
+  cups->run("lpoptions", {"-p", "office", "-o", "number-up=2", "-o", "page-ranges=1-3"});
+  const QString path = cache.filePath("out.ps");
+  const auto sides = [&](const QStringList &options) {
+    const ProgramRun job = run(QStringList{"--headless", "--print", "--output", path} + options +
+                               QStringList{document});
+    EXPECT_EQ(job.status, 0) << job.errors.constData();
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll().count("\n%%Page: ") : -1;
+  };
+  EXPECT_EQ(sides({}), 3);
+  EXPECT_EQ(sides({"-o", "number-up=4"}), 2);
+}
+
 TEST_F(ProgramQueue, IsNotAskedForAJobThatGoesIntoAFile) {
   const QString file = cache.filePath("out.ps");
   const ProgramRun job = runProgram(

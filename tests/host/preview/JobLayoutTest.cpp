@@ -76,6 +76,19 @@ TEST_F(JobLayoutTest, FollowsJobSettings) {
   EXPECT_EQ(job.filters.pagesPerSide, 6);
 }
 
+TEST_F(JobLayoutTest, KnowsWhichWordsTheFilterOfPostScriptFits) {
+  EXPECT_FALSE(sheetJobOf(*session).filters.fitsScripts);
+  write("fitplot", QStringLiteral("true"));
+  write("print-scaling", QStringLiteral("fit"));
+  write("fit-to-page", QStringLiteral("yes"));
+  EXPECT_FALSE(sheetJobOf(*session).filters.fitsScripts);
+  write("fit-to-page", QStringLiteral("True"));
+  EXPECT_TRUE(sheetJobOf(*session).filters.fitsScripts);
+  write("fit-to-page", {});
+  write("ipp-attribute-fidelity", QStringLiteral("true"));
+  EXPECT_TRUE(sheetJobOf(*session).filters.fitsScripts);
+}
+
 TEST_F(JobLayoutTest, FollowsThePrintServersWords) {
   write("print-scaling", QStringLiteral("fill"));
   write("number-up-layout", QStringLiteral("tblr"));

@@ -261,5 +261,14 @@ TEST(ReasonInWords, HasNothingToSayForNone) {
   EXPECT_TRUE(reasonInWords(QStringLiteral("none")).isNull());
 }
 
+TEST(Queue, KnowsWhichOfItsOptionsOnlyDescribeIt) {
+  for (const char *option : {"printer-info", "printer-state", "marker-levels", "device-uri"}) {
+    EXPECT_TRUE(describesQueue(QLatin1String(option))) << option;
+  }
+  for (const char *option : {"printer-resolution", "sides", "copies"}) {
+    EXPECT_FALSE(describesQueue(QLatin1String(option))) << option;
+  }
+}
+
 }  // namespace
 }  // namespace orvek::test
