@@ -66,9 +66,10 @@ void PrintDialog::moveTo(PrinterSwitch::Session opened, const QString &destinati
   }
   const Preset entered = entriesOf(*m_session);
   const JobSettings settings = m_session->job().settings();
+  const JobSettings began = m_session->job().firstSettings();
   takeSession(opened.take(), destination);
   const QList<PresetMisfit> misfits = applyPreset(*m_session, entered);
-  m_session->job().setSettings(settings);
+  m_session->job().setSettings(carriedOver(settings, began, m_session->job().settings()));
   showMisfits(tr("Not everything fits this printer:"), misfits);
 }
 

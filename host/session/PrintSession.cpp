@@ -10,6 +10,7 @@
 #include "host/session/FirstMarks.h"
 #include "host/session/TicketBounds.h"
 #include "host/ticket/BookletSettings.h"
+#include "host/ticket/JobOptionNames.h"
 #include "platform/system/OptionMap.h"
 
 namespace orvek {
@@ -19,6 +20,9 @@ namespace {
 // what it reads there it says: a booklet that was missing would be called off.
 void beginTicket(Ticket &ticket, const SessionSetup &setup, const PrinterDescription &printer) {
   for (const OptionChoice &saved : setup.queueOptions) {
+    if (sameKeyword(saved.option, pagesPerSheetOption) && saved.choice.toInt() > 1) {
+      ticket.setValue(layoutNUpKey, saved.choice.toInt());
+    }
     const auto entry = bookletEntry(saved);
     if (!entry || printer.has(entry->option)) continue;
     if (!valueNamed(setup.ticket, entry->option)) ticket.setValue(entry->option, entry->choice);
@@ -59,6 +63,7 @@ Status PrintSession::markFirst() {
   // What the queue's words stand for is as good as said: whoever asks what the queue would do by
   // itself finds it by the PPD's name.
   m_origin.queueOptions = withMeanings(m_picks.marks(), m_origin.queueOptions);
+  m_job.beginAsSaved();
   m_ticket->setChangeListener([this](const QString &) { m_action.noteChange(); });
   return {};
 }

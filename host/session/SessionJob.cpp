@@ -7,7 +7,6 @@
 #include "host/session/PrintSession.h"
 #include "host/ticket/BookletSettings.h"
 #include "host/ticket/JobOptionNames.h"
-#include "host/ticket/JobOptions.h"
 #include "host/ticket/ServerWords.h"
 #include "platform/plugin/BookletKeys.h"
 #include "platform/system/OptionMap.h"
@@ -37,6 +36,22 @@ void SessionJob::setSettings(const JobSettings &newSettings) {
   if (!printerCollates() || !collateChanges) return;
   m_session.pick(collateOption,
                  newSettings.collate ? QStringLiteral("True") : QStringLiteral("False"));
+}
+
+// What makes no sense to a reader goes along as it was saved.
+void SessionJob::beginAsSaved() {
+  for (const OptionChoice &saved : m_session.origin().queueOptions) {
+    const bool isPrinters = !m_session.marksToTry().meaningOf({saved}).isEmpty();
+    if (!isPrinters) static_cast<void>(m_saved.take(saved.option, saved.choice));
+  }
+  m_settings = m_saved.settings;
+  m_asked.settings = m_saved.settings;
+  m_first = settings();
+}
+
+JobSources SessionJob::sources() const {
+  return {m_session.origin().queueOptions, m_session.ticket().values(), m_settings, m_asked,
+          m_saved};
 }
 
 Result<bool> SessionJob::take(const QString &name, const QString &value) {
@@ -94,13 +109,11 @@ QStringList SessionJob::optionsWithCustomValues() const {
 }
 
 QStringList SessionJob::overruledOptions() {
-  return orvek::overruledOptions(m_session.marksToTry(), m_session.origin().queueOptions,
-                                 m_session.ticket().values());
+  return orvek::overruledOptions(m_session.marksToTry(), sources());
 }
 
 QMap<QString, QString> SessionJob::options() {
-  return jobOptionsFor(m_session.marksToTry(), {m_session.origin().queueOptions,
-                                                m_session.ticket().values(), m_settings, m_asked});
+  return jobOptionsFor(m_session.marksToTry(), sources());
 }
 
 QMap<QString, QString> SessionJob::savedOptions() {

@@ -10,6 +10,7 @@
 
 #include "host/ppd/Marks.h"
 #include "host/ticket/AskedOptions.h"
+#include "host/ticket/JobOptions.h"
 #include "host/ticket/TicketFile.h"
 
 namespace orvek {
@@ -25,6 +26,12 @@ class SessionJob {
   /// Copies, pages, orientation. Collation is picked where the PPD has the option.
   JobSettings settings() const;
   void setSettings(const JobSettings &settings);
+
+  /// For the session's beginning: settings as its queue's options have them.
+  void beginAsSaved();
+
+  /// As the session began.
+  const JobSettings &firstSettings() const { return m_first; }
 
   /// Reads an option of the command line that is about job settings: false where it is none, or the
   /// PPD has an option for it; a Usage failure where its value makes no sense.
@@ -63,10 +70,13 @@ class SessionJob {
  private:
   bool printerCollates() const;
   void pickUnrecorded(const OptionChoice &choice);
+  JobSources sources() const;
 
   PrintSession &m_session;
   JobSettings m_settings;
   AskedOptions m_asked;
+  AskedOptions m_saved;
+  JobSettings m_first;
 };
 
 }  // namespace orvek

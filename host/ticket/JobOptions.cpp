@@ -4,6 +4,9 @@
 
 #include "host/ticket/JobOptions.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "host/ppd/CustomChoice.h"
 #include "host/ticket/JobOptionNames.h"
 #include "host/ticket/ServerWords.h"
@@ -66,6 +69,53 @@ QString usualName(const QString &name) {
   return name.toLower();
 }
 
+QString defaultOf(const QString &name) {
+  if (name == copiesOption) return QStringLiteral("1");
+  if (name == collateOption) return QStringLiteral("True");
+  if (name == pageRangesOption) return QStringLiteral("1-");
+  return name == outputOrderOption ? QString(firstPageFirst) : QStringLiteral("3");
+}
+
+bool isAsked(const AskedOptions &asked, const QString &name) {
+  const QStringList words = asked.words.keys();
+  return std::any_of(words.begin(), words.end(),
+                     [&](const QString &word) { return usualName(word) == name; });
+}
+
+/// Whether job settings contradict the word of this name that is saved for a queue.
+bool isOverruled(const QString &name, const JobSources &job) {
+  return jobSettingOptions(job.settings).value(name) !=
+         jobSettingOptions(job.saved.settings).value(name);
+}
+
+/// The options of job settings on a queue that says by itself what is saved for it.
+QMap<QString, QString> settingsOnQueue(const JobSettings &settings, const JobSources &job) {
+  QMap<QString, QString> options = jobSettingOptions(settings, job.asked);
+  const QMap<QString, QString> plain = jobSettingOptions(settings);
+  const QStringList words = job.saved.words.keys();
+  for (const QString &word : words) {
+    const QString name = usualName(word);
+    if (!isOverruled(name, job)) {
+      if (!isAsked(job.asked, name)) options.remove(name);
+    } else if (!plain.contains(name) && !options.contains(name)) {
+      options.insert(name, defaultOf(name));
+    }
+  }
+  return options;
+}
+
+bool asksForSeveralPages(const OptionChoice &saved) {
+  return sameKeyword(saved.option, pagesPerSheetOption) && saved.choice.toInt() > 1;
+}
+
+void sayPagesPerSheet(const JobSources &job, QMap<QString, QString> *options) {
+  const int pages = integerReading(job.ticket.value(layoutNUpKey));
+  const bool isSaved =
+      std::any_of(job.queueOptions.begin(), job.queueOptions.end(), asksForSeveralPages);
+  if (pages > 1 || isSaved)
+    options->insert(pagesPerSheetOption, QString::number(std::max(1, pages)));
+}
+
 }  // namespace
 
 QMap<QString, QString> jobSettingOptions(const JobSettings &settings) {
@@ -97,21 +147,23 @@ QMap<QString, QString> jobSettingOptions(const JobSettings &settings, const Aske
 
 QMap<QString, QString> jobOptionsFor(Marks &marks, const JobSources &job) {
   QMap<QString, QString> options = printerOptions(marks, job);
-  const int pagesPerSheet = integerReading(job.ticket.value(layoutNUpKey));
-  if (pagesPerSheet > 1) options.insert(pagesPerSheetOption, QString::number(pagesPerSheet));
+  sayPagesPerSheet(job, &options);
   JobSettings settings = job.settings;
   // The printer's own option, among the marks, says it already.
   if (marks.printer().has(collateOption)) settings.collate = true;
-  options.insert(jobSettingOptions(settings, job.asked));
+  options.insert(settingsOnQueue(settings, job));
   return options;
 }
 
-QStringList overruledOptions(Marks &marks, const QList<OptionChoice> &queueOptions,
-                             const TicketValues &ticket) {
+QStringList overruledOptions(Marks &marks, const JobSources &job) {
   QStringList names;
-  for (const ServerWord &word : ServerWords::of(marks, queueOptions, ticket).untrue(marks)) {
+  for (const ServerWord &word :
+       ServerWords::of(marks, job.queueOptions, job.ticket).untrue(marks)) {
     names << word.name;
   }
+  const QStringList saved = job.saved.words.keys();
+  std::copy_if(saved.begin(), saved.end(), std::back_inserter(names),
+               [&](const QString &word) { return isOverruled(usualName(word), job); });
   return names;
 }
 

@@ -27,13 +27,17 @@ struct JobSources {
   TicketValues ticket;
   JobSettings settings;
   AskedOptions asked;
+  /// What the queue's options say of job settings.
+  AskedOptions saved;
 };
 
 /// Option or key to text: every marked choice that differs from the PPD's default or from what the
 /// queue would take by itself, every ticket key (an option's key with its marked choice),
 /// "number-up" where several pages go on a sheet, and the job settings. A word of the ticket or the
 /// queue that is still true ("sides" for "Duplex") goes as it was written, and what it stands for
-/// goes without saying; one that is not is left out, and the options it speaks of are all said.
+/// goes without saying; one that is not is left out, and the options it speaks of are all said. Of
+/// job settings, too, what the queue has saved goes without saying, and what contradicts it is said
+/// even where it is a default.
 QMap<QString, QString> jobOptionsFor(Marks &marks, const JobSources &job);
 
 /// What differs from the defaults of a JobSettings, by CUPS' names: "copies", "Collate",
@@ -44,8 +48,7 @@ QMap<QString, QString> jobSettingOptions(const JobSettings &settings);
 QMap<QString, QString> jobSettingOptions(const JobSettings &settings, const AskedOptions &asked);
 
 /// The words among the queue's options that must not go with the job, as they are no longer true.
-QStringList overruledOptions(Marks &marks, const QList<OptionChoice> &queueOptions,
-                             const TicketValues &ticket);
+QStringList overruledOptions(Marks &marks, const JobSources &job);
 
 /// The options whose marked choice is custom: its values look like a collection to libcups.
 QStringList optionsWithCustomValues(const Marks &marks);

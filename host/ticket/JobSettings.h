@@ -30,4 +30,15 @@ struct JobSettings {
   bool operator==(const JobSettings &) const = default;
 };
 
+/// `next` with what was changed between `began` and `now`.
+inline JobSettings carriedOver(const JobSettings &now, const JobSettings &began, JobSettings next) {
+  if (now.copies != began.copies) next.copies = now.copies;
+  if (now.collate != began.collate) next.collate = now.collate;
+  if (now.pageRanges != began.pageRanges) next.pageRanges = now.pageRanges;
+  if (now.orientation != began.orientation) next.orientation = now.orientation;
+  if (now.reverse != began.reverse) next.reverse = now.reverse;
+  next.pageRangesProblem = now.pageRangesProblem;
+  return next;
+}
+
 }  // namespace orvek

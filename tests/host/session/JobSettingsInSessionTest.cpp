@@ -67,6 +67,71 @@ std::unique_ptr<PrintSession> sessionWithCopies(const QVariant &copies) {
   return PrintSession::begin(setup).take();
 }
 
+std::unique_ptr<PrintSession> sessionOnQueue(const QList<OptionChoice> &saved) {
+  SessionSetup setup;
+  setup.queueOptions = saved;
+  return PrintSession::begin(setup).take();
+}
+
+TEST(JobSettings, BeginAsTheQueueHasThemSavedAndLeaveThemToIt) {
+  const auto session = sessionOnQueue({{"copies", "2"},
+                                       {"landscape", "true"},
+                                       {"outputorder", "reverse"},
+                                       {"page-ranges", "2-4"},
+                                       {"Collate", "False"}});
+  const JobSettings expected{2, false, "2-4", Orientation::Landscape, true, {}};
+  EXPECT_EQ(session->job().settings(), expected);
+  EXPECT_EQ(session->job().options(), Options());
+  EXPECT_TRUE(session->job().overruledOptions().isEmpty());
+  EXPECT_EQ(session->job().savedOptions().size(), 5);
+}
+
+TEST(JobSettings, SayDefaultsAgainstWhatTheQueueHasSaved) {
+  const auto session = sessionOnQueue({{"copies", "2"},
+                                       {"landscape", "true"},
+                                       {"outputorder", "reverse"},
+                                       {"page-ranges", "2-4"},
+                                       {"Collate", "False"}});
+  session->job().setSettings({});
+  EXPECT_EQ(session->job().options(), (Options{{"copies", "1"},
+                                               {"orientation-requested", "3"},
+                                               {"outputorder", "normal"},
+                                               {"page-ranges", "1-"},
+                                               {"Collate", "True"}}));
+  EXPECT_TRUE(session->job().overruledOptions().contains("landscape"));
+  EXPECT_TRUE(session->job().savedOptions().isEmpty());
+}
+
+TEST(JobSettings, AskedForOnACommandLineWinOverWhatTheQueueHasSaved) {
+  const auto session = sessionOnQueue({{"orientation-requested", "5"}, {"copies", "2"}});
+  EXPECT_TRUE(session->job().take("landscape", "true").value());
+  EXPECT_EQ(session->job().settings().copies, 2);
+  EXPECT_EQ(session->job().options(), (Options{{"landscape", "true"}}));
+  EXPECT_EQ(session->job().overruledOptions(), QStringList{"orientation-requested"});
+  EXPECT_TRUE(session->job().take("copies", "1").value());
+  EXPECT_EQ(session->job().options(), (Options{{"landscape", "true"}, {"copies", "1"}}));
+}
+
+TEST(JobSettings, ShowAndOverruleThePagesPerSheetThatTheQueueHasSaved) {
+  const auto session = sessionOnQueue({{"number-up", "4"}});
+  EXPECT_EQ(session->job().pagesPerSheet(), 4);
+  session->job().setPagesPerSheet(0);
+  EXPECT_EQ(session->job().options().value("number-up"), "1");
+}
+
+TEST(JobSettings, GoAlongToAnotherQueueWhereTheyWereChanged) {
+  const JobSettings began{2, true, {}, Orientation::Automatic, false, {}};
+  JobSettings now = began;
+  now.pageRanges = "3-5";
+  now.reverse = true;
+  const JobSettings next{7, false, "1-2", Orientation::Landscape, false, {}};
+  EXPECT_EQ(carriedOver(now, began, next),
+            (JobSettings{7, false, "3-5", Orientation::Landscape, true, {}}));
+  const JobSettings other{3, false, {}, Orientation::Portrait, false, {}};
+  EXPECT_EQ(carriedOver(other, began, {}),
+            (JobSettings{3, false, {}, Orientation::Portrait, false, {}}));
+}
+
 TEST(JobSettings, OfATicketAreNoMoreCopiesThanTheDialogTakes) {
   for (const QVariant &copies : {QVariant("99999"), QVariant(qint64{99999})}) {
     const auto session = sessionWithCopies(copies);

@@ -18,7 +18,7 @@ class JobOptionsTest : public testing::Test {
   JobOptionsTest() { marks.markDefaults(); }
 
   Options options(const QList<OptionChoice> &queueOptions, const TicketValues &ticket) {
-    return jobOptionsFor(marks, {queueOptions, ticket, {}, {}});
+    return jobOptionsFor(marks, {queueOptions, ticket, {}, {}, {}});
   }
 
   std::shared_ptr<PrinterDescription> printer = openTestPpd(QStringLiteral("finisher.ppd"));
