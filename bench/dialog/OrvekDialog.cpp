@@ -6,6 +6,7 @@
 #include "host/cli/CommandLine.h"
 #include "host/cli/SessionStart.h"
 #include "host/cli/Window.h"
+#include "host/dialog/PrintDialog.h"
 
 int main(int argc, char **argv) {
   int toolkitArgc = 1;
