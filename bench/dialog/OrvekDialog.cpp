@@ -7,8 +7,18 @@
 #include "host/cli/SessionStart.h"
 #include "host/cli/Window.h"
 #include "host/dialog/PrintDialog.h"
+#include "host/printers/HelperProcess.h"
+
+// As the program does while the toolkit is loaded, which belongs to neither dialog.
+static void startHelper() {
+  orvek::SocketProgram helper;
+  orvek::startWithSocket(orvek::besideThisProgram("../" ORVEK_HELPER_FOLDER "/orvek-print-server"),
+                         &helper);
+  orvek::HelperProcess::adopt(helper);
+}
 
 int main(int argc, char **argv) {
+  startHelper();
   int toolkitArgc = 1;
   QApplication application(toolkitArgc, argv);
   QByteArrayList words;

@@ -1,20 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
-// Starts the helper beside this program, with a socket as its standard input and nothing else open.
+// Starts the helper beside this program, and waits for its end.
 
 #include "host/printers/HelperProcess.h"
 
-#include <fcntl.h>
 #include <poll.h>
-#include <spawn.h>
-#include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
-#include <array>
-#include <cerrno>
 #include <csignal>
 #include <mutex>
 #include <optional>
@@ -31,75 +25,8 @@ constexpr auto farewell = 1s;
 constexpr auto moment = 5ms;
 
 QString helperPath() {
-  const QString program = QFile::symLinkTarget(QStringLiteral("/proc/self/exe"));
-  return QDir::cleanPath(QFileInfo(program).dir().filePath(QLatin1String(placeOfHelper)));
+  return QDir::cleanPath(QFile::decodeName(besideThisProgram(placeOfHelper).c_str()));
 }
-
-/// Two ends of a socket, neither of them a standard stream.
-class SocketPair {
- public:
-  SocketPair() {
-    std::array<int, 2> ends{-1, -1};
-    if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0) return;
-    for (std::size_t i = 0; i < ends.size(); ++i) {
-      m_ends[i] = ::fcntl(ends[i], F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
-      ::close(ends[i]);
-    }
-    ::fcntl(ours(), F_SETFL, O_NONBLOCK);
-  }
-  ~SocketPair() {
-    for (const int end : m_ends) {
-      if (end >= 0) ::close(end);
-    }
-  }
-  SocketPair(const SocketPair &) = delete;
-  SocketPair &operator=(const SocketPair &) = delete;
-
-  int ours() const { return m_ends[0]; }
-  int theirs() const { return m_ends[1]; }
-  int takeOurs() { return std::exchange(m_ends[0], -1); }
-
- private:
-  std::array<int, 2> m_ends{-1, -1};
-};
-
-/// What the new process begins with; owned, and freed with its holder.
-class Beginning {
- public:
-  explicit Beginning(int standardInput) {
-    ::posix_spawn_file_actions_init(&m_files);
-    ::posix_spawn_file_actions_adddup2(&m_files, standardInput, STDIN_FILENO);
-    ::posix_spawn_file_actions_addopen(&m_files, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
-    // What a library complains of there would be a second line beside the failure.
-    ::posix_spawn_file_actions_addopen(&m_files, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-    ::posix_spawn_file_actions_addclosefrom_np(&m_files, STDERR_FILENO + 1);
-    sigset_t all;
-    sigset_t none;
-    ::sigfillset(&all);
-    ::sigemptyset(&none);
-    ::posix_spawnattr_init(&m_attributes);
-    ::posix_spawnattr_setsigdefault(&m_attributes, &all);
-    ::posix_spawnattr_setsigmask(&m_attributes, &none);
-    ::posix_spawnattr_setflags(&m_attributes, POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK);
-  }
-  ~Beginning() {
-    ::posix_spawn_file_actions_destroy(&m_files);
-    ::posix_spawnattr_destroy(&m_attributes);
-  }
-  Beginning(const Beginning &) = delete;
-  Beginning &operator=(const Beginning &) = delete;
-
-  int start(const QByteArray &path, pid_t *process) const {
-    QByteArray name = path;
-    std::array<char *, 2> arguments{name.data(), nullptr};
-    return ::posix_spawn(process, path.constData(), &m_files, &m_attributes, arguments.data(),
-                         environ);
-  }
-
- private:
-  posix_spawn_file_actions_t m_files{};
-  posix_spawnattr_t m_attributes{};
-};
 
 /// Helpers that nobody waits for until the program ends.
 class Finishing {
@@ -130,60 +57,63 @@ class Finishing {
   std::vector<HelperProcess> m_processes;
 };
 
-/// Helpers that wait for their first question.
-class Prepared {
+/// Helpers that were killed, until the system has told of their end.
+class Killed {
  public:
-  void add(HelperProcess process) {
+  void add(pid_t process) {
     const std::lock_guard lock(m_mutex);
-    m_processes.push_back(std::move(process));
-  }
-
-  std::optional<HelperProcess> take() {
-    const std::lock_guard lock(m_mutex);
-    while (!m_processes.empty()) {
-      HelperProcess process = std::move(m_processes.back());
-      m_processes.pop_back();
-      if (!process.hasEnded(0ms)) return process;
-    }
-    return std::nullopt;
+    m_processes.push_back(process);
+    std::erase_if(m_processes, [](pid_t one) { return ::waitpid(one, nullptr, WNOHANG) != 0; });
   }
 
  private:
   std::mutex m_mutex;
-  std::vector<HelperProcess> m_processes;
+  std::vector<pid_t> m_processes;
+};
+
+// Helpers are destroyed until the very end of the program.
+Killed &killed() {
+  static auto &processes = *new Killed;
+  return processes;
+}
+
+/// A helper that waits for its first question.
+struct Prepared {
+  std::mutex mutex;
+  std::optional<HelperProcess> process;
 };
 
 Prepared &prepared() {
-  static Prepared processes;
-  return processes;
+  static Prepared helper;
+  return helper;
 }
 
 }  // namespace
 
 Result<HelperProcess> HelperProcess::start() {
-  if (auto ready = prepared().take()) return std::move(*ready);
-  return startNew();
-}
-
-void HelperProcess::prepare() {
-  // Whoever asks will hear why there is none.
-  if (auto process = startNew()) prepared().add(process.take());
-}
-
-Result<HelperProcess> HelperProcess::startNew() {
+  {
+    const std::lock_guard lock(prepared().mutex);
+    if (auto ready = std::exchange(prepared().process, std::nullopt)) {
+      if (!ready->hasEnded(0ms)) return std::move(*ready);
+    }
+  }
   const QString path = helperPath();
-  SocketPair sockets;
-  if (sockets.theirs() < 0) return Failure{FailureKind::Io, path, Phrase::ofSystem(errno)};
-  const Beginning beginning(sockets.theirs());
-  pid_t process = -1;
-  const int error = beginning.start(QFile::encodeName(path), &process);
+  SocketProgram started;
+  const int error = startWithSocket(QFile::encodeName(path).toStdString(), &started);
   if (error != 0) return Failure{FailureKind::Io, path, Phrase::ofSystem(error)};
-  return HelperProcess(process, sockets.takeOurs());
+  return HelperProcess(started);
 }
 
+void HelperProcess::adopt(const SocketProgram &started) {
+  if (started.process < 0) return;
+  const std::lock_guard lock(prepared().mutex);
+  prepared().process.emplace(HelperProcess(started));
+}
+
+// Nobody waits for one that was killed: that takes as long as a small question.
 HelperProcess::~HelperProcess() {
   kill();
-  if (m_process > 0) ::waitpid(m_process, nullptr, 0);
+  if (m_process > 0) killed().add(m_process);
   if (m_socket >= 0) ::close(m_socket);
 }
 

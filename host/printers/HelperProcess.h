@@ -8,6 +8,7 @@
 #include <chrono>
 #include <utility>
 
+#include "host/printers/SocketProgram.h"
 #include "platform/system/Result.h"
 
 namespace orvek {
@@ -16,12 +17,12 @@ namespace orvek {
 /// process, which does not outlive this program either. Use it on one thread.
 class HelperProcess {
  public:
-  /// One that was prepared, or a new one. Fails with the helper's path where it can't be run.
+  /// The one that was adopted, or a new one. Fails with the helper's path where it can't be run.
   static Result<HelperProcess> start();
 
-  /// Has one ready, so that it loads while this program does. To be called on a thread that lasts
-  /// as long as the program.
-  static void prepare();
+  /// Takes over a helper that was started before, on a thread that lasts as long as the program;
+  /// none, where that failed.
+  static void adopt(const SocketProgram &started);
 
   ~HelperProcess();
   HelperProcess(HelperProcess &&other) noexcept
@@ -44,8 +45,8 @@ class HelperProcess {
   static void letFinish(HelperProcess process);
 
  private:
-  static Result<HelperProcess> startNew();
-  HelperProcess(pid_t process, int socket) : m_process(process), m_socket(socket) {}
+  explicit HelperProcess(const SocketProgram &started)
+      : m_process(started.process), m_socket(started.socket) {}
 
   /// -1: has ended.
   pid_t m_process;

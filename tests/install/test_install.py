@@ -66,7 +66,7 @@ class Installation(unittest.TestCase):
     def test_the_runtime_component_holds_programs_and_libraries_and_nothing_to_build_against(self):
         files = files_in(self.runtime)
         for path in ["bin/orvek-print", "bin/orvek-device", "libexec/orvek-print-server",
-                     "share/man/man1/orvek-print.1"]:
+                     f"{LIBDIR}/orvek-print/orvek-print.so", "share/man/man1/orvek-print.1"]:
             self.assertIn(path, files)
         for name in LIBRARIES:
             self.assertIn(f"{LIBDIR}/{name}.so.1", files)
@@ -141,6 +141,15 @@ class Installation(unittest.TestCase):
         asked = subprocess.run([f"{moved}/bin/orvek-print", "--list-printers"], env=environment,
                                capture_output=True, text=True, check=False)
         self.assertEqual(asked.stderr, f"orvek-print: {helper}: No such file or directory\n")
+        self.assertEqual(asked.returncode, 1)
+
+    def test_a_program_that_was_copied_without_its_module_says_so_in_one_line(self):
+        alone = os.path.join(self.folder, "alone")
+        os.makedirs(alone)
+        shutil.copy(f"{self.runtime}/bin/orvek-print", alone)
+        asked = subprocess.run([f"{alone}/orvek-print", "--version"], capture_output=True, text=True,
+                               check=False)
+        self.assertRegex(asked.stderr, r"^orvek-print: orvek-print\.so: .*; install the program again\n$")
         self.assertEqual(asked.returncode, 1)
 
     def test_moved_elsewhere_with_its_driver_the_program_prints_a_booklet_into_a_file(self):

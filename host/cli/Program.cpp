@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-// orvek-print: reads the command line, decides whether a window is wanted, and runs.
+// Reads the command line, decides whether a window is wanted, and runs.
+
+#include "host/cli/Program.h"
 
 #include <QApplication>
 #include <csignal>
@@ -15,7 +17,6 @@
 #include "host/printers/HelperProcess.h"
 #include "host/translations/Translations.h"
 #include "platform/system/MainBundle.h"
-#include "platform/system/StandardDescriptors.h"
 
 namespace {
 
@@ -52,12 +53,6 @@ Status checkDisplay() {
                  QStringLiteral("there is no display (DISPLAY is not set), use --headless")};
 }
 
-// One that asks for nothing but a PPD file's job has no use for a helper, or not soon.
-bool asksServerSoon(const CommandLine &line) {
-  if (line.listPrinters) return true;
-  return line.ppd.isNull() && !line.listPresets && line.deletePreset.isNull();
-}
-
 // A limit on the size of files is a failure of one file, not the end of the program. A handler, as
 // what is ignored would be ignored in the filters as well.
 void outliveFileSizeLimits() {
@@ -69,7 +64,6 @@ int start(const CommandLine &line, char **argv) {
   if (!needsNoWindow(line)) {
     if (const Status checked = checkDisplay(); !checked) return report(checked.failure());
   }
-  if (asksServerSoon(line)) HelperProcess::prepare();
   if (needsNoWindow(line)) qputenv("QT_QPA_PLATFORM", platformWithoutDisplay(line));
   shapeToolkitMessages();
   // The options are the program's own; the toolkit must not look for its among them.
@@ -86,8 +80,8 @@ int start(const CommandLine &line, char **argv) {
 
 }  // namespace
 
-int main(int argc, char **argv) {
-  openStandardDescriptors();
+extern "C" int orvekPrint(int argc, char **argv, orvek::SocketProgram helper) {
+  HelperProcess::adopt(helper);
   QByteArrayList words;
   for (int i = 1; i < argc; ++i) words << argv[i];
   const Result<CommandLine> line = parseCommandLine(words);

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: Apache-2.0
+// Programs beside this one, started with a socket as their standard input and nothing else open.
+// Needs the system alone: the toolkit may still have to be loaded.
+#pragma once
+
+#include <sys/types.h>
+
+#include <string>
+
+namespace orvek {
+
+/// A started program and this program's end of the socket. Plain data; whoever holds it waits for
+/// the one and closes the other.
+struct SocketProgram {
+  /// -1: none was started.
+  pid_t process = -1;
+  /// Does not block, and is none of the standard streams.
+  int socket = -1;
+};
+
+/// Starts the program with that path. Its standard output and error lead nowhere, its signals are
+/// as at the beginning. Gives 0, or else an errno value.
+int startWithSocket(const std::string &path, SocketProgram *started);
+
+/// A path that is relative to the folder of the running program.
+std::string besideThisProgram(const char *path);
+
+}  // namespace orvek

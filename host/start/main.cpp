@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: Apache-2.0
+// orvek-print: has the helper for print servers started, then loads the program itself. Loading the
+// toolkit takes as long as all that a short run does; the helper gets ready in that time.
+
+#include <dlfcn.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <string>
+#include <string_view>
+
+#include "host/cli/Program.h"
+#include "platform/system/StandardDescriptors.h"
+
+namespace {
+
+using namespace orvek;
+
+constexpr const char *helperPlace = "../" ORVEK_HELPER_FOLDER "/orvek-print-server";
+constexpr const char *programPlace = "../" ORVEK_PROGRAM_MODULE;
+
+/// What asks no print server, or not soon. Words that only look like these are read rightly later,
+/// when the helper is started all the same.
+bool asksNoServer(std::string_view word) {
+  constexpr std::array options{"--ppd", "--help", "--version", "--list-presets", "--delete-preset"};
+  return std::any_of(options.begin(), options.end(), [word](std::string_view option) {
+    return word == option || (word.starts_with(option) && word[option.size()] == '=');
+  });
+}
+
+/// Beside this program, wherever both were moved to; a copy of this one alone, out of the tree it
+/// was built in, finds it there.
+void *loadProgram() {
+  const std::string path = besideThisProgram(programPlace);
+  const bool isThere = ::access(path.c_str(), F_OK) == 0;
+  return ::dlopen(isThere ? path.c_str() : "orvek-print.so", RTLD_NOW | RTLD_GLOBAL);
+}
+
+int complain(const std::string &what) {
+  std::fprintf(stderr, "orvek-print: %s; install the program again\n", what.c_str());
+  return 1;
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+  openStandardDescriptors();
+  SocketProgram helper;
+  // Whoever asks will hear why there is none.
+  if (std::none_of(argv, argv + argc, asksNoServer)) {
+    startWithSocket(besideThisProgram(helperPlace), &helper);
+  }
+  void *module = loadProgram();
+  if (module == nullptr) return complain(::dlerror());
+  void *found = ::dlsym(module, "orvekPrint");
+  if (found == nullptr) return complain(::dlerror());
+  return reinterpret_cast<decltype(&orvekPrint)>(found)(argc, argv, helper);
+}
