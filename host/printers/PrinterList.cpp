@@ -77,11 +77,14 @@ Result<Queue> findPrinter(const ServerAccess &access, const QString &destination
 }
 
 Result<Queue> findPrinter(ServerTalk &talk, const QString &destination) {
+  if (const auto queue = talk.known(destination)) return *queue;
   const auto answer =
       talk.ask(ServerTask::Find, {{QLatin1String("destination"), fieldOf(destination)}});
   if (!answer) return answer.failure();
   const auto queue = queueFrom(answer.value());
-  return queue ? Result<Queue>(*queue) : talk.unreadable();
+  if (!queue) return talk.unreadable();
+  talk.noteFound(destination, *queue);
+  return *queue;
 }
 
 }  // namespace orvek

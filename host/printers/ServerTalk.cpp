@@ -17,6 +17,8 @@ constexpr int lookMilliseconds = 50;
 constexpr std::size_t blockBytes = 65536;
 /// Each in terms of how long a server may keep silent.
 constexpr qint64 connectingTakes = 3;
+// For which a connection is kept, as long as servers keep theirs at least.
+constexpr qint64 moment = 2000;
 constexpr qint64 answeringTakesHalves = 15;
 
 QString nameBeforeItIsKnown(const ServerAccess &access) {
@@ -69,8 +71,6 @@ void ServerTalk::close(std::unique_ptr<ServerTalk> talk) {
 }
 
 std::unique_ptr<ServerTalk> ServerTalk::takeKept(const ServerAccess &access) {
-  // Servers wait longer before they close a connection.
-  constexpr qint64 moment = 2000;
   const std::lock_guard lock(kept().mutex);
   std::unique_ptr<ServerTalk> talk = std::move(kept().talk);
   const bool isFit = talk && kept().since.elapsed() < moment &&
@@ -117,6 +117,17 @@ Result<Fields> ServerTalk::ask(ServerTask task, const QCborMap &fields) {
   if (answer.kind != MessageKind::Answer) return unreadable();
   Fields answered = Fields::of(answer.bytes);
   return answered.isSound() ? Result<Fields>(answered) : Result<Fields>(unreadable());
+}
+
+std::optional<Queue> ServerTalk::known(const QString &destination) const {
+  const bool isKnown =
+      m_found && m_found->destination == destination && m_found->since.elapsed() < moment;
+  return isKnown ? std::optional(m_found->queue) : std::nullopt;
+}
+
+void ServerTalk::noteFound(const QString &destination, const Queue &queue) {
+  m_found = {destination, queue, {}};
+  m_found->since.start();
 }
 
 void ServerTalk::begin(ServerTask task, const QCborMap &fields) {

@@ -5,9 +5,11 @@
 
 #include <QElapsedTimer>
 #include <memory>
+#include <optional>
 
 #include "host/printers/HelperProcess.h"
 #include "host/printers/Passwords.h"
+#include "host/printers/Queue.h"
 #include "host/printers/ServerAccess.h"
 #include "host/printers/ServerMessages.h"
 #include "platform/system/Result.h"
@@ -35,6 +37,11 @@ class ServerTalk {
 
   /// The description that came with the last answer; null where none did.
   const QByteArray &description() const { return m_description; }
+
+  /// The queue that was found on this connection by that name, for as long as a connection may be
+  /// kept: nobody asks twice in one moment. Nothing where none was.
+  std::optional<Queue> known(const QString &destination) const;
+  void noteFound(const QString &destination, const Queue &queue);
 
   // For a question with more to say than one answer
   void begin(ServerTask task, const QCborMap &fields);
@@ -76,6 +83,12 @@ class ServerTalk {
   MessageReader m_received;
   QByteArray m_description;
   QElapsedTimer m_clock;
+  struct Found {
+    QString destination;
+    Queue queue;
+    QElapsedTimer since;
+  };
+  std::optional<Found> m_found;
   /// Milliseconds of that in which the user was asked.
   qint64 m_asked = 0;
   bool m_isConnected = false;

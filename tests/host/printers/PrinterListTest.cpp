@@ -95,6 +95,16 @@ TEST_F(PrinterList, SaysThatAServerLacksThePrintersDriver) {
             QStringList{QStringLiteral("The printer's filter is missing")});
 }
 
+TEST_F(PrinterList, IsNotAskedTwiceInOneMomentForOneQueue) {
+  auto talk = ServerTalk::open({}).take();
+  ASSERT_TRUE(findPrinter(*talk, firstQueue));
+  cups->stop();
+  const auto again = findPrinter(*talk, firstQueue);
+  ASSERT_TRUE(again) << again.failure().line().toStdString();
+  EXPECT_EQ(again.value().location, QStringLiteral("Room 1"));
+  EXPECT_FALSE(findPrinter(*talk, QStringLiteral("another")));
+}
+
 TEST_F(PrinterList, ListsInstancesWithTheirOptions) {
   lpoptions({QStringLiteral("-p"), firstQueue + QStringLiteral("/draft"), QStringLiteral("-o"),
              QStringLiteral("OVKTonerSaving=True")});
