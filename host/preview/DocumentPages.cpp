@@ -7,7 +7,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
-#include <QRegularExpression>
 #include <optional>
 
 #include "host/jobs/BookletDriver.h"
@@ -15,6 +14,7 @@
 #include "host/jobs/FilterChain.h"
 #include "host/jobs/OptionText.h"
 #include "host/jobs/PdfReport.h"
+#include "host/ppd/Keyword.h"
 
 namespace orvek {
 namespace {
@@ -88,6 +88,16 @@ Result<DocumentPages> convert(const QString &path, const PrintedWith &with,
   return pages;
 }
 
+// No pattern, which takes longer to be made ready than a whole window to be built.
+bool comesLater(const QString &option) {
+  for (const char *beginning : {"OVK", "com.", "finishings", "job-"}) {
+    if (option.startsWith(QLatin1String(beginning), Qt::CaseInsensitive)) return true;
+  }
+  return isAnyOf(option, {"copies", "collate", "page-ranges", "page-set", "outputorder",
+                          "number-up", "number-up-layout", "sides", "duplex", "outputbin",
+                          "output-bin", "staplelocation", "punchmedia", "foldtype", "booklet"});
+}
+
 }  // namespace
 
 bool isPdfFile(const QString &path) {
@@ -98,15 +108,8 @@ bool isPdfFile(const QString &path) {
 
 // What places finished pages on sheets, and what finishes the sheets, changes no page.
 QMap<QString, QString> optionsForPages(const QMap<QString, QString> &options) {
-  static const QRegularExpression later(
-      QStringLiteral("^(OVK.*|com\\..*|copies|collate|page-ranges|page-set|outputorder|number-up"
-                     "|number-up-layout|sides|duplex|outputbin|output-bin|finishings.*|job-.*"
-                     "|staplelocation|punchmedia|foldtype|booklet)$"),
-      QRegularExpression::CaseInsensitiveOption);
   QMap<QString, QString> kept = options;
-  for (auto option = options.begin(); option != options.end(); ++option) {
-    if (later.match(option.key()).hasMatch()) kept.remove(option.key());
-  }
+  kept.removeIf([](const auto &option) { return comesLater(option.key()); });
   return kept;
 }
 

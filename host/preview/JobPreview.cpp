@@ -76,18 +76,12 @@ JobPreview::JobPreview(PrintSession &session, const QString &document, QWidget *
     : QWidget(parent),
       m_session(session),
       m_path(document),
-      m_job(sheetJobOf(session)),
-      m_with(printedWith(session)),
       m_pictures(new PagePictures(this)),
       m_view(new SheetsView(*m_pictures, this)),
       m_caption(new PlainLabel(this)) {
   m_pool.setMaxThreadCount(2);
-  m_document = sample(m_job.filters.paper);
   m_isRead = m_path.isEmpty();
   build();
-  m_pictures->setInGray(m_job.inGray);
-  connect(&session, &PrintSession::changed, this, &JobPreview::followSession);
-  layOut();
 }
 
 JobPreview::~JobPreview() {
@@ -149,12 +143,24 @@ const std::vector<imposition::PrintedSide> &JobPreview::sides() const {
 }
 
 bool JobPreview::isComplete() const {
-  return m_isRead && m_isLaidOut && m_pictures->isIdle();
+  return m_hasBegun && m_isRead && m_isLaidOut && m_pictures->isIdle();
 }
 
 void JobPreview::showEvent(QShowEvent *event) {
   QWidget::showEvent(event);
-  if (m_reading == 0 && !m_isRead && !comesOnce(m_path)) read();
+  QTimer::singleShot(0, this, &JobPreview::begin);
+}
+
+// After the first paint, which is not to wait for it.
+void JobPreview::begin() {
+  if (std::exchange(m_hasBegun, true)) return;
+  m_job = sheetJobOf(m_session);
+  m_with = printedWith(m_session);
+  m_document = sample(m_job.filters.paper);
+  m_pictures->setInGray(m_job.inGray);
+  connect(&m_session, &PrintSession::changed, this, &JobPreview::followSession);
+  layOut();
+  if (!m_isRead && !comesOnce(m_path)) read();
 }
 
 void JobPreview::followSession() {

@@ -29,7 +29,7 @@ class JobPreview final : public QWidget {
   JobPreview(PrintSession &session, const QString &document, QWidget *parent = nullptr);
   ~JobPreview() override;
 
-  /// Whether all that can be seen is there. Reading begins with the first show.
+  /// Whether all that can be seen is there. Nothing is before the first show has been painted.
   bool isComplete() const;
 
   const std::vector<imposition::PrintedSide> &sides() const;
@@ -39,6 +39,7 @@ class JobPreview final : public QWidget {
 
  private:
   void build();
+  void begin();
   QWidget *buildBar();
   void followSession();
   void read();
@@ -55,6 +56,7 @@ class JobPreview final : public QWidget {
   imposition::SheetJob m_job;
   PrintedWith m_with;
   DocumentPages m_document;
+  bool m_hasBegun = false;
   /// Pages are known, or known to be none.
   bool m_isRead = false;
   bool m_isSample = true;

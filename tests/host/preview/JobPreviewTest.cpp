@@ -69,6 +69,15 @@ class JobPreviewTest : public testing::Test {
   std::unique_ptr<JobPreview> preview;
 };
 
+TEST_F(JobPreviewTest, ReadsAndLaysOutNothingBeforeItsFirstPaint) {
+  JobPreview fresh(*session, sample);
+  fresh.show();
+  EXPECT_TRUE(fresh.sides().empty());
+  EXPECT_FALSE(fresh.isComplete());
+  ASSERT_TRUE(QTest::qWaitFor([&] { return fresh.isComplete(); }, patience));
+  EXPECT_FALSE(fresh.sides().empty());
+}
+
 TEST_F(JobPreviewTest, IsThereForEveryJobAndShowsTheDocument) {
   EXPECT_EQ(preview->sides().size(), 8U);
   EXPECT_EQ(text("previewPlace"), "Sheet 1 of 8");
