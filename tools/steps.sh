@@ -103,6 +103,12 @@ lint() {
   xargs -r -P "$(jobs)" -I '{}' bash -c 'lint_file "$1" "$2"' lint '{}' "$end"
 }
 
+# Compiled, not linked: whether they still fit the sources is all that is asked here.
+check_benchmarks() {
+  cmake --preset bench >/dev/null
+  ninja -C build-bench -t targets all | sed -n 's|^\(bench/.*\.o\): .*|\1|p' | xargs -r ninja -C build-bench
+}
+
 check_lint() {
   flags_for_lint
   tools/lint-all.py --jobs "$(jobs)" build/lint
