@@ -20,7 +20,7 @@ class FirstPrinter {
  public:
   using Answer = Result<SessionSetup>;
 
-  /// Asks for what a session as the command line has it begins with.
+  /// Asks for the printer that the command line names.
   FirstPrinter(const CommandLine &line, const std::shared_ptr<PasswordSource> &passwords);
   ~FirstPrinter();
   FirstPrinter(const FirstPrinter &) = delete;

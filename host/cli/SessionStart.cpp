@@ -30,7 +30,11 @@ Status gatherPrinter(const CommandLine &line, const std::shared_ptr<PasswordSour
   return {};
 }
 
-Status gatherTicket(const CommandLine &line, SessionSetup *setup) {
+// What the command line wishes of a session on whichever printer. A ticket may come by a pipe, so
+// it is read once.
+Status addWishes(const CommandLine &line, SessionSetup *setup) {
+  setup->marks = line.marks;
+  setup->panelsMayResize = line.resize;
   if (line.ticket.isNull()) return {};
   Result<TicketValues> ticket = readTicket(line.ticket);
   if (!ticket) return ticket.failure();
@@ -121,12 +125,6 @@ Result<PluginList> pluginsFor(const CommandLine &line) {
 
 }  // namespace
 
-Status addWishes(const CommandLine &line, SessionSetup *setup) {
-  setup->marks = line.marks;
-  setup->panelsMayResize = line.resize;
-  return gatherTicket(line, setup);
-}
-
 Result<SessionSetup> gatherSetup(const CommandLine &line,
                                  const std::shared_ptr<PasswordSource> &passwords,
                                  const std::atomic<bool> *cancelled) {
@@ -134,13 +132,14 @@ Result<SessionSetup> gatherSetup(const CommandLine &line,
   if (const Status gathered = gatherPrinter(line, passwords, cancelled, &setup); !gathered) {
     return gathered.failure();
   }
-  if (const Status added = addWishes(line, &setup); !added) return added.failure();
   return setup;
 }
 
 Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line,
                                                    const SessionSetup &setup) {
-  Result<std::unique_ptr<PrintSession>> begun = PrintSession::begin(setup);
+  SessionSetup wished = setup;
+  if (const Status added = addWishes(line, &wished); !added) return added.failure();
+  Result<std::unique_ptr<PrintSession>> begun = PrintSession::begin(wished);
   if (!begun) return begun;
   std::unique_ptr<PrintSession> session = begun.take();
   if (const Status applied = applyPresetAsAsked(line, *session); !applied) return applied.failure();

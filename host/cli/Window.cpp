@@ -111,9 +111,7 @@ void awaitFirst(const CommandLine &line, Awaited &awaited, DialogSetup *setup) {
   setup->beginSession = [&line, &awaited,
                          later = setup->beginSession](const SessionSetup &gathered) {
     if (std::exchange(awaited.isOver, true)) return later(gathered);
-    SessionSetup first = gathered;
-    const Status added = addWishes(line, &first);
-    return added ? startFirst(line, first) : Result<std::unique_ptr<PrintSession>>(added.failure());
+    return startFirst(line, gathered);
   };
 }
 

@@ -2,6 +2,7 @@
 // The window comes up at once and goes at once, whatever its print server does.
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -9,6 +10,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <array>
 
 #include "host/cli/Window.h"
 #include "host/dialog/NoticeBar.h"
@@ -143,6 +145,16 @@ class WindowLateServer : public WindowServer {
     return true;
   }
 
+  bool printOnceItIsThere() {
+    if (detail().startsWith(QStringLiteral("Asking"))) {
+      comeLate();
+      return false;
+    }
+    if (!button("printButton")->isEnabled()) return false;
+    QTest::mouseClick(button("printButton"), Qt::LeftButton);
+    return true;
+  }
+
   std::unique_ptr<PrivateCups> cups;
 
  private:
@@ -152,19 +164,27 @@ class WindowLateServer : public WindowServer {
 TEST_F(WindowLateServer, GetsTheJobAsTheCommandLineHasIt) {
   line.copies = 3;
   line.options = {{QStringLiteral("OVKFolding"), QStringLiteral("Saddle")}};
-  const Status done = run([this] {
-    if (!detail().startsWith(QStringLiteral("Asking"))) {
-      if (!button("printButton")->isEnabled()) return false;
-      QTest::mouseClick(button("printButton"), Qt::LeftButton);
-      return true;
-    }
-    comeLate();
-    return false;
-  });
+  const Status done = run([this] { return printOnceItIsThere(); });
   ASSERT_TRUE(done) << done.failure().line().toStdString();
   EXPECT_EQ(cups->waitForJob(1), QStringLiteral("completed"));
   EXPECT_EQ(cups->jobAttributes(1).value(QStringLiteral("copies")), QStringLiteral("3"));
   EXPECT_EQ(cups->jobAttributes(1).value(QStringLiteral("OVKFolding")), QStringLiteral("Saddle"));
+}
+
+TEST_F(WindowLateServer, LosesNoTicketThatCanBeReadOnce) {
+  std::array<int, 2> ends{};
+  ASSERT_EQ(::pipe(ends.data()), 0);
+  const QByteArray ticket = R"({"OVKGutter": 30})";
+  ASSERT_EQ(::write(ends[1], ticket.constData(), static_cast<std::size_t>(ticket.size())),
+            ticket.size());
+  ::close(ends[1]);
+  // As a shell names it that was told "--ticket <(...)".
+  line.ticket = QStringLiteral("/dev/fd/%1").arg(ends[0]);
+  const Status done = run([this] { return printOnceItIsThere(); });
+  ::close(ends[0]);
+  ASSERT_TRUE(done) << done.failure().line().toStdString();
+  EXPECT_EQ(cups->waitForJob(1), QStringLiteral("completed"));
+  EXPECT_EQ(cups->jobAttributes(1).value(QStringLiteral("OVKGutter")), QStringLiteral("30"));
 }
 
 TEST_F(WindowLateServer, EndsTheWindowWhereTheCommandLineIsWrong) {
