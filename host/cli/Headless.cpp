@@ -63,7 +63,6 @@ bool prints(const CommandLine &line) {
 
 /// What comes once is read at once where it is to be looked at as well as printed; else it goes
 /// through block by block. Without a name standard input is a document only of those who print.
-/// That nothing came is for these to say, in their turn.
 Result<SeenDocuments> seenDocuments(const CommandLine &line, DocumentFiles &copies) {
   SeenDocuments seen{line.files, prints(line)};
   if (seen.files.isEmpty() && prints(line)) seen.files << standardInput();
@@ -73,8 +72,6 @@ Result<SeenDocuments> seenDocuments(const CommandLine &line, DocumentFiles &copi
   const auto files = copies.of(seen.files, JobControl());
   if (files) {
     seen.files = files.value();
-  } else if (seen.arePrinted && files.failure().why != emptyDocument({}).why) {
-    return files.failure();
   } else {
     seen.unread = files.failure();
   }
@@ -129,6 +126,9 @@ Status runHeadless(const CommandLine &line) {
   const Status written = saveAndWrite(line, session, documents.value());
   for (const QString &sentence : session.record().notices()) tell(sentence);
   if (!written) return written;
+  // Nobody may read it again: a pipe would be waited for without an end.
+  const auto &unread = documents.value().unread;
+  if (documents.value().arePrinted && unread) return *unread;
   if (Status printed = printAsAsked(line, session, documents.value().files, passwords); !printed) {
     return printed;
   }

@@ -111,6 +111,19 @@ TEST(ProgramFiles, GoIntoAPipe) {
   EXPECT_TRUE(run.output.startsWith(start));
 }
 
+TEST(ProgramFiles, AreNotWaitedForTwiceWhereTheyAreEmptyPipes) {
+  for (const char *job : {"--output out", "--print -d office -h 127.0.0.1:1"}) {
+    const QTemporaryDir dir;
+    const ProgramRun run = runScript(QStringLiteral("cd %1; mkfifo pipe; : >pipe &\n"
+                                                    "timeout 10 $program %2 --inspect pipe\n")
+                                         .arg(dir.path(), QLatin1String(job)));
+    EXPECT_EQ(run.status, 1) << job;
+    EXPECT_EQ(run.errorLines(),
+              QByteArrayList{"orvek-print: pipe: is empty, so there is nothing to print"});
+    EXPECT_EQ(run.output, "");
+  }
+}
+
 TEST(ProgramFiles, GoBeforeWhatFollowsOnTheSameStream) {
   const QTemporaryDir dir;
   const ProgramRun run = runScript(QStringLiteral("cd %1; (echo first\n"
