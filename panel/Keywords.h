@@ -21,7 +21,6 @@ inline constexpr const char *paperSizeKeyword = "PageSize";
 inline constexpr const char *finisherKeyword = "OVKOptionFinisher";
 inline constexpr const char *offsetBinKeyword = "OVKOptionOffsetBin";
 inline constexpr const char *punchUnitKeyword = "OVKOptionPunch";
-inline constexpr const char *hasBookletAttribute = "OVKHasBooklet";
 
 /// The calling application's name in the ticket.
 inline constexpr QLatin1String appNameKey{"OVKAppName"};

@@ -8,11 +8,10 @@
 #include "host/ppd/CustomValue.h"
 #include "host/ticket/BookletSettings.h"
 #include "platform/plugin/BookletKeys.h"
+#include "platform/plugin/FinishingKeywords.h"
 
 namespace orvek {
 namespace {
-
-constexpr const char *bookletMakerAttribute = "OVKHasBooklet";
 
 /// The words of this file, for translation.
 struct Text {
@@ -51,7 +50,7 @@ QString problemOf(const PrinterDescription &printer, const OptionChoice &choice,
 }
 
 bool makesBooklets(const PrinterDescription &printer) {
-  return printer.attribute(bookletMakerAttribute) == trueValue;
+  return printer.attribute(hasBookletAttribute) == trueValue;
 }
 
 void takeOutBooklet(PresetFit *fit) {

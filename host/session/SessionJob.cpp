@@ -8,15 +8,11 @@
 #include "host/ticket/BookletSettings.h"
 #include "host/ticket/JobOptionNames.h"
 #include "host/ticket/ServerWords.h"
+#include "imposition/SheetOptions.h"
 #include "platform/plugin/BookletKeys.h"
 #include "platform/system/OptionMap.h"
 
 namespace orvek {
-namespace {
-
-const QString paperOption = QStringLiteral("PageSize");
-
-}  // namespace
 
 bool SessionJob::printerCollates() const {
   return m_session.marks().printer().has(collateOption);
@@ -94,7 +90,8 @@ void SessionJob::setPagesPerSheet(int pages) {
 }
 
 QString SessionJob::sheetPaper() const {
-  const auto papers = m_session.marks().printer().option(paperOption).choices();
+  const auto papers =
+      m_session.marks().printer().option(QLatin1String(imposition::sheetPaperOption)).choices();
   const int target = bookletSettings(m_session.ticket().values()).targetPaper;
   const auto choice = imposition::targetPaperChoice(target, static_cast<int>(papers.size()));
   return choice ? papers[*choice].keyword : QString();

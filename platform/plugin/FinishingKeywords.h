@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// The names in a PPD by which a printer staples, folds and punches, where the panel that sets them
-// and the host that warns of what they lead to agree.
+// The names in a PPD by which a printer staples, folds, punches and makes booklets, where the panel
+// that sets them and the host that warns of what they lead to agree.
 #pragma once
 
 namespace orvek {
@@ -11,6 +11,9 @@ inline constexpr const char *punchKeyword = "OVKPunching";
 
 /// The choice of foldingKeyword that folds the sheets of a booklet at its spine.
 inline constexpr const char *saddleFold = "Saddle";
+
+/// Whether the printer makes booklets: "True".
+inline constexpr const char *hasBookletAttribute = "OVKHasBooklet";
 
 /// How many sheets the printer folds at once: a whole number.
 inline constexpr const char *maximumBookletSheetsAttribute = "OVKBookletMaximumSheets";
