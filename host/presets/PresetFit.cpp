@@ -9,6 +9,7 @@
 #include "host/ticket/BookletSettings.h"
 #include "platform/plugin/BookletKeys.h"
 #include "platform/plugin/FinishingKeywords.h"
+#include "platform/system/OptionMap.h"
 
 namespace orvek {
 namespace {
@@ -56,10 +57,8 @@ bool makesBooklets(const PrinterDescription &printer) {
 void takeOutBooklet(PresetFit *fit) {
   fit->misfits << PresetMisfit{enableBookletKey, trueValue,
                                Text::tr("this printer makes no booklets")};
-  for (const QLatin1String key : {enableBookletKey, rightToLeftKey, pageBordersKey, gutterKey,
-                                  creepKey, targetPaperSizeKey}) {
-    fit->ticket.remove(key);
-  }
+  for (const QLatin1String key : bookletFlags) removeNamed(&fit->ticket, key);
+  for (const QLatin1String key : bookletNumbers) removeNamed(&fit->ticket, key);
 }
 
 }  // namespace

@@ -95,5 +95,16 @@ TEST_F(PresetFitTest, TakesOutTheBookletOfAPrinterThatMakesNone) {
   EXPECT_EQ(fitPreset(preset, *printer).ticket.size(), 4);
 }
 
+TEST_F(PresetFitTest, TakesOutABookletInWhateverSpellingItIsAsked) {
+  const auto small = PrinterDescription::open(orvekPPD(QStringLiteral("2120"))).take();
+  Preset preset = presetOf({});
+  preset.ticket.insert(QStringLiteral("ovkenablebooklet"), QStringLiteral("True"));
+  preset.ticket.insert(QStringLiteral("OVKCREEP"), QStringLiteral("3"));
+  const PresetFit fit = fitPreset(preset, *small);
+  EXPECT_EQ(linesOf(fit),
+            QStringList{QStringLiteral("OVKEnableBooklet=True: this printer makes no booklets")});
+  EXPECT_TRUE(fit.ticket.isEmpty()) << fit.ticket.keys().join(u' ').toStdString();
+}
+
 }  // namespace
 }  // namespace orvek::test
