@@ -4,36 +4,15 @@
 #include "host/cli/PrintJob.h"
 
 #include "host/cli/Console.h"
-#include "host/jobs/Document.h"
 #include "host/jobs/DocumentInfo.h"
 #include "host/jobs/FilterChain.h"
 #include "host/jobs/QueueJob.h"
+#include "host/jobs/ReadJob.h"
 #include "host/printers/Queue.h"
 #include "host/session/JobWarnings.h"
 
 namespace orvek {
 namespace {
-
-/// A job, and the files that stand for its documents.
-struct ReadJob {
-  JobRequest request;
-  QStringList files;
-
-  /// The job on those files, under its own title.
-  JobRequest onFiles() const {
-    JobRequest job = request;
-    job.title = effectiveTitle(request);
-    job.files = files;
-    return job;
-  }
-
-  /// A failure of a file said of the document that it stands for.
-  Failure named(Failure failure) const {
-    const qsizetype document = files.indexOf(failure.what);
-    if (document >= 0) failure.what = documentName(effectiveFiles(request).value(document));
-    return failure;
-  }
-};
 
 Status printIntoFile(const ReadJob &job) {
   JobControl control;

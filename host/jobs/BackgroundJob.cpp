@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "host/jobs/Document.h"
+#include "host/jobs/ReadJob.h"
 
 namespace orvek {
 namespace {
@@ -50,10 +51,10 @@ Result<JobOutcome> BackgroundJob::run(const JobRequest &request, const Work &wor
   if (std::none_of(documents.begin(), documents.end(), comesOnce)) return work(request, control);
   const auto files = m_files->of(documents, control);
   if (!files) return files.failure();
-  JobRequest readable = request;
-  readable.title = effectiveTitle(request);
-  readable.files = files.value();
-  return work(readable, control);
+  const ReadJob job{request, files.value()};
+  auto outcome = work(job.onFiles(), control);
+  if (outcome) return outcome;
+  return job.named(outcome.failure());
 }
 
 void BackgroundJob::cancel() {

@@ -27,7 +27,7 @@ class BackgroundJob : public QObject {
   ~BackgroundJob() override;
 
   /// Starts; does nothing while a job runs. Where a document comes once only, `work` is given
-  /// a file with what came in its place.
+  /// a file with what came in its place; what it says of that file is said of the document.
   void start(const JobRequest &request, Work work);
 
   /// Asks the job to end. `failed` follows, of the kind Cancelled; at once where possible.

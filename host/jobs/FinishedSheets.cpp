@@ -13,6 +13,7 @@
 #include "host/jobs/InputSpool.h"
 #include "host/jobs/OptionText.h"
 #include "host/jobs/OutputTarget.h"
+#include "host/jobs/ReadJob.h"
 #include "host/printers/Queue.h"
 #include "imposition/SheetOptions.h"
 #include "platform/system/OptionMap.h"
@@ -105,9 +106,11 @@ Status runInto(const QString &file, const FilterProgram &program, const Phrase &
 
 /// One document on its way.
 struct OneDocument {
+  QString document;
   QString file;
-  Phrase name;
   QString output;
+
+  Phrase name() const { return documentName(document); }
 };
 
 Status imposeInto(const OneDocument &document, const JobRequest &request, JobControl &control) {
@@ -122,7 +125,7 @@ Status imposeInto(const OneDocument &document, const JobRequest &request, JobCon
   const QString pages = document.output + QStringLiteral(".pages");
   const auto toPages = filterToolCall(request, tool.value(), path,
                                       QStringLiteral("application/vnd.cups-pdf"), document.file);
-  if (Status made = runInto(pages, toPages, document.name, request.ppdFile, control); !made) {
+  if (Status made = runInto(pages, toPages, document.name(), request.ppdFile, control); !made) {
     return made;
   }
   const QString anything = QStringLiteral("1");
@@ -132,20 +135,18 @@ Status imposeInto(const OneDocument &document, const JobRequest &request, JobCon
        textOf(effectiveOptions(request)), pages},
       {{QStringLiteral("PPD"), path}}};
   const Status imposed =
-      runInto(document.output, toSheets, document.name, request.ppdFile, control);
+      runInto(document.output, toSheets, document.name(), request.ppdFile, control);
   QFile::remove(pages);
   return imposed;
 }
 
 Status printInto(const OneDocument &document, JobRequest request, JobControl &control) {
   request.title = effectiveTitle(request);
-  request.files = QStringList{document.file};
+  request.files = QStringList{document.document};
   request.outputFile = document.output;
-  const auto printed = printThroughFilters(request, control);
-  if (printed) return {};
-  Failure failure = printed.failure();
-  if (failure.what == document.file) failure.what = document.name;
-  return failure;
+  const ReadJob job{request, {document.file}};
+  const auto printed = printThroughFilters(job.onFiles(), control);
+  return printed ? Status() : job.named(printed.failure());
 }
 
 }  // namespace
@@ -174,7 +175,7 @@ Result<std::unique_ptr<FinishedSheets>> FinishedSheets::of(const JobRequest &req
     const auto place =
         sheets->placeFor(document, areForDevice ? QStringLiteral(".ps") : QStringLiteral(".pdf"));
     if (!place) return place.failure();
-    const OneDocument one{files.value().constFirst(), documentName(document), place.value()};
+    const OneDocument one{document, files.value().constFirst(), place.value()};
     const Status made = areForDevice ? printInto(one, job, control) : imposeInto(one, job, control);
     if (!made) return made.failure();
     sheets->m_request.files << one.output;

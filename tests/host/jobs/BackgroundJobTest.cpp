@@ -117,6 +117,17 @@ TEST_F(BackgroundJobWithInput, IsGivenItAgainAtTheSecondTry) {
   EXPECT_EQ(printed(), "once (stdin)");
 }
 
+TEST_F(BackgroundJobWithInput, IsCalledByItsOwnNameInAFailure) {
+  const StandardInput input(QByteArray("odd"));
+  QSignalSpy failed(&job, &BackgroundJob::failed);
+  job.start({}, [](const JobRequest &given, JobControl &) -> Result<JobOutcome> {
+    return Failure{FailureKind::Io, given.files.value(0), QStringLiteral("its type is unknown")};
+  });
+  ASSERT_TRUE(failed.wait(patience));
+  EXPECT_EQ(failed.takeFirst().at(0).value<Failure>().line(),
+            QStringLiteral("standard input: its type is unknown"));
+}
+
 TEST_F(BackgroundJobWithInput, IsCancelledWhileNothingComesIn) {
   int ends[2];
   ASSERT_EQ(::pipe(ends), 0);
