@@ -13,6 +13,7 @@
 #include "host/jobs/DocumentInfo.h"
 #include "host/jobs/FilterRun.h"
 #include "host/jobs/InputSpool.h"
+#include "platform/system/OptionMap.h"
 
 namespace orvek {
 namespace {
@@ -41,14 +42,14 @@ bool beginsWithin(const QString &pageRanges, int pages) {
 
 /// Filters make anything from nothing to a damaged file where no page is left.
 Status checkPagesOf(const QString &file, const Phrase &name, const JobRequest &request) {
-  const QString ranges = effectiveOptions(request).value(QStringLiteral("page-ranges"));
-  if (ranges.isEmpty()) return {};
+  const auto ranges = valueNamed(effectiveOptions(request), u"page-ranges");
+  if (!ranges || ranges->isEmpty()) return {};
   const int pages = documentInfo(file).pages;
-  if (pages == 0 || beginsWithin(ranges, pages)) return {};
+  if (pages == 0 || beginsWithin(*ranges, pages)) return {};
   return Failure{
       FailureKind::Io, name,
       Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "has no page %1: the number of its pages is %2"),
-             {ranges, QString::number(pages)})};
+             {*ranges, QString::number(pages)})};
 }
 
 /// Other than by name: a file may have several.

@@ -14,6 +14,7 @@
 #include "host/jobs/FilterMessages.h"
 #include "host/jobs/OptionText.h"
 #include "host/jobs/ToolEnvironment.h"
+#include "platform/system/OptionMap.h"
 
 namespace orvek {
 namespace {
@@ -107,7 +108,8 @@ FilterProgram filterToolCall(const JobRequest &request, const QString &tool, con
   if (!request.user.isEmpty()) arguments << QStringLiteral("-U") << request.user;
   auto options = effectiveOptions(request);
   // Filters are told the copies apart from the options, and some multiply them if told both ways.
-  const QString copies = options.take(QStringLiteral("copies"));
+  const QString copies = valueNamed(options, u"copies").value_or(QString());
+  removeNamed(&options, u"copies");
   if (!copies.isEmpty()) arguments << QStringLiteral("-n") << copies;
   for (auto option = options.cbegin(); option != options.cend(); ++option) {
     arguments << QStringLiteral("-o") << filterToolOptionText(option.key(), option.value());

@@ -8,6 +8,7 @@
 #include <array>
 
 #include "host/jobs/BookletDriver.h"
+#include "platform/system/OptionMap.h"
 
 namespace orvek {
 namespace {
@@ -19,11 +20,11 @@ const QString untrustedFilter = QStringLiteral("cups-insecure-filter");
 constexpr std::array deviceFormats{CUPS_FORMAT_RAW, "application/vnd.cups-postscript"};
 
 bool isDeviceReady(const QMap<QString, QString> &options) {
-  const QString format = options.value(QStringLiteral("document-format"));
+  const auto format = valueNamed(options, u"document-format");
   for (const char *ready : deviceFormats) {
     if (format == QLatin1String(ready)) return true;
   }
-  return options.contains(QStringLiteral("raw"));
+  return valueNamed(options, u"raw").has_value();
 }
 
 bool lacksAFilter(const QString &stateReasons) {

@@ -125,6 +125,18 @@ TEST_F(FilterChain, SaysThatThePagesAskedForAreNotThere) {
   EXPECT_EQ(failureLine(), "no failure");
 }
 
+TEST_F(FilterChain, KnowsOptionsInLettersOfEitherCase) {
+  request.options = {{QStringLiteral("Page-Ranges"), QStringLiteral("9")}};
+  EXPECT_EQ(failureLine(),
+            document.toStdString() + ": has no page 9: the number of its pages is 2");
+  const CapturingFilter filter;
+  request.ppdFile = filter.ppdFile();
+  request.options = {{QStringLiteral("Copies"), QStringLiteral("3")}};
+  EXPECT_EQ(failureLine(), "no failure");
+  EXPECT_EQ(filter.argument(4), QStringLiteral("3"));
+  EXPECT_TRUE(filter.options().isEmpty());
+}
+
 TEST_F(FilterChain, RefusesToWriteOverItsDocument) {
   const QString link = folder.filePath(QStringLiteral("link.ps"));
   QFile::link(document, link);
