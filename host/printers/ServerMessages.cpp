@@ -4,7 +4,8 @@
 #include "host/printers/ServerMessages.h"
 
 #include <QtEndian>
-#include <algorithm>
+
+#include "platform/system/OneLine.h"
 
 namespace orvek {
 namespace {
@@ -31,10 +32,8 @@ QCborValue fieldOfPhrase(const Phrase &phrase) {
 }
 
 // A server's words end up in a window or on a terminal.
-QString plain(QString words) {
-  const auto isControl = [](QChar c) { return c.category() == QChar::Other_Control; };
-  std::replace_if(words.begin(), words.end(), isControl, u' ');
-  return words;
+QString plain(const QString &words) {
+  return QString::fromStdString(oneLine(words.toStdString()));
 }
 
 Phrase phraseIn(const QCborValue &value, int depth) {

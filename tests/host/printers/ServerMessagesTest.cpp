@@ -106,6 +106,8 @@ TEST(FailureMessage, KeepsItsSentencesForTranslation) {
 TEST(FailureMessage, HasNoCharactersThatMoveACursor) {
   const Failure failure{FailureKind::Io, QStringLiteral("a\x1b[2Jb"), QStringLiteral("c\nd")};
   EXPECT_EQ(failureIn(failedMessage(failure)).line(), QStringLiteral("a [2Jb: c d"));
+  const Failure turning{FailureKind::Io, QStringLiteral("a\u202Eb"), QStringLiteral("c\u2028d")};
+  EXPECT_EQ(failureIn(failedMessage(turning)).line(), QStringLiteral("a b: c d"));
 }
 
 TEST(FailureMessage, SaysThatItCannotBeReadWhereThatIsSo) {
