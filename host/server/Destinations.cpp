@@ -3,7 +3,10 @@
 
 #include "host/server/Destinations.h"
 
+#include <QMap>
+
 #include "host/printers/Queue.h"
+#include "host/server/Request.h"
 
 namespace orvek {
 namespace {
@@ -24,6 +27,14 @@ class Destinations {
   int m_count = 0;
 };
 
+/// Whether the last answer of libcups is one at all: it gives no queue for a server that refuses,
+/// too.
+bool serverAnswered(const CupsConnection &connection) {
+  if (connection.isBroken() || connection.lacksPassword()) return false;
+  const ipp_status_t status = cupsLastError();
+  return status < IPP_STATUS_REDIRECTION_OTHER_SITE || status == IPP_STATUS_ERROR_NOT_FOUND;
+}
+
 /// What drivers and devices said last, by queue. libcups leaves it out of the destinations.
 Result<QMap<QString, QString>> stateMessages(const CupsConnection &connection) {
   static const char *const attributes[] = {"printer-name", "printer-state-message"};
@@ -31,17 +42,16 @@ Result<QMap<QString, QString>> stateMessages(const CupsConnection &connection) {
   ipp_t *request = ippNewRequest(IPP_OP_CUPS_GET_PRINTERS);
   ippAddStrings(request, IPP_TAG_OPERATION, IPP_CONST_TAG(IPP_TAG_KEYWORD), "requested-attributes",
                 attributeCount, nullptr, attributes);
-  ipp_t *response = cupsDoRequest(connection.http(), request, "/");
-  if (response == nullptr || connection.isBroken() || !serverAnswered(connection)) {
-    ippDelete(response);
+  const IppHandle response(cupsDoRequest(connection.http(), request, "/"));
+  if (!response || !serverAnswered(connection)) {
     return connection.lastFailure(connection.serverName());
   }
   QMap<QString, QString> messages;
   QString name;
   QString message;
   // Within a queue's group the two come in any order; a group ends with an unnamed attribute.
-  for (auto *attribute = ippFirstAttribute(response); attribute;
-       attribute = ippNextAttribute(response)) {
+  for (auto *attribute = ippFirstAttribute(response.get()); attribute;
+       attribute = ippNextAttribute(response.get())) {
     const QByteArray keyword(ippGetName(attribute));
     if (keyword.isNull()) {
       name.clear();
@@ -53,7 +63,6 @@ Result<QMap<QString, QString>> stateMessages(const CupsConnection &connection) {
     }
     if (!name.isEmpty() && !message.isEmpty()) messages.insert(name, message);
   }
-  ippDelete(response);
   return messages;
 }
 
@@ -91,67 +100,49 @@ Failure noDefault(const CupsConnection &connection) {
       Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "there is no default printer; name one with -d"))};
 }
 
-FoundQueue foundFrom(const cups_dest_t &found) {
-  FoundQueue destination{
-      QString::fromUtf8(found.name), QString::fromUtf8(found.instance), found.is_default != 0, {}};
-  for (int i = 0; i < found.num_options; ++i) {
-    destination.options.insert(QString::fromUtf8(found.options[i].name),
-                               QString::fromUtf8(found.options[i].value));
+QCborMap fieldsOf(const cups_dest_t &queue, const QString &message) {
+  QMap<QString, QString> options;
+  for (int i = 0; i < queue.num_options; ++i) {
+    options.insert(QString::fromUtf8(queue.options[i].name),
+                   QString::fromUtf8(queue.options[i].value));
   }
-  return destination;
-}
-
-QCborMap fieldsOf(const FoundQueue &destination, const QString &message) {
-  return {{QLatin1String("name"), fieldOf(destination.name)},
-          {QLatin1String("instance"), fieldOf(destination.instance)},
-          {QLatin1String("default"), destination.isDefault},
+  return {{QLatin1String("name"), fieldOf(QString::fromUtf8(queue.name))},
+          {QLatin1String("instance"), fieldOf(QString::fromUtf8(queue.instance))},
+          {QLatin1String("default"), queue.is_default != 0},
           {QLatin1String("message"), fieldOf(message)},
-          {QLatin1String("options"), fieldOf(destination.options)}};
+          {QLatin1String("options"), fieldOf(options)}};
 }
 
 }  // namespace
 
-bool serverAnswered(const CupsConnection &connection) {
-  const ipp_status_t status = cupsLastError();
-  if (connection.lacksPassword()) return false;
-  return status < IPP_STATUS_REDIRECTION_OTHER_SITE || status == IPP_STATUS_ERROR_NOT_FOUND;
-}
-
-Result<FoundQueue> findDestination(const CupsConnection &connection, const QString &wanted) {
+Result<QCborMap> findDestinationAsAsked(const CupsConnection &connection, Fields fields) {
   if (const Status answers = checkAnswers(connection); !answers) return answers.failure();
+  const QString wanted = fields.text("destination");
   const Destination parts = destinationFrom(wanted);
   const QByteArray name = parts.queue.toUtf8();
   const QByteArray instance = parts.instance.toUtf8();
   cups_dest_t *found =
       cupsGetNamedDest(connection.http(), name.isEmpty() ? nullptr : name.constData(),
                        instance.isEmpty() ? nullptr : instance.constData());
-  if (!found) {
-    if (connection.isBroken() || !serverAnswered(connection)) {
-      return connection.lastFailure(connection.serverName());
-    }
-    return wanted.isEmpty() ? noDefault(connection) : noSuchPrinter(connection, wanted);
+  if (found != nullptr) {
+    const QCborMap answer = fieldsOf(*found, {});
+    cupsFreeDests(1, found);
+    return answer;
   }
-  const FoundQueue destination = foundFrom(*found);
-  cupsFreeDests(1, found);
-  return destination;
-}
-
-Result<QCborMap> findDestinationAsAsked(const CupsConnection &connection, Fields fields) {
-  const auto found = findDestination(connection, fields.text("destination"));
-  return found ? Result<QCborMap>(fieldsOf(found.value(), {})) : found.failure();
+  if (!serverAnswered(connection)) return connection.lastFailure(connection.serverName());
+  return wanted.isEmpty() ? noDefault(connection) : noSuchPrinter(connection, wanted);
 }
 
 Result<QCborMap> listDestinations(const CupsConnection &connection) {
   const Destinations destinations(connection.http());
-  if (destinations.count() == 0 && (connection.isBroken() || !serverAnswered(connection))) {
+  if (destinations.count() == 0 && !serverAnswered(connection)) {
     return connection.lastFailure(connection.serverName());
   }
   const auto messages = stateMessages(connection);
   if (!messages) return messages.failure();
   QCborArray queues;
-  for (const cups_dest_t &found : destinations) {
-    const FoundQueue destination = foundFrom(found);
-    queues << fieldsOf(destination, messages.value().value(destination.name));
+  for (const cups_dest_t &queue : destinations) {
+    queues << fieldsOf(queue, messages.value().value(QString::fromUtf8(queue.name)));
   }
   return QCborMap{{QLatin1String("queues"), queues}};
 }

@@ -12,6 +12,16 @@ constexpr int mostRounds = 12;  // passwords, new connections, encryption
 constexpr std::size_t blockBytes = 65536;
 constexpr qsizetype largestPPD = 64 << 20;
 
+/// A server's answer. Plain data.
+struct PPDAnswer {
+  /// OK; NOT_MODIFIED; NOT_FOUND; why not.
+  http_status_t status = HTTP_STATUS_ERROR;
+  /// Where OK.
+  QByteArray ppd;
+  /// Where OK: when it was changed last.
+  time_t date = 0;
+};
+
 bool reconnect(http_t *http) {
   return httpReconnect2(http, connectMilliseconds, nullptr) == 0;
 }
@@ -58,15 +68,6 @@ PPDAnswer readAnswer(http_t *http) {
   return answer;
 }
 
-Phrase whyNoPPD(http_status_t status) {
-  if (status == HTTP_STATUS_ERROR) return unreadableAnswer();
-  return Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
-                                  "the print server does not give its printer description (%1)"),
-                {QString::fromUtf8(httpStatus(status))});
-}
-
-}  // namespace
-
 PPDAnswer downloadPPD(http_t *http, const QString &queue, time_t date) {
   std::array<char, HTTP_MAX_URI> coded{};
   httpAssembleURIf(HTTP_URI_CODING_ALL, coded.data(), int(coded.size()), "http", nullptr, "x", 0,
@@ -81,6 +82,15 @@ PPDAnswer downloadPPD(http_t *http, const QString &queue, time_t date) {
   httpFlush(http);
   return {status, {}, 0};
 }
+
+Phrase whyNoPPD(http_status_t status) {
+  if (status == HTTP_STATUS_ERROR) return unreadableAnswer();
+  return Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
+                                  "the print server does not give its printer description (%1)"),
+                {QString::fromUtf8(httpStatus(status))});
+}
+
+}  // namespace
 
 Result<QCborMap> downloadPPDAsAsked(const CupsConnection &connection, Fields fields) {
   const QString queue = fields.text("queue");
