@@ -29,8 +29,6 @@ struct Sending {
 struct Upload {
   QString name;
   bool isLast = false;
-  /// Where there is a next attempt, the number of this one's request is of no more use.
-  int requestId = 0;
 };
 
 QByteArray formatOf(const CupsOptions &options) {
@@ -57,13 +55,6 @@ ipp_t *requestFor(const Sending &job, const Upload &upload) {
                job.format.constData());
   ippAddBoolean(request, IPP_TAG_OPERATION, "last-document", upload.isLast ? 1 : 0);
   return request;
-}
-
-http_status_t begin(const Sending &job, Upload *upload) {
-  const IppHandle request(requestFor(job, *upload));
-  upload->requestId = ippGetRequestId(request.get());
-  return cupsSendRequest(job.connection.http(), request.get(), job.resource.constData(),
-                         CUPS_LENGTH_VARIABLE);
 }
 
 // What of an earlier attempt is still on its way here comes before it.
@@ -100,22 +91,25 @@ bool mustSendAgain(const CupsConnection &connection, const IppHandle &answer) {
 }
 
 /// Whether it is there; else it must be sent again.
-Result<bool> tryDocument(const Sending &job, int number, Upload *upload) {
+Result<bool> tryDocument(const Sending &job, int number, const Upload &upload) {
   const CupsConnection &connection = job.connection;
   awaitBegin(connection.link(), number);
-  http_status_t status = begin(job, upload);
+  const IppHandle request(requestFor(job, upload));
+  const int requestId = ippGetRequestId(request.get());
+  http_status_t status = cupsSendRequest(connection.http(), request.get(), job.resource.constData(),
+                                         CUPS_LENGTH_VARIABLE);
   if (status == HTTP_STATUS_CONTINUE) status = sendBlocks(connection);
   if (status == HTTP_STATUS_UNAUTHORIZED && signIn(job)) return false;
   if (status != HTTP_STATUS_CONTINUE) return connection.lastFailure(document);
   const IppHandle answer(cupsGetResponse(connection.http(), job.resource.constData()));
-  if (isGoodAnswer(connection, answer.get(), upload->requestId)) return true;
+  if (isGoodAnswer(connection, answer.get(), requestId)) return true;
   if (mustSendAgain(connection, answer)) return false;
-  return badAnswer(connection, answer.get(), upload->requestId, document);
+  return badAnswer(connection, answer.get(), requestId, document);
 }
 
-Status sendDocument(const Sending &job, int number, Upload upload) {
+Status sendDocument(const Sending &job, int number, const Upload &upload) {
   for (int round = 0; round < mostRounds; ++round) {
-    const auto sent = tryDocument(job, number, &upload);
+    const auto sent = tryDocument(job, number, upload);
     if (!sent) return sent.failure();
     if (sent.value()) return {};
   }
