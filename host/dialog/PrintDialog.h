@@ -93,7 +93,7 @@ class PrintDialog final : public QDialog {
   void askFirst();
   void ask(const DialogSetup::AskPrinter &asked, const QString &what, const QString &destination);
   void moveTo(PrinterSwitch::Session opened, const QString &destination);
-  void takeFirst(PrinterSwitch::Session opened, const QString &destination);
+  void takeFirst(std::unique_ptr<PrintSession> session, const QString &destination);
   void takeSession(std::unique_ptr<PrintSession> session, const QString &destination);
   void applyPicked(const Preset &preset);
   void showMisfits(const QString &opening, const QList<PresetMisfit> &misfits);

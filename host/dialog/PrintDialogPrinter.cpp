@@ -55,13 +55,15 @@ void PrintDialog::ask(const DialogSetup::AskPrinter &asked, const QString &what,
 }
 
 void PrintDialog::moveTo(PrinterSwitch::Session opened, const QString &destination) {
-  if (std::exchange(m_awaitsFirst, false)) {
-    takeFirst(std::move(opened), destination);
-    return;
-  }
+  const bool isFirst = std::exchange(m_awaitsFirst, false);
   if (!opened) {
     showHeader();
     showProblem(opened.failure());
+    if (isFirst) Q_EMIT firstFailed(opened.failure());
+    return;
+  }
+  if (isFirst) {
+    takeFirst(opened.take(), destination);
     return;
   }
   const Preset entered = entriesOf(*m_session);
@@ -74,16 +76,10 @@ void PrintDialog::moveTo(PrinterSwitch::Session opened, const QString &destinati
 }
 
 // It may be another one than was asked for at first, if the user did not wait.
-void PrintDialog::takeFirst(PrinterSwitch::Session opened, const QString &destination) {
-  if (!opened) {
-    showHeader();
-    showProblem(opened.failure());
-    Q_EMIT firstFailed(opened.failure());
-    return;
-  }
+void PrintDialog::takeFirst(std::unique_ptr<PrintSession> session, const QString &destination) {
   const bool goesIntoFile = destination == m_setup.firstPrinter && !m_setup.outputFile.isNull();
-  const QString place = opened.value()->origin().destination;
-  takeSession(opened.take(), goesIntoFile ? QString() : place);
+  const QString place = session->origin().destination;
+  takeSession(std::move(session), goesIntoFile ? QString() : place);
   m_notices->sayEarlier();
 }
 
