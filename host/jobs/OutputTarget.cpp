@@ -3,11 +3,9 @@
 
 #include "host/jobs/OutputTarget.h"
 
-#include <fcntl.h>
 #include <poll.h>
 #include <unistd.h>
 
-#include <QFile>
 #include <cerrno>
 #include <climits>
 
@@ -18,15 +16,8 @@ namespace {
 
 constexpr int pollMilliseconds = 100;
 
-/// Descriptor number of an open stream, or -1.
-int streamNumber(const QString &path) {
-  return path == QStringLiteral("-") ? STDOUT_FILENO : openStreamNumber(path);
-}
-
-int openStream(const QString &path) {
-  const int number = streamNumber(path);
-  if (number >= 0) return ::fcntl(number, F_DUPFD_CLOEXEC, 0);
-  return ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CLOEXEC | O_NOCTTY);
+QString placeOf(const QString &path) {
+  return path == QStringLiteral("-") ? QStringLiteral("/dev/stdout") : path;
 }
 
 }  // namespace
@@ -44,8 +35,8 @@ Failure OutputTarget::failure(const Phrase &why) const {
 
 Result<std::unique_ptr<OutputTarget>> OutputTarget::open(const QString &path) {
   std::unique_ptr<OutputTarget> target(new OutputTarget(path));
-  if (streamNumber(path) >= 0 || !isReplaceable(path)) {
-    target->m_stream = openStream(path);
+  if (const QString place = placeOf(path); !isReplaceable(place)) {
+    target->m_stream = openForWriting(place);
     if (target->m_stream < 0) return target->failure(Phrase::ofSystem(errno));
     return target;
   }

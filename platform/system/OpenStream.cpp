@@ -3,7 +3,10 @@
 
 #include "platform/system/OpenStream.h"
 
+#include <fcntl.h>
 #include <unistd.h>
+
+#include <QFile>
 
 namespace orvek {
 
@@ -17,6 +20,12 @@ int openStreamNumber(const QString &path) {
     if (isNumber) return number;
   }
   return -1;
+}
+
+int openForWriting(const QString &path) {
+  const int number = openStreamNumber(path);
+  if (number >= 0) return ::fcntl(number, F_DUPFD_CLOEXEC, 0);
+  return ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CLOEXEC | O_NOCTTY);
 }
 
 }  // namespace orvek

@@ -65,14 +65,8 @@ int synchronizeFolderOf(const QString &path) {
   return error;
 }
 
-int openStream(const QString &path) {
-  const int number = openStreamNumber(path);
-  if (number >= 0) return ::fcntl(number, F_DUPFD_CLOEXEC, 0);
-  return ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CLOEXEC | O_NOCTTY);
-}
-
 Status writeIntoStream(const QString &path, const QByteArray &bytes) {
-  const int stream = openStream(path);
+  const int stream = openForWriting(path);
   if (stream < 0) return failureOf(path, errno);
   const int error = writeAll(stream, bytes);
   ::close(stream);
