@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // Choosing among the queues of a private print server, and what becomes of what was entered.
 
-#include <arpa/inet.h>
-#include <sys/socket.h>
-#include <unistd.h>
-
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QLabel>
@@ -16,6 +12,7 @@
 #include "host/session/QueueSetup.h"
 #include "platform/system/Log.h"
 #include "tests/host/dialog/DialogKit.h"
+#include "tests/support/HostileServer.h"
 #include "tests/support/PrivateCups.h"
 
 using namespace orvek;
@@ -24,31 +21,6 @@ using namespace orvek::test;
 namespace {
 
 const QString printers = QStringLiteral(ORVEK_SOURCE_DIR "/printers/");
-
-// Takes every connection, and never says a word.
-class SilentServer {
- public:
-  SilentServer() {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t size = sizeof address;
-    auto *plain = reinterpret_cast<sockaddr *>(&address);
-    EXPECT_EQ(::bind(m_socket, plain, size), 0);
-    EXPECT_EQ(::listen(m_socket, SOMAXCONN), 0);
-    EXPECT_EQ(::getsockname(m_socket, plain, &size), 0);
-    m_name = QStringLiteral("127.0.0.1:%1").arg(ntohs(address.sin_port));
-  }
-  ~SilentServer() { ::close(m_socket); }
-  SilentServer(const SilentServer &) = delete;
-  SilentServer &operator=(const SilentServer &) = delete;
-
-  const QString &name() const { return m_name; }
-
- private:
-  int m_socket = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-  QString m_name;
-};
 
 class PrinterChoice : public DialogTest {
  protected:
@@ -79,7 +51,7 @@ class PrinterChoice : public DialogTest {
   // Runs on a thread of its own, as every question to a server does.
   Result<SessionSetup> askServer(const QString &queue, const std::atomic<bool> &cancelled) const {
     ServerAccess access;
-    access.server = queue == silentQueue ? silentServer.name() : server->socket();
+    access.server = queue == silentQueue ? silentServer.hostAndPort() : server->socket();
     access.cancelled = &cancelled;
     access.patience = patience;
     SessionSetup setup;
@@ -108,7 +80,7 @@ class PrinterChoice : public DialogTest {
   QString detail() const { return find<QLabel>("printerDetail")->accessibleName(); }
 
   std::unique_ptr<PrivateCups> server;
-  SilentServer silentServer;
+  const HostileServer silentServer{Hostility::Silence};
   /// The one that it is asked for.
   QString silentQueue;
   /// The destinations of the sessions that the window asked for.

@@ -4,10 +4,7 @@
 
 #include "host/printers/QueuePPD.h"
 
-#include <arpa/inet.h>
 #include <gtest/gtest.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 #include <QDateTime>
 #include <QElapsedTimer>
@@ -18,6 +15,7 @@
 #include "platform/printing/PPD.h"
 #include "tests/support/CapturingFilter.h"
 #include "tests/support/FrontServer.h"
+#include "tests/support/HostileServer.h"
 #include "tests/support/LogCapture.h"
 #include "tests/support/PrivateCups.h"
 
@@ -134,33 +132,10 @@ TEST_F(QueuePPDTest, GivesUpOnAServerThatHangs) {
       << path.failure().line().toStdString();
 }
 
-/// Takes connections, as far as its queue goes, and never says a word.
-class SilentListener {
- public:
-  SilentListener() : m_socket(::socket(AF_INET, SOCK_STREAM, 0)), m_port(freePort()) {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    address.sin_port = htons(static_cast<in_port_t>(m_port));
-    constexpr int longestQueue = 8;
-    EXPECT_EQ(::bind(m_socket, reinterpret_cast<sockaddr *>(&address), sizeof address), 0);
-    EXPECT_EQ(::listen(m_socket, longestQueue), 0);
-  }
-  ~SilentListener() { ::close(m_socket); }
-  SilentListener(const SilentListener &) = delete;
-  SilentListener &operator=(const SilentListener &) = delete;
-
-  QString hostAndPort() const { return QStringLiteral("127.0.0.1:%1").arg(m_port); }
-
- private:
-  int m_socket;
-  int m_port;
-};
-
 constexpr qint64 fewSeconds = 8000;
 
 TEST_F(QueuePPDTest, GivesUpOnAServerThatNeverSaysAWord) {
-  const SilentListener silent;
+  const HostileServer silent(Hostility::Silence);
   QElapsedTimer clock;
   clock.start();
   const auto path =
@@ -175,7 +150,7 @@ TEST_F(QueuePPDTest, GivesUpOnAServerThatNeverSaysAWord) {
 // Servers are known by more than one name, and not every name can be reached from everywhere.
 TEST_F(QueuePPDTest, ComesFromTheServerThatWasAskedWhateverItSaysItsNameIs) {
   if (!FrontServer::obstacle().isEmpty()) GTEST_SKIP() << FrontServer::obstacle().toStdString();
-  const SilentListener silent;
+  const HostileServer silent(Hostility::Silence);
   const FrontServer front(*cups, Guarded::Nothing, silent.hostAndPort());
   QElapsedTimer clock;
   clock.start();
