@@ -21,7 +21,7 @@ namespace {
 class OpenedFiles {
  public:
   explicit OpenedFiles(const QString &folder) : m_watch(::inotify_init1(IN_NONBLOCK | IN_CLOEXEC)) {
-    ::inotify_add_watch(m_watch, folder.toLocal8Bit().constData(), IN_OPEN);
+    EXPECT_GE(::inotify_add_watch(m_watch, folder.toLocal8Bit().constData(), IN_OPEN), 0);
   }
   ~OpenedFiles() { ::close(m_watch); }
   OpenedFiles(const OpenedFiles &) = delete;

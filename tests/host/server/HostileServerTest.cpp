@@ -195,9 +195,9 @@ TEST_F(HostileServerToAJob, CannotPassAMalformedAnswerOffAsASuccess) {
 
 class LatePassword : public HostileServerToAJob {
  protected:
-  Result<JobOutcome> submit(const JobRequest &like) {
+  Result<JobOutcome> submit(const QStringList &files) {
     JobRequest request = requestFor({server.hostAndPort(), QStringLiteral("anna"), nullptr, 5s});
-    request.files = like.files;
+    request.files = files;
     request.passwords =
         std::make_shared<PasswordSource>([this](const PasswordQuestion &question, const auto *) {
           ++asked;
@@ -214,9 +214,7 @@ class LatePassword : public HostileServerToAJob {
 };
 
 TEST_F(LatePassword, IsUsedAndTheDocumentSentAgain) {
-  JobRequest like;
-  like.files = QStringList{document, document};
-  const auto outcome = submit(like);
+  const auto outcome = submit({document, document});
   ASSERT_TRUE(outcome) << outcome.failure().line().toStdString();
   EXPECT_EQ(asked, 1);
   EXPECT_EQ(server.printed().count(contentsOf(document)), 2);
