@@ -37,6 +37,8 @@ enum class Hostility {
   Malformed,
   ServerError,
   UpgradeRequired,
+  /// The one above.
+  Last = UpgradeRequired,
 };
 
 /// Every one that no program may be held or ended by.
@@ -69,9 +71,11 @@ class HostileServer {
   bool answer(int socket, const HttpQuestion &question);
   bool answerHonestly(int socket, const HttpQuestion &question);
   bool answerWithHostility(int socket, const HttpQuestion &question);
+  bool answerWithOther(int socket, const HttpQuestion &question);
   bool answerWithoutEnd(int socket, const QByteArray &honest);
   bool answerWithStatus(int socket, const HttpQuestion &question);
   QByteArray honestMessage(const HttpQuestion &question, int requestId) const;
+  bool isUnanswered() const;
   bool flood(int socket, const QByteArray &head, const QByteArray &piece, int pause = 1);
 
   Hostility m_hostility;
