@@ -15,6 +15,18 @@
 namespace orvek {
 
 /// What a message is. Those of the program come first, then those of the helper.
+///
+/// The documents of a job, once it has been made (JobMade), go one by one in this order:
+///
+///   helper    DocumentWanted   which one
+///   program   DocumentBegin, Block ..., DocumentEnd
+///   helper    Taken            after each block that the server took, while others are on their
+///   way helper    DocumentWanted   the next; or the same again, from its beginning, where the
+///   server
+///                              asked for a password too late. Until the program has answered that
+///                              with DocumentBegin, what comes is the earlier attempt's, and is
+///                              passed over; bytes taken count from 0 once more
+///   helper    Answer           the server has them all; or, at any point, Failed
 enum class MessageKind : char {
   /// A ServerTask with its fields.
   Question = 'q',
