@@ -6,7 +6,7 @@
 //   DocumentHeader    what is printed                  PrintDialog         parts and what they show
 //   ChooserRow        where, and with what preset      PrintDialogPrinter  other printers, presets
 //   NoticeBar         what happened; Undo              PrintDialogJob      a job's way
-//   SessionView       pages and summary
+//   SessionView       pages, preview and summary
 //   JobBar            progress, Cancel, Print
 //
 //   Helpers: NoticeKeeper, what the bar says; PrinterSwitch, the way to another printer;
@@ -45,7 +45,7 @@ class PrintDialog final : public QDialog {
   PrintDialog(PrintSession &session, DialogSetup setup, QWidget *parent = nullptr);
   ~PrintDialog() override;
 
-  /// The session on show: the one it was made with, or the one of a printer chosen since.
+  /// The session on show: the one it was made with, or the one of a printer that came since.
   PrintSession &session() const { return *m_session; }
 
   void setDocument(const DocumentInfo &document);
@@ -108,7 +108,7 @@ class PrintDialog final : public QDialog {
   void end(const JobOutcome &outcome);
   void showFailure(const Failure &failure);
 
-  /// Of a printer chosen in the window.
+  /// Of a printer that came after the window.
   std::unique_ptr<PrintSession> m_ownSession;
   PrintSession *m_session;
   DialogSetup m_setup;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// Everything of the window that belongs to one printing session: its pages and its summary. Another
-// printer is another session, and gets another view.
+// Everything of the window that belongs to one printing session: its pages, the preview and the
+// summary. Another printer is another session, and gets another view.
 #pragma once
 
 #include <QWidget>

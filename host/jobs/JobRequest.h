@@ -34,7 +34,8 @@ struct JobRequest {
   /// To a queue: options saved for it that must not go with the job.
   QStringList overruled;
 
-  /// Into a file: the printer description.
+  /// Into a file: the printer description. To a queue: what is known of its printer; replaced by
+  /// the queue's own where the driver matters.
   QString ppdFile;
   /// Into a file: where to; a device is fine, "-" is standard output.
   QString outputFile;

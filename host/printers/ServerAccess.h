@@ -27,7 +27,8 @@ struct ServerAccess {
   std::chrono::milliseconds patience = serverPatience();
   /// Null: nobody can be asked for a password.
   std::shared_ptr<PasswordSource> passwords = {};
-  /// Whether the connection stays open for a moment, for whoever asks the same server next.
+  /// Whether the connection stays open for a moment, for whoever asks the same server next; no
+  /// longer than the thread that opened it lasts.
   bool staysOpen = false;
 };
 
