@@ -12,13 +12,32 @@
 namespace orvek::imposition {
 
 /// Carried out on the pages. A second time, it would befall sheets.
-inline constexpr std::array doneWithSheets{
-    "page-ranges",         "page-set",         "outputorder",           "orientation-requested",
-    "landscape",           "mirror",           "fit-to-page",           "fitplot",
-    "print-scaling",       "scaling",          "natural-scaling",       "position",
-    "number-up",           "number-up-layout", "page-border",           "booklet",
-    "booklet-signature",   "cupsEvenDuplex",   enableBookletKey.data(), rightToLeftKey.data(),
-    pageBordersKey.data(), gutterKey.data(),   creepKey.data(),         targetPaperSizeKey.data()};
+inline constexpr std::array doneWithSheets{"page-ranges",
+                                           "page-set",
+                                           orderOptions[0],
+                                           orderOptions[1],
+                                           orderOptions[2],
+                                           "orientation-requested",
+                                           "landscape",
+                                           "mirror",
+                                           "fit-to-page",
+                                           "fitplot",
+                                           "print-scaling",
+                                           "scaling",
+                                           "natural-scaling",
+                                           "position",
+                                           numberUpOption,
+                                           "number-up-layout",
+                                           "page-border",
+                                           "booklet",
+                                           "booklet-signature",
+                                           "cupsEvenDuplex",
+                                           enableBookletKey.data(),
+                                           rightToLeftKey.data(),
+                                           pageBordersKey.data(),
+                                           gutterKey.data(),
+                                           creepKey.data(),
+                                           targetPaperSizeKey.data()};
 
 /// Would turn the sheets over otherwise, or part the copies.
 inline constexpr std::array againstSheets{sidesOption,

@@ -156,6 +156,19 @@ TEST_F(SheetsMadeHere, AskTheServerForNothingThatIsDone) {
   }
 }
 
+TEST_F(SheetsMadeHere, AreTurnedRoundOnceByWhicheverWordTheirOrderWasAskedFor) {
+  addOldQueue();
+  request.files = {document(8)};
+  for (const char *order : {"OutputOrder", "output-order", "page-delivery"}) {
+    SCOPED_TRACE(order);
+    request.options = {{QStringLiteral("OVKEnableBooklet"), QStringLiteral("True")},
+                       {QLatin1String(order), QStringLiteral("reverse")}};
+    printed(ServerDriver::MakesNoBooklets);
+    expectSeen(seen(), asIntoAFile());
+    EXPECT_EQ(attribute(order), QString());
+  }
+}
+
 TEST_F(SheetsMadeHere, AreOnThePaperThatTheBookletIsFor) {
   const QByteArray ppd = contentsOf(orvekPPD(QStringLiteral("6180")));
   const qsizetype before = ppd.indexOf("\n*OpenUI *PageSize");
