@@ -5,8 +5,6 @@
 
 #include <unistd.h>
 
-#include <cstdlib>
-#include <span>
 #include <string_view>
 #include <utility>
 
@@ -21,15 +19,6 @@ namespace orvek::driver {
 namespace {
 
 constexpr const char *nameless = "the document";
-
-void removeAll(FilterOptions *options, std::span<const char *const> names) {
-  for (const char *name : names) options->remove({name});
-}
-
-std::string ppdFile() {
-  const char *path = std::getenv("PPD");
-  return path == nullptr ? std::string() : path;
-}
 
 constexpr std::size_t bytesThatTell = 4096;
 
@@ -83,12 +72,12 @@ Result<File> documentOf(BookletJob *job) {
 }
 
 BookletRequest requestOf(const BookletJob &job, const FilterOptions &options,
-                         const std::optional<JobPaper> &paper) {
+                         const SheetFacts &facts) {
   const auto asked =
       imposition::readReversed([&options](const char *name) { return options.value(name); });
-  const bool isForTray = !asked && wantsLastFirst(ppdFile(), options);
+  const bool isForTray = !asked && facts.wantsLastFirst;
   BookletRequest request{job.keys, std::nullopt, asked.value_or(isForTray), isForTray};
-  if (paper) request.paper = paper->size;
+  if (facts.paper) request.paper = facts.paper->size;
   return request;
 }
 
@@ -98,9 +87,12 @@ Result<File> sheetsOf(BookletJob *job, FilterOptions *options) {
   if (!document) return document;
   auto sheets = namelessFile();
   if (!sheets) return sheets;
-  const auto paper = paperOf(ppdFile(), *options, job->keys);
-  const BookletRequest request = requestOf(*job, *options, paper);
-  prepareForSheets(options, paper ? paper->pageSize : std::string());
+  // The order matters. While the job's StandardPPD lives the environment names its copy, so only
+  // now is that what the filters go by; and prepareForSheets() takes out of the options what the
+  // request is read from.
+  const SheetFacts facts = sheetFactsIn(environmentVariable("PPD"), *options, job->keys);
+  const BookletRequest request = requestOf(*job, *options, facts);
+  prepareForSheets(options, facts.paper ? facts.paper->pageSize : std::string());
   // Whoever made nothing of the document has said why.
   if (job->document.isEmpty) return sheets;
   const auto imposed = imposeDocument(document.value().get(), sheets.value().get(), request);
@@ -112,11 +104,11 @@ Result<File> sheetsOf(BookletJob *job, FilterOptions *options) {
 }  // namespace
 
 void prepareForSheets(FilterOptions *options, const std::string &pageSize) {
-  removeAll(options, imposition::doneWithSheets);
-  removeAll(options, imposition::againstSheets);
+  options->remove(imposition::doneWithSheets);
+  options->remove(imposition::againstSheets);
   for (const auto &[name, value] : imposition::sheetOptions) options->set(name, value);
   if (pageSize.empty()) return;
-  removeAll(options, imposition::paperOptions);
+  options->remove(imposition::paperOptions);
   options->set(imposition::sheetPaperOption, pageSize.c_str());
 }
 

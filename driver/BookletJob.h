@@ -9,7 +9,7 @@
 
 namespace orvek::driver {
 
-/// What a booklet's job has to be told, and by whom it came.
+/// A job as it came, and the booklet that it asks for.
 struct BookletJob {
   FilterCall call;
   JobDocument document;

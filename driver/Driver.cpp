@@ -6,7 +6,6 @@
 #include <unistd.h>
 
 #include <cstdio>
-#include <cstdlib>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -23,14 +22,9 @@ namespace {
 
 constexpr std::string_view sheetsOption = "--sheets";
 
-std::string variable(const char *name) {
-  const char *value = std::getenv(name);
-  return value == nullptr ? std::string() : value;
-}
-
 /// CUPS prints banners as documents of their own, with the job's options.
 bool isBanner() {
-  const std::string type = variable("CONTENT_TYPE");
+  const std::string type = environmentVariable("CONTENT_TYPE");
   return type == "application/vnd.cups-banner" || type == "application/vnd.cups-pdf-banner";
 }
 
@@ -64,7 +58,7 @@ Result<int> carryOut(std::span<char *const> arguments, bool onlySheets) {
   FilterOptions options(call.value().options);
   const auto keys =
       imposition::readBookletKeys([&options](const char *key) { return options.value(key); });
-  const auto ppd = StandardPPD::of(variable("PPD"));
+  const auto ppd = StandardPPD::of(environmentVariable("PPD"));
   if (!ppd) return ppd.failure();
   auto document = lookAtDocument(call.value());
   if (!document) return document.failure();

@@ -4,6 +4,7 @@
 #include "driver/FilterCall.h"
 
 #include <cstddef>
+#include <cstdlib>
 
 namespace orvek::driver {
 namespace {
@@ -32,6 +33,11 @@ Result<FilterCall> readFilterCall(std::span<char *const> arguments) {
                     arguments[4],
                     arguments[5],
                     arguments.size() == mostArguments ? arguments[6] : ""};
+}
+
+std::string environmentVariable(const char *name) {
+  const char *value = std::getenv(name);
+  return value == nullptr ? std::string() : value;
 }
 
 }  // namespace orvek::driver

@@ -29,4 +29,8 @@ struct FilterCall {
 /// Fails, with the usage, unless there are five or six arguments besides the program's own place.
 Result<FilterCall> readFilterCall(std::span<char *const> arguments);
 
+/// What CUPS says to its filters in the environment ("PPD", "CONTENT_TYPE"); empty where it says
+/// nothing.
+std::string environmentVariable(const char *name);
+
 }  // namespace orvek::driver

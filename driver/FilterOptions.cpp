@@ -4,7 +4,6 @@
 #include "driver/FilterOptions.h"
 
 #include <cstdlib>
-#include <span>
 #include <string_view>
 #include <utility>
 
@@ -38,7 +37,7 @@ void FilterOptions::set(const char *name, const char *value) {
   m_count = cupsAddOption(name, value, m_count, &m_options);
 }
 
-void FilterOptions::remove(std::initializer_list<const char *> names) {
+void FilterOptions::remove(std::span<const char *const> names) {
   for (const char *name : names) m_count = cupsRemoveOption(name, m_count, &m_options);
   // libcups keeps the list when its last option goes, and neither frees nor reuses an empty one.
   if (m_count == 0) std::free(std::exchange(m_options, nullptr));

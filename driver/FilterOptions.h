@@ -2,9 +2,9 @@
 // A job's options as CUPS hands them to filters: one text of names and values.
 #pragma once
 
-#include <initializer_list>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 
 #include "platform/printing/PPD.h"
@@ -25,7 +25,7 @@ class FilterOptions {
 
   std::optional<std::string> value(const char *name) const;
   void set(const char *name, const char *value);
-  void remove(std::initializer_list<const char *> names);
+  void remove(std::span<const char *const> names);
 
   /// The options in the form that the constructor reads.
   std::string text() const;

@@ -5,6 +5,8 @@
 
 #include <memory>
 
+#include "platform/printing/TrayOrder.h"
+
 namespace orvek::driver {
 namespace {
 
@@ -31,34 +33,32 @@ Description markedBy(const FilterOptions &options, const std::string &ppdFile) {
   return ppd;
 }
 
-// Looked for in the same places as the standard filters do.
-std::string orderIn(ppd_file_t *ppd) {
-  if (const ppd_choice_t *order = ppdFindMarkedChoice(ppd, "OutputOrder")) return order->choice;
+bool wantsLastFirst(ppd_file_t *ppd) {
+  const ppd_choice_t *order = ppdFindMarkedChoice(ppd, "OutputOrder");
   const ppd_choice_t *tray = ppdFindMarkedChoice(ppd, "OutputBin");
-  const ppd_attr_t *order =
-      tray == nullptr ? nullptr : ppdFindAttr(ppd, "PageStackOrder", tray->choice);
-  if (order == nullptr) order = ppdFindAttr(ppd, "DefaultOutputOrder", nullptr);
-  return order == nullptr || order->value == nullptr ? std::string() : order->value;
+  const std::string word =
+      order != nullptr ? order->choice : trayOrder(ppd, tray == nullptr ? nullptr : tray->choice);
+  return imposition::lowerCase(word) == "reverse";
 }
 
-}  // namespace
-
-std::optional<JobPaper> paperOf(const std::string &ppdFile, const FilterOptions &options,
-                                const imposition::BookletKeys &keys) {
-  const Description ppd = markedBy(options, ppdFile);
-  if (!ppd) return std::nullopt;
+std::optional<JobPaper> markedPaper(ppd_file_t *ppd, int targetPaper) {
   JobPaper paper;
-  markTargetPaper(ppd.get(), keys.targetPaper, &paper.pageSize);
-  const ppd_size_t *size = ppdPageSize(ppd.get(), nullptr);
+  markTargetPaper(ppd, targetPaper, &paper.pageSize);
+  const ppd_size_t *size = ppdPageSize(ppd, nullptr);
   if (size == nullptr) return std::nullopt;
   paper.size = {size->width, size->length};
   if (!imposition::isDrawable(paper.size)) return std::nullopt;
   return paper;
 }
 
-bool wantsLastFirst(const std::string &ppdFile, const FilterOptions &options) {
+}  // namespace
+
+SheetFacts sheetFactsIn(const std::string &ppdFile, const FilterOptions &options,
+                        const imposition::BookletKeys &keys) {
   const Description ppd = markedBy(options, ppdFile);
-  return ppd && imposition::lowerCase(orderIn(ppd.get())) == "reverse";
+  if (!ppd) return {};
+  const bool lastFirst = wantsLastFirst(ppd.get());
+  return {markedPaper(ppd.get(), keys.targetPaper), lastFirst};
 }
 
 }  // namespace orvek::driver

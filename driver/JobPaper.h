@@ -18,13 +18,17 @@ struct JobPaper {
   std::string pageSize;
 };
 
-/// The sheet's paper by the PPD, the job's options and the booklet's target paper. Nothing where
-/// the PPD can't be read or knows no size for it: the document's own pages have to tell then.
-std::optional<JobPaper> paperOf(const std::string &ppdFile, const FilterOptions &options,
-                                const imposition::BookletKeys &keys);
+struct SheetFacts {
+  /// Nothing where the PPD can't be read or knows no size for it: the document's own pages have to
+  /// tell then.
+  std::optional<JobPaper> paper;
+  /// The printer wants the last page first where the job says nothing of an order: the tray piles
+  /// its sheets face up. False where the PPD can't be read.
+  bool wantsLastFirst = false;
+};
 
-/// Whether the printer of this PPD wants the last page first where the job says nothing of an
-/// order: the tray piles its sheets face up. False where the PPD can't be read.
-bool wantsLastFirst(const std::string &ppdFile, const FilterOptions &options);
+/// What the PPD says of a job with these options and of its booklet's target paper.
+SheetFacts sheetFactsIn(const std::string &ppdFile, const FilterOptions &options,
+                        const imposition::BookletKeys &keys);
 
 }  // namespace orvek::driver

@@ -14,7 +14,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
-#include <utility>
 
 #include "driver/Cancel.h"
 #include "driver/TemporaryFile.h"
@@ -126,34 +125,29 @@ class Descriptor {
 class Outlet {
  public:
   explicit Outlet(int output) : m_output(output) {
-    if (::pipe2(m_pipe.data(), O_CLOEXEC) != 0) m_pipe = {-1, -1};
+    std::array<int, 2> pipe{-1, -1};
+    if (::pipe2(pipe.data(), O_CLOEXEC) != 0) return;
+    m_reading.reset(pipe[0]);
+    m_writing.reset(pipe[1]);
   }
-  Outlet(const Outlet &) = delete;
-  Outlet &operator=(const Outlet &) = delete;
-  ~Outlet() { closeBoth(); }
 
-  bool isOpen() const { return m_pipe[0] >= 0; }
+  bool isOpen() const { return m_reading.get() >= 0; }
   /// For the last filter.
-  int inlet() const { return m_pipe[1]; }
+  int inlet() const { return m_writing.get(); }
 
   /// Copies until nobody writes any more, the job is cancelled or there is no room. Filters that
   /// still write end for want of a reader.
   Result<std::uintmax_t> drain() {
-    ::close(std::exchange(m_pipe[1], -1));
-    const auto copied = copyUntilCancelled(m_pipe[0], m_output);
-    closeBoth();
+    m_writing.reset(-1);
+    const auto copied = copyUntilCancelled(m_reading.get(), m_output);
+    m_reading.reset(-1);
     return copied;
   }
 
  private:
-  void closeBoth() {
-    for (int &end : m_pipe) {
-      if (end >= 0) ::close(std::exchange(end, -1));
-    }
-  }
-
   int m_output;
-  std::array<int, 2> m_pipe{-1, -1};
+  Descriptor m_reading{-1};
+  Descriptor m_writing{-1};
 };
 
 /// Starts all filters; those that could be started are in `running`, whatever it gives.

@@ -24,8 +24,9 @@ struct FilterRun {
 /// A filter that ends with a status other than 0 has said why itself; the first such status is the
 /// run's.
 ///
-/// Failures, the first there is: a filter is not installed, could not be started, or died
-/// of a signal.
+/// Failures, the first there is: a filter is not installed, could not be started, or died of a
+/// signal; nobody takes what they make, or there is no room for it. A cancelled job is none, but
+/// has the status 1.
 Result<FilterRun> runStandardFilters(const std::vector<std::string> &names, const FilterCall &call,
                                      int input, int output);
 

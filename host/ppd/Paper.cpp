@@ -5,11 +5,13 @@
 
 #include <QLocale>
 #include <QRegularExpression>
+#include <string>
 
 #include "host/ppd/CustomChoice.h"
 #include "host/ppd/Keyword.h"
 #include "host/ppd/LengthUnit.h"
 #include "platform/printing/PPD.h"
+#include "platform/printing/TrayOrder.h"
 
 namespace orvek {
 namespace {
@@ -36,11 +38,8 @@ QRectF printableArea(const PrinterDescription &printer, const QString &choice) {
 
 bool stacksReversed(const PrinterDescription &printer, const QString &tray) {
   if (printer.lend() == nullptr) return false;
-  const QByteArray name = tray.toUtf8();
-  const ppd_attr_t *order =
-      name.isEmpty() ? nullptr : ppdFindAttr(printer.lend(), "PageStackOrder", name.constData());
-  if (order == nullptr) order = ppdFindAttr(printer.lend(), "DefaultOutputOrder", nullptr);
-  return order != nullptr && sameKeyword(order->value, "Reverse");
+  const std::string order = trayOrder(printer.lend(), tray.toUtf8().constData());
+  return sameKeyword(QString::fromStdString(order), "Reverse");
 }
 
 std::optional<CustomPaperLimits> customPaperLimits(const PrinterDescription &printer) {

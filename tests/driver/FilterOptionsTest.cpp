@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QTemporaryDir>
+
 #include "driver/BookletJob.h"
 #include "driver/JobPaper.h"
 #include "tests/support/CapturingFilter.h"
@@ -89,7 +91,7 @@ std::optional<JobPaper> paperWith(const std::string &options, int targetPaper = 
   imposition::BookletKeys keys;
   keys.targetPaper = targetPaper;
   const std::string ppd = orvek::test::orvekPPD(QStringLiteral("6180")).toStdString();
-  return paperOf(ppd, FilterOptions(options), keys);
+  return sheetFactsIn(ppd, FilterOptions(options), keys).paper;
 }
 
 TEST(JobPaper, IsWhatTheJobAsksFor) {
@@ -115,8 +117,33 @@ TEST(JobPaper, IsTheJobsOwnForATargetThatIsNone) {
 }
 
 TEST(JobPaper, IsUnknownWithoutAPPD) {
-  EXPECT_FALSE(paperOf("", FilterOptions("media=A5"), {}));
-  EXPECT_FALSE(paperOf("/nowhere.ppd", FilterOptions("media=A5"), {}));
+  for (const char *ppd : {"", "/nowhere.ppd"}) {
+    const SheetFacts facts = sheetFactsIn(ppd, FilterOptions("media=A5"), {});
+    EXPECT_FALSE(facts.paper) << ppd;
+    EXPECT_FALSE(facts.wantsLastFirst) << ppd;
+  }
+}
+
+TEST(JobOrder, IsThatOfTheTrayOrElseOfThePrinterUnlessTheJobMarksOne) {
+  const QTemporaryDir folder;
+  const QByteArray ppd = orvek::test::contentsOf(orvek::test::orvekPPD(QStringLiteral("6180")));
+  const auto lastFirst = [&](const QByteArray &lines, const std::string &options) {
+    const QString path = folder.filePath(QStringLiteral("printer.ppd"));
+    orvek::test::writeContents(path, ppd + lines);
+    return sheetFactsIn(path.toStdString(), FilterOptions(options), {}).wantsLastFirst;
+  };
+  const QByteArray habit = "*DefaultOutputOrder: Reverse\n";
+  const QByteArray tray = "*PageStackOrder Standard: REVERSE\n";
+  EXPECT_FALSE(lastFirst({}, "OutputBin=Standard"));
+  EXPECT_TRUE(lastFirst(tray, "OutputBin=Standard"));
+  EXPECT_FALSE(lastFirst(tray, "OutputBin=OffsetBin"));
+  EXPECT_TRUE(lastFirst(habit, "OutputBin=OffsetBin"));
+  EXPECT_FALSE(lastFirst(habit + "*PageStackOrder Standard: Normal\n", "OutputBin=Standard"));
+  const QByteArray option =
+      "*OpenUI *OutputOrder/Order: PickOne\n*DefaultOutputOrder: Reverse\n"
+      "*OutputOrder Normal/First: \"\"\n*OutputOrder Reverse/Last: \"\"\n*CloseUI: *OutputOrder\n";
+  EXPECT_TRUE(lastFirst(option, {}));
+  EXPECT_FALSE(lastFirst(option, "OutputOrder=Normal"));
 }
 
 }  // namespace
