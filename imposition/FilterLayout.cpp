@@ -272,10 +272,6 @@ int cellsOf(const FilterJob &job) {
 
 }  // namespace
 
-bool isKnownPagesPerSide(int pages) {
-  return pages == 1 || gridFor(pages).cells() == pages;
-}
-
 Position readPosition(const std::string &text) {
   using Across = Position::Across;
   using Down = Position::Down;

@@ -124,7 +124,4 @@ bool isSelected(int side, const SideSelection &sides);
 /// How many sides that are for so many pages, blank ones counted.
 int filteredSides(int pages, const FilterJob &job);
 
-/// Whether the filters put so many pages on a side.
-bool isKnownPagesPerSide(int pages);
-
 }  // namespace orvek::imposition

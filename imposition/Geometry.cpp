@@ -25,11 +25,15 @@ Size scaledInto(Size size, Size room) {
   return {size.width * scale, size.height * scale};
 }
 
+Frame within(const Frame &frame, const Frame &area) {
+  const double left = std::clamp(frame.x, area.x, area.right());
+  const double top = std::clamp(frame.y, area.y, area.bottom());
+  return {left, top, std::clamp(frame.right(), area.x, area.right()) - left,
+          std::clamp(frame.bottom(), area.y, area.bottom()) - top};
+}
+
 Frame within(const Frame &frame, Size paper) {
-  const double left = std::clamp(frame.x, 0.0, paper.width);
-  const double top = std::clamp(frame.y, 0.0, paper.height);
-  return {left, top, std::clamp(frame.right(), 0.0, paper.width) - left,
-          std::clamp(frame.bottom(), 0.0, paper.height) - top};
+  return within(frame, Frame{0, 0, paper.width, paper.height});
 }
 
 }  // namespace orvek::imposition

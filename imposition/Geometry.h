@@ -31,7 +31,9 @@ bool isDrawable(Size size);
 /// room that is not drawable.
 Size scaledInto(Size size, Size room);
 
-/// The part of a frame that lies on paper of this size; an empty frame at its edge for none.
+/// The part of a frame that lies in an area, or on paper of this size; an empty frame at its edge
+/// for none.
+Frame within(const Frame &frame, const Frame &area);
 Frame within(const Frame &frame, Size paper);
 
 }  // namespace orvek::imposition

@@ -47,7 +47,8 @@ struct PrintedSide {
 };
 
 /// The job's sides for a document whose pages, as displayed, have these sizes. One set: copies are
-/// not repeated. A sheet whose back nothing is printed on has no back side.
+/// not repeated. The last sheet of a job with an odd number of sides has no back side; a booklet's
+/// sheets all have one, blank or not.
 std::vector<PrintedSide> printedSides(std::span<const Size> pages, const SheetJob &job);
 
 /// How many sheets of paper the job takes for so many pages.

@@ -5,6 +5,7 @@
 #include "imposition/ScriptLayout.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstddef>
 
@@ -70,20 +71,9 @@ struct Sight {
 };
 
 Grid scriptGrid(int pages) {
-  switch (pages) {
-    case 2:
-      return {2, 1, true};
-    case 4:
-      return {2, 2, false};
-    case 6:
-      return {3, 2, true};
-    case 9:
-      return {3, 3, false};
-    case 16:
-      return {4, 4, false};
-    default:
-      return {};
-  }
+  constexpr std::array known{2, 4, 6, 9, 16};
+  const bool isKnown = std::find(known.begin(), known.end(), pages) != known.end();
+  return isKnown ? gridFor(pages) : Grid();
 }
 
 Size exchanged(Size size) {

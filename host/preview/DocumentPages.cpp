@@ -49,10 +49,9 @@ bool isPostScript(const QString &path) {
 }
 
 QStringList conversionArguments(const QString &path, const QString &ppd,
-                                const QMap<QString, QString> &printedWith, const QString &type) {
+                                const QMap<QString, QString> &options, const QString &type) {
   QStringList arguments{QStringLiteral("-m"), type};
   if (!ppd.isEmpty()) arguments << QStringLiteral("-p") << ppd;
-  const auto options = optionsForPages(printedWith);
   for (auto option = options.begin(); option != options.end(); ++option) {
     arguments << QStringLiteral("-o") << filterToolOptionText(option.key(), option.value());
   }

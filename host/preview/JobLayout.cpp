@@ -56,20 +56,19 @@ JobSettings settingsIn(const Options &options) {
   return read.settings;
 }
 
+ValueOf said(const Options &options) {
+  return [&](const char *option) -> std::optional<std::string> {
+    const auto value = valueNamed(options, QLatin1String(option));
+    return value ? std::optional(value->toStdString()) : std::nullopt;
+  };
+}
+
 // What is marked says more than a word of the print server.
 ValueOf markedOrSaid(const Marks &marks, const Options &options) {
   return [&](const char *option) -> std::optional<std::string> {
     const QString marked = marks.marked(QString::fromLatin1(option));
     if (!marked.isNull()) return marked.toStdString();
-    const auto said = valueNamed(options, QLatin1String(option));
-    return said ? std::optional(said->toStdString()) : std::nullopt;
-  };
-}
-
-ValueOf said(const Options &options) {
-  return [&](const char *option) -> std::optional<std::string> {
-    const auto value = valueNamed(options, QLatin1String(option));
-    return value ? std::optional(value->toStdString()) : std::nullopt;
+    return said(options)(option);
   };
 }
 

@@ -4,7 +4,6 @@
 #include "host/preview/PreviewInspection.h"
 
 #include <QJsonArray>
-#include <algorithm>
 #include <cmath>
 
 #include "host/jobs/Document.h"
@@ -26,22 +25,12 @@ QJsonArray frameOf(const Frame &frame) {
   return {rounded(frame.x), rounded(frame.y), rounded(frame.width), rounded(frame.height)};
 }
 
-// What of a page is to be seen: nothing is printed beyond the paper, nor a booklet's page beyond
-// the fold.
-Frame visibleFrame(const PlacedPage &page) {
-  const Frame &frame = page.frame;
-  const Frame &clip = page.clip;
-  const double left = std::clamp(frame.x, clip.x, clip.right());
-  const double top = std::clamp(frame.y, clip.y, clip.bottom());
-  return {left, top, std::clamp(frame.right(), clip.x, clip.right()) - left,
-          std::clamp(frame.bottom(), clip.y, clip.bottom()) - top};
-}
-
+// Nothing of a page is printed beyond the paper, nor of a booklet's page beyond the fold.
 QJsonArray pagesOf(const PrintedSide &side) {
   QJsonArray pages;
   for (const PlacedPage &page : side.pages) {
     pages.append(QJsonObject{{QStringLiteral("page"), page.page},
-                             {QStringLiteral("frame"), frameOf(visibleFrame(page))},
+                             {QStringLiteral("frame"), frameOf(within(page.frame, page.clip))},
                              {QStringLiteral("turn"), page.turn}});
   }
   return pages;
