@@ -6,7 +6,7 @@ Most of clang-tidy's time goes to headers, the same for each source. So sources 
 behind one another into one text and linted as one. That is a sieve: where it finds something, the
 sources concerned are linted alone, and only what is found there counts.
 
-usage: lint-all.py [--together N] [--jobs N] DATABASE_FOLDER [SOURCE]...
+usage: lint-all.py [--jobs N] [--verbose] DATABASE_FOLDER
 """
 
 import argparse
@@ -19,6 +19,8 @@ import sys
 import tempfile
 from concurrent.futures import ThreadPoolExecutor
 
+# Of more, a finding has many of them linted again.
+TOGETHER = 12
 # Beyond this many names of one meaning too many, sources don't belong together.
 ROUNDS = 12
 CLASH = re.compile(r":(\d+):\d+: error: (?:redefinition of|reference to) '(?:[\w:]*::)?(\w+)")
@@ -68,16 +70,16 @@ def flags_of(entry):
     return (entry["directory"], *kept)
 
 
-def batches(database, sources, together):
-    """Lists of (flags, sources), none longer than `together`."""
+def batches(database, sources):
+    """Lists of (flags, sources), none longer than TOGETHER."""
     groups = {}
     for source in sources:
         # Sources of one folder say alike things, and include alike headers.
         key = (flags_of(database[source]), os.path.dirname(source))
         groups.setdefault(key, []).append(source)
     for (flags, _), members in groups.items():
-        for begin in range(0, len(members), together):
-            yield flags, members[begin : begin + together]
+        for begin in range(0, len(members), TOGETHER):
+            yield flags, members[begin : begin + TOGETHER]
 
 
 def syntax_errors(flags, path):
@@ -159,20 +161,17 @@ def lint_alone(source, folder):
 
 def main():
     parser = argparse.ArgumentParser()
-    parser.add_argument("--together", type=int, default=12)
     parser.add_argument("--jobs", type=int, default=os.cpu_count())
     parser.add_argument("--verbose", action="store_true")
     parser.add_argument("folder")
-    parser.add_argument("sources", nargs="*")
     options = parser.parse_args()
     with open(os.path.join(options.folder, "compile_commands.json"), encoding="utf-8") as file:
         database = {entry["file"]: entry for entry in json.load(file)}
     build = os.path.abspath(os.path.join(options.folder, "..")) + os.sep
-    sources = [os.path.abspath(source) for source in options.sources]
-    sources = sources or sorted(source for source in database if not source.startswith(build))
+    sources = sorted(source for source in database if not source.startswith(build))
     failed = False
     with ThreadPoolExecutor(options.jobs) as pool:
-        work = sorted(batches(database, sources, options.together), key=lambda one: -len(one[1]))
+        work = sorted(batches(database, sources), key=lambda one: -len(one[1]))
         alone = [source for found in pool.map(sieve, work) for source in found]
         print(f"{len(sources)} sources, {len(alone)} of them linted alone", flush=True)
         if options.verbose:
