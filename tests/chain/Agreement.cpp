@@ -5,7 +5,6 @@
 
 #include <QFile>
 #include <QJsonArray>
-#include <QRegularExpression>
 #include <algorithm>
 #include <cmath>
 #include <optional>
@@ -52,19 +51,6 @@ SaidSide readSide(const QJsonObject &json) {
          page["turn"].toInt()});
   }
   return said;
-}
-
-/// The side after so many degrees clockwise.
-SeenSide turned(SeenSide side, int degrees) {
-  for (; degrees > 0; degrees -= quarter) {
-    for (SeenPage &page : side.pages) {
-      const Frame from = page.frame;
-      page.frame = {side.paper.height - from.bottom(), from.x, from.height, from.width};
-      if (page.turn >= 0) page.turn = (page.turn + quarter) % wholeTurn;
-    }
-    std::swap(side.paper.width, side.paper.height);
-  }
-  return side;
 }
 
 const SeenPage *pageIn(const SeenSide &side, int number) {
@@ -166,6 +152,18 @@ int numberBehind(const QByteArray &printed, const QByteArray &word, int absent) 
 }
 
 }  // namespace
+
+SeenSide turned(SeenSide side, int degrees) {
+  for (; degrees > 0; degrees -= quarter) {
+    for (SeenPage &page : side.pages) {
+      const Frame from = page.frame;
+      page.frame = {side.paper.height - from.bottom(), from.x, from.height, from.width};
+      if (page.turn >= 0) page.turn = (page.turn + quarter) % wholeTurn;
+    }
+    std::swap(side.paper.width, side.paper.height);
+  }
+  return side;
+}
 
 PaperSides paperIn(const QString &printed) {
   PaperSides paper;

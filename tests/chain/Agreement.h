@@ -25,6 +25,9 @@ struct PaperSides {
 /// Looks at a file that was printed into. No sides where there is none.
 PaperSides paperIn(const QString &printed);
 
+/// The side after so many degrees clockwise, a multiple of 90 from 0 on.
+SeenSide turned(SeenSide side, int degrees);
+
 /// One sentence for each thing that differs; none where `preview`, as the program inspects it, says
 /// what came out: numbers and turns exactly, lengths within 2 points.
 QStringList differences(const QJsonObject &preview, const PaperSides &paper);

@@ -102,6 +102,9 @@ TEST(Agreement, NoticesPaperOfAnotherSizeAndTheOtherWayRound) {
   PaperSides large = paper();
   large.sides[1].paper.width += 3;
   EXPECT_FALSE(differences(preview(), large).isEmpty());
+  PaperSides turned = paper();
+  std::swap(turned.sides[1].paper.width, turned.sides[1].paper.height);
+  EXPECT_FALSE(differences(preview(), turned).isEmpty());
 }
 
 TEST(Agreement, NoticesABackThatBecomesASheetOfItsOwn) {

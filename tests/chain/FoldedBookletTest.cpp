@@ -19,7 +19,7 @@ namespace orvek::test {
 namespace {
 
 constexpr double tolerance = 2;
-constexpr int quarterLeft = 270;
+constexpr int quarter = 90;
 constexpr double longEdge = 842;
 constexpr double shortEdge = 595;
 constexpr double fold = longEdge / 2;
@@ -38,14 +38,11 @@ void PrintTo(const Wish &wish, std::ostream *stream) {
 }
 
 /// A side as it is held to read it, its long edge at the top.
-SeenSide inHand(SeenSide side) {
-  EXPECT_NEAR(side.paper.width, shortEdge, 1);
-  EXPECT_NEAR(side.paper.height, longEdge, 1);
-  for (SeenPage &page : side.pages) {
-    EXPECT_EQ(page.turn, quarterLeft) << "page " << page.page;
-    const auto from = page.frame;
-    page.frame = {side.paper.height - from.bottom(), from.x, from.height, from.width};
-  }
+SeenSide inHand(const SeenSide &fed) {
+  EXPECT_NEAR(fed.paper.width, shortEdge, 1);
+  EXPECT_NEAR(fed.paper.height, longEdge, 1);
+  SeenSide side = turned(fed, quarter);
+  for (const SeenPage &page : side.pages) EXPECT_EQ(page.turn, 0) << "page " << page.page;
   return side;
 }
 

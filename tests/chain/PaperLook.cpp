@@ -3,58 +3,20 @@
 
 #include "tests/chain/PaperLook.h"
 
-#include <gtest/gtest.h>
-
-#include <QProcess>
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
 #include <cstring>
-#include <optional>
 
 #include "tests/chain/CodedPages.h"
 
 namespace orvek::test {
 namespace {
 
-constexpr int patience = 120000;
 constexpr int darkness = 25;
 constexpr int widestBorder = 2;
 constexpr int quarter = 90;
-
-struct Picture {
-  int width = 0;
-  int height = 0;
-  const unsigned char *pixels = nullptr;
-
-  std::size_t rowBytes() const { return 3 * static_cast<std::size_t>(width); }
-  const unsigned char *row(int y) const { return pixels + rowBytes() * static_cast<unsigned>(y); }
-  const unsigned char *pixel(int x, int y) const { return row(y) + std::ptrdiff_t{3} * x; }
-  bool isDarkAt(int x, int y) const {
-    if (x < 0 || y < 0 || x >= width || y >= height) return false;
-    const unsigned char *parts = pixel(x, y);
-    return std::max({parts[0], parts[1], parts[2]}) < darkness;
-  }
-};
-
-/// P6, lines of comment, width, height, 255, one white space, pixels. Moves on behind them.
-std::optional<Picture> nextPicture(const QByteArray &file, qsizetype *at) {
-  QList<QByteArray> words;
-  while (words.size() < 4) {
-    const qsizetype end = file.indexOf('\n', *at);
-    if (end < 0) return std::nullopt;
-    const QByteArray line = file.mid(*at, end - *at);
-    *at = end + 1;
-    if (!line.startsWith('#')) words += line.simplified().split(' ');
-  }
-  Picture picture{words[1].toInt(), words[2].toInt(), nullptr};
-  const auto bytes = static_cast<qsizetype>(picture.rowBytes()) * picture.height;
-  if (words[0] != "P6" || file.size() - *at < bytes) return std::nullopt;
-  picture.pixels = reinterpret_cast<const unsigned char *>(file.constData()) + *at;
-  *at += bytes;
-  return picture;
-}
 
 /// Pixels from the first to the last.
 struct Extent {
@@ -135,10 +97,13 @@ int turnOf(const Found &found) {
 Extent withBorder(Extent page, const Picture &picture) {
   const int x = page.middleX();
   const int y = page.middleY();
-  for (int i = 0; i < widestBorder && picture.isDarkAt(page.left - 1, y); ++i) --page.left;
-  for (int i = 0; i < widestBorder && picture.isDarkAt(page.right + 1, y); ++i) ++page.right;
-  for (int i = 0; i < widestBorder && picture.isDarkAt(x, page.top - 1); ++i) --page.top;
-  for (int i = 0; i < widestBorder && picture.isDarkAt(x, page.bottom + 1); ++i) ++page.bottom;
+  const auto isBorder = [&](int across, int down) {
+    return picture.isDarkAt(across, down, darkness);
+  };
+  for (int i = 0; i < widestBorder && isBorder(page.left - 1, y); ++i) --page.left;
+  for (int i = 0; i < widestBorder && isBorder(page.right + 1, y); ++i) ++page.right;
+  for (int i = 0; i < widestBorder && isBorder(x, page.top - 1); ++i) --page.top;
+  for (int i = 0; i < widestBorder && isBorder(x, page.bottom + 1); ++i) ++page.bottom;
   return page;
 }
 
@@ -161,29 +126,16 @@ SeenSide sideIn(const Picture &picture) {
 
 std::vector<SeenSide> codedPagesIn(const QByteArray &pictures) {
   std::vector<SeenSide> sides;
-  qsizetype at = 0;
-  while (at < pictures.size()) {
+  for (qsizetype at = 0; at < pictures.size();) {
     const auto picture = nextPicture(pictures, &at);
-    if (!picture) {
-      ADD_FAILURE() << "Ghostscript drew no picture, but said: "
-                    << pictures.mid(at).left(300).toStdString();
-      break;
-    }
+    if (!picture) break;
     sides.push_back(sideIn(*picture));
   }
   return sides;
 }
 
 std::vector<SeenSide> lookForCodedPages(const QString &printed) {
-  QProcess drawing;
-  drawing.start(
-      QStringLiteral("gs"),
-      {QStringLiteral("-q"), QStringLiteral("-dSAFER"), QStringLiteral("-dBATCH"),
-       QStringLiteral("-dNOPAUSE"), QStringLiteral("-sDEVICE=ppmraw"), QStringLiteral("-r72"),
-       QStringLiteral("-sstdout=%stderr"), QStringLiteral("-o"), QStringLiteral("-"), printed});
-  EXPECT_TRUE(drawing.waitForFinished(patience));
-  EXPECT_EQ(drawing.exitCode(), 0) << drawing.readAllStandardError().toStdString();
-  return codedPagesIn(drawing.readAllStandardOutput());
+  return codedPagesIn(drawn(printed));
 }
 
 }  // namespace orvek::test

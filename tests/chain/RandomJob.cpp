@@ -5,32 +5,14 @@
 #include "tests/chain/RandomJob.h"
 
 #include <algorithm>
-#include <random>
 
 #include "tests/support/CapturingFilter.h"
+#include "tests/support/Dice.h"
 
 namespace orvek::test {
 namespace {
 
 using imposition::Size;
-
-/// The standard's own distributions differ between libraries.
-class Dice {
- public:
-  explicit Dice(unsigned seed) : m_random(seed) {}
-
-  int below(int end) { return static_cast<int>(m_random() % static_cast<unsigned>(end)); }
-  int from(int first, int last) { return first + below(last - first + 1); }
-  bool oneIn(int count) { return below(count) == 0; }
-  template <typename T>
-  T any(std::initializer_list<T> values) {
-    return values.begin()[below(static_cast<int>(values.size()))];
-  }
-  QString word(std::initializer_list<const char *> words) { return QLatin1String(any(words)); }
-
- private:
-  std::mt19937 m_random;
-};
 
 constexpr int paperChoices = 16;  // of the largest printer, custom paper counted
 

@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
 
@@ -29,6 +28,8 @@ QString filterTool() {
   return QStandardPaths::findExecutable(QStringLiteral("cupsfilter"), kFolders);
 }
 
+}  // namespace
+
 Printed finish(QProcess &process, const QByteArray &input) {
   EXPECT_TRUE(process.waitForStarted(patience));
   process.write(input);
@@ -40,8 +41,6 @@ Printed finish(QProcess &process, const QByteArray &input) {
   printed.messages = QString::fromUtf8(process.readAllStandardError()).split(u'\n');
   return printed;
 }
-
-}  // namespace
 
 QString bookletFilter() {
   return QStringLiteral(ORVEK_BOOKLET_FILTER);
@@ -98,7 +97,7 @@ Printed printThrough(const QString &ppd, const QStringList &options, const QStri
   }
   QProcess process;
   process.start(filterTool(), arguments << file);
-  return finish(process, {});
+  return finish(process);
 }
 
 Printed runDriverAlone(const DriverKit &kit, const QString &options, const QString &file,
@@ -123,7 +122,7 @@ Printed runDriverIn(const QProcessEnvironment &environment, const DriverKit &kit
   if (!output.isEmpty()) process.setStandardOutputFile(output);
   process.start(kit.filter(), {QStringLiteral("1"), QStringLiteral("somebody"),
                                QStringLiteral("a title"), QStringLiteral("1"), options, file});
-  return finish(process, {});
+  return finish(process);
 }
 
 QByteArray withoutDates(const QByteArray &postScript) {

@@ -2,6 +2,7 @@
 // The driver as the print system runs it.
 #pragma once
 
+#include <QProcess>
 #include <QProcessEnvironment>
 #include <QString>
 #include <QStringList>
@@ -47,6 +48,9 @@ struct Printed {
   /// The lines that begin so, without it.
   QStringList lines(const QString &prefix) const;
 };
+
+/// What a program gives that was just started, with this on its standard input.
+Printed finish(QProcess &process, const QByteArray &input = {});
 
 /// Why no filters can be run on this machine; empty where they can.
 QString obstacleToFilters();

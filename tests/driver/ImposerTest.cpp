@@ -7,13 +7,13 @@
 
 #include <QTemporaryDir>
 #include <algorithm>
-#include <random>
 
 #include "driver/TemporaryFile.h"
 #include "imposition/Booklet.h"
 #include "tests/driver/MarkedDocument.h"
 #include "tests/driver/Picture.h"
 #include "tests/support/CapturingFilter.h"
+#include "tests/support/Dice.h"
 
 namespace orvek::driver {
 namespace {
@@ -78,10 +78,8 @@ TEST_F(Imposer, ShowsWhatTheCropBoxShows) {
 TEST_F(Imposer, AgreesWithTheGeometryOfRandomBooklets) {
   for (unsigned seed = 1; seed <= 12; ++seed) {
     SCOPED_TRACE(seed);
-    std::mt19937 random(seed);
-    const auto between = [&](int least, int most) {
-      return std::uniform_int_distribution<int>(least, most)(random);
-    };
+    orvek::test::Dice dice(seed);
+    const auto between = [&](int least, int most) { return dice.from(least, most); };
     std::vector<MarkedPage> pages(static_cast<std::size_t>(between(1, 12)));
     for (MarkedPage &page : pages) {
       page = {{double(between(200, 1200)), double(between(200, 1200))},

@@ -17,7 +17,6 @@
 namespace orvek::test {
 namespace {
 
-constexpr int patience = 60000;
 const QString kSheets = QStringLiteral("\"$D\" --sheets 1 u t 1 '' ");
 const QString kJob = QStringLiteral("\"$D\" 1 u t 1 '' ");
 const QString kBooklet = QStringLiteral("\"$D\" 1 u t 1 OVKEnableBooklet ");
@@ -42,16 +41,7 @@ class LostOutput : public ::testing::Test {
     QProcess process;
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), commands});
-    return ended(process);
-  }
-
-  static Printed ended(QProcess &process) {
-    Printed printed;
-    EXPECT_TRUE(process.waitForFinished(patience));
-    printed.exitStatus = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
-    printed.output = process.readAllStandardOutput();
-    printed.messages = QString::fromUtf8(process.readAllStandardError()).split(u'\n');
-    return printed;
+    return finish(process);
   }
 
   void expectRefused(const QString &commands, const QString &about) {
@@ -163,7 +153,7 @@ TEST_F(LostOutput, IsNoneWherePostScriptComesByASocket) {
   process.setProcessEnvironment(environment);
   process.setChildProcessModifier([&] { ::dup2(ends[0], STDIN_FILENO); });
   process.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), kJob});
-  const Printed printed = ended(process);
+  const Printed printed = finish(process);
   ::close(ends[0]);
   EXPECT_EQ(printed.exitStatus, 0);
   EXPECT_EQ(printed.lines(QStringLiteral("PAGE: ")).size(), 3);

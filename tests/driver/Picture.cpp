@@ -5,17 +5,13 @@
 
 #include <gtest/gtest.h>
 
-#include <QByteArray>
-#include <QDir>
 #include <QProcess>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <algorithm>
 #include <map>
 
 #include "imposition/HeldSheet.h"
 #include "tests/driver/MarkedDocument.h"
-#include "tests/support/CapturingFilter.h"
 
 namespace orvek::test {
 namespace {
@@ -23,35 +19,31 @@ namespace {
 using imposition::Frame;
 using imposition::Size;
 
-constexpr int patience = 60000;
+constexpr int patience = 120000;
 constexpr double tolerance = 2;
 constexpr int darkness = 40;
 
-struct Picture {
-  int width = 0;
-  int height = 0;
-  QByteArray pixels;
-
-  int at(int x, int y, int part) const {
-    return static_cast<unsigned char>(pixels[(qsizetype(y) * width + x) * 3 + part]);
-  }
-  int pageAt(int x, int y) const { return pageOf(at(x, y, 0), at(x, y, 1), at(x, y, 2)); }
-  bool isDarkAt(int x, int y) const {
-    return std::max({at(x, y, 0), at(x, y, 1), at(x, y, 2)}) < darkness;
-  }
-};
-
 /// P6, lines of comment, width, height, 255, one white space, pixels.
-Picture readPicture(const QByteArray &file) {
+std::optional<Picture> pictureAt(const QByteArray &pictures, qsizetype *at) {
   QList<QByteArray> words;
-  qsizetype at = 0;
   while (words.size() < 4) {
-    qsizetype end = file.indexOf('\n', at);
-    const QByteArray line = file.mid(at, end - at);
-    at = end + 1;
+    const qsizetype end = pictures.indexOf('\n', *at);
+    if (end < 0) return std::nullopt;
+    const QByteArray line = pictures.mid(*at, end - *at);
+    *at = end + 1;
     if (!line.startsWith('#')) words += line.simplified().split(' ');
   }
-  return {words[1].toInt(), words[2].toInt(), file.mid(at)};
+  Picture picture{words[1].toInt(), words[2].toInt(), nullptr};
+  const auto bytes = static_cast<qsizetype>(picture.rowBytes()) * picture.height;
+  if (words[0] != "P6" || pictures.size() - *at < bytes) return std::nullopt;
+  picture.pixels = reinterpret_cast<const unsigned char *>(pictures.constData()) + *at;
+  *at += bytes;
+  return picture;
+}
+
+int pageAt(const Picture &picture, int x, int y) {
+  const unsigned char *parts = picture.pixel(x, y);
+  return pageOf(parts[0], parts[1], parts[2]);
 }
 
 struct Extent {
@@ -73,7 +65,7 @@ struct Extent {
 int turnOf(const Picture &picture, const Extent &page) {
   const auto isDark = [&](double across, double down) {
     return picture.isDarkAt(page.left + int(across * (page.right - page.left)),
-                            page.top + int(down * (page.bottom - page.top)));
+                            page.top + int(down * (page.bottom - page.top)), darkness);
   };
   constexpr double nearEdge = 0.075;
   if (isDark(0.5, nearEdge)) return 0;
@@ -87,7 +79,7 @@ SeenSide lookAt(const Picture &picture) {
   std::map<int, Extent> found;
   for (int y = 0; y < picture.height; ++y) {
     for (int x = 0; x < picture.width; ++x) {
-      if (const int page = picture.pageAt(x, y); page != 0) found[page].add(x, y);
+      if (const int page = pageAt(picture, x, y); page != 0) found[page].add(x, y);
     }
   }
   SeenSide side{{double(picture.width), double(picture.height)}, {}};
@@ -132,19 +124,41 @@ std::string obstacleToLooking() {
              : "";
 }
 
-std::vector<SeenSide> look(const std::string &file) {
-  const QTemporaryDir folder;
+bool Picture::isDarkAt(int x, int y, int darkness) const {
+  if (x < 0 || y < 0 || x >= width || y >= height) return false;
+  const unsigned char *parts = pixel(x, y);
+  return std::max({parts[0], parts[1], parts[2]}) < darkness;
+}
+
+QByteArray drawn(const QString &file) {
   QProcess drawing;
-  drawing.start(QStringLiteral("gs"),
-                {QStringLiteral("-q"), QStringLiteral("-dSAFER"), QStringLiteral("-dBATCH"),
-                 QStringLiteral("-dNOPAUSE"), QStringLiteral("-sDEVICE=ppmraw"),
-                 QStringLiteral("-r72"), QStringLiteral("-o"),
-                 folder.filePath(QStringLiteral("side%05d.ppm")), QString::fromStdString(file)});
+  drawing.start(
+      QStringLiteral("gs"),
+      {QStringLiteral("-q"), QStringLiteral("-dSAFER"), QStringLiteral("-dBATCH"),
+       QStringLiteral("-dNOPAUSE"), QStringLiteral("-sDEVICE=ppmraw"), QStringLiteral("-r72"),
+       QStringLiteral("-sstdout=%stderr"), QStringLiteral("-o"), QStringLiteral("-"), file});
   EXPECT_TRUE(drawing.waitForFinished(patience));
-  EXPECT_EQ(drawing.exitCode(), 0) << drawing.readAllStandardOutput().toStdString();
+  EXPECT_EQ(drawing.exitCode(), 0) << drawing.readAllStandardError().toStdString();
+  return drawing.readAllStandardOutput();
+}
+
+std::optional<Picture> nextPicture(const QByteArray &pictures, qsizetype *at) {
+  const qsizetype begin = *at;
+  const auto picture = pictureAt(pictures, at);
+  if (!picture) {
+    ADD_FAILURE() << "Ghostscript drew no picture, but said: "
+                  << pictures.mid(begin).left(300).toStdString();
+  }
+  return picture;
+}
+
+std::vector<SeenSide> look(const std::string &file) {
+  const QByteArray pictures = drawn(QString::fromStdString(file));
   std::vector<SeenSide> sides;
-  for (const QString &name : QDir(folder.path()).entryList({QStringLiteral("*.ppm")})) {
-    sides.push_back(lookAt(readPicture(contentsOf(folder.filePath(name)))));
+  for (qsizetype at = 0; at < pictures.size();) {
+    const auto picture = nextPicture(pictures, &at);
+    if (!picture) break;
+    sides.push_back(lookAt(*picture));
   }
   return sides;
 }

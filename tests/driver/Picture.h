@@ -2,7 +2,10 @@
 // Printed sides as pictures, and the marked pages that are seen on them.
 #pragma once
 
-#include <ostream>
+#include <QByteArray>
+#include <QString>
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,7 +31,28 @@ struct SeenSide {
 /// Why nothing can be looked at on this machine; empty where it can.
 std::string obstacleToLooking();
 
-/// Has Ghostscript draw a PostScript or PDF file, one point a pixel, and looks at every side.
+/// A drawn side. Borrows its pixels, three bytes each, row by row.
+struct Picture {
+  int width = 0;
+  int height = 0;
+  const unsigned char *pixels = nullptr;
+
+  std::size_t rowBytes() const { return 3 * static_cast<std::size_t>(width); }
+  const unsigned char *row(int y) const { return pixels + rowBytes() * static_cast<unsigned>(y); }
+  const unsigned char *pixel(int x, int y) const { return row(y) + std::ptrdiff_t{3} * x; }
+  /// No part of its colour reaches `darkness`.
+  bool isDarkAt(int x, int y, int darkness) const;
+};
+
+/// Has Ghostscript draw a PostScript or PDF file, one point a pixel: a picture for each side (PPM,
+/// six), one behind the other.
+QByteArray drawn(const QString &file);
+
+/// The picture that begins at a place; the place moves on behind it. Nothing, and a failure of the
+/// test, where none does.
+std::optional<Picture> nextPicture(const QByteArray &pictures, qsizetype *at);
+
+/// Draws such a file and looks at every side for marked pages.
 std::vector<SeenSide> look(const std::string &file);
 
 /// What ought to be seen on the sides of an imposed job, as the printer feeds `paper`.

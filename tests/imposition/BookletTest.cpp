@@ -7,9 +7,9 @@
 
 #include <algorithm>
 #include <limits>
-#include <random>
 
 #include "imposition/PageOrder.h"
+#include "tests/support/Dice.h"
 
 namespace orvek::imposition {
 namespace {
@@ -122,10 +122,8 @@ struct Sample {
 };
 
 Sample sampleOf(unsigned seed) {
-  std::mt19937 random(seed);
-  const auto between = [&](int least, int most) {
-    return std::uniform_int_distribution<int>(least, most)(random);
-  };
+  test::Dice dice(seed);
+  const auto between = [&](int least, int most) { return dice.from(least, most); };
   Sample sample;
   sample.paper = {double(between(40, 1300)), double(between(40, 1300))};
   for (int page = between(1, 40); page > 0; --page) {

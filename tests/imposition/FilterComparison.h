@@ -4,19 +4,12 @@
 
 #include <QString>
 #include <QStringList>
-#include <random>
 #include <vector>
 
 #include "imposition/FilterLayout.h"
 #include "tests/support/NumberedPages.h"
 
 namespace orvek::imposition {
-
-/// One of the values.
-template <typename T>
-T any(std::mt19937 &random, const std::vector<T> &values) {
-  return values[std::uniform_int_distribution<std::size_t>(0, values.size() - 1)(random)];
-}
 
 /// Random jobs go by numbers: ORVEK_SEED is the first, ORVEK_JOBS how many there are.
 unsigned firstSeed();

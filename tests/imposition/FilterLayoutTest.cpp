@@ -8,10 +8,10 @@
 
 #include <QFile>
 #include <QTemporaryDir>
-#include <random>
 
 #include "imposition/CellOrder.h"
 #include "tests/imposition/FilterComparison.h"
+#include "tests/support/Dice.h"
 #include "tests/support/NumberedPages.h"
 
 namespace orvek::imposition {
@@ -43,22 +43,22 @@ struct RandomJob {
   QList<test::NumberedPage> pages;
 };
 
-void choosePages(std::mt19937 &random, RandomJob *job) {
-  const int count = std::uniform_int_distribution<int>(1, 9)(random);
-  const bool isMixed = any<bool>(random, {true, false});
-  QSizeF size = any(random, pageSizes);
+void choosePages(test::Dice &dice, RandomJob *job) {
+  const int count = dice.from(1, 9);
+  const bool isMixed = dice.any<bool>({true, false});
+  QSizeF size = dice.any(pageSizes);
   for (int i = 0; i < count; ++i) {
-    if (isMixed) size = any(random, pageSizes);
+    if (isMixed) size = dice.any(pageSizes);
     // The filters themselves lose the middle of square pages that have a quarter turn.
     const bool isSquare = size.width() == size.height();
-    job->pages.append({size, isSquare ? 0 : any<int>(random, {0, 0, 0, 90, 180, 270}), {}, {}});
+    job->pages.append({size, isSquare ? 0 : dice.any<int>({0, 0, 0, 90, 180, 270}), {}, {}});
   }
-  if (any<int>(random, {0, 1, 2}) == 0) job->pages[0].trim = QRectF(40, 60, 200, 190);
+  if (dice.any<int>({0, 1, 2}) == 0) job->pages[0].trim = QRectF(40, 60, 200, 190);
 }
 
-void chooseSides(std::mt19937 &random, RandomJob *job) {
+void chooseSides(test::Dice &dice, RandomJob *job) {
   SideSelection &sides = job->job.sides;
-  switch (any<int>(random, {0, 0, 1, 2})) {
+  switch (dice.any<int>({0, 0, 1, 2})) {
     case 1:
       sides.ranges = {{1, 2}};
       job->options << QStringLiteral("page-ranges=1-2");
@@ -70,65 +70,65 @@ void chooseSides(std::mt19937 &random, RandomJob *job) {
     default:
       break;
   }
-  sides.parity = any<Parity>(random, {Parity::All, Parity::All, Parity::All, Parity::Odd});
+  sides.parity = dice.any<Parity>({Parity::All, Parity::All, Parity::All, Parity::Odd});
   if (sides.parity == Parity::Odd) job->options << QStringLiteral("page-set=odd");
-  sides.reverse = any<bool>(random, {false, true});
+  sides.reverse = dice.any<bool>({false, true});
   if (sides.reverse) job->options << QStringLiteral("outputorder=reverse");
-  sides.twoSided = any<bool>(random, {false, true});
+  sides.twoSided = dice.any<bool>({false, true});
   if (sides.twoSided) job->options << QStringLiteral("Duplex=DuplexNoTumble");
 }
 
-void chooseBooklet(std::mt19937 &random, RandomJob *job) {
-  job->job.booklet = any<OwnBooklet>(random, {OwnBooklet::Off, OwnBooklet::Off, OwnBooklet::Off,
-                                              OwnBooklet::Sides, OwnBooklet::Order});
+void chooseBooklet(test::Dice &dice, RandomJob *job) {
+  job->job.booklet = dice.any<OwnBooklet>(
+      {OwnBooklet::Off, OwnBooklet::Off, OwnBooklet::Off, OwnBooklet::Sides, OwnBooklet::Order});
   if (job->job.booklet == OwnBooklet::Off) return;
   const bool isWhole = job->job.booklet == OwnBooklet::Sides;
   job->options << (isWhole ? QStringLiteral("booklet") : QStringLiteral("booklet=shuffle-only"));
-  job->job.signature = any<int>(random, {0, 0, 4, 8});
+  job->job.signature = dice.any<int>({0, 0, 4, 8});
   if (job->job.signature == 0) return;
   job->options << QStringLiteral("booklet-signature=%1").arg(job->job.signature);
 }
 
-void choosePlaces(std::mt19937 &random, RandomJob *job) {
-  const auto place = any<std::string>(
-      random, {"", "", "left", "top-right", "bottom", "bottom-left", "center", "top"});
+void choosePlaces(test::Dice &dice, RandomJob *job) {
+  const auto place = dice.any<std::string>(
+      {"", "", "left", "top-right", "bottom", "bottom-left", "center", "top"});
   job->job.position = readPosition(place);
   if (!place.empty()) job->options << "position=" + QString::fromStdString(place);
   for (const test::NumberedPage &page : job->pages) job->job.ownTurns.push_back(page.turn);
-  job->job.isMirrored = any<int>(random, {0, 1, 2, 3}) == 0;
+  job->job.isMirrored = dice.any<int>({0, 1, 2, 3}) == 0;
   if (job->job.isMirrored) job->options << QStringLiteral("mirror");
-  chooseBooklet(random, job);
+  chooseBooklet(dice, job);
 }
 
 RandomJob randomJob(unsigned seed) {
-  std::mt19937 random(seed);
+  test::Dice dice(seed);
   RandomJob job;
-  choosePages(random, &job);
-  chooseSides(random, &job);
-  const PaperName paper = any(random, std::vector<PaperName>(std::begin(papers), std::end(papers)));
+  choosePages(dice, &job);
+  chooseSides(dice, &job);
+  const PaperName paper = dice.any(std::vector<PaperName>(std::begin(papers), std::end(papers)));
   job.job.paper = paper.size;
   job.job.printable = {margin, margin, paper.size.width - 2 * margin,
                        paper.size.height - 2 * margin};
   job.options << QStringLiteral("PageSize=%1").arg(QString::fromLatin1(paper.name));
-  job.job.pagesPerSide = any<int>(random, {1, 1, 1, 2, 2, 3, 4, 6, 8, 9, 10, 12, 15, 16, 5});
+  job.job.pagesPerSide = dice.any<int>({1, 1, 1, 2, 2, 3, 4, 6, 8, 9, 10, 12, 15, 16, 5});
   if (job.job.pagesPerSide > 1) {
     job.options << QStringLiteral("number-up=%1").arg(job.job.pagesPerSide);
   }
-  job.job.order = any<std::string>(random, {"", "", "rltb", "tblr", "btrl", "lrbt"});
+  job.job.order = dice.any<std::string>({"", "", "rltb", "tblr", "btrl", "lrbt"});
   if (!job.job.order.empty()) {
     job.options << QStringLiteral("number-up-layout=%1").arg(QString::fromStdString(job.job.order));
   }
-  const int orientation = any<int>(random, {0, 0, 0, 3, 4, 5, 6});
+  const int orientation = dice.any<int>({0, 0, 0, 3, 4, 5, 6});
   if (orientation > 0) {
     job.job.turning = static_cast<Turning>(orientation - 3);
     job.options << QStringLiteral("orientation-requested=%1").arg(orientation);
   }
-  job.job.scaling = any<Scaling>(
-      random, {Scaling::Automatic, Scaling::Automatic, Scaling::None, Scaling::Fit, Scaling::Fill});
+  job.job.scaling = dice.any<Scaling>(
+      {Scaling::Automatic, Scaling::Automatic, Scaling::None, Scaling::Fit, Scaling::Fill});
   const char *words[] = {"auto", "none", "fit", "fill"};
   job.options << QStringLiteral("print-scaling=%1")
                      .arg(QString::fromLatin1(words[static_cast<int>(job.job.scaling)]));
-  choosePlaces(random, &job);
+  choosePlaces(dice, &job);
   return job;
 }
 
