@@ -13,6 +13,7 @@
 #include "host/session/PrintSession.h"
 #include "host/ticket/BookletSettings.h"
 #include "host/ticket/PageRanges.h"
+#include "imposition/Finishing.h"
 #include "imposition/JobSheets.h"
 #include "imposition/StandardOptions.h"
 #include "platform/plugin/FinishingKeywords.h"
@@ -44,15 +45,18 @@ QString staplesUncollated(const Marks &marks, const JobSettings &settings) {
       .arg(namedChoice(marks.printer(), {option, marks.marked(option)}));
 }
 
-bool isSaddleFolded(const Marks &marks) {
-  return sameKeyword(marks.marked(QLatin1String(foldingKeyword)), saddleFold);
-}
-
 imposition::ValueOf markedIn(const Marks &marks) {
   return [&marks](const char *option) -> std::optional<std::string> {
     const QString marked = marks.marked(QString::fromLatin1(option));
     return marked.isNull() ? std::nullopt : std::optional(marked.toStdString());
   };
+}
+
+// Of a booklet that leaves the printer flat, whoever folds it knows how many sheets go together.
+bool isFoldedByPrinter(const Marks &marks, const TicketValues &ticket) {
+  if (sameKeyword(marks.marked(QLatin1String(foldingKeyword)), saddleFold)) return true;
+  const imposition::Finishing finishing = imposition::readFinishing(markedIn(marks));
+  return bookletSettings(ticket).enabled && (finishing.stapledInFold || !finishing.fold.empty());
 }
 
 imposition::SheetJob sheetJobOf(const Marks &marks, const TicketValues &ticket,
@@ -106,7 +110,7 @@ int maximumBookletSheets(const PrinterDescription &printer) {
 }
 
 bool warningsDependOnPages(const Marks &marks, const TicketValues &ticket) {
-  return bookletSettings(ticket).enabled || isSaddleFolded(marks);
+  return isFoldedByPrinter(marks, ticket);
 }
 
 QStringList jobWarnings(const Marks &marks, const TicketValues &ticket, const JobSettings &settings,

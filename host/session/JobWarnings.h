@@ -14,9 +14,9 @@ namespace orvek {
 class PrintSession;
 
 /// One sentence, without a full stop, for each of: page ranges that can't be read (all pages would
-/// be printed); staples in copies that are not collated; a booklet of more sheets than the printer
-/// folds; page ranges that the document has no page of. `pages` is the document's page count (0:
-/// unknown, and then the last two are not judged).
+/// be printed); staples in copies that are not collated; a booklet that the printer is to fold, of
+/// more sheets than it folds; page ranges that the document has no page of. `pages` is the
+/// document's page count (0: unknown, and then the last two are not judged).
 QStringList jobWarnings(const Marks &marks, const TicketValues &ticket, const JobSettings &settings,
                         int pages);
 
@@ -24,8 +24,8 @@ QStringList jobWarnings(const Marks &marks, const TicketValues &ticket, const Jo
 /// two sides a booklet is printed on.
 QStringList jobWarnings(const PrintSession &session, int pages);
 
-/// Whether jobWarnings() needs to know the page count: where sheets are folded. Counting the pages
-/// of a PDF takes longer than sending it.
+/// Whether jobWarnings() needs to know the page count: where the printer folds sheets. Counting the
+/// pages of a PDF takes longer than sending it.
 bool warningsDependOnPages(const Marks &marks, const TicketValues &ticket);
 
 /// How many sheets the printer folds into one booklet: *OVKBookletMaximumSheets of its PPD, or what

@@ -24,6 +24,11 @@ class JobWarnings : public testing::Test {
     session = PrintSession::begin(setup).take();
   }
 
+  void askForFoldedBooklet() {
+    session->pick("OVKFolding", "Saddle");
+    session->setTicketValue("OVKEnableBooklet", "True");
+  }
+
   void setCopies(int copies, bool collate) {
     JobSettings settings = session->job().settings();
     settings.copies = copies;
@@ -61,7 +66,7 @@ TEST_F(JobWarnings, NameWhatCannotBePrintedOnTheTwoSidesOfABooklet) {
   EXPECT_EQ(jobWarnings(*session, 8), QStringList());
 }
 
-TEST_F(JobWarnings, DependOnThePageCountOnlyWhereSheetsAreFolded) {
+TEST_F(JobWarnings, DependOnThePageCountOnlyWhereThePrinterFoldsSheets) {
   const auto depend = [this] {
     return warningsDependOnPages(session->marks(), session->ticket().values());
   };
@@ -71,19 +76,46 @@ TEST_F(JobWarnings, DependOnThePageCountOnlyWhereSheetsAreFolded) {
   session->pick("OVKFolding", "None");
   EXPECT_FALSE(depend());
   session->setTicketValue("OVKEnableBooklet", "True");
+  EXPECT_FALSE(depend());
+  session->pick("OVKFolding", "Saddle");
   EXPECT_TRUE(depend());
 }
 
-TEST_F(JobWarnings, NameABookletOfMoreSheetsThanThePrinterFolds) {
+TEST_F(JobWarnings, SayNothingOfALargeBookletThatNobodyFoldsButItsReader) {
   session->setTicketValue("OVKEnableBooklet", "True");
+  EXPECT_EQ(jobWarnings(*session, 400), QStringList());
+}
+
+TEST_F(JobWarnings, NameABookletOfMoreSheetsThanThePrinterFolds) {
+  askForFoldedBooklet();
   EXPECT_EQ(jobWarnings(*session, 60), QStringList());
   EXPECT_EQ(
       jobWarnings(*session, 61),
       QStringList{"A booklet of 16 sheets is more than the printer folds at once: at most 15"});
 }
 
-TEST_F(JobWarnings, CountOnlyThePagesThatAreAskedFor) {
+TEST(JobWarningsOfAnotherMakersPrinter, NameABookletThatItsOwnWordsHaveFolded) {
+  QFile original(QStringLiteral(ORVEK_SOURCE_DIR "/printers/Orvek-6180.ppd"));
+  ASSERT_TRUE(original.open(QIODevice::ReadOnly));
+  const QTemporaryDir folder;
+  SessionSetup setup;
+  const QString path = folder.filePath("folds.ppd");
+  QFile changed(path);
+  ASSERT_TRUE(changed.open(QIODevice::WriteOnly));
+  changed.write(original.readAll() +
+                "*OpenUI *FoldType/Fold: PickOne\n*DefaultFoldType: None\n*FoldType None: \"\"\n"
+                "*FoldType Half: \"\"\n*CloseUI: *FoldType\n");
+  changed.close();
+  setup.printer = PrinterDescription::open(path).take();
+  const auto session = PrintSession::begin(setup).take();
   session->setTicketValue("OVKEnableBooklet", "True");
+  EXPECT_EQ(jobWarnings(*session, 61), QStringList());
+  session->pick("FoldType", "Half");
+  EXPECT_EQ(jobWarnings(*session, 61).size(), 1);
+}
+
+TEST_F(JobWarnings, CountOnlyThePagesThatAreAskedFor) {
+  askForFoldedBooklet();
   JobSettings settings;
   settings.pageRanges = QStringLiteral("1-60");
   session->job().setSettings(settings);
@@ -113,7 +145,7 @@ TEST_F(JobWarnings, CountRangesAsThePrintSystemDoesWhereSeveralPagesShareASheet)
 }
 
 TEST_F(JobWarnings, DoNotJudgeADocumentOfUnknownLength) {
-  session->setTicketValue("OVKEnableBooklet", "True");
+  askForFoldedBooklet();
   EXPECT_EQ(jobWarnings(*session, 0), QStringList());
 }
 
