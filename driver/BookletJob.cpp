@@ -5,6 +5,7 @@
 
 #include <unistd.h>
 
+#include <cstdio>
 #include <string_view>
 #include <utility>
 
@@ -81,6 +82,13 @@ BookletRequest requestOf(const BookletJob &job, const FilterOptions &options,
   return request;
 }
 
+// As filters say such things.
+void tellMissing(int pages) {
+  if (pages == 0) return;
+  std::fprintf(stderr, "WARNING: %s: it lacks %d of its pages, which stay blank\n", nameless,
+               pages);
+}
+
 /// The sheets of the job's document, ready to be read; empty for an empty document.
 Result<File> sheetsOf(BookletJob *job, FilterOptions *options) {
   auto document = documentOf(job);
@@ -97,6 +105,7 @@ Result<File> sheetsOf(BookletJob *job, FilterOptions *options) {
   if (job->document.isEmpty) return sheets;
   const auto imposed = imposeDocument(document.value().get(), sheets.value().get(), request);
   if (!imposed) return imposed.failure();
+  tellMissing(imposed.value().missingPages);
   ::lseek(::fileno(sheets.value().get()), 0, SEEK_SET);
   return sheets;
 }

@@ -7,6 +7,8 @@
 // Only after it:
 #include <algorithm>
 #include <exception>
+#include <qpdf/Pipeline.hh>
+#include <qpdf/Pl_StdioFile.hh>
 #include <qpdf/QPDFAcroFormDocumentHelper.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFWriter.hh>
@@ -32,6 +34,12 @@ Failure failure(const QString &why) {
 
 Failure unwritten() {
   return failure(QStringLiteral("its sheets can't be written; make room for temporary files"));
+}
+
+Failure tooLarge(std::uintmax_t most) {
+  return failure(QStringLiteral("its sheets would take more than %1 MB, far more than the document "
+                                "itself; print some of its pages at a time")
+                     .arg(most >> 20));
 }
 
 /// What libqpdf says may quote the document.
@@ -81,10 +89,37 @@ void dropFiller(Pages &pages) {
   if (isEven && isFiller(pages.front())) pages.erase(pages.begin());
 }
 
+/// What is thrown through libqpdf where sheets grow beyond their bound.
+struct TooLarge : std::exception {};
+
+/// Hands on what is written, up to a bound.
+class BoundedOutput : public Pipeline {
+ public:
+  BoundedOutput(Pipeline *target, std::uintmax_t most) : Pipeline("sheets", target), m_left(most) {}
+
+  void write(const unsigned char *data, std::size_t size) override {
+    if (size > m_left) throw TooLarge();
+    m_left -= size;
+    getNext()->write(data, size);
+  }
+  void finish() override { getNext()->finish(); }
+
+ private:
+  std::uintmax_t m_left;
+};
+
+std::uintmax_t boundFor(std::FILE *document, std::uintmax_t least) {
+  constexpr std::uintmax_t times = 64;
+  std::fseek(document, 0, SEEK_END);
+  const long size = std::ftell(document);
+  std::rewind(document);
+  return std::max(least, size > 0 ? times * static_cast<std::uintmax_t>(size) : 0);
+}
+
 /// `isFiltered`: some streams have yet to be worked on, which libqpdf does where it decodes them.
-void write(QPDF &document, std::FILE *sheets, bool isFiltered) {
+void write(QPDF &document, Pipeline *sheets, bool isFiltered) {
   QPDFWriter writer(document);
-  writer.setOutputFile("sheets", sheets, false);
+  writer.setOutputPipeline(sheets);
   writer.setPreserveEncryption(false);
   // It is read once, at once, on this machine.
   if (!isFiltered) writer.setDecodeLevel(qpdf_dl_none);
@@ -124,9 +159,17 @@ Size paperFor(const BookletRequest &request, const Pages &pages) {
   return formOf(pages.front(), usualPaper, &made).size;
 }
 
-Result<int> impose(QPDF &document, std::FILE *sheets, const BookletRequest &request) {
+int countMissing(const Pages &pages) {
+  const auto missing = std::count_if(pages.begin(), pages.end(), [](QPDFPageObjectHelper page) {
+    return !page.getObjectHandle().isDictionary();
+  });
+  return static_cast<int>(missing);
+}
+
+Result<ImposedSheets> impose(QPDF &document, Pipeline *sheets, const BookletRequest &request) {
   auto pages = pagesOf(document);
   if (!pages) return pages.failure();
+  const int missing = countMissing(pages.value());
   if (request.mayBeginWithFiller) dropFiller(pages.value());
   if (request.isTurnedForTray) std::reverse(pages.value().begin(), pages.value().end());
   const bool hasAnnotations = drawAnnotations(document, pages.value());
@@ -134,21 +177,27 @@ Result<int> impose(QPDF &document, std::FILE *sheets, const BookletRequest &requ
   const auto sides = sidesOf(document, formsOf(pages.value(), paper), paper, request.keys);
   replacePages(document, sides);
   write(document, sheets, hasAnnotations);
-  // What earlier writes lost is no longer there to be flushed.
-  if (std::fflush(sheets) != 0 || std::ferror(sheets) != 0) {
-    return unwritten();
-  }
-  return static_cast<int>(sides.size());
+  return ImposedSheets{static_cast<int>(sides.size()), missing};
 }
 
 }  // namespace
 
-Result<int> imposeDocument(std::FILE *document, std::FILE *sheets, const BookletRequest &request) {
+Result<ImposedSheets> imposeDocument(std::FILE *document, std::FILE *sheets,
+                                     const BookletRequest &request) {
+  const std::uintmax_t most = boundFor(document, request.mostBytes);
   try {
     QPDF pdf;
     pdf.setSuppressWarnings(true);
     pdf.processFile("document", document, false);
-    return impose(pdf, sheets, request);
+    Pl_StdioFile file("sheets", sheets);
+    BoundedOutput output(&file, most);
+    const auto imposed = impose(pdf, &output, request);
+    // What earlier writes lost is no longer there to be flushed.
+    const bool isWritten = std::fflush(sheets) == 0 && std::ferror(sheets) == 0;
+    if (imposed && !isWritten) return unwritten();
+    return imposed;
+  } catch (const TooLarge &) {
+    return tooLarge(most);
   } catch (const QPDFExc &error) {
     return failureOf(error);
   } catch (const std::exception &error) {

@@ -23,7 +23,8 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
   const auto sides = orvek::driver::imposeDocument(document, sheets, request);
   std::fclose(sheets);
   std::fclose(document);
-  const bool isGood = sides ? sides.value() > 0 && sides.value() % 2 == 0 && written > 0
+  const int count = sides ? sides.value().sides : 0;
+  const bool isGood = sides ? count > 0 && count % 2 == 0 && written > 0
                             : !sides.failure().line().contains(QLatin1Char('\n'));
   std::free(bytes);
   if (!isGood) std::abort();

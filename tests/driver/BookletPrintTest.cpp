@@ -219,6 +219,21 @@ TEST_F(BookletPrint, WritesSheetsInsteadOfPrintingThem) {
   expectSeen(look(out.toStdString()), booklet(6, a4, keys));
 }
 
+TEST_F(BookletPrint, SaysInOneLineThatADocumentLacksPages) {
+  const QString file = kit.write(
+      QStringLiteral("in.pdf"),
+      pdfOf({"<</Type/Catalog/Pages 2 0 R>>", "<</Type/Pages/Count 3/Kids[3 0 R 4 0 R 5 0 R]>>",
+             "<</Type/Page/Parent 2 0 R/MediaBox[0 0 595 842]>>", "null"}));
+  const QStringList sheets{QStringLiteral("--sheets")};
+  const Printed lacking = runDriverAlone(kit, kBooklet, file, {}, sheets);
+  EXPECT_EQ(lacking.exitStatus, 0);
+  const QString warning = QStringLiteral("WARNING: ");
+  EXPECT_EQ(lacking.lines(warning),
+            QStringList{"the document: it lacks 2 of its pages, which stay blank"});
+  const QString whole = kit.write(QStringLiteral("whole.pdf"), markedDocument(3));
+  EXPECT_EQ(runDriverAlone(kit, kBooklet, whole, {}, sheets).lines(warning), QStringList());
+}
+
 TEST_F(BookletPrint, SaysInOneLineWhatIsWrongWithADocument) {
   const QString file = kit.write(QStringLiteral("in.pdf"), "no document\n");
   printed = runDriverAlone(kit, kBooklet, file);

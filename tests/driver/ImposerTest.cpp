@@ -44,7 +44,7 @@ class Imposer : public ::testing::Test {
     const auto sides = imposeDocument(input.get(), output.get(), request);
     EXPECT_TRUE(sides) << sides.failure().line().toStdString();
     const auto seen = look(out);
-    EXPECT_EQ(sides.value(), std::ssize(seen));
+    EXPECT_EQ(sides.value().sides, std::ssize(seen));
     return seen;
   }
 
