@@ -66,10 +66,11 @@ TEST(PageReport, PassesOverWhatIsNoPage) {
 TEST(PageReport, TakesNoNumberThatIsNone) {
   const auto pages = pagesInReport(
       "Page 1 rot: 1e300\nPage 1 CropBox: 0 0 1e300 1e-300\n"
-      "Page 2 rot: -90\nPage 2 CropBox: -1e308 0 1e308 5\n");
-  ASSERT_EQ(pages.size(), 2);
+      "Page 2 rot: -90\nPage 2 CropBox: -1e308 0 1e308 5\n"
+      "Page 3 CropBox: 0 0 2e9 5\nPage 4 CropBox: 0 0 5 2e9\n");
+  ASSERT_EQ(pages.size(), 4);
   EXPECT_EQ(pages[0], (DocumentPage{QSizeF(0, 0), {0, 0, 1, 1}, 0}));
-  EXPECT_EQ(pages[1].size, QSizeF(0, 0));
+  for (const DocumentPage &page : pages) EXPECT_EQ(page.size, QSizeF(0, 0));
 }
 
 TEST_F(DocumentPagesTest, ReadsEachPagesSizeAsItIsDisplayed) {
