@@ -79,6 +79,10 @@ DriverPlaces DriverPlaces::ofThisProgram() {
           qEnvironmentVariable("CUPS_SERVERBIN", QStringLiteral(ORVEK_CUPS_SERVERBIN))};
 }
 
+QString bookletDriverName() {
+  return driverName;
+}
+
 QString findBookletDriver(const DriverPlaces &places) {
   QStringList folders;
   const QDir prefix(QDir::cleanPath(places.programFolder + QStringLiteral("/..")));

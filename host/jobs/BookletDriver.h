@@ -21,6 +21,9 @@ struct DriverPlaces {
   static DriverPlaces ofThisProgram();
 };
 
+/// The name of the driver's program, as PPDs name it.
+QString bookletDriverName();
+
 /// The path of the driver's program, that of a build tree before any that is installed; null where
 /// there is none.
 QString findBookletDriver(const DriverPlaces &places);

@@ -69,6 +69,7 @@ void askForNothingMore(JobRequest *job) {
   removeAll(&job->options, imposition::doneWithSheets);
   job->options.insert(copiesOption, QStringLiteral("1"));
   job->options.insert(bannersOption, QStringLiteral("none"));
+  job->options.insert(finishedSheetsMark, QStringLiteral("true"));
   job->options.insert(formatOption, QStringLiteral("application/vnd.cups-raw"));
 }
 

@@ -2,6 +2,7 @@
 // A job whose sheets are made on this machine, for a print server that lacks the driver.
 #pragma once
 
+#include <QLatin1String>
 #include <QTemporaryDir>
 #include <memory>
 
@@ -10,6 +11,9 @@
 #include "platform/system/Result.h"
 
 namespace orvek {
+
+/// Marks the jobs that are sent as the printer takes them to a server that stops every other job.
+inline constexpr QLatin1String finishedSheetsMark{"orvek-finished-sheets"};
 
 /// The files of finished sheets, which go away with the object, and the job that prints them.
 class FinishedSheets {

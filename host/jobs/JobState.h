@@ -10,4 +10,7 @@ namespace orvek {
 /// filters. False where it does not tell.
 bool isStoppedByServer(ServerTalk &talk, int jobId);
 
+/// Whether the last job that the queue was sent, within an hour, was told this option.
+bool hasMarkedJob(ServerTalk &talk, const QString &queue, const QString &option);
+
 }  // namespace orvek

@@ -117,15 +117,29 @@ Result<JobOutcome> goAround(ServerDriver driver, const JobRequest &job, const QS
   return sendSheets(job, driver, beginOfInput, control);
 }
 
-ServerDriver driverOf(const Target &target, JobRequest *job) {
-  const QString reasons = target.queue.options.value(QLatin1String(stateReasons));
-  if (!dependsOnServerDriver(job->options, reasons)) return ServerDriver::Works;
-  job->ppdFile = descriptionOf(*target.talk, target.queue);
-  return serverDriverFor(job->options, reasons, job->ppdFile);
+QueueState stateOf(const Queue &queue) {
+  return {queue.options.value(QLatin1String(stateReasons)), queue.stateMessage};
 }
 
-// A server forgets that it lacks a filter with every job that needs none, and remembers it with the
-// next that does.
+ServerDriver driverOf(const Target &target, JobRequest *job) {
+  const QueueState state = stateOf(target.queue);
+  if (!dependsOnServerDriver(job->options, state)) return ServerDriver::Works;
+  job->ppdFile = descriptionOf(*target.talk, target.queue);
+  return serverDriverFor(job->options, state, job->ppdFile);
+}
+
+/// The same before anything was sent: where the state says nothing, the queue's last job may.
+ServerDriver driverFor(const Target &target, JobRequest *job) {
+  const ServerDriver driver = driverOf(target, job);
+  const bool mayTell = driver == ServerDriver::Works &&
+                       mayHaveForgotten(job->options, stateOf(target.queue), job->ppdFile);
+  if (!mayTell || !hasMarkedJob(*target.talk, target.queue.name, finishedSheetsMark)) return driver;
+  const QString ppdFile = descriptionOf(*target.talk, target.queue);
+  if (driverNamedIn(ppdFile) != NamedDriver::Ours) return driver;
+  job->ppdFile = ppdFile;
+  return ServerDriver::StopsEveryJob;
+}
+
 bool isStoppedForDriver(const Target &target, const JobRequest &job, int jobId) {
   if (job.ppdFile.isNull() || driverNamedIn(job.ppdFile) != NamedDriver::Ours) return false;
   return isStoppedByServer(*target.talk, jobId);
@@ -162,7 +176,7 @@ Result<JobOutcome> submitToQueue(const JobRequest &request, JobControl &control)
   options.addMissing(savedOptions(target.value().queue, request));
   JobRequest job = request;
   job.options = options.all();
-  const ServerDriver driver = driverOf(target.value(), &job);
+  const ServerDriver driver = driverFor(target.value(), &job);
   if (driver != ServerDriver::Works) {
     return goAround(driver, job, target.value().queue.name, begin.value(), control);
   }

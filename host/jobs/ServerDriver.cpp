@@ -5,6 +5,7 @@
 
 #include <cups/cups.h>
 
+#include <QRegularExpression>
 #include <array>
 
 #include "host/jobs/BookletDriver.h"
@@ -27,8 +28,15 @@ bool isDeviceReady(const QMap<QString, QString> &options) {
   return valueNamed(options, u"raw").has_value();
 }
 
-bool lacksAFilter(const QString &stateReasons) {
-  return stateReasons.contains(missingFilter) || stateReasons.contains(untrustedFilter);
+bool lacksAFilter(const QueueState &state) {
+  return state.reasons.contains(missingFilter) || state.reasons.contains(untrustedFilter);
+}
+
+// A message that names no file at all says nothing against it.
+bool namesAnotherFilter(const QString &message) {
+  static const QRegularExpression file(QStringLiteral("/([^/\"“”„«»]+)[\"“”«»]"));
+  const QRegularExpressionMatch found = file.match(message);
+  return found.hasMatch() && found.captured(1) != bookletDriverName();
 }
 
 }  // namespace
@@ -46,18 +54,23 @@ Phrase lackOfDriver(ServerDriver driver) {
   return {};
 }
 
-bool dependsOnServerDriver(const QMap<QString, QString> &options, const QString &stateReasons) {
-  return !isDeviceReady(options) && (lacksAFilter(stateReasons) || asksForBooklet(options));
+bool dependsOnServerDriver(const QMap<QString, QString> &options, const QueueState &state) {
+  return !isDeviceReady(options) && (lacksAFilter(state) || asksForBooklet(options));
 }
 
-ServerDriver serverDriverFor(const QMap<QString, QString> &options, const QString &stateReasons,
+bool mayHaveForgotten(const QMap<QString, QString> &options, const QueueState &state,
+                      const QString &queuePPD) {
+  if (queuePPD.isNull() || isDeviceReady(options) || lacksAFilter(state)) return false;
+  return driverNamedIn(queuePPD) == NamedDriver::Ours;
+}
+
+ServerDriver serverDriverFor(const QMap<QString, QString> &options, const QueueState &state,
                              const QString &queuePPD) {
-  if (queuePPD.isNull() || !dependsOnServerDriver(options, stateReasons)) {
-    return ServerDriver::Works;
-  }
+  if (queuePPD.isNull() || !dependsOnServerDriver(options, state)) return ServerDriver::Works;
+  const bool lacksOurs = lacksAFilter(state) && !namesAnotherFilter(state.message);
   switch (driverNamedIn(queuePPD)) {
     case NamedDriver::Ours:
-      return lacksAFilter(stateReasons) ? ServerDriver::StopsEveryJob : ServerDriver::Works;
+      return lacksOurs ? ServerDriver::StopsEveryJob : ServerDriver::Works;
     case NamedDriver::NoneForBooklets:
       return asksForBooklet(options) ? ServerDriver::MakesNoBooklets : ServerDriver::Works;
     case NamedDriver::Other:

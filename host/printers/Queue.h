@@ -37,7 +37,7 @@ struct Queue {
   PrinterState state = PrinterState::Unknown;
   /// Why it is in that state, in words; empty: nothing to report.
   QStringList reasons;
-  /// What was said of it last; null: nothing, or not listed.
+  /// What was said of it last; null: nothing, or it was found by its name and lacks no filter.
   QString stateMessage;
   bool acceptsJobs = true;
   bool isDefault = false;

@@ -54,7 +54,17 @@ enum class MessageKind : char {
 };
 
 /// What the helper is asked to do. The first question opens the connection.
-enum class ServerTask { Open, List, Find, Settings, Description, Send, IsStopped, Cancel };
+enum class ServerTask {
+  Open,
+  List,
+  Find,
+  Settings,
+  Description,
+  Send,
+  IsStopped,
+  HasMarkedJob,
+  Cancel
+};
 
 /// A message. Plain data.
 struct Message {

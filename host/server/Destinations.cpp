@@ -4,6 +4,7 @@
 #include "host/server/Destinations.h"
 
 #include <QMap>
+#include <cstring>
 
 #include "host/printers/Queue.h"
 #include "host/server/Request.h"
@@ -66,6 +67,14 @@ Result<QMap<QString, QString>> stateMessages(const CupsConnection &connection) {
   return messages;
 }
 
+// Which filter a queue lacks only its message says.
+QString messageOf(const CupsConnection &connection, const cups_dest_t &queue) {
+  const char *reasons = cupsGetOption("printer-state-reasons", queue.num_options, queue.options);
+  if (reasons == nullptr || std::strstr(reasons, "-filter") == nullptr) return {};
+  const auto messages = stateMessages(connection);
+  return messages ? messages.value().value(QString::fromUtf8(queue.name)) : QString();
+}
+
 /// Where a question about one queue fails, libcups asks again over a connection of its own, which
 /// waits as long as the server likes. So a server has to show first that it answers at all.
 Status checkAnswers(const CupsConnection &connection) {
@@ -125,7 +134,7 @@ Result<QCborMap> findDestinationAsAsked(const CupsConnection &connection, Fields
       cupsGetNamedDest(connection.http(), name.isEmpty() ? nullptr : name.constData(),
                        instance.isEmpty() ? nullptr : instance.constData());
   if (found != nullptr) {
-    const QCborMap answer = fieldsOf(*found, {});
+    const QCborMap answer = fieldsOf(*found, messageOf(connection, *found));
     cupsFreeDests(1, found);
     return answer;
   }

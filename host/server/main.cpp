@@ -10,6 +10,7 @@
 #include "host/server/CupsConnection.h"
 #include "host/server/Destinations.h"
 #include "host/server/PPDDownload.h"
+#include "host/server/QueueJobs.h"
 #include "host/server/QueueSettings.h"
 #include "host/server/SendJob.h"
 
@@ -31,6 +32,8 @@ Result<QCborMap> answerTo(ServerTask task, const CupsConnection &connection, con
       return sendJobAsAsked(connection, fields);
     case ServerTask::IsStopped:
       return isJobStoppedAsAsked(connection, fields);
+    case ServerTask::HasMarkedJob:
+      return hasMarkedJobAsAsked(connection, fields);
     case ServerTask::Cancel:
       return cancelJobAsAsked(connection, fields);
     case ServerTask::Open:
