@@ -30,8 +30,9 @@ Status tellJob(const CommandLine &line, const QString &words) {
 
 void tellDriver(const JobOutcome &outcome) {
   if (outcome.driver == ServerDriver::Works) return;
-  tell(QStringLiteral("%1: %2; the sheets were made here and sent finished")
-           .arg(outcome.queue, lackOfDriver(outcome.driver)));
+  const QString lost = QLatin1String(outcome.lacksBanners ? ", without banner pages" : "");
+  tell(QStringLiteral("%1: %2; the sheets were made here and sent finished%3")
+           .arg(outcome.queue, lackOfDriver(outcome.driver), lost));
 }
 
 Status printOnQueue(const CommandLine &line, const ReadJob &job) {

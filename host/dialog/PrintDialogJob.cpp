@@ -59,7 +59,9 @@ bool PrintDialog::acceptsSheets(const JobOutcome &outcome) {
   const Failure lack{FailureKind::Io, outcome.queue, lackOfDriver(outcome.driver)};
   PlainMessageBox question(QMessageBox::Question, tr("Print"), failureText(lack) + QLatin1Char('.'),
                            QMessageBox::Cancel, this);
-  question.setInformativeText(tr("The sheets can be made on this computer and sent finished."));
+  QString offer = tr("The sheets can be made on this computer and sent finished.");
+  if (outcome.lacksBanners) offer += u' ' + tr("Banner pages would be left out.");
+  question.setInformativeText(offer);
   const QString words = asksForBooklet(m_request.options) ? tr("&Impose here and print")
                                                           : tr("&Prepare here and print");
   QPushButton *print = question.addButton(words, QMessageBox::AcceptRole);

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <algorithm>
 
 #include "host/jobs/BookletDriver.h"
 #include "host/jobs/Document.h"
@@ -26,6 +27,7 @@ using Options = QMap<QString, QString>;
 const QString copiesOption = QStringLiteral("copies");
 const QString formatOption = QStringLiteral("document-format");
 const QString bannersOption = QStringLiteral("job-sheets");
+const QString noBanner = QStringLiteral("none");
 
 template <typename Names>
 void removeAll(Options *options, const Names &names) {
@@ -68,7 +70,7 @@ void askForSheets(JobRequest *job, const QString &paper) {
 void askForNothingMore(JobRequest *job) {
   removeAll(&job->options, imposition::doneWithSheets);
   job->options.insert(copiesOption, QStringLiteral("1"));
-  job->options.insert(bannersOption, QStringLiteral("none"));
+  job->options.insert(bannersOption, noBanner);
   job->options.insert(finishedSheetsMark, QStringLiteral("true"));
   job->options.insert(formatOption, QStringLiteral("application/vnd.cups-raw"));
 }
@@ -151,6 +153,14 @@ Status printInto(const OneDocument &document, JobRequest request, JobControl &co
 }
 
 }  // namespace
+
+bool losesBanners(const Options &options, ServerDriver driver) {
+  if (driver != ServerDriver::StopsEveryJob) return false;
+  const QStringList banners = valueNamed(options, bannersOption).value_or(QString()).split(u',');
+  return std::any_of(banners.begin(), banners.end(), [](const QString &banner) {
+    return !banner.trimmed().isEmpty() && banner.trimmed() != noBanner;
+  });
+}
 
 // Each under its own name, by which the server knows a document.
 Result<QString> FinishedSheets::placeFor(const QString &document, const QString &suffix) {

@@ -15,6 +15,9 @@ namespace orvek {
 /// Marks the jobs that are sent as the printer takes them to a server that stops every other job.
 inline constexpr QLatin1String finishedSheetsMark{"orvek-finished-sheets"};
 
+/// Whether these options ask for banner pages that finished sheets come without.
+bool losesBanners(const QMap<QString, QString> &options, ServerDriver driver);
+
 /// The files of finished sheets, which go away with the object, and the job that prints them.
 class FinishedSheets {
  public:

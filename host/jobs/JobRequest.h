@@ -87,6 +87,8 @@ struct JobOutcome {
   /// Nothing was sent, and nothing failed: the driver does not work, and whoever asked for the job
   /// has not said that its sheets may be made here.
   bool isHeldBack = false;
+  /// Banner pages were asked for and are left out: the server could not print them.
+  bool lacksBanners = false;
 };
 
 /// Between a running job and whoever waits for it, who owns it until the job has ended. `cancelled`

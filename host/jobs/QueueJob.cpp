@@ -113,8 +113,10 @@ Result<JobOutcome> sendSheets(const JobRequest &job, ServerDriver driver,
 /// Another way for a job, all of whose options are `job`'s, that is not to be sent as it is.
 Result<JobOutcome> goAround(ServerDriver driver, const JobRequest &job, const QString &queue,
                             const QByteArray &beginOfInput, JobControl &control) {
-  if (!job.mayMakeSheets) return JobOutcome{0, queue, 0, 0, driver, true};
-  return sendSheets(job, driver, beginOfInput, control);
+  auto outcome = job.mayMakeSheets ? sendSheets(job, driver, beginOfInput, control)
+                                   : Result<JobOutcome>(JobOutcome{0, queue, 0, 0, driver, true});
+  if (outcome) outcome.value().lacksBanners = losesBanners(job.options, driver);
+  return outcome;
 }
 
 QueueState stateOf(const Queue &queue) {

@@ -995,6 +995,10 @@
         <translation>%1 wird gelesen …</translation>
     </message>
     <message>
+        <source>Banner pages would be left out.</source>
+        <translation>Trennseiten entfielen dabei.</translation>
+    </message>
+    <message>
         <source>The sheets can be made on this computer and sent finished.</source>
         <translation>Die Bögen können auf diesem Rechner hergestellt und fertig gesendet werden.</translation>
     </message>

@@ -995,6 +995,10 @@
         <translation>Lecture de %1…</translation>
     </message>
     <message>
+        <source>Banner pages would be left out.</source>
+        <translation>Les pages de séparation seraient omises.</translation>
+    </message>
+    <message>
         <source>The sheets can be made on this computer and sent finished.</source>
         <translation>Les feuilles peuvent être préparées sur cet ordinateur et envoyées toutes faites.</translation>
     </message>

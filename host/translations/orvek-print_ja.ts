@@ -995,6 +995,10 @@
         <translation>%1 を読み込み中…</translation>
     </message>
     <message>
+        <source>Banner pages would be left out.</source>
+        <translation>バナーページは印刷されません。</translation>
+    </message>
+    <message>
         <source>The sheets can be made on this computer and sent finished.</source>
         <translation>用紙をこのコンピューターで作成し、完成した状態で送信できます。</translation>
     </message>

@@ -75,5 +75,24 @@ TEST_F(ProgramBooklet, IsMadeHereWhereTheServerCannotMakeItAndSaysSo) {
              expectedSides(imposition::imposeBooklet(pages, a4, {}), a4));
 }
 
+TEST_F(ProgramBooklet, IsMadeHereWithoutBannersForAServerThatStopsEveryJobAndSaysSo) {
+  if (!PrivateCups::obstacle().isEmpty()) GTEST_SKIP() << PrivateCups::obstacle().toStdString();
+  PrivateCupsSetup setup;
+  setup.hasDriver = false;
+  PrivateCups cups(setup);
+  const QString queue = QStringLiteral("new");
+  cups.addQueue(queue, orvekPPD(QStringLiteral("6180")), cups.keepingBackend(queue));
+  const QString document = kit.write(QStringLiteral("in.pdf"), markedDocument(2));
+  const QStringList job{QStringLiteral("--headless"), QStringLiteral("--print"),
+                        QStringLiteral("-d"), queue, document};
+  const QByteArray said = "stops every job; the sheets were made here and sent finished";
+  EXPECT_TRUE(runProgram(job).errors.contains(said + "\n"));
+  const auto withBanner =
+      runProgram(job + QStringList{QStringLiteral("-o"), QStringLiteral("job-sheets=standard")});
+  EXPECT_EQ(withBanner.status, 0);
+  EXPECT_TRUE(withBanner.errors.contains(said + ", without banner pages\n"))
+      << withBanner.errors.toStdString();
+}
+
 }  // namespace
 }  // namespace orvek::test

@@ -91,6 +91,7 @@ class WindowSheets : public WindowBooklet {
       if (question == nullptr) return;
       waiting.stop();
       asked = question->text();
+      offered = question->informativeText();
       for (const QAbstractButton *button : question->buttons()) buttons << button->text();
       answer(question);
     });
@@ -109,6 +110,7 @@ class WindowSheets : public WindowBooklet {
 
   std::unique_ptr<PrivateCups> server;
   QString asked;
+  QString offered;
   QStringList buttons;
 };
 
@@ -130,6 +132,21 @@ TEST_F(WindowSheets, AreOfferedForEveryJobWhereTheServerStopsThemAll) {
   EXPECT_TRUE(asked.startsWith(QStringLiteral("office: the server lacks the printer's driver")));
   ASSERT_TRUE(QTest::qWaitFor([&] { return dialog->outcome().has_value(); }, jobTimeout));
   expectPrinted(8);
+}
+
+TEST_F(WindowSheets, AreOfferedWithAWordOnBannersThatAreLeftOut) {
+  const QString leftOut = QStringLiteral("Banner pages would be left out.");
+  addQueue(orvekPPD(QStringLiteral("6180")));
+  open();
+  printAndAnswer(escape);
+  EXPECT_FALSE(offered.isEmpty());
+  EXPECT_FALSE(offered.contains(leftOut));
+  const auto saved = server->run(QStringLiteral("lpoptions"),
+                                 {QStringLiteral("-p"), queueName, QStringLiteral("-o"),
+                                  QStringLiteral("job-sheets=standard")});
+  ASSERT_EQ(saved.exitStatus, 0) << saved.errors.toStdString();
+  printAndAnswer(escape);
+  EXPECT_TRUE(offered.contains(leftOut)) << offered.toStdString();
 }
 
 TEST_F(WindowSheets, AreNotMadeWhereTheUserEscapes) {

@@ -92,6 +92,15 @@ TEST_F(SheetsMadeHere, AreNotNeededForOtherJobsWhereTheServerIsToldOfNoDriver) {
   EXPECT_EQ(printed(ServerDriver::Works).count("%%Page: "), 2);
 }
 
+TEST_F(SheetsMadeHere, HaveTheirBannersFromAServerThatMakesNoBooklets) {
+  addOldQueue();
+  request.files = {document(4)};
+  request.options.insert(QStringLiteral("job-sheets"), QStringLiteral("none,standard"));
+  printed(ServerDriver::MakesNoBooklets);
+  EXPECT_FALSE(outcome.lacksBanners);
+  EXPECT_EQ(attribute("job-sheets"), QStringLiteral("none,standard"));
+}
+
 TEST_F(SheetsMadeHere, AreNotMadeOfABookletUnlessTheRequestSaysSo) {
   addOldQueue();
   expectHeldBack(ServerDriver::MakesNoBooklets);

@@ -22,6 +22,24 @@ TEST_F(SheetsMadeHere, GoToAServerThatStopsEveryJobAsThePrinterTakesThem) {
   EXPECT_EQ(attribute("copies"), QStringLiteral("1"));
 }
 
+TEST_F(SheetsMadeHere, ComeWithoutBannersFromAServerThatStopsEveryJobAndTheOutcomeSaysSo) {
+  addNewQueue();
+  request.files = {document(4)};
+  request.options.insert(QStringLiteral("job-sheets"), QStringLiteral("none,standard"));
+  request.mayMakeSheets = false;
+  EXPECT_TRUE(submit().lacksBanners);
+  request.mayMakeSheets = true;
+  printed(ServerDriver::StopsEveryJob);
+  EXPECT_TRUE(outcome.lacksBanners);
+  EXPECT_EQ(attribute("job-sheets"), QStringLiteral("none"));
+  for (const char *none : {"none", "none,none"}) {
+    request.options.insert(QStringLiteral("job-sheets"), QLatin1String(none));
+    EXPECT_FALSE(submit().lacksBanners) << none;
+  }
+  request.options.remove(QStringLiteral("job-sheets"));
+  EXPECT_FALSE(submit().lacksBanners);
+}
+
 TEST_F(SheetsMadeHere, AreMadeOfEveryJobWhereTheServerStopsEveryJob) {
   addNewQueue();
   request.files = {document(3)};
