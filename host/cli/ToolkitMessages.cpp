@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "host/cli/Console.h"
 #include "platform/system/OneLine.h"
 
 namespace orvek {
@@ -16,11 +17,17 @@ namespace {
 // here needs one.
 constexpr QLatin1String runtimeFolderMessage{"QStandardPaths: "};
 
+// What the toolkit can't go on after is what the machine lacks: a part of it, memory, descriptors.
+// The toolkit would end the program with a signal. Nothing of it can be relied on any more.
+[[noreturn]] void endWith(const QString &message) {
+  std::_Exit(report({FailureKind::Io, QStringLiteral("window toolkit"), message.simplified()}));
+}
+
 void writeMessage(QtMsgType type, const QMessageLogContext &context, const QString &message) {
   if (message.startsWith(runtimeFolderMessage)) return;
+  if (type == QtFatalMsg) endWith(message);
   const std::string line = oneLine(qFormatLogMessage(type, context, message).toStdString());
   std::fprintf(stderr, "%s\n", line.c_str());
-  if (type == QtFatalMsg) std::abort();
 }
 
 }  // namespace

@@ -5,7 +5,8 @@
 namespace orvek {
 
 /// From now on the toolkit's warnings carry time and process, as every line that is no error does.
-/// They are the toolkit's own and no part of the general log.
+/// They are the toolkit's own and no part of the general log. One after which it can't go on is
+/// reported as a failure, and the program ends with its status.
 void shapeToolkitMessages();
 
 }  // namespace orvek

@@ -209,6 +209,13 @@ TEST_F(ProgramErrors, AClosedStandardOutputLosesNothingWithoutAWord) {
   expectFailure(run, 1, "standard output: ");
 }
 
+// The toolkit by itself would end the program with a signal and some lines.
+TEST_F(ProgramErrors, AToolkitThatCannotStartIsOneInOneLine) {
+  const ProgramRun run = runProgram({"--ppd", testPpd("finisher.ppd")},
+                                    {{"QT_QPA_PLATFORM=no-such-platform"}, {}, {}});
+  expectFailure(run, 1, "window toolkit: ");
+}
+
 TEST_F(ProgramErrors, RefuseStandardInputTwiceInAWindowToo) {
   expectFailure(runProgram({"--ppd", testPpd("finisher.ppd"), "-", "-"},
                            {{"QT_QPA_PLATFORM=offscreen"}, {}, {}}),
