@@ -3,6 +3,8 @@
 
 #include "host/cli/SessionStart.h"
 
+#include <future>
+
 #include "host/cli/Console.h"
 #include "host/cli/Presets.h"
 #include "host/cli/PrinterListing.h"
@@ -103,8 +105,7 @@ Status applyOptions(const CommandLine &line, PrintSession &session) {
   return {};
 }
 
-Result<PluginList> installedPlugins(const CommandLine &line) {
-  const PluginHarvest harvest = loadInstalledPlugins(PluginPlaces::ofThisProgram());
+Result<PluginList> reported(const PluginHarvest &harvest, const CommandLine &line) {
   // Without a panel the actions on its controls would fail as well, which is not what is wrong.
   const bool isAllBroken = harvest.plugins.isEmpty() && !harvest.failures.isEmpty();
   if (isAllBroken && !line.actions.isEmpty()) return harvest.failures.first();
@@ -112,15 +113,33 @@ Result<PluginList> installedPlugins(const CommandLine &line) {
   return PluginList{harvest.plugins.begin(), harvest.plugins.end()};
 }
 
-Result<PluginList> pluginsFor(const CommandLine &line) {
-  if (line.plugins.isEmpty()) return installedPlugins(line);
-  PluginList plugins;
+Result<PluginHarvest> pluginsFor(const CommandLine &line) {
+  if (line.plugins.isEmpty()) return loadInstalledPlugins(PluginPlaces::ofThisProgram());
+  PluginHarvest harvest;
   for (const QString &path : line.plugins) {
     Result<LoadedPlugin> plugin = loadPlugin(path);
     if (!plugin) return plugin.failure();
-    plugins.push_back(std::make_shared<LoadedPlugin>(plugin.take()));
+    harvest.plugins << std::make_shared<LoadedPlugin>(plugin.take());
   }
-  return plugins;
+  return harvest;
+}
+
+Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line,
+                                                   const SessionSetup &setup,
+                                                   const Result<PluginHarvest> &plugins) {
+  SessionSetup wished = setup;
+  if (const Status added = addWishes(line, &wished); !added) return added.failure();
+  Result<std::unique_ptr<PrintSession>> begun = PrintSession::begin(wished);
+  if (!begun) return begun;
+  std::unique_ptr<PrintSession> session = begun.take();
+  if (const Status applied = applyPresetAsAsked(line, *session); !applied) return applied.failure();
+  if (const Status applied = applyJobOptions(line, *session); !applied) return applied.failure();
+  if (const Status applied = applyOptions(line, *session); !applied) return applied.failure();
+  if (!plugins) return plugins.failure();
+  Result<PluginList> good = reported(plugins.value(), line);
+  if (!good) return good.failure();
+  session->openPanels(good.take());
+  return session;
 }
 
 }  // namespace
@@ -137,25 +156,17 @@ Result<SessionSetup> gatherSetup(const CommandLine &line,
 
 Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line,
                                                    const SessionSetup &setup) {
-  SessionSetup wished = setup;
-  if (const Status added = addWishes(line, &wished); !added) return added.failure();
-  Result<std::unique_ptr<PrintSession>> begun = PrintSession::begin(wished);
-  if (!begun) return begun;
-  std::unique_ptr<PrintSession> session = begun.take();
-  if (const Status applied = applyPresetAsAsked(line, *session); !applied) return applied.failure();
-  if (const Status applied = applyJobOptions(line, *session); !applied) return applied.failure();
-  if (const Status applied = applyOptions(line, *session); !applied) return applied.failure();
-  Result<PluginList> plugins = pluginsFor(line);
-  if (!plugins) return plugins.failure();
-  session->openPanels(plugins.take());
-  return session;
+  return startSession(line, setup, pluginsFor(line));
 }
 
+// A print server takes its time, in which plug-ins can be loaded.
 Result<std::unique_ptr<PrintSession>> startSession(
     const CommandLine &line, const std::shared_ptr<PasswordSource> &passwords) {
+  auto loading = std::async(std::launch::async, [&line] { return pluginsFor(line); });
   const Result<SessionSetup> setup = gatherSetup(line, passwords);
-  if (!setup) return setup.failure();
-  return startSession(line, setup.value());
+  const Result<PluginHarvest> plugins = loading.get();
+  return setup ? startSession(line, setup.value(), plugins)
+               : Result<std::unique_ptr<PrintSession>>(setup.failure());
 }
 
 }  // namespace orvek
