@@ -17,6 +17,7 @@
 #include "host/cli/TerminalPassword.h"
 #include "host/jobs/Document.h"
 #include "host/jobs/InputSpool.h"
+#include "host/jobs/OutputTarget.h"
 #include "host/preview/PreviewInspection.h"
 
 namespace orvek {
@@ -78,6 +79,13 @@ Result<SeenDocuments> seenDocuments(const CommandLine &line, DocumentFiles &copi
   return seen;
 }
 
+// A file that can't be written is said first, as where nobody looks at the document.
+Failure unprinted(const CommandLine &line, const Failure &unread) {
+  if (line.output.isNull()) return unread;
+  const auto target = OutputTarget::open(line.output);
+  return target ? unread : target.failure();
+}
+
 QStringList summaryLines(const PrintSession &session) {
   QStringList lines;
   for (const auto &[title, value] : session.panels().summary()) {
@@ -128,7 +136,7 @@ Status runHeadless(const CommandLine &line) {
   if (!written) return written;
   // Nobody may read it again: a pipe would be waited for without an end.
   const auto &unread = documents.value().unread;
-  if (documents.value().arePrinted && unread) return *unread;
+  if (documents.value().arePrinted && unread) return unprinted(line, *unread);
   if (Status printed = printAsAsked(line, session, documents.value().files, passwords); !printed) {
     return printed;
   }

@@ -86,11 +86,11 @@ TEST_F(ProgramBooklet, IsMadeHereWithoutBannersForAServerThatStopsEveryJobAndSay
   const QStringList job{QStringLiteral("--headless"), QStringLiteral("--print"),
                         QStringLiteral("-d"), queue, document};
   const QByteArray said = "stops every job; the sheets were made here and sent finished";
-  EXPECT_TRUE(runProgram(job).errors.contains(said + "\n"));
+  EXPECT_TRUE(runProgram(job).errors.contains(QByteArray(said + "\n")));
   const auto withBanner =
       runProgram(job + QStringList{QStringLiteral("-o"), QStringLiteral("job-sheets=standard")});
   EXPECT_EQ(withBanner.status, 0);
-  EXPECT_TRUE(withBanner.errors.contains(said + ", without banner pages\n"))
+  EXPECT_TRUE(withBanner.errors.contains(QByteArray(said + ", without banner pages\n")))
       << withBanner.errors.toStdString();
 }
 

@@ -10,11 +10,11 @@ namespace {
 
 using Options = QMap<QString, QString>;
 
-const QString lacksFilter = QStringLiteral("cups-missing-filter-warning");
+const QueueState lacksFilter{QStringLiteral("cups-missing-filter-warning"), {}};
 
 TEST(ServerDriver, MattersToEveryJobWhereItIsMissing) {
   EXPECT_TRUE(dependsOnServerDriver({}, lacksFilter));
-  EXPECT_FALSE(dependsOnServerDriver({}, QStringLiteral("none")));
+  EXPECT_FALSE(dependsOnServerDriver({}, {QStringLiteral("none"), {}}));
 }
 
 TEST(ServerDriver, IsNoMatterOfReadyBytesInWhateverLettersThatIsSaid) {
