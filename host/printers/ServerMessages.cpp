@@ -31,6 +31,14 @@ QCborValue fieldOfPhrase(const Phrase &phrase) {
   return parts;
 }
 
+// Of bytes that are no whole value, the toolkit gives what it has read of them: a map in it may
+// lack the value of its last key, and looking that up reads what is not there.
+QCborValue valueIn(const QByteArray &bytes) {
+  QCborParserError error{};
+  const QCborValue value = QCborValue::fromCbor(bytes, &error);
+  return error.error == QCborError::NoError ? value : QCborValue();
+}
+
 // A server's words end up in a window or on a terminal.
 QString plain(const QString &words) {
   return QString::fromStdString(oneLine(words.toStdString()));
@@ -68,9 +76,7 @@ std::optional<Message> MessageReader::next() {
 Fields::Fields(const QCborValue &value) : m_map(value.toMap()), m_isSound(value.isMap()) {}
 
 Fields Fields::of(const QByteArray &bytes) {
-  QCborParserError error{};
-  const QCborValue value = QCborValue::fromCbor(bytes, &error);
-  return Fields(error.error == QCborError::NoError ? value : QCborValue());
+  return Fields(valueIn(bytes));
 }
 
 QCborValue Fields::value(const char *name, QCborValue::Type type) {
@@ -146,7 +152,7 @@ Message failedMessage(const Failure &failure) {
 }
 
 Failure failureIn(const Message &message) {
-  const QCborMap fields = QCborValue::fromCbor(message.bytes).toMap();
+  const QCborMap fields = valueIn(message.bytes).toMap();
   const Failure failure{FailureKind::Io, phraseIn(fields.value(whatField), 0),
                         phraseIn(fields.value(whyField), 0)};
   return failure.why.isEmpty() ? Failure{FailureKind::Io, failure.what, unreadableAnswer()}

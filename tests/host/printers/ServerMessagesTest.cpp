@@ -118,6 +118,16 @@ TEST(FailureMessage, SaysThatItCannotBeReadWhereThatIsSo) {
   EXPECT_EQ(failureIn(messageOf(MessageKind::Failed, odd)).why, unreadableAnswer());
 }
 
+TEST(FailureMessage, IsNotReadWhereItEndsBehindAKey) {
+  const QByteArray whole =
+      failedMessage({FailureKind::Io, QStringLiteral("a"), QStringLiteral("b")}).bytes;
+  for (qsizetype size = 0; size < whole.size(); ++size) {
+    const Failure failure = failureIn({MessageKind::Failed, whole.left(size)});
+    EXPECT_EQ(failure.why, unreadableAnswer()) << size;
+    EXPECT_TRUE(failure.what.isEmpty()) << size;
+  }
+}
+
 TEST(ServerPatience, IsTenSecondsOrWhatTheEnvironmentSays) {
   EXPECT_EQ(serverPatience(), 10s);
   qputenv("ORVEK_PRINT_PATIENCE", "0.5");
