@@ -13,8 +13,8 @@ namespace orvek {
 /// True where one constraint of the PPD, of either form, names both options.
 bool areConstrained(const PrinterDescription &printer, const QString &one, const QString &other);
 
-/// Every option that some constraint names, in lower case.
-QSet<QString> constrainedOptions(const PrinterDescription &printer);
+/// Every option that some constraint names, in lower case; lent by the printer.
+const QSet<QString> &constrainedOptions(const PrinterDescription &printer);
 
 /// The other side of `side`'s conflict as the marks stand: the pick where a constraint names both,
 /// else the first conflicting option that shares one with `side`, else the pick.

@@ -40,6 +40,9 @@ QByteArray constrainedName(const QString &choice) {
 }
 
 std::optional<QList<OptionChoice>> resolutionOf(const Marks &marks, const OptionChoice &pick) {
+  if (const PlainConstraints *plain = marks.printer().plainConstraints()) {
+    if (const ppd_choice_t *choice = plain->pickFor(pick)) return plain->resolutionOf(choice);
+  }
   OptionArray changed;
   const int resolved = cupsResolveConflicts(
       marks.printer().lend(), pick.option.toUtf8().constData(),

@@ -151,6 +151,16 @@ bool PrinterDescription::isEquipment(const QString &option) const {
   return false;
 }
 
+const PlainConstraints *PrinterDescription::plainConstraints() const {
+  if (!m_plainConstraints) m_plainConstraints = PlainConstraints::of(m_ppd);
+  return m_plainConstraints->has_value() ? &**m_plainConstraints : nullptr;
+}
+
+const ConstrainedPairs &PrinterDescription::constrainedPairs() const {
+  if (!m_constrainedPairs) m_constrainedPairs = ConstrainedPairs::of(m_ppd);
+  return *m_constrainedPairs;
+}
+
 QString PrinterDescription::attribute(const char *keyword) const {
   const ppd_attr_t *found = ppdFindAttr(m_ppd, keyword, nullptr);
   return found == nullptr ? QString() : QString::fromUtf8(found->value);

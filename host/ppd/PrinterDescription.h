@@ -8,7 +8,9 @@
 #include <memory>
 #include <optional>
 
+#include "host/ppd/ConstrainedPairs.h"
 #include "host/ppd/Keyword.h"
+#include "host/ppd/PlainConstraints.h"
 #include "host/ppd/PrinterOption.h"
 #include "platform/system/Result.h"
 
@@ -62,6 +64,12 @@ class PrinterDescription {
   /// none.
   QString attribute(const char *keyword) const;
 
+  /// The constraints, where each is a plain one; null where not. Read when first asked for.
+  const PlainConstraints *plainConstraints() const;
+
+  /// The names that its constraints pair; read when first asked for.
+  const ConstrainedPairs &constrainedPairs() const;
+
   /// The parsed PPD itself; null of none(). The one loan of it: to panels, as their contract has
   /// it, and to this room, which calls libcups with it. Whoever marks in it is a Marks.
   ppd_file_s *lend() const { return m_ppd; }
@@ -74,6 +82,8 @@ class PrinterDescription {
 
   QString m_path;
   ppd_file_s *m_ppd;
+  mutable std::optional<std::optional<PlainConstraints>> m_plainConstraints;
+  mutable std::optional<ConstrainedPairs> m_constrainedPairs;
 };
 
 }  // namespace orvek
