@@ -138,16 +138,14 @@ Result<ChainPPD> ChainPPD::of(const QString &ppdFile, const QMap<QString, QStrin
 
 Result<ChainPPD> ChainPPD::copied(const QString &ppdFile, const QByteArray &text) {
   ChainPPD ppd(ppdFile);
-  ppd.m_copy = std::make_unique<QTemporaryFile>();
-  if (!ppd.m_copy->open() || ppd.m_copy->write(text) != text.size() || !ppd.m_copy->flush()) {
-    return Failure{FailureKind::Io, ppd.m_copy->fileTemplate(),
-                   Phrase::ofSystem(ppd.m_copy->errorString())};
-  }
+  auto copy = ScratchFile::with(text);
+  if (!copy) return copy.failure();
+  ppd.m_copy = copy.take();
   return ppd;
 }
 
 QString ChainPPD::path() const {
-  return m_copy ? m_copy->fileName() : QFileInfo(m_original).absoluteFilePath();
+  return m_copy ? m_copy->path() : QFileInfo(m_original).absoluteFilePath();
 }
 
 }  // namespace orvek

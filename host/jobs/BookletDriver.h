@@ -4,9 +4,9 @@
 
 #include <QMap>
 #include <QString>
-#include <QTemporaryFile>
 #include <memory>
 
+#include "host/jobs/ScratchFile.h"
 #include "platform/system/Result.h"
 
 namespace orvek {
@@ -68,7 +68,7 @@ class ChainPPD {
   static Result<ChainPPD> copied(const QString &ppdFile, const QByteArray &text);
 
   QString m_original;
-  std::unique_ptr<QTemporaryFile> m_copy;
+  std::unique_ptr<ScratchFile> m_copy;
 };
 
 }  // namespace orvek

@@ -4,14 +4,11 @@
 
 #include "host/jobs/FilterRun.h"
 
-#include <sys/prctl.h>
-#include <unistd.h>
-#include <csignal>
-
 #include <QFileInfo>
 #include <QProcess>
 
 #include "host/jobs/FilterMessages.h"
+#include "host/jobs/GuardedTool.h"
 #include "host/jobs/OptionText.h"
 #include "host/jobs/ToolEnvironment.h"
 #include "platform/system/OptionMap.h"
@@ -20,24 +17,8 @@ namespace orvek {
 namespace {
 
 constexpr int pollMilliseconds = 100;
-constexpr int graceMilliseconds = 2000;
-
-/// A process group of its own, so that a cancelled job takes all its filters with it; and never
-/// left behind should this program be killed.
-void leadOwnGroup() {
-  ::setpgid(0, 0);
-  ::prctl(PR_SET_PDEATHSIG, SIGTERM);
-}
-
-void stop(QProcess &process) {
-  const auto group = static_cast<pid_t>(process.processId());
-  if (group <= 0) return;
-  ::kill(-group, SIGTERM);
-  process.waitForFinished(graceMilliseconds);
-  // The tool may be gone while a filter that does not listen goes on.
-  ::kill(-group, SIGKILL);
-  process.waitForFinished(graceMilliseconds);
-}
+// The driver takes 1.5 seconds to end filters of its own that don't listen.
+constexpr std::chrono::milliseconds grace{1800};
 
 Status carryOutput(FilterRun &run, QProcess &process, FilterMessages &messages) {
   messages.add(process.readAllStandardError());
@@ -61,33 +42,25 @@ Status carryUntilFinished(FilterRun &run, QProcess &process, FilterMessages &mes
   return run.control.cancelled ? Status(jobCancelled()) : Status();
 }
 
-void prepare(QProcess &process, const FilterProgram &program) {
+Status start(GuardedTool &tool, const FilterProgram &program) {
   auto environment = toolEnvironment();
   for (auto entry = program.environment.cbegin(); entry != program.environment.cend(); ++entry) {
     environment.insert(entry.key(), entry.value());
   }
-  process.setProcessEnvironment(environment);
-  process.setChildProcessModifier(leadOwnGroup);
-  process.setStandardInputFile(QProcess::nullDevice());
-  process.setProgram(program.path);
-  process.setArguments(program.arguments);
+  tool.process().setProcessEnvironment(environment);
+  return tool.start({program.path, program.arguments, grace});
 }
 
 }  // namespace
 
 Status runFilters(FilterRun &run, const FilterProgram &program, const Phrase &document) {
-  QProcess process;
+  GuardedTool tool;
   FilterMessages messages;
-  prepare(process, program);
+  if (Status started = start(tool, program); !started) return started;
+  QProcess &process = tool.process();
   const qint64 bytesBefore = run.progress.bytes;
-  process.start();
-  if (!process.waitForStarted()) {
-    return Failure{FailureKind::Io, program.path, Phrase::ofSystem(process.errorString())};
-  }
-  if (Status carried = carryUntilFinished(run, process, messages); !carried) {
-    stop(process);
-    return carried;
-  }
+  if (Status carried = carryUntilFinished(run, process, messages); !carried) return carried;
+  if (Status started = tool.couldBeStarted(); !started) return started;
   if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0) {
     return messages.reason(document, run.ppdFile, process.exitCode());
   }

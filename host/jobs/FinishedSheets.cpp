@@ -15,6 +15,7 @@
 #include "host/jobs/OptionText.h"
 #include "host/jobs/OutputTarget.h"
 #include "host/jobs/ReadJob.h"
+#include "host/jobs/ScratchFile.h"
 #include "host/printers/Queue.h"
 #include "imposition/SheetOptions.h"
 #include "platform/system/OptionMap.h"
@@ -177,7 +178,10 @@ Result<std::unique_ptr<FinishedSheets>> FinishedSheets::of(const JobRequest &req
                                                            ServerDriver driver, JobControl &control,
                                                            const QByteArray &beginOfStandardInput) {
   const bool areForDevice = driver == ServerDriver::StopsEveryJob;
-  std::unique_ptr<FinishedSheets> sheets(new FinishedSheets(finished(request, driver)));
+  const auto scratch = scratchFolder();
+  if (!scratch) return scratch.failure();
+  std::unique_ptr<FinishedSheets> sheets(
+      new FinishedSheets(finished(request, driver), scratch.value()));
   const JobRequest job = filtered(areForDevice ? request : withoutCopies(request));
   DocumentFiles copies;
   for (const QString &document : effectiveFiles(request)) {

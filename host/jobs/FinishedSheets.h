@@ -39,7 +39,8 @@ class FinishedSheets {
   const JobRequest &request() const { return m_request; }
 
  private:
-  explicit FinishedSheets(const JobRequest &request) : m_request(request) {}
+  FinishedSheets(const JobRequest &request, const QString &scratch)
+      : m_folder(scratch + QStringLiteral("/sheets-XXXXXX")), m_request(request) {}
   Result<QString> placeFor(const QString &document, const QString &suffix);
 
   QTemporaryDir m_folder;

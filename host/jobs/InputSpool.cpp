@@ -3,8 +3,6 @@
 
 #include "host/jobs/InputSpool.h"
 
-#include <QDir>
-
 #include "host/jobs/DocumentReader.h"
 
 namespace orvek {
@@ -12,34 +10,28 @@ namespace {
 
 constexpr std::chrono::milliseconds patience{100};
 
-Status writeBlock(QTemporaryFile &file, const QByteArray &block) {
-  if (file.write(block) == block.size() && file.flush()) return {};
-  return Failure{FailureKind::Io, QDir::tempPath(), Phrase::ofSystem(file.errorString())};
-}
-
-Status copyInto(QTemporaryFile &file, const QString &document, const QByteArray &begin,
+Status copyInto(ScratchFile &file, const QString &document, const QByteArray &begin,
                 const std::atomic<bool> &cancelled) {
   auto reader = DocumentReader::open(document);
   if (!reader) return reader.failure();
-  if (Status written = writeBlock(file, begin); !written) return written;
+  if (Status written = file.add(begin); !written) return written;
   while (!cancelled) {
     const auto block = reader.value()->read();
     if (!block) return block.failure();
-    if (Status written = writeBlock(file, block.value()); !written) return written;
+    if (Status written = file.add(block.value()); !written) return written;
     if (reader.value()->atEnd()) return {};
   }
   return jobCancelled();
 }
 
-Result<std::unique_ptr<QTemporaryFile>> spool(const QString &document, const QByteArray &begin,
-                                              const std::atomic<bool> &cancelled) {
+Result<std::unique_ptr<ScratchFile>> spool(const QString &document, const QByteArray &begin,
+                                           const std::atomic<bool> &cancelled) {
   // Without a suffix: the type is to be found from the contents, not from a name that we made up.
-  auto file = std::make_unique<QTemporaryFile>(QDir::tempPath() + QStringLiteral("/orvek-XXXXXX"));
-  if (!file->open()) {
-    return Failure{FailureKind::Io, QDir::tempPath(), Phrase::ofSystem(file->errorString())};
-  }
-  if (Status copied = copyInto(*file, document, begin, cancelled); !copied) return copied.failure();
-  if (file->size() > 0) return file;
+  auto file = ScratchFile::create();
+  if (!file) return file;
+  const Status copied = copyInto(*file.value(), document, begin, cancelled);
+  if (!copied) return copied.failure();
+  if (file.value()->size() > 0) return file;
   return emptyDocument(document);
 }
 

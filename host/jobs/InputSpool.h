@@ -4,7 +4,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QTemporaryFile>
 #include <chrono>
 #include <map>
 #include <memory>
@@ -13,13 +12,14 @@
 
 #include "host/jobs/Document.h"
 #include "host/jobs/JobRequest.h"
+#include "host/jobs/ScratchFile.h"
 #include "platform/system/Result.h"
 
 namespace orvek {
 
 /// Standard input, or a pipe, copied into a temporary file, which it owns and which goes away with
-/// it. Holds only one block of it in memory. May be handed from thread to thread, but used on one
-/// at a time. Only fill() fails.
+/// it, or with the program. Holds only one block of it in memory. May be handed from thread to
+/// thread, but used on one at a time. Only fill() fails.
 class InputSpool {
  public:
   explicit InputSpool(QString document = standardInput()) : m_document(std::move(document)) {}
@@ -31,11 +31,11 @@ class InputSpool {
   Status fill(const std::atomic<bool> &cancelled, const QByteArray &begin = {});
 
   /// The file; null before fill() succeeded.
-  QString path() const { return m_file ? m_file->fileName() : QString(); }
+  QString path() const { return m_file ? m_file->path() : QString(); }
 
  private:
   QString m_document;
-  std::unique_ptr<QTemporaryFile> m_file;
+  std::unique_ptr<ScratchFile> m_file;
   /// Why there is no file, and never will be.
   std::optional<Failure> m_broken;
 };

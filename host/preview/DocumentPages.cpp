@@ -3,7 +3,6 @@
 
 #include "host/preview/DocumentPages.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
@@ -74,14 +73,11 @@ Result<DocumentPages> convert(const QString &path, const PrintedWith &with,
                                                     with.options, isPicture ? placedType : pdfType);
   const Result<QByteArray> pdf = runTool(tool, arguments, conversionLimits, cancelled);
   if (!pdf) return pdf.failure();
-  auto made =
-      std::make_shared<QTemporaryFile>(QDir::tempPath() + QStringLiteral("/orvek-XXXXXX.pdf"));
-  if (!made->open() || made->write(pdf.value()) != pdf.value().size() || !made->flush()) {
-    return unreadable(path, "can't be kept as a PDF");
-  }
-  Result<DocumentPages> pages = readPdf(made->fileName(), cancelled);
+  auto made = ScratchFile::with(pdf.value(), QStringLiteral(".pdf"));
+  if (!made) return made.failure();
+  Result<DocumentPages> pages = readPdf(made.value()->path(), cancelled);
   if (!pages) return unreadable(path, "the filters make no pages of it");
-  pages.value().made = made;
+  pages.value().made = made.take();
   pages.value().isPlaced = isPicture;
   pages.value().isScript = isPostScript(path);
   return pages;

@@ -7,10 +7,10 @@
 #include <QRectF>
 #include <QSizeF>
 #include <QString>
-#include <QTemporaryFile>
 #include <atomic>
 #include <memory>
 
+#include "host/jobs/ScratchFile.h"
 #include "platform/system/Result.h"
 
 namespace orvek {
@@ -37,7 +37,7 @@ struct DocumentPages {
   /// PostScript: where it becomes no booklet, filters of its own place it.
   bool isScript = false;
   /// Keeps `pdf` where it was made for this.
-  std::shared_ptr<QTemporaryFile> made;
+  std::shared_ptr<ScratchFile> made;
 };
 
 /// What a document is printed with, as far as it shows in its pages. Plain data.

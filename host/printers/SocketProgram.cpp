@@ -47,7 +47,7 @@ class SocketPair {
 /// What the new process begins with; owned, and freed with its holder.
 class Beginning {
  public:
-  explicit Beginning(int standardInput) {
+  Beginning(int standardInput, bool isApart) {
     ::posix_spawn_file_actions_init(&m_files);
     ::posix_spawn_file_actions_adddup2(&m_files, standardInput, STDIN_FILENO);
     ::posix_spawn_file_actions_addopen(&m_files, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
@@ -61,7 +61,9 @@ class Beginning {
     ::posix_spawnattr_init(&m_attributes);
     ::posix_spawnattr_setsigdefault(&m_attributes, &all);
     ::posix_spawnattr_setsigmask(&m_attributes, &none);
-    ::posix_spawnattr_setflags(&m_attributes, POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK);
+    const int apart = isApart ? POSIX_SPAWN_SETSID : 0;
+    ::posix_spawnattr_setflags(
+        &m_attributes, static_cast<short>(POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK | apart));
   }
   ~Beginning() {
     ::posix_spawn_file_actions_destroy(&m_files);
@@ -70,9 +72,11 @@ class Beginning {
   Beginning(const Beginning &) = delete;
   Beginning &operator=(const Beginning &) = delete;
 
-  int start(std::string path, pid_t *process) const {
-    std::array<char *, 2> arguments{path.data(), nullptr};
-    return ::posix_spawn(process, path.c_str(), &m_files, &m_attributes, arguments.data(), environ);
+  int start(ProgramStart program, pid_t *process) const {
+    std::vector<char *> words{program.path.data()};
+    for (std::string &argument : program.arguments) words.push_back(argument.data());
+    words.push_back(nullptr);
+    return ::posix_spawn(process, words[0], &m_files, &m_attributes, words.data(), environ);
   }
 
  private:
@@ -82,12 +86,12 @@ class Beginning {
 
 }  // namespace
 
-int startWithSocket(const std::string &path, SocketProgram *started) {
+int startWithSocket(const ProgramStart &start, SocketProgram *started) {
   SocketPair sockets;
   if (sockets.theirs() < 0) return errno;
-  const Beginning beginning(sockets.theirs());
+  const Beginning beginning(sockets.theirs(), start.isApart);
   pid_t process = -1;
-  const int error = beginning.start(path, &process);
+  const int error = beginning.start(start, &process);
   if (error == 0) *started = {process, sockets.takeOurs()};
   return error;
 }

@@ -6,6 +6,7 @@
 #include <sys/types.h>
 
 #include <string>
+#include <vector>
 
 namespace orvek {
 
@@ -18,9 +19,20 @@ struct SocketProgram {
   int socket = -1;
 };
 
-/// Starts the program with that path. Its standard output and error lead nowhere, its signals are
-/// as at the beginning. Gives 0, or else an errno value.
-int startWithSocket(const std::string &path, SocketProgram *started);
+/// What is started. Plain data.
+struct ProgramStart {
+  std::string path;
+  std::vector<std::string> arguments = {};
+  /// In a session of its own: the keys of this program's terminal are not for it.
+  bool isApart = false;
+};
+
+/// Starts the program. Its standard output and error lead nowhere, its signals are as at the
+/// beginning. Gives 0, or else an errno value.
+int startWithSocket(const ProgramStart &start, SocketProgram *started);
+inline int startWithSocket(const std::string &path, SocketProgram *started) {
+  return startWithSocket(ProgramStart{path}, started);
+}
 
 /// A path that is relative to the folder of the running program.
 std::string besideThisProgram(const char *path);

@@ -5,7 +5,6 @@
 #include "platform/system/WholeFile.h"
 
 #include <fcntl.h>
-#include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -14,6 +13,7 @@
 #include <cerrno>
 
 #include "platform/system/OpenStream.h"
+#include "platform/system/WriteAll.h"
 
 namespace orvek {
 namespace {
@@ -22,30 +22,8 @@ Failure failureOf(const QString &path, int error) {
   return {FailureKind::Io, path, Phrase::ofSystem(error)};
 }
 
-void waitForRoom(int descriptor) {
-  constexpr int forEver = -1;
-  pollfd ready{descriptor, POLLOUT, 0};
-  ::poll(&ready, 1, forEver);
-}
-
-/// The system's error number, 0 where all bytes were taken.
-int writeAll(int descriptor, const QByteArray &bytes) {
-  qsizetype done = 0;
-  while (done < bytes.size()) {
-    const auto left = static_cast<size_t>(bytes.size() - done);
-    const ssize_t taken = ::write(descriptor, bytes.constData() + done, left);
-    if (taken >= 0) {
-      done += taken;
-    } else if (errno == EAGAIN) {
-      waitForRoom(descriptor);
-    } else if (errno != EINTR) {
-      return errno;
-    }
-  }
-  return 0;
-}
-
-/// The same as writeAll(). File systems that have no such thing say so, which is no failure.
+/// The system's error number, or 0. File systems that have no such thing say so, which is no
+/// failure.
 int synchronize(int descriptor) {
   while (::fsync(descriptor) != 0) {
     if (errno == EINVAL || errno == ENOTSUP || errno == ENOSYS) return 0;

@@ -66,7 +66,8 @@ class Installation(unittest.TestCase):
     def test_the_runtime_component_holds_programs_and_libraries_and_nothing_to_build_against(self):
         files = files_in(self.runtime)
         for path in ["bin/orvek-print", "bin/orvek-device", "libexec/orvek-print-server",
-                     f"{LIBDIR}/orvek-print/orvek-print.so", "share/man/man1/orvek-print.1"]:
+                     f"{LIBDIR}/orvek-print/orvek-print.so", "libexec/orvek-filter-guard",
+                     "share/man/man1/orvek-print.1"]:
             self.assertIn(path, files)
         for name in LIBRARIES:
             self.assertIn(f"{LIBDIR}/{name}.so.1", files)

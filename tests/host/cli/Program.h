@@ -74,4 +74,15 @@ inline ProgramRun runHeadless(const QStringList &more, const Surroundings &surro
   return runProgram(QStringList{"--headless", "--ppd", testPpd(ppd)} + more, surroundings);
 }
 
+/// Runs a script in the shell. $program is the program on a test printer, without a window.
+inline ProgramRun runScript(const QString &script, const QStringList &wrapper = {}) {
+  const QString program =
+      QStringLiteral("program='%1 --headless --ppd %2'\n")
+          .arg(QStringLiteral(ORVEK_BINARY_DIR "/bin/orvek-print"), testPpd("finisher.ppd"));
+  QStringList command = wrapper + QStringList{"sh", "-c", program + script};
+  Surroundings surroundings;
+  surroundings.program = command.takeFirst();
+  return runProgram(command, surroundings);
+}
+
 }  // namespace orvek::test

@@ -16,17 +16,6 @@ using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
 
-/// Runs a script in the shell. $program is the program on a test printer, without a window.
-ProgramRun runScript(const QString &script, const QStringList &wrapper = {}) {
-  const QString program =
-      QStringLiteral("program='%1 --headless --ppd %2'\n")
-          .arg(QStringLiteral(ORVEK_BINARY_DIR "/bin/orvek-print"), testPpd("finisher.ppd"));
-  QStringList command = wrapper + QStringList{"sh", "-c", program + script};
-  Surroundings surroundings;
-  surroundings.program = command.takeFirst();
-  return runProgram(command, surroundings);
-}
-
 class ProgramOnAFullDisk : public testing::Test {
  protected:
   void SetUp() override {

@@ -6,11 +6,15 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <QDir>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTemporaryFile>
 #include <QThread>
 
+#include "host/jobs/FilterChain.h"
 #include "tests/support/CapturingFilter.h"
+#include "tests/support/Descendants.h"
 #include "tests/support/Printers.h"
 #include "tests/support/StandardInput.h"
 
@@ -88,6 +92,32 @@ TEST(BackgroundJob, CanBeStartedAgainAfterItsEnd) {
   ASSERT_TRUE(finished.wait(patience));
   job.start(request, work);
   ASSERT_TRUE(finished.wait(patience));
+}
+
+TEST(BackgroundJob, LeavesNoFilterAndNoFileBehindWhenCancelled) {
+  const QTemporaryDir temporary;
+  const QByteArray before = qgetenv("TMPDIR");
+  const CapturingFilter filter(
+      QStringLiteral("trap '' TERM INT HUP\n(setsid sleep 61 &)\nwhile :; do sleep 1; done"));
+  qputenv("TMPDIR", temporary.path().toUtf8());
+  const Descendants descendants;
+  const QByteArrayList others = descendants.names();
+  JobRequest printing;
+  printing.files = QStringList{QStringLiteral(ORVEK_SOURCE_DIR "/samples/Finishing-Sample.ps")};
+  printing.ppdFile = filter.ppdFile();
+  printing.outputFile = temporary.filePath(QStringLiteral("out.ps"));
+  BackgroundJob job;
+  QSignalSpy failed(&job, &BackgroundJob::failed);
+  job.start(printing, printThroughFilters);
+  ASSERT_TRUE(descendants.waitFor("capture"));
+  job.cancel();
+  ASSERT_TRUE(failed.wait(patience));
+  qputenv("TMPDIR", before);
+  EXPECT_EQ(failed.takeFirst().at(0).value<Failure>().kind, FailureKind::Cancelled);
+  // At once: the job has waited for them.
+  EXPECT_EQ(descendants.names(), others);
+  EXPECT_EQ(QDir(temporary.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+            QStringList());
 }
 
 class BackgroundJobWithInput : public ::testing::Test {

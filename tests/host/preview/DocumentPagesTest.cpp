@@ -9,9 +9,11 @@
 #include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
+#include <thread>
 
 #include "host/jobs/BoundedTool.h"
 #include "host/jobs/FilterChain.h"
+#include "tests/support/Descendants.h"
 #include "tests/support/NumberedPages.h"
 
 namespace orvek {
@@ -109,6 +111,22 @@ TEST_F(DocumentPagesTest, MakesPagesOfTextAndPictures) {
   ASSERT_TRUE(placed);
   EXPECT_TRUE(placed.value().isPlaced);
   EXPECT_EQ(placed.value().pages.size(), 1);
+}
+
+TEST_F(DocumentPagesTest, LeavesNoFilterBehindWhenCancelled) {
+  if (findFilterTool(qEnvironmentVariable("PATH")).isNull()) GTEST_SKIP() << "needs cupsfilter";
+  const QString text =
+      write(QStringLiteral("long.txt"), QByteArray("A line.\n").repeated(1'000'000));
+  const test::Descendants descendants;
+  const QByteArrayList before = descendants.names();
+  std::atomic<bool> cancelled = false;
+  bool hasFailed = false;
+  std::thread reader([&] { hasFailed = !readDocumentPages(text, {}, cancelled); });
+  EXPECT_TRUE(descendants.waitFor("texttopdf"));
+  cancelled = true;
+  reader.join();
+  EXPECT_TRUE(hasFailed);
+  EXPECT_EQ(descendants.names(), before);
 }
 
 TEST_F(DocumentPagesTest, MakesPagesWithoutTheDriver) {
