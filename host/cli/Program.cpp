@@ -10,6 +10,7 @@
 #include "host/cli/Console.h"
 #include "host/cli/Headless.h"
 #include "host/cli/Help.h"
+#include "host/cli/OutputCheck.h"
 #include "host/cli/Presets.h"
 #include "host/cli/PrinterListing.h"
 #include "host/cli/ToolkitMessages.h"
@@ -40,6 +41,7 @@ Status run(const CommandLine &line) {
   if (line.listPrinters) return listPrintersAsAsked(line);
   if (line.listPresets) return listPresets();
   if (!line.deletePreset.isNull()) return deletePreset(line.deletePreset);
+  if (const Status checked = checkOutputs(line); !checked) return checked;
   if (needsNoWindow(line)) return runHeadless(line);
   return runWindow(line);
 }

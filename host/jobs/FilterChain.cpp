@@ -3,6 +3,8 @@
 
 #include "host/jobs/FilterChain.h"
 
+#include <unistd.h>
+
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -13,6 +15,7 @@
 #include "host/jobs/DocumentInfo.h"
 #include "host/jobs/FilterRun.h"
 #include "host/jobs/InputSpool.h"
+#include "platform/system/FileIdentity.h"
 #include "platform/system/OptionMap.h"
 
 namespace orvek {
@@ -52,18 +55,19 @@ Status checkPagesOf(const QString &file, const Phrase &name, const JobRequest &r
              {*ranges, QString::number(pages)})};
 }
 
-/// Other than by name: a file may have several.
-bool isSameFile(const QString &one, const QString &other) {
-  const QString canonical = QFileInfo(one).canonicalFilePath();
-  return !canonical.isEmpty() && canonical == QFileInfo(other).canonicalFilePath();
-}
-
 Status checkOutput(const JobRequest &request) {
-  if (!QFileInfo(request.outputFile).isFile()) return {};
-  for (const QString &file : request.files) {
-    if (!isSameFile(file, request.outputFile)) continue;
+  const bool isStream = request.outputFile == QLatin1String("-");
+  const auto output =
+      isStream ? FileIdentity::behind(STDOUT_FILENO) : FileIdentity::at(request.outputFile);
+  if (!output) return {};
+  for (const QString &file : effectiveFiles(request)) {
+    const auto document =
+        isStandardInput(file) ? FileIdentity::behind(STDIN_FILENO) : FileIdentity::at(file);
+    if (document != output) continue;
+    const Phrase name = isStream ? Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "standard output"))
+                                 : request.outputFile;
     return Failure{
-        FailureKind::Io, request.outputFile,
+        FailureKind::Io, name,
         Phrase(QT_TRANSLATE_NOOP(
             "orvek::Failure", "is the document itself, which would be lost; name another file"))};
   }

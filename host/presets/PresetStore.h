@@ -42,6 +42,9 @@ class PresetStore {
   /// Fails where there is none of the old name, or already one of the new.
   Status rename(const QString &from, const QString &to);
 
+  /// Where one of that name is, or would be.
+  QString fileOf(const QString &name) const;
+
   /// Also removes a damaged one.
   Status remove(const QString &name);
 
@@ -50,7 +53,6 @@ class PresetStore {
   Status saveLastUsed(const QString &queue, const Preset &preset);
 
  private:
-  QString fileOf(const QString &name) const;
   QString lastUsedFileOf(const QString &queue) const;
 
   QString m_presets;
