@@ -4,9 +4,11 @@
 #include <cstddef>
 
 #include "driver/Driver.h"
+#include "platform/system/FileSizeLimit.h"
 #include "platform/system/StandardDescriptors.h"
 
 int main(int argc, char *argv[]) {
   orvek::openStandardDescriptors();
+  orvek::outliveFileSizeLimits();
   return orvek::driver::runDriver({argv, static_cast<std::size_t>(argc)});
 }

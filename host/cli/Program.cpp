@@ -4,7 +4,6 @@
 #include "host/cli/Program.h"
 
 #include <QApplication>
-#include <csignal>
 
 #include "host/cli/CommandLine.h"
 #include "host/cli/Console.h"
@@ -17,6 +16,7 @@
 #include "host/cli/Window.h"
 #include "host/printers/HelperProcess.h"
 #include "host/translations/Translations.h"
+#include "platform/system/FileSizeLimit.h"
 #include "platform/system/MainBundle.h"
 
 namespace {
@@ -55,14 +55,7 @@ Status checkDisplay() {
                  QStringLiteral("there is no display (DISPLAY is not set), use --headless")};
 }
 
-// A limit on the size of files is a failure of one file, not the end of the program. A handler, as
-// what is ignored would be ignored in the filters as well.
-void outliveFileSizeLimits() {
-  std::signal(SIGXFSZ, [](int) {});
-}
-
 int start(const CommandLine &line, char **argv) {
-  outliveFileSizeLimits();
   if (!needsNoWindow(line)) {
     if (const Status checked = checkDisplay(); !checked) return report(checked.failure());
   }
@@ -83,6 +76,7 @@ int start(const CommandLine &line, char **argv) {
 }  // namespace
 
 extern "C" int orvekPrint(int argc, char **argv, orvek::SocketProgram helper) {
+  outliveFileSizeLimits();
   HelperProcess::adopt(helper);
   QByteArrayList words;
   for (int i = 1; i < argc; ++i) words << argv[i];

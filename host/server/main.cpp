@@ -13,6 +13,7 @@
 #include "host/server/QueueJobs.h"
 #include "host/server/QueueSettings.h"
 #include "host/server/SendJob.h"
+#include "platform/system/FileSizeLimit.h"
 
 namespace {
 
@@ -70,6 +71,7 @@ void answerAll(const CupsConnection &connection, ProgramLink &link, bool isLeft)
 
 int main() {
   limitMemory();
+  outliveFileSizeLimits();
   std::setlocale(LC_ALL, "");
   ProgramLink link(STDIN_FILENO);
   const Message first = link.next();
