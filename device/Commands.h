@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdio>
+#include <string_view>
 
 namespace orvek::device {
 
@@ -26,6 +27,10 @@ int complain(ExitStatus status, const char *what, const char *why);
 
 /// What a bad command line gives: complains, and points to --help.
 int misuse(const char *what, const char *why);
+
+/// Writes what came from elsewhere: as it is into a file or pipe, on a terminal without anything
+/// that a terminal would obey. Gives the exit status; complains where it can't be written.
+int writeText(Output output, std::string_view bytes);
 
 }  // namespace orvek::device
 

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
-// What goes to the standard error, in the program and in each of its commands' modules.
+// What goes to the standard streams, in the program and in each of its commands' modules.
 
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
 #include <string>
 
 #include "device/Commands.h"
@@ -24,6 +28,14 @@ int complain(ExitStatus status, const char *what, const char *why) {
 int misuse(const char *what, const char *why) {
   std::fprintf(stderr, "%s (see orvek-device --help)\n", lineOf(what, why).c_str());
   return BadArgument;
+}
+
+int writeText(Output output, std::string_view bytes) {
+  const bool isTerminal = ::isatty(::fileno(output.file)) != 0;
+  const std::string shown = isTerminal ? forTerminal(bytes) : std::string();
+  const std::string_view written = isTerminal ? shown : bytes;
+  if (std::fwrite(written.data(), 1, written.size(), output.file) == written.size()) return Done;
+  return complain(Negative, "standard output", std::strerror(errno));
 }
 
 }  // namespace orvek::device

@@ -6,8 +6,6 @@
 
 #include <QFile>
 #include <array>
-#include <cerrno>
-#include <cstring>
 
 #include "Common/Utilities.h"
 #include "device/Commands.h"
@@ -79,8 +77,5 @@ int orvekDeviceCommand(int count, char **words, orvek::device::Output output) {
   const QByteArray document =
       GetURLWithAuthentication(arguments.url, arguments.user, arguments.password);
   const auto size = static_cast<std::size_t>(document.size());
-  if (std::fwrite(document.constData(), 1, size, output.file) != size) {
-    return complain(Negative, "standard output", std::strerror(errno));
-  }
-  return Done;
+  return writeText(output, {document.constData(), size});
 }

@@ -33,6 +33,5 @@ int orvekDeviceCommand(int count, char **words, orvek::device::Output output) {
   }
   const QString value = GetOVGValue(*document.value(), QString::fromUtf8(words[2]));
   if (value.isNull()) return complain(Negative, words[1], "there is no such element");
-  std::fprintf(output.file, "%s\n", value.toUtf8().constData());
-  return Done;
+  return writeText(output, value.toStdString() + '\n');
 }

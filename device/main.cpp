@@ -10,6 +10,7 @@
 
 #include "device/CommandModule.h"
 #include "device/Commands.h"
+#include "platform/system/FileSizeLimit.h"
 
 namespace orvek::device {
 namespace {
@@ -74,6 +75,7 @@ int dispatch(int count, char **words, Output output) {
 
 int main(int count, char **words) {
   using namespace orvek::device;
+  orvek::outliveFileSizeLimits();
   const Output output = takeStandardOutput();
   if (output.file == nullptr) return complain(Negative, "standard output", std::strerror(errno));
   int status = dispatch(count, words, output);

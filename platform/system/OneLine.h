@@ -35,25 +35,30 @@ constexpr bool isObeyed(std::string_view character) {
          (byte(1) == 0x81 && byte(2) >= 0xA6 && byte(2) <= 0xA9);    // U+2066 to U+2069
 }
 
-/// `utf8` as one line that a terminal shows and does not obey: a space stands for each character
-/// that it would, a question mark for each byte that is no UTF-8, which old terminals may take for
-/// a control character.
-inline std::string oneLine(std::string_view utf8) {
-  std::string line;
-  line.reserve(utf8.size());
+/// `utf8` as a terminal shows it and does not obey it, but for the characters among `obeyed`: a
+/// space stands for each other one that it would obey, a question mark for each byte that is no
+/// UTF-8, which old terminals may take for a control character.
+inline std::string forTerminal(std::string_view utf8, std::string_view obeyed = "\n\t") {
+  std::string text;
+  text.reserve(utf8.size());
   while (!utf8.empty()) {
     const std::size_t length = characterLength(utf8);
     const std::string_view character = utf8.substr(0, length);
     if (length == 0) {
-      line += '?';
-    } else if (isObeyed(character)) {
-      line += ' ';
+      text += '?';
+    } else if (isObeyed(character) && obeyed.find(character) == std::string_view::npos) {
+      text += ' ';
     } else {
-      line += character;
+      text += character;
     }
     utf8.remove_prefix(length == 0 ? 1 : length);
   }
-  return line;
+  return text;
+}
+
+/// The same as one line: nothing of it is obeyed.
+inline std::string oneLine(std::string_view utf8) {
+  return forTerminal(utf8, {});
 }
 
 }  // namespace orvek

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 // orvek-device as its users call it: what it prints where, and its exit statuses.
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
+#include <termios.h>
 #include <unistd.h>
 
 #include <QTemporaryDir>
 #include <algorithm>
+#include <array>
+#include <cstdlib>
 #include <fstream>
 #include <map>
 #include <set>
@@ -53,6 +57,24 @@ class Device : public testing::Test {
         (program + " " + words + " >" + path("out") + " 2>" + path("err") + " </dev/null").c_str());
     return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, contents(path("out")),
             contents(path("err"))};
+  }
+
+  /// What a terminal is given.
+  std::string shownOnTerminal(const std::string &words) const {
+    const int screen = ::posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC | O_NONBLOCK);
+    EXPECT_EQ(::grantpt(screen), 0);
+    EXPECT_EQ(::unlockpt(screen), 0);
+    const std::string name = ::ptsname(screen);
+    const int line = ::open(name.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC);
+    termios raw{};
+    ::cfmakeraw(&raw);
+    EXPECT_EQ(::tcsetattr(line, TCSANOW, &raw), 0);
+    EXPECT_EQ(std::system((ORVEK_DEVICE " " + words + " >" + name).c_str()), 0);
+    std::array<char, 4096> bytes{};
+    const ssize_t size = ::read(screen, bytes.data(), bytes.size());
+    ::close(line);
+    ::close(screen);
+    return {bytes.data(), size > 0 ? static_cast<std::size_t>(size) : 0};
   }
 
   void expectMisuse(const std::string &words) const {
@@ -216,6 +238,27 @@ TEST_F(Device, FetchesADocumentWithTheUserAndTheFilesFirstLine) {
   EXPECT_EQ(fetched.output, std::string("bytes\0and\n", 10));
   EXPECT_NE(server.requests().at(0).find("Authorization: Basic YWRtaW46c2VjcmV0\r\n"),
             std::string::npos);
+}
+
+TEST_F(Device, ShowsADocumentOnATerminalThatDoesNotObeyIt) {
+  const std::string document("a\x1b[2J\tb\r\n\0\x9b\u202ec\n", 16);
+  HttpServer server([&](const HttpConnection &connection, const std::string &,
+                        const std::atomic<bool> &) { connection.send(httpAnswer(document)); });
+  EXPECT_EQ(shownOnTerminal("fetch " + server.url()), "a [2J\tb \n ? c\n");
+  EXPECT_EQ(run("fetch " + server.url()).output, document);
+}
+
+TEST_F(Device, ShowsAnElementOnATerminalThatDoesNotObeyIt) {
+  write("a.xml", "<a>x\n&#x9b;2J&#x202e;y</a>");
+  EXPECT_EQ(shownOnTerminal("xml " + path("a.xml") + " a"), "x\n 2J y\n");
+  EXPECT_EQ(run("xml " + path("a.xml") + " a").output, "x\n\u009b2J\u202ey\n");
+}
+
+TEST_F(Device, SaysThatItsOutputBecameTooLarge) {
+  write("a.xml", "<a>" + std::string(4096, 'x') + "</a>");
+  const Outcome cut = runProgram("ulimit -f 1; " ORVEK_DEVICE, "xml " + path("a.xml") + " a");
+  EXPECT_EQ(cut.status, 1);
+  EXPECT_EQ(cut.errors, "orvek-device: standard output: File too large\n");
 }
 
 TEST_F(Device, FetchesAnEmptyDocumentWithoutComplaint) {

@@ -33,5 +33,9 @@ TEST(OneLine, HasAQuestionMarkForEachByteThatIsNoText) {
   EXPECT_EQ(oneLine("\xc0\x8a"), "??");
 }
 
+TEST(ForTerminal, KeepsLinesAndColumns) {
+  EXPECT_EQ(forTerminal("a\n\tb\r\n\x1b[2J\u2028\x9b"), "a\n\tb \n [2J ?");
+}
+
 }  // namespace
 }  // namespace orvek::test
