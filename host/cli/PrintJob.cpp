@@ -10,6 +10,7 @@
 #include "host/jobs/ReadJob.h"
 #include "host/printers/Queue.h"
 #include "host/session/JobWarnings.h"
+#include "host/ticket/PageRanges.h"
 
 namespace orvek {
 namespace {
@@ -46,12 +47,17 @@ Status printOnQueue(const CommandLine &line, const ReadJob &job) {
   return tellJob(line, requestIdLine(job.request, outcome.value()));
 }
 
-// Only one document's pages are sure to end up in one set.
+// Only one document's pages are sure to end up in one set. That it has none of those asked for is
+// said by the job into a file itself, which fails.
 int pagesOfOneSet(const PrintSession &session, const JobRequest &request) {
+  const QString ranges = session.job().settings().pageRanges;
+  const bool fails = !request.outputFile.isNull();
   const bool matters = warningsDependOnPages(session.marks(), session.ticket().values()) ||
-                       !session.job().settings().pageRanges.isEmpty();
-  const bool count = matters && request.files.size() == 1;
-  return count ? documentInfo(request.files.first()).pages : 0;
+                       (!ranges.isEmpty() && !fails);
+  if (!matters || request.files.size() != 1) return 0;
+  const int pages = documentInfo(request.files.first()).pages;
+  const bool isNonePrinted = !ranges.isEmpty() && pagesInRanges(ranges, pages).isEmpty();
+  return fails && isNonePrinted ? 0 : pages;
 }
 
 void tellWarnings(const PrintSession &session, const JobRequest &request) {

@@ -4,6 +4,8 @@
 #include "host/cli/ToolkitMessages.h"
 
 #include <QString>
+#include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 
@@ -14,8 +16,14 @@ namespace orvek {
 namespace {
 
 // Without a login session there is no folder for sockets, and Qt says so at every start. Nothing
-// here needs one.
-constexpr QLatin1String runtimeFolderMessage{"QStandardPaths: "};
+// here needs one. Of a file that can't be opened our own failure tells, in one line.
+constexpr std::array<QLatin1String, 2> unwanted{QLatin1String("QStandardPaths: "),
+                                                QLatin1String("QFSFileEngine::open: ")};
+
+bool isUnwanted(const QString &message) {
+  return std::any_of(unwanted.begin(), unwanted.end(),
+                     [&](QLatin1String beginning) { return message.startsWith(beginning); });
+}
 
 // What the toolkit can't go on after is what the machine lacks: a part of it, memory, descriptors.
 // The toolkit would end the program with a signal. Nothing of it can be relied on any more.
@@ -24,7 +32,7 @@ constexpr QLatin1String runtimeFolderMessage{"QStandardPaths: "};
 }
 
 void writeMessage(QtMsgType type, const QMessageLogContext &context, const QString &message) {
-  if (message.startsWith(runtimeFolderMessage)) return;
+  if (isUnwanted(message)) return;
   if (type == QtFatalMsg) endWith(message);
   const std::string line = oneLine(qFormatLogMessage(type, context, message).toStdString());
   std::fprintf(stderr, "%s\n", line.c_str());

@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QGroupBox>
 #include <QGuiApplication>
@@ -13,13 +14,18 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPixmap>
+#include <QSet>
 #include <QSignalBlocker>
 #include <QSlider>
+
+#include "platform/system/Log.h"
+#include "platform/ui/PictureFile.h"
 
 namespace orvek {
 namespace {
 
 constexpr const char *imageNameProperty = "orvekImageName";
+constexpr qint64 largestPicture = 64 << 20;
 
 // Qt reads a single "&" in every one of these titles as a mnemonic mark.
 QString literally(const QString &title) {
@@ -52,9 +58,23 @@ QString densestFile(const QString &path) {
   return QFileInfo::exists(companion) ? companion : path;
 }
 
+// Once for each: a panel shows its pictures again and again.
+void tellDamaged(const QString &path) {
+  static QSet<QString> told;
+  if (told.contains(path)) return;
+  told.insert(path);
+  logLine(path + QStringLiteral(": is no PNG picture, or a damaged one, and is not shown"));
+}
+
 // The format is named, so that the toolkit does not load every picture plug-in to ask what a file
 // holds.
 QPixmap readPicture(const QString &path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  if (!isWholePng(file.read(largestPicture))) {
+    tellDamaged(path);
+    return {};
+  }
   QImageReader reader(path, "png");
   reader.setAutoDetectImageFormat(false);
   return QPixmap::fromImage(reader.read());

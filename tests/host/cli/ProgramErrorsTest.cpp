@@ -68,6 +68,39 @@ TEST_F(ProgramErrors, APageRangeThatMakesNoSenseIsNamedAsItWasTyped) {
                 "orvek-print: -o page-ranges=3-1: ");
 }
 
+TEST_F(ProgramErrors, PagesThatTheDocumentLacksAreSaidOnce) {
+  const QString sample = ORVEK_SOURCE_DIR "/samples/Finishing-Sample.pdf";
+  for (const QStringList &booklet : {QStringList(), QStringList{"-o", "OVKEnableBooklet=True"}}) {
+    const ProgramRun run =
+        runHeadless(booklet + QStringList{"-P", "9", "--output", dir.filePath("out.ps"), sample});
+    expectFailure(run, 1, ": has no page 9: the number of its pages is 8");
+    EXPECT_EQ(run.errors.count("page 9"), 1) << run.errors.constData();
+  }
+}
+
+TEST_F(ProgramErrors, AFileWithoutANameIsSaidInOneLine) {
+  for (const QStringList &unnamed : {QStringList{"--ticket", ""}, QStringList{"--inspect", ""}}) {
+    const ProgramRun run = runHeadless(unnamed);
+    EXPECT_EQ(run.errorLines().size(), 1) << run.errors.constData();
+    EXPECT_FALSE(run.errors.contains("Qt:")) << run.errors.constData();
+  }
+}
+
+TEST_F(ProgramErrors, ADamagedPictureIsSaidInOneLine) {
+  const QString bundle = dir.filePath("a.bundle");
+  ASSERT_EQ(QProcess::execute("cp", {"-RL", ORVEK_BUNDLE_DIR, bundle}), 0);
+  for (const QString &name : QDir(bundle).entryList({"*.png"})) {
+    ASSERT_TRUE(QFile::resize(bundle + '/' + name, 300));
+  }
+  const ProgramRun run =
+      runHeadless({"--plugin", bundle, "--inspect", "--do", "staplingPopup=Front", "--do",
+                   "staplingPopup=None", "--do", "staplingPopup=Front"});
+  EXPECT_EQ(run.status, 0);
+  EXPECT_FALSE(run.errors.contains("libpng")) << run.errors.constData();
+  EXPECT_EQ(run.errors.count("/Stapling_Quince_Front.png: is no PNG picture, or a damaged one"), 1)
+      << run.errors.constData();
+}
+
 TEST_F(ProgramErrors, ABrokenPluginThatWasNamedIsThree) {
   expectFailure(runHeadless({"--plugin", dir.filePath("none.bundle")}), 3, "none.bundle: ");
   QDir(dir.path()).mkdir("a.bundle");

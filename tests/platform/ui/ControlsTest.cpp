@@ -15,6 +15,8 @@
 #include <QSlider>
 #include <QTemporaryDir>
 
+#include "platform/ui/PictureFile.h"
+#include "tests/support/LogCapture.h"
 #include "tests/support/Printers.h"
 
 namespace orvek::test {
@@ -262,6 +264,31 @@ TEST_F(ImageView, IsEmptiedByAFileThatHoldsNoPicture) {
   damaged.close();
   setImage(&view, path());
   EXPECT_TRUE(imageName(&view).isNull());
+}
+
+TEST_F(ImageView, IsEmptiedByADamagedPictureWhichIsToldOnce) {
+  QFile damaged(path());
+  ASSERT_TRUE(damaged.open(QIODevice::ReadWrite) && damaged.resize(damaged.size() - 1));
+  damaged.close();
+  const LogCapture log;
+  setImage(&view, path());
+  setImage(&view, path());
+  EXPECT_TRUE(imageName(&view).isNull());
+  ASSERT_EQ(log.lines().size(), 1);
+  EXPECT_TRUE(log.lines().first().startsWith(path() + ": is no PNG picture, or a damaged one"));
+}
+
+TEST_F(ImageView, ShowsNoPictureThatIsCutOffOrHasAWrongBit) {
+  QFile file(path());
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QByteArray whole = file.readAll();
+  EXPECT_TRUE(isWholePng(whole));
+  for (qsizetype i = 0; i < whole.size(); ++i) {
+    EXPECT_FALSE(isWholePng(whole.left(i))) << i;
+    QByteArray other = whole;
+    other[i] = static_cast<char>(other[i] ^ 0x10);
+    EXPECT_FALSE(isWholePng(other)) << i;
+  }
 }
 
 TEST(EmptyImageView, HasNoName) {
