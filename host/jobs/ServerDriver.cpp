@@ -36,7 +36,7 @@ bool lacksAFilter(const QueueState &state) {
 bool namesAnotherFilter(const QString &message) {
   static const QRegularExpression file(QStringLiteral("/([^/\"“”„«»]+)[\"“”«»]"));
   const QRegularExpressionMatch found = file.match(message);
-  return found.hasMatch() && found.captured(1) != bookletDriverName();
+  return found.hasMatch() && found.captured(1).trimmed() != bookletDriverName();
 }
 
 }  // namespace

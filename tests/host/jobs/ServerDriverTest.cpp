@@ -28,5 +28,25 @@ TEST(ServerDriver, IsNoMatterOfReadyBytesInWhateverLettersThatIsSaid) {
   }
 }
 
+// A message may come in any language, and about anything.
+TEST(ServerDriver, IsMissingWhereTheMessageNamesItOrNoFileAtAll) {
+  const QString queuePPD = QStringLiteral(ORVEK_SOURCE_DIR "/printers/Orvek-6180.ppd");
+  const auto becomes = [&](const char *message) {
+    return serverDriverFor({}, {lacksFilter.reasons, QString::fromUtf8(message)}, queuePPD);
+  };
+  for (const char *ours :
+       {"", "Ready to print.",
+        "File \"/usr/lib/cups/filter/orvek-booklet\" not available: No such file",
+        "Fichier « /opt/orvek-booklet » absent",
+        "Datei „/usr/lib/cups/filter/orvek-booklet“ fehlt"}) {
+    EXPECT_EQ(becomes(ours), ServerDriver::StopsEveryJob) << ours;
+  }
+  for (const char *others : {"File \"/usr/lib/cups/filter/pdftops\" not available: No such file",
+                             "Datei „/opt/other/filter“ fehlt",
+                             "File \"/usr/lib/cups/filter/my-orvek-booklet\" not available"}) {
+    EXPECT_EQ(becomes(others), ServerDriver::Works) << others;
+  }
+}
+
 }  // namespace
 }  // namespace orvek::test
