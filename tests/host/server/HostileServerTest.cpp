@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <functional>
 
+#include "host/jobs/JobState.h"
 #include "host/jobs/QueueJob.h"
 #include "host/printers/Passwords.h"
 #include "host/printers/PrinterList.h"
@@ -171,6 +172,16 @@ TEST_F(HostileServerToAJob, DoesNotHoldItsCancelling) {
   expectEndsOfAll(IPP_OP_CANCEL_JOB,
                   [](const ServerAccess &access) { return cancelJob(access, queueName, 1); },
                   {Hostility::WrongRequestId});
+}
+
+TEST_F(HostileServerToAJob, DoesNotHoldTheQuestionForTheQueuesLastJob) {
+  expectEndsOfAll(IPP_OP_GET_JOBS, [](const ServerAccess &access) -> Status {
+    auto talk = ServerTalk::open(access);
+    if (!talk) return talk.failure();
+    // Whatever it says, it tells of no such job.
+    const bool isTold = hasMarkedJob(*talk.value(), queueName, QStringLiteral("some-mark"));
+    return isTold ? Status() : Status(jobCancelled());
+  });
 }
 
 TEST_F(HostileServerToAJob, IsToldToCancelWhatDidNotGoThrough) {
