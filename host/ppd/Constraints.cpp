@@ -74,10 +74,17 @@ bool touchesInstalledEquipment(const Marks &marks, const QList<ChoiceChange> &ch
   });
 }
 
+bool isInConflict(const Marks &marks, const OptionChoice &pick) {
+  if (const PlainConstraints *plain = marks.printer().plainConstraints()) {
+    if (const ppd_choice_s *choice = plain->pickFor(pick)) return plain->isInConflict(choice);
+  }
+  return marks.isInConflict(pick.option);
+}
+
 // True where the changes leave the pick marked and free of conflicts; the marks stand as tried.
 bool apply(Marks &marks, const QList<ChoiceChange> &changes, const OptionChoice &pick) {
   for (const ChoiceChange &change : changes) marks.mark(change.option, change.newChoice);
-  return marks.marked(pick.option) == pick.choice && !marks.isInConflict(pick.option);
+  return marks.marked(pick.option) == pick.choice && !isInConflict(marks, pick);
 }
 
 // Other sides are told apart while the conflict still stands.

@@ -104,6 +104,10 @@ const ppd_choice_s *PlainConstraints::pickFor(const OptionChoice &pick) const {
   return ppdFindChoice(option, pick.choice.toUtf8().constData());
 }
 
+bool PlainConstraints::isInConflict(const ppd_choice_s *pick) const {
+  return PlainResolution(*this, pick).isPickForbidden();
+}
+
 std::optional<QList<OptionChoice>> PlainConstraints::resolutionOf(const ppd_choice_s *pick) const {
   return PlainResolution(*this, pick).found();
 }

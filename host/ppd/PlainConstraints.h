@@ -30,7 +30,11 @@ class PlainConstraints {
   /// are.
   std::optional<QList<OptionChoice>> resolutionOf(const ppd_choice_s *pick) const;
 
-  /// The choice, if resolutionOf() can be asked about it; else null.
+  /// Whether some constraint forbids the pick beside what is marked, as Marks::isInConflict() says
+  /// once it is marked itself.
+  bool isInConflict(const ppd_choice_s *pick) const;
+
+  /// The choice, if the others can be asked about it; else null.
   const ppd_choice_s *pickFor(const OptionChoice &pick) const;
 
  private:

@@ -39,18 +39,22 @@ bool PlainResolution::isViolated(int constraint) const {
                      [this](const Side &side) { return m_choices[side.option] == side.choice; });
 }
 
+// Of those that name the option.
+bool PlainResolution::isAnyViolated(int option) const {
+  const auto &naming = m_constraints.m_naming[option];
+  return std::any_of(naming.begin(), naming.end(),
+                     [this](int constraint) { return isViolated(constraint); });
+}
+
 bool PlainResolution::mayBecome(int option, const char *choice) {
   const ppd_choice_t *before =
       std::exchange(m_choices[option], choiceOf(m_constraints.m_options[option], choice));
-  const auto &naming = m_constraints.m_naming[option];
-  const bool violates = std::any_of(naming.begin(), naming.end(),
-                                    [this](int constraint) { return isViolated(constraint); });
-  if (violates) {
+  if (isAnyViolated(option)) {
     m_choices[option] = before;
-  } else {
-    m_changes[option] = choice;
+    return false;
   }
-  return !violates;
+  m_changes[option] = choice;
+  return true;
 }
 
 bool PlainResolution::change(const Side &side) {

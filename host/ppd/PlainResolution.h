@@ -13,12 +13,14 @@ class PlainResolution {
  public:
   PlainResolution(const PlainConstraints &constraints, const ppd_choice_s *pick);
 
+  bool isPickForbidden() const { return isAnyViolated(m_pick); }
   std::optional<QList<OptionChoice>> found();
 
  private:
   using Side = PlainConstraints::Side;
 
   bool isViolated(int constraint) const;
+  bool isAnyViolated(int option) const;
   bool changeOne();
   bool change(const Side &side);
   bool mayBecome(int option, const char *choice);

@@ -124,6 +124,8 @@ void compareAllPicks(const PrinterDescription &printer, QRandomGenerator &random
     marks.mark(option.keyword(), choice);
     const ppd_choice_t *pick = plain->pickFor({option.keyword(), choice});
     if (pick == nullptr) continue;
+    ASSERT_EQ(plain->isInConflict(pick), marks.isInConflict(option.keyword()))
+        << option.keyword().toStdString() << " among " << textOf(marks.all());
     const auto ours = plain->resolutionOf(pick);
     ASSERT_EQ(textOf(ours), textOf(resolvedByLibcups(printer.lend(), pick)))
         << option.keyword().toStdString() << " among " << textOf(marks.all());
