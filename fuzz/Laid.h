@@ -4,17 +4,13 @@
 #pragma once
 
 #include <cmath>
-#include <cstdlib>
 #include <vector>
 
+#include "fuzz/Require.h"
 #include "host/preview/DocumentPages.h"
 #include "imposition/JobSheets.h"
 
 namespace orvek::fuzz {
-
-inline void require(bool holds) {
-  if (!holds) std::abort();
-}
 
 inline bool isLength(double value) {
   return std::isfinite(value) && value >= 0;

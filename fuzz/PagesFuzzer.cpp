@@ -3,25 +3,10 @@
 // there are pages that can be laid out, or there is one line that says why not.
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 #include <string_view>
 
 #include "fuzz/Laid.h"
-
-namespace {
-
-/// Where documents lie, in memory where that can be.
-const QString &folder() {
-  static const QString parent =
-      QFile::exists(QStringLiteral("/dev/shm")) ? QStringLiteral("/dev/shm") : QDir::tempPath();
-  static const QTemporaryDir folder(parent + QStringLiteral("/orvek-pages-XXXXXX"));
-  static const QString path = folder.path();
-  return path;
-}
-
-}  // namespace
+#include "fuzz/MemoryFolder.h"
 
 extern "C" int LLVMFuzzerInitialize(int *count, char ***words) {
   static QCoreApplication application(*count, *words);
@@ -31,13 +16,11 @@ extern "C" int LLVMFuzzerInitialize(int *count, char ***words) {
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size) {
   // Anything else is made a PDF by other programs first.
   if (size == 0 ||
-      std::string_view(reinterpret_cast<const char *>(data), size).find("%PDF-") > 1000)
+      std::string_view(reinterpret_cast<const char *>(data), size).find("%PDF-") > 1000) {
     return 0;
-  const QString path = folder() + QStringLiteral("/in.pdf");
-  QFile file(path);
-  orvek::fuzz::require(file.open(QIODevice::WriteOnly));
-  file.write(reinterpret_cast<const char *>(data), static_cast<qint64>(size));
-  file.close();
+  }
+  const QString path =
+      orvek::fuzz::fileOf(QStringLiteral("in.pdf"), reinterpret_cast<const char *>(data), size);
   const std::atomic<bool> cancelled = false;
   const auto document = orvek::readDocumentPages(path, {}, cancelled);
   if (!document) {
