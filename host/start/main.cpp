@@ -12,6 +12,7 @@
 #include <string_view>
 
 #include "host/cli/Program.h"
+#include "host/printers/SocketProgram.h"
 #include "platform/system/StandardDescriptors.h"
 
 namespace {
