@@ -116,7 +116,7 @@ TEST_F(DocumentPagesTest, MakesPagesOfTextAndPictures) {
 TEST_F(DocumentPagesTest, LeavesNoFilterBehindWhenCancelled) {
   if (findFilterTool(qEnvironmentVariable("PATH")).isNull()) GTEST_SKIP() << "needs cupsfilter";
   const QString text =
-      write(QStringLiteral("long.txt"), QByteArray("A line.\n").repeated(1'000'000));
+      write(QStringLiteral("long.txt"), QByteArray("A line.\n").repeated(5'000'000));
   const test::Descendants descendants;
   const QByteArrayList before = descendants.names();
   std::atomic<bool> cancelled = false;
