@@ -60,7 +60,9 @@ void Bundle::readInfo() {
   }
   QJsonParseError error;
   const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
-  if (document.isObject()) {
+  if (file.error() != QFileDevice::NoError) {
+    m_infoProblem = QStringLiteral("can't be read (%1)").arg(file.errorString());
+  } else if (document.isObject()) {
     m_info = document.object();
   } else {
     m_infoProblem = error.error == QJsonParseError::NoError

@@ -54,6 +54,15 @@ TEST_F(BundleTest, HasAnEmptyDictionaryWhereTheFileHoldsAnEmptyObject) {
   EXPECT_TRUE(open()->infoDictionary().has_value());
 }
 
+TEST_F(BundleTest, SaysThatReadingItsDictionaryFailed) {
+  // It opens, and has no bytes at its beginning.
+  ASSERT_TRUE(
+      QFile::link(QStringLiteral("/proc/self/mem"), disk.file(QStringLiteral("Info.json"))));
+  const auto bundle = open();
+  EXPECT_FALSE(bundle->infoDictionary().has_value());
+  EXPECT_EQ(bundle->infoProblem(), QStringLiteral("can't be read (Input/output error)"));
+}
+
 TEST_F(BundleTest, SaysThatItsDictionaryIsMissing) {
   const auto bundle = open();
   EXPECT_FALSE(bundle->infoDictionary().has_value());
