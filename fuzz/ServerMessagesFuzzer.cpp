@@ -36,14 +36,10 @@ Result<HelperProcess> HelperProcess::start() {
   require(::send(ends[1], answers().constData(), size, MSG_DONTWAIT) == static_cast<ssize_t>(size));
   ::close(ends[1]);
   constexpr pid_t none = -1;
-  return HelperProcess(none, ends[0]);
+  return HelperProcess(SocketProgram{none, ends[0]});
 }
 
-Result<HelperProcess> HelperProcess::startNew() {
-  return start();
-}
-
-void HelperProcess::prepare() {}
+void HelperProcess::adopt(const SocketProgram &) {}
 
 HelperProcess::~HelperProcess() {
   if (m_socket >= 0) ::close(m_socket);
