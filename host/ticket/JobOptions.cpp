@@ -112,8 +112,8 @@ void sayPagesPerSheet(const JobSources &job, QMap<QString, QString> *options) {
   const int pages = integerReading(job.ticket.value(layoutNUpKey));
   const bool isSaved =
       std::any_of(job.queueOptions.begin(), job.queueOptions.end(), asksForSeveralPages);
-  if (pages > 1 || isSaved)
-    options->insert(pagesPerSheetOption, QString::number(std::max(1, pages)));
+  if (pages <= 1 && !isSaved) return;
+  options->insert(pagesPerSheetOption, QString::number(std::max(1, pages)));
 }
 
 }  // namespace
