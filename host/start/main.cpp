@@ -8,8 +8,10 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "host/cli/Program.h"
 #include "host/printers/SocketProgram.h"
@@ -31,12 +33,33 @@ bool asksNoServer(std::string_view word) {
   });
 }
 
+bool isThere(const std::string &path) {
+  return ::access(path.c_str(), F_OK) == 0;
+}
+
+/// The file where this program's libraries are looked for; the bare name where it is in none of
+/// those places. Looked up here, as a sanitizer that stands between would search its own places.
+std::string amongLibraries(const std::string &name) {
+  void *self = ::dlopen(nullptr, RTLD_LAZY);
+  Dl_serinfo size{};
+  if (self == nullptr || ::dlinfo(self, RTLD_DI_SERINFOSIZE, &size) != 0) return name;
+  std::vector<char> bytes(size.dls_size);
+  auto *places = reinterpret_cast<Dl_serinfo *>(bytes.data());
+  *places = size;
+  if (::dlinfo(self, RTLD_DI_SERINFO, places) != 0) return name;
+  for (const Dl_serpath &place : std::span(places->dls_serpath, places->dls_cnt)) {
+    const std::string path = std::string(place.dls_name) + '/' + name;
+    if (isThere(path)) return path;
+  }
+  return name;
+}
+
 /// Beside this program, wherever both were moved to; a copy of this one alone, out of the tree it
 /// was built in, finds it there.
 void *loadProgram() {
   const std::string path = besideThisProgram(programPlace);
-  const bool isThere = ::access(path.c_str(), F_OK) == 0;
-  return ::dlopen(isThere ? path.c_str() : "orvek-print.so", RTLD_NOW | RTLD_GLOBAL);
+  return ::dlopen((isThere(path) ? path : amongLibraries("orvek-print.so")).c_str(),
+                  RTLD_NOW | RTLD_GLOBAL);
 }
 
 int complain(const std::string &what) {
