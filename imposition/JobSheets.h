@@ -17,6 +17,8 @@ struct SheetJob {
   FilterJob filters;
   /// The document is PostScript, which a filter of its own lays out. Not for booklets.
   bool isScript = false;
+  /// The filter of PostScript knows one word for the order alone ("outputorder").
+  bool isScriptReversed = false;
   bool twoSided = false;
   /// Two-sided, the back's top where the front's foot is.
   bool turnsOverShortEdge = false;

@@ -214,8 +214,8 @@ std::vector<FilteredSide> layOutAsScript(std::span<const Size> pages, const Filt
     }
     sides.push_back(std::move(side));
   }
-  // A single side needs no other to be the front of its sheet.
-  const bool isOdd = sides.size() % 2 != 0 && sides.size() > 1;
+  // A document of a single side needs no other to be the front of its sheet.
+  const bool isOdd = sides.size() % 2 != 0 && number > 1;
   if (isOdd && job.sides.twoSided && job.sides.reverse) sides.emplace_back();
   if (job.sides.reverse) std::reverse(sides.begin(), sides.end());
   return sides;

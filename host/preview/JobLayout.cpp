@@ -144,6 +144,8 @@ bool printsLastFirst(const Marks &marks) {
 void readOrder(const Marks &marks, const Options &options, SheetJob *job) {
   const bool habit = !job->booklet.enabled && printsLastFirst(marks);
   job->filters.sides.reverse = readReversed(said(options)).value_or(habit);
+  const auto order = valueNamed(options, QLatin1String(orderOptions[0]));
+  job->isScriptReversed = order ? sameKeyword(*order, "reverse") : habit;
   job->isTurnedForTray = stacksReversed(marks.printer(), marks.marked(QStringLiteral("OutputBin")));
 }
 
@@ -236,7 +238,10 @@ std::vector<PrintedSide> sidesOf(const DocumentPages &document, const SheetJob &
   }
   // There is but one filter of PostScript, and it turns the order round but once.
   asked.isScript = document.isScript && !job.booklet.enabled;
-  if (asked.isScript) asked.isTurnedForTray = false;
+  if (asked.isScript) {
+    asked.isTurnedForTray = false;
+    asked.filters.sides.reverse = job.isScriptReversed;
+  }
   return printedSides(sizes, asked);
 }
 

@@ -111,6 +111,20 @@ TEST(ScriptLayout, PutsPagesWhereTheFilterPutsThem) {
   for (unsigned i = 0; i < jobs; ++i) expectAsFiltered(firstSeed() + i);
 }
 
+TEST(ScriptLayout, BeginsAReversedJobWithABlankSideUnlessItsDocumentHasOneSideAlone) {
+  FilterJob job;
+  job.paper = {595, 842};
+  job.sides.twoSided = true;
+  job.sides.reverse = true;
+  job.sides.ranges = {{3, 3}};
+  const std::vector<Size> pages(6, Size{595, 842});
+  const auto sides = layOutAsScript(pages, job);
+  ASSERT_EQ(sides.size(), 2U);
+  EXPECT_TRUE(sides[0].pages.empty());
+  job.sides.ranges.clear();
+  EXPECT_EQ(layOutAsScript(std::span(pages).first(1), job).size(), 1U);
+}
+
 TEST(ScriptLayout, GivesNothingForNoPagesAndNoPaper) {
   FilterJob job;
   job.paper = a4;

@@ -76,6 +76,14 @@ TEST_F(JobLayoutTest, FollowsJobSettings) {
   EXPECT_EQ(job.filters.pagesPerSide, 6);
 }
 
+TEST_F(JobLayoutTest, KnowsTheOneWordForTheOrderThatTheFilterOfPostScriptKnows) {
+  write("page-delivery", QStringLiteral("reverse-order"));
+  EXPECT_TRUE(sheetJobOf(*session).filters.sides.reverse);
+  EXPECT_FALSE(sheetJobOf(*session).isScriptReversed);
+  write("OutputOrder", QStringLiteral("Reverse"));
+  EXPECT_TRUE(sheetJobOf(*session).isScriptReversed);
+}
+
 TEST_F(JobLayoutTest, KnowsWhichWordsTheFilterOfPostScriptFits) {
   EXPECT_FALSE(sheetJobOf(*session).filters.fitsScripts);
   write("fitplot", QStringLiteral("true"));
