@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <string>
 
 #include "tests/chain/ChainRun.h"
 #include "tests/chain/RandomJob.h"
@@ -35,6 +36,7 @@ TEST_P(RandomJobs, ComeOutAsThePreviewSays) {
   const unsigned seed = numberFrom("ORVEK_CHAIN_SEED", firstSeed);
   ChainRun run;
   for (unsigned i = GetParam(); i < jobs; i += shards) {
+    SCOPED_TRACE("seed " + std::to_string(seed + i));
     const QStringList found = run.differencesOf(randomJob(seed + i));
     if (found.isEmpty()) continue;
     run.keep(seed + i);

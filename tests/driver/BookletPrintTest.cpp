@@ -157,11 +157,21 @@ const char *const kPostScript =
     "0 setgray 1 setlinewidth .5 .5 594 841 rectstroke\n"
     "595 4 div 842 .9 mul 595 2 div 842 20 div rectfill showpage } for\n%%%%EOF\n";
 
+std::string postScript() {
+  return QString::asprintf("%s", kPostScript)
+      .replace(QStringLiteral("%%"), QStringLiteral("%"))
+      .toStdString();
+}
+
 TEST_F(BookletPrint, TakesPostScript) {
-  const std::string document = QString::asprintf("%s", kPostScript)
-                                   .replace(QStringLiteral("%%"), QStringLiteral("%"))
-                                   .toStdString();
-  expectSeen(print({kBooklet}, kit.write(QStringLiteral("in.ps"), document)), booklet(4, a4));
+  const QString file = kit.write(QStringLiteral("in.ps"), postScript());
+  expectSeen(print({kBooklet}, file), booklet(4, a4));
+}
+
+TEST_F(BookletPrint, FitsPagesOntoPaperOnceInWhicheverWordsItIsAskedFor) {
+  const QString file = kit.write(QStringLiteral("in.ps"), postScript());
+  const std::vector<SeenSide> fitted = print({kBooklet, QStringLiteral("fit-to-page")}, file);
+  expectSeen(print({kBooklet, QStringLiteral("ipp-attribute-fidelity")}, file), fitted);
 }
 
 TEST_F(BookletPrint, TakesTextAndImages) {
