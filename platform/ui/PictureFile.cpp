@@ -3,8 +3,9 @@
 
 #include "platform/ui/PictureFile.h"
 
+#include <zlib.h>
+
 #include <QtEndian>
-#include <array>
 #include <string_view>
 
 namespace orvek {
@@ -15,24 +16,9 @@ constexpr qsizetype lengthBytes = 4;
 constexpr qsizetype nameBytes = 4;
 constexpr qsizetype checksumBytes = 4;
 
-constexpr std::array<quint32, 256> checksumTable() {
-  constexpr quint32 polynomial = 0xEDB88320;
-  std::array<quint32, 256> table{};
-  for (quint32 i = 0; i < table.size(); ++i) {
-    quint32 value = i;
-    for (int bit = 0; bit < 8; ++bit) value = (value >> 1) ^ ((value & 1) != 0 ? polynomial : 0);
-    table[i] = value;
-  }
-  return table;
-}
-
 quint32 checksumOf(std::string_view bytes) {
-  static constexpr auto table = checksumTable();
-  quint32 sum = ~quint32{0};
-  for (const char byte : bytes) {
-    sum = table[(sum ^ static_cast<unsigned char>(byte)) & 0xFF] ^ (sum >> 8);
-  }
-  return ~sum;
+  const auto *data = reinterpret_cast<const Bytef *>(bytes.data());
+  return static_cast<quint32>(::crc32_z(0, data, bytes.size()));
 }
 
 quint32 numberAt(std::string_view bytes, qsizetype place) {
