@@ -10,7 +10,7 @@
 #include "host/session/FirstMarks.h"
 #include "host/session/TicketBounds.h"
 #include "host/ticket/BookletSettings.h"
-#include "host/ticket/JobOptionNames.h"
+#include "host/ticket/JobOptions.h"
 #include "platform/system/OptionMap.h"
 
 namespace orvek {
@@ -20,9 +20,7 @@ namespace {
 // what it reads there it says: a booklet that was missing would be called off.
 void beginTicket(Ticket &ticket, const SessionSetup &setup, const PrinterDescription &printer) {
   for (const OptionChoice &saved : setup.queueOptions) {
-    if (sameKeyword(saved.option, pagesPerSheetOption) && saved.choice.toInt() > 1) {
-      ticket.setValue(layoutNUpKey, saved.choice.toInt());
-    }
+    if (const int pages = pagesPerSheetIn(saved); pages > 0) ticket.setValue(layoutNUpKey, pages);
     const auto entry = bookletEntry(saved);
     if (!entry || printer.has(entry->option)) continue;
     if (!valueNamed(setup.ticket, entry->option)) ticket.setValue(entry->option, entry->choice);

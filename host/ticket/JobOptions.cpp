@@ -104,19 +104,21 @@ QMap<QString, QString> settingsOnQueue(const JobSettings &settings, const JobSou
   return options;
 }
 
-bool asksForSeveralPages(const OptionChoice &saved) {
-  return sameKeyword(saved.option, pagesPerSheetOption) && saved.choice.toInt() > 1;
-}
-
 void sayPagesPerSheet(const JobSources &job, QMap<QString, QString> *options) {
   const int pages = integerReading(job.ticket.value(layoutNUpKey));
   const bool isSaved =
-      std::any_of(job.queueOptions.begin(), job.queueOptions.end(), asksForSeveralPages);
+      std::any_of(job.queueOptions.begin(), job.queueOptions.end(), pagesPerSheetIn);
   if (pages <= 1 && !isSaved) return;
   options->insert(pagesPerSheetOption, QString::number(std::max(1, pages)));
 }
 
 }  // namespace
+
+int pagesPerSheetIn(const OptionChoice &option) {
+  if (!sameKeyword(option.option, pagesPerSheetOption)) return 0;
+  const int pages = option.choice.toInt();
+  return pages > 1 ? pages : 0;
+}
 
 QMap<QString, QString> jobSettingOptions(const JobSettings &settings) {
   QMap<QString, QString> options;

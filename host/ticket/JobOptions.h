@@ -47,6 +47,9 @@ QMap<QString, QString> jobSettingOptions(const JobSettings &settings);
 /// As above; a setting that still is what was asked for is said in the words it was asked in.
 QMap<QString, QString> jobSettingOptions(const JobSettings &settings, const AskedOptions &asked);
 
+/// How many pages per sheet an option asks for; 0 where it is another option, or asks for one page.
+int pagesPerSheetIn(const OptionChoice &option);
+
 /// The words among the queue's options that must not go with the job, as they are no longer true.
 QStringList overruledOptions(Marks &marks, const JobSources &job);
 
