@@ -46,13 +46,13 @@ JobRequest filtered(const JobRequest &request) {
   JobRequest job = request;
   job.saved.clear();
   removeDescriptions(&job.options);
-  removeAll(&job.options, std::array{"document-format"});
+  removeNamed(&job.options, formatOption);
   return job;
 }
 
 /// Sheets are as many as the copies that the server makes of them.
 JobRequest withoutCopies(JobRequest request) {
-  removeAll(&request.options, std::array{"copies"});
+  removeNamed(&request.options, copiesOption);
   return request;
 }
 
@@ -81,7 +81,7 @@ JobRequest finished(const JobRequest &request, ServerDriver driver) {
   JobRequest job = request;
   job.title = effectiveTitle(request);
   job.options = effectiveOptions(request);
-  removeAll(&job.options, std::array{"document-format"});
+  removeNamed(&job.options, formatOption);
   if (driver == ServerDriver::StopsEveryJob) {
     askForNothingMore(&job);
   } else {
