@@ -75,7 +75,7 @@ JobRequest jobRequestFor(const CommandLine &line, PrintSession &session,
   request.user = line.user;
   request.priority = line.priority.value_or(0);
   request.options = session.job().options();
-  request.saved = session.job().savedOptions();
+  request.saved = session.job().savedOptions(request.options);
   request.overruled = session.job().overruledOptions();
   request.texts = session.job().optionsWithCustomValues();
   request.sheetPaper = session.job().sheetPaper();

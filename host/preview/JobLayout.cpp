@@ -41,7 +41,8 @@ bool isOn(const QString &value) {
 
 Options allOptions(PrintSession &session) {
   Options options = session.job().options();
-  options.insert(session.job().savedOptions());
+  const Options saved = session.job().savedOptions(options);
+  options.insert(saved);
   return options;
 }
 
@@ -191,10 +192,7 @@ void readBooklet(const Marks &marks, const Options &options, SheetJob *job) {
   job->bookletPaper = {paper.width(), paper.height()};
 }
 
-}  // namespace
-
-SheetJob sheetJobOf(PrintSession &session) {
-  const Options options = allOptions(session);
+SheetJob sheetJobOf(const PrintSession &session, const Options &options) {
   const Marks &marks = session.marks();
   SheetJob job;
   readPaper(session, options, &job.filters);
@@ -211,13 +209,13 @@ SheetJob sheetJobOf(PrintSession &session) {
   return job;
 }
 
-int copiesOf(PrintSession &session) {
-  return settingsIn(allOptions(session)).copies;
-}
+}  // namespace
 
-PrintedWith printedWith(PrintSession &session) {
+LaidOutJob laidOutJobOf(PrintSession &session) {
+  const Options options = allOptions(session);
   const QString ppd = session.origin().printer ? session.origin().printer->path() : QString();
-  return {ppd, optionsForPages(allOptions(session))};
+  return {
+      sheetJobOf(session, options), settingsIn(options).copies, {ppd, optionsForPages(options)}};
 }
 
 std::vector<PrintedSide> sidesOf(const DocumentPages &document, const SheetJob &job) {

@@ -154,8 +154,10 @@ void JobPreview::showEvent(QShowEvent *event) {
 // After the first paint, which is not to wait for it.
 void JobPreview::begin() {
   if (std::exchange(m_hasBegun, true)) return;
-  m_job = sheetJobOf(m_session);
-  m_with = printedWith(m_session);
+  const LaidOutJob job = laidOutJobOf(m_session);
+  m_job = job.sheets;
+  m_copies = job.copies;
+  m_with = job.with;
   m_document = sample(m_job.filters.paper);
   m_pictures->setInGray(m_job.inGray);
   connect(&m_session, &PrintSession::changed, this, &JobPreview::followSession);
@@ -164,17 +166,17 @@ void JobPreview::begin() {
 }
 
 void JobPreview::followSession() {
-  const imposition::SheetJob job = sheetJobOf(m_session);
-  const PrintedWith with = printedWith(m_session);
+  const LaidOutJob job = laidOutJobOf(m_session);
   // A PDF's own pages are what they are; others are made anew.
   const bool isMade = m_document.made != nullptr || !m_isRead;
-  const bool readsAnew = with != m_with && m_reading > 0 && isMade;
-  m_with = with;
+  const bool readsAnew = job.with != m_with && m_reading > 0 && isMade;
+  m_with = job.with;
+  m_copies = job.copies;
   showCaption();
   if (readsAnew) read();
-  if (job == m_job) return;
-  m_job = job;
-  m_pictures->setInGray(job.inGray);
+  if (job.sheets == m_job) return;
+  m_job = job.sheets;
+  m_pictures->setInGray(m_job.inGray);
   if (m_isSample) m_document = sample(m_job.filters.paper);
   layOut();
 }
@@ -257,12 +259,11 @@ QString JobPreview::caption() const {
   if (m_isSample && !m_isRead) return tr("Reading the document…");
   if (sides().empty()) return tr("No page of the document is printed.");
   const int sheets = imposition::sheetCount(sides());
-  const int copies = copiesOf(m_session);
   QStringList parts;
   if (m_isSample) parts << tr("The document's pages are not known: a sample");
-  if (copies > 1) {
-    parts << (sheets == 1 ? tr("%1 × 1 sheet").arg(copies)
-                          : tr("%1 × %2 sheets").arg(copies).arg(sheets));
+  if (m_copies > 1) {
+    parts << (sheets == 1 ? tr("%1 × 1 sheet").arg(m_copies)
+                          : tr("%1 × %2 sheets").arg(m_copies).arg(sheets));
   } else {
     parts << (sheets == 1 ? tr("1 sheet") : tr("%1 sheets").arg(sheets));
   }

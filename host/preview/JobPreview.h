@@ -54,6 +54,7 @@ class JobPreview final : public QWidget {
   PrintSession &m_session;
   QString m_path;
   imposition::SheetJob m_job;
+  int m_copies = 1;
   PrintedWith m_with;
   DocumentPages m_document;
   bool m_hasBegun = false;

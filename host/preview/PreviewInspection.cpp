@@ -65,25 +65,24 @@ Result<DocumentPages> readPages(const QString &document, const PrintedWith &with
 }  // namespace
 
 InspectedPreview inspectPreview(PrintSession &session, const QStringList &documents) {
-  const SheetJob job = sheetJobOf(session);
-  const PrintedWith with = printedWith(session);
+  const LaidOutJob job = laidOutJobOf(session);
   QJsonArray sides;
   InspectedPreview preview;
   int sheets = 0;
   for (const QString &document : documents) {
-    const Result<DocumentPages> pages = readPages(document, with);
+    const Result<DocumentPages> pages = readPages(document, job.with);
     if (!pages) {
       if (!preview.unread) preview.unread = pages.failure();
       continue;
     }
-    const std::vector<PrintedSide> printed = sidesOf(pages.value(), job);
+    const std::vector<PrintedSide> printed = sidesOf(pages.value(), job.sheets);
     for (const PrintedSide &side : printed) {
-      sides.append(sideOf(side, sheets + side.sheet, job.finishing.fold));
+      sides.append(sideOf(side, sheets + side.sheet, job.sheets.finishing.fold));
     }
     sheets += sheetCount(printed);
   }
   preview.json = {{QStringLiteral("sheets"), sheets},
-                  {QStringLiteral("copies"), copiesOf(session)},
+                  {QStringLiteral("copies"), job.copies},
                   {QStringLiteral("sides"), sides}};
   return preview;
 }

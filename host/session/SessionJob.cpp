@@ -113,8 +113,7 @@ QMap<QString, QString> SessionJob::options() {
   return jobOptionsFor(m_session.marksToTry(), sources());
 }
 
-QMap<QString, QString> SessionJob::savedOptions() {
-  const QMap<QString, QString> said = options();
+QMap<QString, QString> SessionJob::savedOptions(const QMap<QString, QString> &said) {
   const QStringList overruled = overruledOptions();
   QMap<QString, QString> saved;
   for (const OptionChoice &option : m_session.origin().queueOptions) {

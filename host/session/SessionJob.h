@@ -54,8 +54,9 @@ class SessionJob {
   /// and what was asked for in such words and still stands.
   QMap<QString, QString> options();
 
-  /// The options saved for the queue that go with the job: nothing that it says overrules them.
-  QMap<QString, QString> savedOptions();
+  /// The options saved for the queue that go with a job that says `said`, which is options():
+  /// nothing in there overrules them.
+  QMap<QString, QString> savedOptions(const QMap<QString, QString> &said);
 
   /// Those of the queue's options that must not go with the job: words for which something else is
   /// marked by now.

@@ -17,6 +17,14 @@ namespace {
 
 using namespace imposition;
 
+SheetJob sheetJobOf(PrintSession &session) {
+  return laidOutJobOf(session).sheets;
+}
+
+int copiesOf(PrintSession &session) {
+  return laidOutJobOf(session).copies;
+}
+
 class JobLayoutTest : public testing::Test {
  protected:
   void SetUp() override {

@@ -83,7 +83,7 @@ TEST(JobSettings, BeginAsTheQueueHasThemSavedAndLeaveThemToIt) {
   EXPECT_EQ(session->job().settings(), expected);
   EXPECT_EQ(session->job().options(), Options());
   EXPECT_TRUE(session->job().overruledOptions().isEmpty());
-  EXPECT_EQ(session->job().savedOptions().size(), 5);
+  EXPECT_EQ(session->job().savedOptions(session->job().options()).size(), 5);
 }
 
 TEST(JobSettings, SayDefaultsAgainstWhatTheQueueHasSaved) {
@@ -99,7 +99,7 @@ TEST(JobSettings, SayDefaultsAgainstWhatTheQueueHasSaved) {
                                                {"page-ranges", "1-"},
                                                {"Collate", "True"}}));
   EXPECT_TRUE(session->job().overruledOptions().contains("landscape"));
-  EXPECT_TRUE(session->job().savedOptions().isEmpty());
+  EXPECT_TRUE(session->job().savedOptions(session->job().options()).isEmpty());
 }
 
 TEST(JobSettings, AskedForOnACommandLineWinOverWhatTheQueueHasSaved) {
