@@ -12,8 +12,7 @@
 // As the program does while the toolkit is loaded, which belongs to neither dialog.
 static void startHelper() {
   orvek::SocketProgram helper;
-  orvek::startWithSocket(orvek::besideThisProgram("../" ORVEK_HELPER_FOLDER "/orvek-print-server"),
-                         &helper);
+  orvek::startWithSocket(orvek::helperProgram("orvek-print-server"), &helper);
   orvek::HelperProcess::adopt(helper);
 }
 

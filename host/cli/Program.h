@@ -2,7 +2,7 @@
 // The program's own beginning, once it is loaded.
 #pragma once
 
-#include "host/printers/SocketProgram.h"
+#include "platform/system/SocketProgram.h"
 
 /// Runs orvek-print with main()'s arguments and gives its exit status. `helper` is the helper for
 /// print servers where one was started already; it is the program's from now on. The name is what

@@ -13,7 +13,7 @@
 #include <cerrno>
 
 #include "host/jobs/GuardCall.h"
-#include "host/printers/SocketProgram.h"
+#include "platform/system/SocketProgram.h"
 
 namespace orvek {
 namespace {
@@ -42,8 +42,7 @@ QStringList guardArguments(const GuardedRun &run, const QString &path) {
 }  // namespace
 
 QString guardPath() {
-  constexpr const char *place = "../" ORVEK_HELPER_FOLDER "/orvek-filter-guard";
-  return QDir::cleanPath(QFile::decodeName(besideThisProgram(place).c_str()));
+  return QDir::cleanPath(QFile::decodeName(helperProgram("orvek-filter-guard").c_str()));
 }
 
 Status GuardedTool::start(const GuardedRun &run) {

@@ -20,7 +20,7 @@
 
 #include "host/jobs/GuardCall.h"
 #include "host/jobs/GuardedTool.h"
-#include "host/printers/SocketProgram.h"
+#include "platform/system/SocketProgram.h"
 #include "platform/system/WriteAll.h"
 
 namespace orvek {

@@ -19,13 +19,11 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// From the program's folder: the same way in the build tree and where both are installed.
-constexpr const char *placeOfHelper = "../" ORVEK_HELPER_FOLDER "/orvek-print-server";
 constexpr auto farewell = 1s;
 constexpr auto moment = 5ms;
 
 QString helperPath() {
-  return QDir::cleanPath(QFile::decodeName(besideThisProgram(placeOfHelper).c_str()));
+  return QDir::cleanPath(QFile::decodeName(helperProgram("orvek-print-server").c_str()));
 }
 
 /// Helpers that nobody waits for until the program ends.

@@ -8,8 +8,8 @@
 #include <chrono>
 #include <utility>
 
-#include "host/printers/SocketProgram.h"
 #include "platform/system/Result.h"
+#include "platform/system/SocketProgram.h"
 
 namespace orvek {
 

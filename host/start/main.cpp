@@ -14,14 +14,13 @@
 #include <vector>
 
 #include "host/cli/Program.h"
-#include "host/printers/SocketProgram.h"
+#include "platform/system/SocketProgram.h"
 #include "platform/system/StandardDescriptors.h"
 
 namespace {
 
 using namespace orvek;
 
-constexpr const char *helperPlace = "../" ORVEK_HELPER_FOLDER "/orvek-print-server";
 constexpr const char *programPlace = "../" ORVEK_PROGRAM_MODULE;
 
 /// What asks no print server, or not soon. Words that only look like these are read rightly later,
@@ -74,7 +73,7 @@ int main(int argc, char **argv) {
   SocketProgram helper;
   // Whoever asks will hear why there is none.
   if (std::none_of(argv, argv + argc, asksNoServer)) {
-    startWithSocket(besideThisProgram(helperPlace), &helper);
+    startWithSocket(helperProgram("orvek-print-server"), &helper);
   }
   void *module = loadProgram();
   if (module == nullptr) return complain(::dlerror());

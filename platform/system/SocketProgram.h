@@ -35,6 +35,10 @@ inline int startWithSocket(const std::string &path, SocketProgram *started) {
 }
 
 /// A path that is relative to the folder of the running program.
-std::string besideThisProgram(const char *path);
+std::string besideThisProgram(const std::string &path);
+
+/// Where the helper program of this name stands: the same way from the running program's folder in
+/// the build tree and where both are installed.
+std::string helperProgram(const std::string &name);
 
 }  // namespace orvek

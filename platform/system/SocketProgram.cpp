@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // posix_spawn(3) with a pair of sockets.
 
-#include "host/printers/SocketProgram.h"
+#include "platform/system/SocketProgram.h"
 
 #include <fcntl.h>
 #include <spawn.h>
@@ -96,11 +96,15 @@ int startWithSocket(const ProgramStart &start, SocketProgram *started) {
   return error;
 }
 
-std::string besideThisProgram(const char *path) {
+std::string besideThisProgram(const std::string &path) {
   std::array<char, PATH_MAX> program{};
   const ssize_t length = ::readlink("/proc/self/exe", program.data(), program.size());
   const std::string whole(program.data(), static_cast<std::size_t>(length > 0 ? length : 0));
   return whole.substr(0, whole.rfind('/') + 1) + path;
+}
+
+std::string helperProgram(const std::string &name) {
+  return besideThisProgram("../" ORVEK_HELPER_FOLDER "/" + name);
 }
 
 }  // namespace orvek
