@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // Reads the numbers before the toolkit does: it makes pictures of such sizes, and sums overflow.
+// Most resources have no long number at all, which a glance at their bytes tells in no time.
 
 #include "platform/ui/ResourceBounds.h"
 
@@ -7,9 +8,53 @@
 #include <QStringList>
 #include <QWidget>
 #include <QXmlStreamReader>
+#include <algorithm>
+#include <cstring>
+#include <string_view>
 
 namespace orvek {
 namespace {
+
+/// Any number of so many digits is within.
+constexpr std::ptrdiff_t fewDigits = 4;
+
+bool isDigit(char byte) {
+  return byte >= '0' && byte <= '9';
+}
+
+bool isOneOf(char byte, const char *bytes) {
+  return byte != '\0' && std::strchr(bytes, byte) != nullptr;
+}
+
+// Of an element, an attribute, or of one in a list.
+bool beginsText(std::string_view before) {
+  const std::size_t last = before.find_last_not_of(" \t\r\n+-");
+  return last != std::string_view::npos && isOneOf(before[last], ">\"',");
+}
+
+// Characters that may be written in another way, and what hides text from a glance.
+bool isPlain(std::string_view ui) {
+  using namespace std::string_view_literals;
+  return ui.find('\0') == std::string_view::npos && ui.find("&#"sv) == std::string_view::npos &&
+         ui.find("<!"sv) == std::string_view::npos;
+}
+
+/// Whether it shows at once that no length is too long: there are only short numbers, and none that
+/// something else follows within its text. False says nothing.
+bool isPlainlyWithin(std::string_view ui) {
+  if (!isPlain(ui)) return false;
+  const char *const end = ui.data() + ui.size();
+  const char *begin = std::find_if(ui.data(), end, isDigit);
+  while (begin != end) {
+    const char *const after = std::find_if_not(begin, end, isDigit);
+    if (after - begin > fewDigits) return false;
+    const bool isAlone = after == end || isOneOf(*after, "<\"'.");
+    const auto place = static_cast<std::size_t>(begin - ui.data());
+    if (!isAlone && beginsText(ui.substr(0, place))) return false;
+    begin = std::find_if(after, end, isDigit);
+  }
+  return true;
+}
 
 bool isLengthElement(QStringView element) {
   return element == u"x" || element == u"y" || element == u"width" || element == u"height" ||
@@ -84,7 +129,8 @@ class LengthReader {
 }  // namespace
 
 QString lengthProblem(const QByteArray &ui) {
-  return LengthReader(ui).problem();
+  const bool isWithin = isPlainlyWithin({ui.constData(), static_cast<std::size_t>(ui.size())});
+  return isWithin ? QString() : LengthReader(ui).problem();
 }
 
 }  // namespace orvek

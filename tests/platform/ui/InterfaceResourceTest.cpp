@@ -7,11 +7,13 @@
 
 #include <QLabel>
 #include <QPointer>
+#include <QStringEncoder>
 #include <QTest>
 #include <memory>
 
 #include "platform/ui/Bundle.h"
 #include "platform/ui/PopUps.h"
+#include "platform/ui/ResourceBounds.h"
 #include "tests/platform/ui/RecordingOwner.h"
 #include "tests/support/BundleOnDisk.h"
 #include "tests/support/LogCapture.h"
@@ -75,6 +77,24 @@ TEST_F(InterfaceResourceTest, IsRefusedWhereItAsksForALengthThatNoWindowHas) {
     ASSERT_EQ(log.lines().size(), 1);
     EXPECT_TRUE(log.lines().first().endsWith("line 1: a length beyond 16384 pixels"))
         << log.lines().first().toStdString();
+  }
+}
+
+// However a number is written: in another encoding, by the numbers of its characters, in a list.
+TEST(LengthsOfAResource, AreReadInWhateverWayTheyAreWritten) {
+  const QString text = QStringLiteral("<ui version=\"4.0\"><rect><width>%1</width></rect></ui>");
+  for (const char *number :
+       {"90000", " 90000 ", "-90000", "90000.5", "&#57;0000", "&#x39;0000", "<![CDATA[90000]]>",
+        "<!-- 1 -->90000", "12 pixels", "12,5", "12&amp;"}) {
+    EXPECT_FALSE(lengthProblem(text.arg(QLatin1String(number)).toUtf8()).isNull()) << number;
+  }
+  const QString wide = text.arg(90000);
+  EXPECT_FALSE(lengthProblem(QStringEncoder(QStringEncoder::Utf16)(wide)).isNull());
+  EXPECT_FALSE(lengthProblem("<!DOCTYPE ui [<!ENTITY n \"9000\">]><ui><x>&n;0</x></ui>").isNull());
+  EXPECT_FALSE(lengthProblem("<ui><layout columnminimumwidth='7, 90000'/></ui>").isNull());
+  EXPECT_FALSE(lengthProblem("<ui><layout columnminimumwidth=\"7, 9x\"/></ui>").isNull());
+  for (const char *number : {"9000", " -9000 ", "9000.5", "016384", "", "pixels 12", "A4 x"}) {
+    EXPECT_TRUE(lengthProblem(text.arg(QLatin1String(number)).toUtf8()).isNull()) << number;
   }
 }
 
