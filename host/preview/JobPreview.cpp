@@ -97,6 +97,8 @@ void JobPreview::build() {
   m_caption->setObjectName(QStringLiteral("previewCaption"));
   m_caption->setWordWrap(true);
   m_caption->setAlignment(Qt::AlignHCenter);
+  // Its first words come after the first paint, when nothing is to move.
+  m_caption->setMinimumHeight(m_caption->fontMetrics().lineSpacing());
   auto *column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(gap);
@@ -146,14 +148,15 @@ bool JobPreview::isComplete() const {
   return m_hasBegun && m_isRead && m_isLaidOut && m_pictures->isIdle();
 }
 
-void JobPreview::showEvent(QShowEvent *event) {
-  QWidget::showEvent(event);
-  QTimer::singleShot(0, this, &JobPreview::begin);
+// Only now: a timer that is set when the preview is shown fires before the window is painted, which
+// is not to wait for what comes then.
+void JobPreview::paintEvent(QPaintEvent *event) {
+  QWidget::paintEvent(event);
+  if (!std::exchange(m_isPainted, true)) QTimer::singleShot(0, this, &JobPreview::begin);
 }
 
-// After the first paint, which is not to wait for it.
 void JobPreview::begin() {
-  if (std::exchange(m_hasBegun, true)) return;
+  m_hasBegun = true;
   const LaidOutJob job = laidOutJobOf(m_session);
   m_job = job.sheets;
   m_copies = job.copies;

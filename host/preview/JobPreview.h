@@ -35,7 +35,7 @@ class JobPreview final : public QWidget {
   const std::vector<imposition::PrintedSide> &sides() const;
 
  protected:
-  void showEvent(QShowEvent *event) override;
+  void paintEvent(QPaintEvent *event) override;
 
  private:
   void build();
@@ -57,6 +57,7 @@ class JobPreview final : public QWidget {
   int m_copies = 1;
   PrintedWith m_with;
   DocumentPages m_document;
+  bool m_isPainted = false;
   bool m_hasBegun = false;
   /// Pages are known, or known to be none.
   bool m_isRead = false;

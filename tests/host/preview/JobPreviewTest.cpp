@@ -11,6 +11,8 @@
 #include <QTest>
 #include <QToolButton>
 #include <QWheelEvent>
+#include <functional>
+#include <optional>
 
 #include "host/preview/SheetsView.h"
 #include "host/session/ActionScope.h"
@@ -20,6 +22,26 @@ namespace {
 
 constexpr int patience = 20000;
 const QString sample = QStringLiteral(ORVEK_SOURCE_DIR "/samples/Finishing-Sample.pdf");
+
+/// Looks where sheets are to be seen when a widget is painted for the first time.
+class FirstPaint : public QObject {
+ public:
+  FirstPaint(QWidget &widget, std::function<QRect()> look) : m_look(std::move(look)) {
+    widget.installEventFilter(this);
+  }
+
+  const std::optional<QRect> &seen() const { return m_seen; }
+
+ protected:
+  bool eventFilter(QObject *, QEvent *event) override {
+    if (event->type() == QEvent::Paint && !m_seen) m_seen = m_look();
+    return false;
+  }
+
+ private:
+  std::function<QRect()> m_look;
+  std::optional<QRect> m_seen;
+};
 
 class JobPreviewTest : public testing::Test {
  protected:
@@ -71,11 +93,17 @@ class JobPreviewTest : public testing::Test {
 
 TEST_F(JobPreviewTest, ReadsAndLaysOutNothingBeforeItsFirstPaint) {
   JobPreview fresh(*session, sample);
+  const auto *sheets = fresh.findChild<SheetsView *>();
+  const FirstPaint paint(fresh, [&] {
+    EXPECT_TRUE(fresh.sides().empty());
+    EXPECT_FALSE(fresh.isComplete());
+    return sheets->geometry();
+  });
   fresh.show();
-  EXPECT_TRUE(fresh.sides().empty());
-  EXPECT_FALSE(fresh.isComplete());
   ASSERT_TRUE(QTest::qWaitFor([&] { return fresh.isComplete(); }, patience));
   EXPECT_FALSE(fresh.sides().empty());
+  // What came then has moved nothing.
+  EXPECT_EQ(paint.seen(), std::optional(sheets->geometry()));
 }
 
 TEST_F(JobPreviewTest, IsThereForEveryJobAndShowsTheDocument) {
