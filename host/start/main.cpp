@@ -53,6 +53,13 @@ std::string amongLibraries(const std::string &name) {
   return name;
 }
 
+/// libcups and what it needs come first: of all that is loaded together every library is searched
+/// for each name of every other, and those of the toolkit know none of theirs. Where it is not
+/// found the program says so itself.
+void loadCups() {
+  (void)::dlopen("libcups.so.2", RTLD_NOW);
+}
+
 /// Beside this program, wherever both were moved to; a copy of this one alone, out of the tree it
 /// was built in, finds it there.
 void *loadProgram() {
@@ -75,6 +82,7 @@ int main(int argc, char **argv) {
   if (std::none_of(argv, argv + argc, asksNoServer)) {
     startWithSocket(helperProgram("orvek-print-server"), &helper);
   }
+  loadCups();
   void *module = loadProgram();
   if (module == nullptr) return complain(::dlerror());
   void *found = ::dlsym(module, "orvekPrint");
