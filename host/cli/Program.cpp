@@ -15,6 +15,7 @@
 #include "host/cli/ToolkitMessages.h"
 #include "host/cli/Window.h"
 #include "host/printers/HelperProcess.h"
+#include "host/printers/PrinterList.h"
 #include "host/translations/Translations.h"
 #include "platform/system/FileSizeLimit.h"
 #include "platform/system/MainBundle.h"
@@ -55,10 +56,18 @@ Status checkDisplay() {
                  QStringLiteral("there is no display (DISPLAY is not set), use --headless")};
 }
 
+// The toolkit takes longer to get ready than a print server to answer.
+void askAhead(const CommandLine &line) {
+  const bool asksForPrinter =
+      line.ppd.isNull() && !line.listPrinters && !line.listPresets && line.deletePreset.isNull();
+  if (asksForPrinter) findPrinterAhead(serverAccess(line, {}), line.destination);
+}
+
 int start(const CommandLine &line, char **argv) {
   if (!needsNoWindow(line)) {
     if (const Status checked = checkDisplay(); !checked) return report(checked.failure());
   }
+  askAhead(line);
   if (needsNoWindow(line)) qputenv("QT_QPA_PLATFORM", platformWithoutDisplay(line));
   shapeToolkitMessages();
   // The options are the program's own; the toolkit must not look for its among them.

@@ -8,7 +8,9 @@
 #include "host/cli/Console.h"
 #include "host/cli/Presets.h"
 #include "host/cli/PrinterListing.h"
+#include "host/jobs/QueueJob.h"
 #include "host/panels/PluginLoader.h"
+#include "host/printers/Queue.h"
 #include "host/session/QueueSetup.h"
 #include "host/ticket/BookletSettings.h"
 #include "host/ticket/JobOptionNames.h"
@@ -23,7 +25,11 @@ Status gatherPrinter(const CommandLine &line, const std::shared_ptr<PasswordSour
     access.cancelled = cancelled;
     // A job follows, and the same questions once more.
     access.staysOpen = line.headless && line.print && line.output.isNull();
-    return setUpForQueue(access, line.destination, setup);
+    const Status set = setUpForQueue(access, line.destination, setup);
+    if (set && access.staysOpen && setup->printer) {
+      askAheadForJob(access, destinationFrom(setup->destination).queue, setup->printer->path());
+    }
+    return set;
   }
   setup->destination = line.destination;
   Result<std::shared_ptr<PrinterDescription>> printer = PrinterDescription::open(line.ppd);

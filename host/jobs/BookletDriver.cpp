@@ -58,6 +58,13 @@ bool isOurs(const QString &text) {
   return makesBooklets(text) && !text.contains(anyFilter);
 }
 
+// A line may say that a format is the printer's own, or speak of commands to it.
+bool hasFilter(const QString &text) {
+  static const auto filter =
+      lines(R"(^\*cupsFilter2?\s*:\s*"(?!application/vnd\.cups-command\s)[^"]*\s(?!-\s*")\S+\s*")");
+  return text.contains(filter);
+}
+
 QString withoutFilters(QString text) {
   static const auto filter = lines(R"(^\*cupsFilter2?\s*:.*\n?)");
   return text.remove(filter);
@@ -115,13 +122,10 @@ bool asksForBooklet(const QMap<QString, QString> &options) {
 
 NamedDriver driverNamedIn(const QString &ppdFile) {
   static const auto driver = lines(R"(^\*cupsFilter2?\s*:\s*"[^"]*[ \t/]orvek-booklet\s*")");
-  // A line may say that a format is the printer's own, or speak of commands to it.
-  static const auto other =
-      lines(R"(^\*cupsFilter2?\s*:\s*"(?!application/vnd\.cups-command\s)[^"]*\s(?!-\s*")\S+\s*")");
   const QString text = textOf(ppdFile);
   if (text.contains(driver)) return NamedDriver::Ours;
-  return makesBooklets(text) && !text.contains(other) ? NamedDriver::NoneForBooklets
-                                                      : NamedDriver::Other;
+  return makesBooklets(text) && !hasFilter(text) ? NamedDriver::NoneForBooklets
+                                                 : NamedDriver::Other;
 }
 
 Result<ChainPPD> ChainPPD::of(const QString &ppdFile, const QMap<QString, QString> &options,

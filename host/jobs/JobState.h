@@ -10,6 +10,9 @@ namespace orvek {
 /// filters. False where it does not tell.
 bool isStoppedByServer(ServerTalk &talk, int jobId);
 
+/// Has the next asked while the program has other things to do; see ServerTalk::askAhead.
+void askAheadForMarkedJob(ServerTalk &talk, const QString &queue, const QString &option);
+
 /// Whether the last job that the queue was sent, within an hour, was told this option.
 bool hasMarkedJob(ServerTalk &talk, const QString &queue, const QString &option);
 

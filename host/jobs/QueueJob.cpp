@@ -187,6 +187,14 @@ Result<JobOutcome> submitToQueue(const JobRequest &request, JobControl &control)
   return replaceStopped(sent.value(), job, control);
 }
 
+void askAheadForJob(const ServerAccess &access, const QString &queue, const QString &queuePPD) {
+  if (queuePPD.isNull() || driverNamedIn(queuePPD) != NamedDriver::Ours) return;
+  auto talk = ServerTalk::open(access);
+  if (!talk) return;
+  askAheadForMarkedJob(*talk.value(), queue, finishedSheetsMark);
+  ServerTalk::close(talk.take());
+}
+
 Status cancelJob(const ServerAccess &access, const QString &queue, int jobId) {
   auto talk = ServerTalk::open(access);
   if (!talk) return talk.failure();

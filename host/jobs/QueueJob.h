@@ -22,6 +22,12 @@ namespace orvek {
 /// such queue, what the server refuses (in its words), cancelled.
 Result<JobOutcome> submitToQueue(const JobRequest &request, JobControl &control);
 
+/// Has the server asked what a job to this queue will depend on, while the program has other things
+/// to do: for whoever sends one with the same access within a moment. `queuePPD` is the path of the
+/// queue's own description, null where it has none. Asks over a connection that has stayed open,
+/// waits for no answer, and tells of no failure.
+void askAheadForJob(const ServerAccess &access, const QString &queue, const QString &queuePPD);
+
 /// "request id is QUEUE-ID (N file(s))", as lp says it; standard input alone counts as no file.
 QString requestIdLine(const JobRequest &request, const JobOutcome &outcome);
 

@@ -35,6 +35,10 @@ QStringList reasonsFrom(const QString &keywords) {
   return words;
 }
 
+QCborMap fieldsOf(const QString &destination) {
+  return {{QLatin1String("destination"), fieldOf(destination)}};
+}
+
 std::optional<Queue> queueFrom(Fields fields) {
   Queue queue;
   queue.name = fields.text("name");
@@ -78,13 +82,16 @@ Result<Queue> findPrinter(const ServerAccess &access, const QString &destination
 
 Result<Queue> findPrinter(ServerTalk &talk, const QString &destination) {
   if (const auto queue = talk.known(destination)) return *queue;
-  const auto answer =
-      talk.ask(ServerTask::Find, {{QLatin1String("destination"), fieldOf(destination)}});
+  const auto answer = talk.ask(ServerTask::Find, fieldsOf(destination));
   if (!answer) return answer.failure();
   const auto queue = queueFrom(answer.value());
   if (!queue) return talk.unreadable();
   talk.noteFound(destination, *queue);
   return *queue;
+}
+
+void findPrinterAhead(const ServerAccess &access, const QString &destination) {
+  ServerTalk::openAhead(access, ServerTask::Find, fieldsOf(destination));
 }
 
 }  // namespace orvek

@@ -23,4 +23,8 @@ Result<Queue> findPrinter(const ServerAccess &access, const QString &destination
 /// The same over a connection that is open already.
 Result<Queue> findPrinter(ServerTalk &talk, const QString &destination);
 
+/// Has it looked for while this program has other things to do. Waits for nothing, and tells of no
+/// failure: whoever asks for the same destination with the same access within a moment is told.
+void findPrinterAhead(const ServerAccess &access, const QString &destination);
+
 }  // namespace orvek

@@ -84,15 +84,34 @@ std::unique_ptr<ServerTalk> ServerTalk::takeKept(const ServerAccess &access) {
   return talk;
 }
 
-Result<std::unique_ptr<ServerTalk>> ServerTalk::open(const ServerAccess &access) {
-  if (auto talk = takeKept(access)) return talk;
+Result<std::unique_ptr<ServerTalk>> ServerTalk::withHelper(const ServerAccess &access) {
   auto helper = HelperProcess::start();
   if (!helper) return helper.failure();
-  std::unique_ptr<ServerTalk> talk(new ServerTalk(access, helper.take()));
+  return std::unique_ptr<ServerTalk>(new ServerTalk(access, helper.take()));
+}
+
+Result<std::unique_ptr<ServerTalk>> ServerTalk::open(const ServerAccess &access) {
+  std::unique_ptr<ServerTalk> talk = takeKept(access);
+  if (!talk) {
+    auto begun = withHelper(access);
+    if (!begun) return begun;
+    talk = begun.take();
+  }
+  if (talk->m_isConnected) return talk;
   const auto opened = talk->ask(ServerTask::Open, openFields(access));
   if (!opened) return opened.failure();
   talk->m_isConnected = true;
   return talk;
+}
+
+void ServerTalk::openAhead(const ServerAccess &access, ServerTask task, const QCborMap &fields) {
+  ServerAccess kept = access;
+  kept.staysOpen = true;
+  auto talk = withHelper(kept);
+  if (!talk) return;
+  talk.value()->askAhead(ServerTask::Open, openFields(access));
+  talk.value()->askAhead(task, fields);
+  close(talk.take());
 }
 
 void ServerTalk::leave(const ServerAccess &access, const QString &serverName, ServerTask task,
@@ -108,9 +127,26 @@ void ServerTalk::leave(const ServerAccess &access, const QString &serverName, Se
   HelperProcess::letFinish(std::move(talk.m_helper));
 }
 
+void ServerTalk::askAhead(ServerTask task, const QCborMap &fields) {
+  const Message asked = question(task, fields);
+  m_ahead.push_back(asked.bytes);
+  send(asked);
+}
+
+bool ServerTalk::wasAskedAhead(const Message &question) {
+  if (m_ahead.empty() || m_ahead.front() != question.bytes) return false;
+  m_ahead.pop_front();
+  return true;
+}
+
+// Where there is none any more, whoever asks hears so again.
+void ServerTalk::dropAnswersAhead() {
+  for (; !m_ahead.empty(); m_ahead.pop_front()) (void)hear(true);
+}
+
 Result<Fields> ServerTalk::ask(ServerTask task, const QCborMap &fields) {
   m_description = QByteArray();
-  begin(task, fields);
+  if (!wasAskedAhead(question(task, fields))) begin(task, fields);
   const auto heard = hear(true);
   if (!heard) return heard.failure();
   const Message &answer = *heard.value();
@@ -131,6 +167,8 @@ void ServerTalk::noteFound(const QString &destination, const Queue &queue) {
 }
 
 void ServerTalk::begin(ServerTask task, const QCborMap &fields) {
+  dropAnswersAhead();
+  m_description = QByteArray();
   send(question(task, fields));
 }
 

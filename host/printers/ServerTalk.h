@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <deque>
 #include <memory>
 #include <optional>
 
@@ -25,6 +26,11 @@ class ServerTalk {
   /// Fails where the server is unknown or does not answer within a few seconds.
   static Result<std::unique_ptr<ServerTalk>> open(const ServerAccess &access);
 
+  /// Begins to open one and asks a first question on it, and waits for neither, nor tells of a
+  /// failure: whoever opens a connection with the same access within a moment is given this one,
+  /// and is told then what open() and ask() tell. Nobody is asked for a password before.
+  static void openAhead(const ServerAccess &access, ServerTask task, const QCborMap &fields);
+
   /// Ends it; where its access says so, only a moment later, unless it is opened again by then.
   static void close(std::unique_ptr<ServerTalk> talk);
 
@@ -34,6 +40,10 @@ class ServerTalk {
   /// Asks, and waits for the answer's fields. The failure is the server's, in words, or says why
   /// there is no answer.
   Result<Fields> ask(ServerTask task, const QCborMap &fields = {});
+
+  /// Asks, and does not wait for the answer: it is there for whoever asks the same next. Another
+  /// question drops it.
+  void askAhead(ServerTask task, const QCborMap &fields);
 
   /// The description that came with the last answer; null where none did.
   const QByteArray &description() const { return m_description; }
@@ -66,6 +76,10 @@ class ServerTalk {
   ServerTalk(const ServerAccess &access, HelperProcess helper);
 
   static std::unique_ptr<ServerTalk> takeKept(const ServerAccess &access);
+  static Result<std::unique_ptr<ServerTalk>> withHelper(const ServerAccess &access);
+
+  bool wasAskedAhead(const Message &question);
+  void dropAnswersAhead();
 
   Status exchange(int milliseconds);
   void write();
@@ -82,6 +96,8 @@ class ServerTalk {
   QByteArray m_toSend;
   MessageReader m_received;
   QByteArray m_description;
+  /// Questions whose answers nobody has wanted so far.
+  std::deque<QByteArray> m_ahead;
   QElapsedTimer m_clock;
   struct Found {
     QString destination;

@@ -2,6 +2,10 @@
 // Jobs to print servers that stop every job for want of the driver: what is sent instead, and what
 // comes out of it.
 
+#include <QThread>
+
+#include "host/jobs/FinishedSheets.h"
+#include "host/jobs/JobState.h"
 #include "tests/host/jobs/SheetsMadeHere.h"
 #include "tests/support/StandardInput.h"
 
@@ -75,6 +79,25 @@ TEST_F(SheetsMadeHere, AreMadeOfAJobThatTheServerStopsWithoutAWarning) {
   printed(ServerDriver::StopsEveryJob);
   expectSeen(seen(), bookletOf(4));
   EXPECT_EQ(cups->waitForJob(2), QStringLiteral("canceled"));
+}
+
+TEST_F(SheetsMadeHere, AreKnownOfByAServerThatWasAskedAhead) {
+  addNewQueue();
+  request.files = {document(4)};
+  EXPECT_EQ(cups->waitForJob(submit().jobId), QStringLiteral("completed"));
+  ServerAccess access{request.server, request.user, nullptr, std::chrono::milliseconds(100)};
+  access.staysOpen = true;
+  bool isKnown = false;
+  for (unsigned long wait = 20; wait < 5000 && !isKnown; wait *= 2) {
+    ServerTalk::close(ServerTalk::open(access).take());
+    askAheadForJob(access, queueName, orvekPPD(QStringLiteral("6180")));
+    QThread::msleep(wait);
+    cups->pause();
+    const auto talk = ServerTalk::open(access);
+    isKnown = talk && hasMarkedJob(*talk.value(), queueName, finishedSheetsMark);
+    cups->resume();
+  }
+  EXPECT_TRUE(isKnown);
 }
 
 // The server warns no more, and its last job was another's.
