@@ -19,6 +19,7 @@
 #include "host/jobs/BackgroundJob.h"
 #include "host/jobs/Document.h"
 #include "host/jobs/InputSpool.h"
+#include "host/settings/JobStrip.h"
 #include "host/translations/FailureText.h"
 
 namespace orvek {
@@ -67,7 +68,8 @@ PrintDialog::PrintDialog(PrintSession &session, DialogSetup setup, QWidget *pare
 }
 
 PrintDialog::~PrintDialog() {
-  // The view borrows from the session, which goes with the members.
+  // They borrow from the session, which goes with the members.
+  delete m_strip;
   delete m_view;
 }
 
@@ -79,7 +81,9 @@ void PrintDialog::build() {
   m_printers = m_choosers->printers();
   m_noticeBar = new NoticeBar(this);
   m_notices = new NoticeKeeper(*m_noticeBar, this);
+  m_strip = new JobStrip(*m_session, this);
   m_view = new SessionView(*m_session, m_setup.document, this);
+  connect(m_view, &SessionView::pageTurned, m_strip, &JobStrip::assignLetters);
   m_jobBar = new JobBar(this);
   m_job = new BackgroundJob(this);
   auto *header = new QHBoxLayout;
@@ -91,6 +95,7 @@ void PrintDialog::build() {
   column->setSpacing(spacing);
   column->addLayout(header);
   column->addWidget(m_noticeBar);
+  column->addWidget(m_strip);
   column->addWidget(m_view, 1);
   column->addWidget(separator(this));
   column->addWidget(m_jobBar);
@@ -123,6 +128,7 @@ void PrintDialog::updateControls() {
   const bool isPrinting = m_job->isRunning();
   const bool isForFile = m_setup.destination.isEmpty();
   const bool hasFile = isForFile && !m_setup.outputFile.isNull();
+  m_strip->setEnabled(!isPrinting && !m_awaitsFirst);
   m_view->setEnabled(!isPrinting && !m_awaitsFirst);
   m_noticeBar->setEnabled(!isPrinting);
   m_choosers->setEnabled(!isPrinting);

@@ -6,6 +6,7 @@
 //   DocumentHeader    what is printed                  PrintDialog         parts and what they show
 //   ChooserRow        where, and with what preset      PrintDialogPrinter  other printers, presets
 //   NoticeBar         what happened; Undo              PrintDialogJob      a job's way
+//   JobStrip          copies, pages, two-sided
 //   SessionView       pages, preview and summary
 //   JobBar            progress, Cancel, Print
 //
@@ -29,6 +30,7 @@ class BackgroundJob;
 class ChooserRow;
 class DocumentHeader;
 class JobBar;
+class JobStrip;
 class NoticeBar;
 class NoticeKeeper;
 class PrinterChooser;
@@ -124,6 +126,8 @@ class PrintDialog final : public QDialog {
   PrinterChooser *m_printers = nullptr;
   NoticeBar *m_noticeBar = nullptr;
   NoticeKeeper *m_notices = nullptr;
+  /// Strip and view are the session's: another session has others.
+  JobStrip *m_strip = nullptr;
   SessionView *m_view = nullptr;
   JobBar *m_jobBar = nullptr;
   BackgroundJob *m_job = nullptr;

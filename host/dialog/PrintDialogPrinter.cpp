@@ -11,6 +11,7 @@
 #include "host/dialog/PrintDialog.h"
 #include "host/dialog/PrinterChooser.h"
 #include "host/dialog/SessionView.h"
+#include "host/settings/JobStrip.h"
 
 namespace orvek {
 
@@ -86,10 +87,14 @@ void PrintDialog::takeFirst(std::unique_ptr<PrintSession> session, const QString
 void PrintDialog::takeSession(std::unique_ptr<PrintSession> session, const QString &destination) {
   m_session->disconnect(this);
   m_notices->fallSilent();
-  // The old view gives back what it borrowed before the old session goes.
+  // The old ones give back what they borrowed before the old session goes.
+  auto *strip = new JobStrip(*session, this);
   auto *view = new SessionView(*session, m_setup.document, this);
+  delete layout()->replaceWidget(m_strip, strip);
   delete layout()->replaceWidget(m_view, view);
+  delete std::exchange(m_strip, strip);
   delete std::exchange(m_view, view);
+  connect(m_view, &SessionView::pageTurned, m_strip, &JobStrip::assignLetters);
   const std::unique_ptr<PrintSession> old = std::exchange(m_ownSession, std::move(session));
   m_session = m_ownSession.get();
   m_setup.destination = destination;

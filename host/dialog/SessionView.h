@@ -27,6 +27,10 @@ class SessionView final : public QWidget {
 
   void setDocument(const DocumentInfo &document);
 
+ Q_SIGNALS:
+  /// Another page is on show.
+  void pageTurned();
+
  protected:
   void paintEvent(QPaintEvent *event) override;
 

@@ -39,6 +39,9 @@ class HostedPanel {
   /// The root view; null where it could not be loaded.
   QWidget *view() const;
 
+  /// Whether the view has anything in it that isn't hidden and is more than an empty frame.
+  bool hasContent() const;
+
   /// Where the view stands; lent to whoever shows it, and taken back when the panel goes.
   PanelContainer *container() const;
 

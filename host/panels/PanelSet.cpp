@@ -81,7 +81,7 @@ QList<PanelPlace> PanelSet::places() const {
   QList<PanelPlace> places;
   for (const auto &hosted : m_panels) {
     if (hosted->container() == nullptr || hosted->view() == nullptr) continue;
-    places.append({hosted->name(), hosted->container()});
+    places.append({hosted->name(), hosted->container(), hosted->hasContent()});
   }
   return places;
 }

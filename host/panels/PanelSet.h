@@ -31,6 +31,9 @@ using PluginList = std::vector<std::shared_ptr<LoadedPlugin>>;
 struct PanelPlace {
   QString name;
   PanelContainer *container = nullptr;
+  /// Whether there is something in the view: a panel has nothing to show of a printer that lacks
+  /// all that the panel is about.
+  bool hasContent = false;
 };
 
 /// A control that a panel shows to scripts, with the root view of that panel; both are lent, and

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// One form, its rows in four groups.
+// One form, its rows in three groups.
 
 #include "host/settings/GeneralPage.h"
 
@@ -13,10 +13,9 @@
 #include "host/ppd/CustomChoice.h"
 #include "host/session/Availability.h"
 #include "host/settings/ChoiceBox.h"
-#include "host/settings/CopiesRow.h"
 #include "host/settings/CustomSizeRow.h"
+#include "host/settings/JobChange.h"
 #include "host/settings/Mnemonics.h"
-#include "host/settings/PagesRow.h"
 #include "platform/ui/PlainText.h"
 
 namespace orvek {
@@ -44,8 +43,6 @@ GeneralPage::GeneralPage(PrintSession &session, QWidget *parent)
   m_form->setHorizontalSpacing(labelGap);
   m_form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
   m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-  addPagesRows();
-  addGap();
   addPaperRows();
   addGap();
   addLayoutRows();
@@ -60,29 +57,6 @@ GeneralPage::GeneralPage(PrintSession &session, QWidget *parent)
   column->addStretch(1);
   connect(&session, &PrintSession::changed, this, &GeneralPage::followSession);
   showState();
-}
-
-void GeneralPage::addPagesRows() {
-  m_copies = new CopiesRow(this);
-  addRow(tr("Copies"), m_copies);
-  m_pages = new PagesRow(this);
-  addRow(tr("Pages"), m_pages);
-  m_reverse = new QCheckBox(tr("Last page first"), this);
-  m_reverse->setObjectName(QStringLiteral("reverse"));
-  m_form->addRow(QString(), m_reverse);
-  connect(m_copies, &CopiesRow::copiesPicked, this,
-          [this](int copies) { changeJob([=](JobSettings *job) { job->copies = copies; }); });
-  connect(m_copies, &CopiesRow::collatePicked, this,
-          [this](bool collate) { changeJob([=](JobSettings *job) { job->collate = collate; }); });
-  connect(m_pages, &PagesRow::rangesPicked, this,
-          [this](const QString &ranges, const QString &problem) {
-            changeJob([&](JobSettings *job) {
-              job->pageRanges = ranges;
-              job->pageRangesProblem = problem;
-            });
-          });
-  connect(m_reverse, &QCheckBox::clicked, this,
-          [this](bool reverse) { changeJob([=](JobSettings *job) { job->reverse = reverse; }); });
 }
 
 void GeneralPage::addPaperRows() {
@@ -100,15 +74,21 @@ void GeneralPage::addLayoutRows() {
   // In the order of the enumeration.
   m_orientation->addItems({tr("As in the document"), tr("Portrait"), tr("Landscape"),
                            tr("Portrait, upside down"), tr("Landscape, upside down")});
-  addChoiceRow(CommonSetting::Sides, QStringLiteral("sides"), tr("Two-sided"));
   m_pagesPerSheet = addListRow(QStringLiteral("pagesPerSheet"), tr("Pages per sheet"));
   for (const int pages : layouts) m_pagesPerSheet->addItem(QString::number(pages), pages);
+  m_reverse = new QCheckBox(tr("Last page first"), this);
+  m_reverse->setObjectName(QStringLiteral("reverse"));
+  m_form->addRow(QString(), m_reverse);
   connect(m_orientation, &QComboBox::activated, this, [this](int row) {
-    changeJob([=](JobSettings *job) { job->orientation = static_cast<Orientation>(row); });
+    changeJob(m_session,
+              [=](JobSettings *job) { job->orientation = static_cast<Orientation>(row); });
   });
   connect(m_pagesPerSheet, &QComboBox::activated, this, [this](int row) {
     const int pages = m_pagesPerSheet->itemData(row).toInt();
     m_session.job().setPagesPerSheet(pages > 1 ? pages : 0);
+  });
+  connect(m_reverse, &QCheckBox::clicked, this, [this](bool reverse) {
+    changeJob(m_session, [=](JobSettings *job) { job->reverse = reverse; });
   });
 }
 
@@ -168,8 +148,6 @@ void GeneralPage::followSession() {
 }
 
 void GeneralPage::showState() {
-  m_copies->setSettings(m_state.job);
-  m_pages->setSettings(m_state.job);
   m_reverse->setChecked(m_state.job.reverse);
   m_orientation->setCurrentIndex(static_cast<int>(m_state.job.orientation));
   m_pagesPerSheet->setCurrentIndex(m_pagesPerSheet->findData(m_state.pagesPerSheet));
@@ -208,12 +186,6 @@ void GeneralPage::pickCustomPaper(const Setting &setting) {
   const std::optional<CustomPaperLimits> limits = customPaperLimits(printer);
   if (limits) m_customSize->setSize(paperSize(printer, setting.current), *limits);
   pickSetting(m_session, setting, limits ? m_customSize->choice() : QString(CustomChoice::keyword));
-}
-
-void GeneralPage::changeJob(const std::function<void(JobSettings *)> &change) {
-  JobSettings job = m_session.job().settings();
-  change(&job);
-  m_session.job().setSettings(job);
 }
 
 }  // namespace orvek

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// The page of settings that everyone expects. Shows and changes a session; no rules of its own.
+// The page of settings that everyone expects, but for those that always stand above the pages.
+// Shows and changes a session; no rules of its own.
 #pragma once
 
 #include <QList>
@@ -18,12 +19,10 @@ namespace orvek {
 
 class Availability;
 class ChoiceBox;
-class CopiesRow;
 class CustomSizeRow;
-class PagesRow;
 
-/// Copies and collation, pages and their order; paper size, source and type; orientation, two-
-/// sided, pages per sheet; colour, quality. A row that the printer has nothing for is hidden.
+/// Paper size, source and type; orientation, pages per sheet and their order; colour, quality. A
+/// row that the printer has nothing for is hidden.
 /// Borrows the session, which must outlive it. Belongs to its parent, owns its child controls, and
 /// lives on the interface's thread. Nothing fails: a pick that was refused is the session's to say.
 class GeneralPage final : public QWidget {
@@ -44,7 +43,6 @@ class GeneralPage final : public QWidget {
     ChoiceBox *box;
   };
 
-  void addPagesRows();
   void addPaperRows();
   void addLayoutRows();
   void addQualityRows();
@@ -63,15 +61,12 @@ class GeneralPage final : public QWidget {
   void showCustomPaper(const std::optional<CustomPaper> &paper);
   void pickChoice(int setting, const QString &choice);
   void pickCustomPaper(const Setting &setting);
-  void changeJob(const std::function<void(JobSettings *)> &change);
 
   PrintSession &m_session;
   /// What is shown.
   GeneralState m_state;
   Availability *m_availability;
   QFormLayout *m_form;
-  CopiesRow *m_copies = nullptr;
-  PagesRow *m_pages = nullptr;
   QCheckBox *m_reverse = nullptr;
   CustomSizeRow *m_customSize = nullptr;
   QComboBox *m_orientation = nullptr;

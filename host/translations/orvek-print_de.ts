@@ -531,14 +531,6 @@
 <context>
     <name>orvek::GeneralPage</name>
     <message>
-        <source>Copies</source>
-        <translation>Exemplare</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>Seiten</translation>
-    </message>
-    <message>
         <source>Last page first</source>
         <translation>Letzte Seite zuerst</translation>
     </message>
@@ -577,10 +569,6 @@
     <message>
         <source>Landscape, upside down</source>
         <translation>Querformat, kopfüber</translation>
-    </message>
-    <message>
-        <source>Two-sided</source>
-        <translation>Zweiseitig</translation>
     </message>
     <message>
         <source>Pages per sheet</source>
@@ -624,6 +612,21 @@
     <message>
         <source>Stopping the job</source>
         <translation>Der Auftrag wird angehalten</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::JobStrip</name>
+    <message>
+        <source>Copies</source>
+        <translation>Exemplare</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>Zweiseitig</translation>
     </message>
 </context>
 <context>

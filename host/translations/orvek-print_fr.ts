@@ -531,14 +531,6 @@
 <context>
     <name>orvek::GeneralPage</name>
     <message>
-        <source>Copies</source>
-        <translation>Copies</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>Pages</translation>
-    </message>
-    <message>
         <source>Last page first</source>
         <translation>Dernière page en premier</translation>
     </message>
@@ -577,10 +569,6 @@
     <message>
         <source>Landscape, upside down</source>
         <translation>Paysage, retourné</translation>
-    </message>
-    <message>
-        <source>Two-sided</source>
-        <translation>Recto verso</translation>
     </message>
     <message>
         <source>Pages per sheet</source>
@@ -624,6 +612,21 @@
     <message>
         <source>Stopping the job</source>
         <translation>Arrêt du travail</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::JobStrip</name>
+    <message>
+        <source>Copies</source>
+        <translation>Copies</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>Recto verso</translation>
     </message>
 </context>
 <context>

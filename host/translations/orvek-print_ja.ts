@@ -531,14 +531,6 @@
 <context>
     <name>orvek::GeneralPage</name>
     <message>
-        <source>Copies</source>
-        <translation>部数</translation>
-    </message>
-    <message>
-        <source>Pages</source>
-        <translation>ページ</translation>
-    </message>
-    <message>
         <source>Last page first</source>
         <translation>最後のページから</translation>
     </message>
@@ -577,10 +569,6 @@
     <message>
         <source>Landscape, upside down</source>
         <translation>横 (上下逆)</translation>
-    </message>
-    <message>
-        <source>Two-sided</source>
-        <translation>両面印刷</translation>
     </message>
     <message>
         <source>Pages per sheet</source>
@@ -624,6 +612,21 @@
     <message>
         <source>Stopping the job</source>
         <translation>ジョブを中止しています</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::JobStrip</name>
+    <message>
+        <source>Copies</source>
+        <translation>部数</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>両面印刷</translation>
     </message>
 </context>
 <context>

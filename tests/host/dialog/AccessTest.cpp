@@ -120,11 +120,13 @@ TEST_P(AccessIn, EveryGeneralSettingHasALetter) {
   pages->setCurrentIndex(0);
   QCoreApplication::processEvents();
   QStringList texts;
-  for (const auto *label : pages->currentWidget()->findChildren<QLabel *>()) {
-    if (label->buddy() != nullptr && label->isVisible()) texts << label->text();
-  }
-  for (const auto *button : pages->currentWidget()->findChildren<QAbstractButton *>()) {
-    if (button->isVisible() && !button->text().isEmpty()) texts << button->text();
+  for (const QWidget *part : {pages->currentWidget(), find<QWidget>("jobStrip")}) {
+    for (const auto *label : part->findChildren<QLabel *>()) {
+      if (label->buddy() != nullptr && label->isVisible()) texts << label->text();
+    }
+    for (const auto *button : part->findChildren<QAbstractButton *>()) {
+      if (button->isVisible() && !button->text().isEmpty()) texts << button->text();
+    }
   }
   EXPECT_GE(texts.size(), 10);
   for (const QString &text : texts) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// The general page under a user's hands, on the project's printers.
+// The general page, and the strip that stands above it, under a user's hands, on the project's
+// printers.
 
 #include "host/settings/GeneralPage.h"
 
@@ -13,9 +14,11 @@
 #include <QRadioButton>
 #include <QSet>
 #include <QSpinBox>
+#include <QVBoxLayout>
 #include <QWheelEvent>
 
 #include "host/settings/ChoiceBox.h"
+#include "host/settings/JobStrip.h"
 #include "tests/host/settings/SettingsKit.h"
 
 namespace orvek::test {
@@ -25,7 +28,11 @@ class GeneralPageTest : public testing::Test {
  protected:
   void open(const QString &ppd, SessionSetup setup = {}) {
     session = beginSession(ppd, std::move(setup));
-    page = std::make_unique<GeneralPage>(*session);
+    page = std::make_unique<QWidget>();
+    auto *column = new QVBoxLayout(page.get());
+    column->addWidget(new JobStrip(*session, page.get()));
+    general = new GeneralPage(*session, page.get());
+    column->addWidget(general);
     page->show();
     page->activateWindow();
     QCoreApplication::processEvents();
@@ -44,7 +51,8 @@ class GeneralPageTest : public testing::Test {
   QString marked(const char *option) { return session->marks().marked(QLatin1String(option)); }
 
   std::unique_ptr<PrintSession> session;
-  std::unique_ptr<GeneralPage> page;
+  std::unique_ptr<QWidget> page;
+  GeneralPage *general = nullptr;
 };
 
 TEST_F(GeneralPageTest, ShowsWhatIsMarked) {
@@ -261,8 +269,8 @@ TEST_F(GeneralPageTest, IsReachedWholeByTheTabKey) {
 }
 
 TEST_F(GeneralPageTest, FitsASmallScreenBesideASummary) {
-  EXPECT_LE(page->minimumSizeHint().width(), 700);
-  EXPECT_LE(page->minimumSizeHint().height(), 480);
+  EXPECT_LE(general->minimumSizeHint().width(), 700);
+  EXPECT_LE(general->minimumSizeHint().height(), 480);
 }
 
 TEST_F(GeneralPageTest, ShowsHowABookletIsTurnedOverAndWhatIsMarkedAfterwards) {
