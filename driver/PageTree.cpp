@@ -53,7 +53,7 @@ Result<std::vector<QPDFPageObjectHelper>> pagesOf(QPDF &document) {
     return checked.failure();
   }
   auto pages = QPDFPageDocumentHelper(document).getAllPages();
-  if (pages.empty()) return malformed("it has no pages");
+  if (pages.empty()) return malformed(noPagesReason);
   return pages;
 }
 

@@ -9,6 +9,9 @@
 
 namespace orvek::driver {
 
+/// Why pagesOf() fails for a document without pages.
+inline constexpr const char *noPagesReason = "it has no pages";
+
 /// All pages in their order. Fails for a tree that runs in circles or is nested beyond all reason:
 /// libqpdf descends into it by recursion.
 Result<std::vector<QPDFPageObjectHelper>> pagesOf(QPDF &document);

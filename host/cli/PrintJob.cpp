@@ -10,7 +10,6 @@
 #include "host/jobs/ReadJob.h"
 #include "host/printers/Queue.h"
 #include "host/session/JobWarnings.h"
-#include "host/ticket/PageRanges.h"
 
 namespace orvek {
 namespace {
@@ -48,16 +47,10 @@ Status printOnQueue(const CommandLine &line, const ReadJob &job) {
 }
 
 // Only one document's pages are sure to end up in one set. That it has none of those asked for is
-// said by the job into a file itself, which fails.
+// said by the job itself, which fails.
 int pagesOfOneSet(const PrintSession &session, const JobRequest &request) {
-  const QString ranges = session.job().settings().pageRanges;
-  const bool fails = !request.outputFile.isNull();
-  const bool matters = warningsDependOnPages(session.marks(), session.ticket().values()) ||
-                       (!ranges.isEmpty() && !fails);
-  if (!matters || request.files.size() != 1) return 0;
-  const int pages = documentInfo(request.files.first()).pages;
-  const bool isNonePrinted = !ranges.isEmpty() && pagesInRanges(ranges, pages).isEmpty();
-  return fails && isNonePrinted ? 0 : pages;
+  const bool matters = warningsDependOnPages(session.marks(), session.ticket().values());
+  return matters && request.files.size() == 1 ? documentInfo(request.files.first()).pages : 0;
 }
 
 void tellWarnings(const PrintSession &session, const JobRequest &request) {

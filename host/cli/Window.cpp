@@ -3,9 +3,9 @@
 
 #include "host/cli/Window.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
-#include <QFileInfo>
 #include <QTimer>
 #include <optional>
 #include <utility>
@@ -15,24 +15,14 @@
 #include "host/cli/Headless.h"
 #include "host/cli/PrintJob.h"
 #include "host/cli/SessionStart.h"
+#include "host/dialog/JobDocuments.h"
 #include "host/dialog/PasswordDialog.h"
 #include "host/dialog/PrintDialog.h"
 #include "host/jobs/Document.h"
 #include "host/jobs/QueueJob.h"
-#include "host/translations/FailureText.h"
 
 namespace orvek {
 namespace {
-
-QString nameOf(const QString &file) {
-  return isStandardInput(file) ? translated(documentName(file)) : QFileInfo(file).fileName();
-}
-
-QString namesOf(const QStringList &files) {
-  const QString first = nameOf(files.isEmpty() ? standardInput() : files.first());
-  if (files.size() < 2) return first;
-  return PrintDialog::tr("%1 and %2 more").arg(first).arg(files.size() - 1);
-}
 
 // As lp does: a job on a queue has a number, one into a file has none.
 Status tellOutcome(const CommandLine &line, const PrintDialog &dialog) {
@@ -127,17 +117,24 @@ void followAwaited(const CommandLine &line, Awaited &awaited, PrintDialog &dialo
 
 Status tellAll(const CommandLine &line, const PrintDialog &dialog) {
   if (Status told = tellOutcome(line, dialog); !told) return told;
-  SeenDocuments documents{line.files, dialog.outcome().has_value()};
+  SeenDocuments documents{dialog.files(), dialog.outcome().has_value()};
   const QString only = dialog.document().path;
-  if (line.files.size() < 2 && !only.isEmpty()) documents.files = {only};
+  if (dialog.files().size() < 2 && !only.isEmpty()) documents.files = {only};
   if (Status written = saveAndWrite(line, dialog.session(), documents); !written) return written;
   return printState(line, dialog.session(), documents);
 }
 
-// A terminal is no document that anybody waits for; a job may read it all the same.
-QString onlyDocument(const QStringList &files) {
-  if (files.size() == 1) return files.first();
-  return files.isEmpty() && ::isatty(STDIN_FILENO) == 0 ? standardInput() : QString();
+// As nobody who starts a window from a menu has anything piped into it: there standard input is
+// closed, or nothing comes of it; nor is a terminal a document that anybody waits for.
+bool hasStandardInput() {
+  struct stat about = {};
+  if (::fstat(STDIN_FILENO, &about) != 0) return false;
+  return S_ISFIFO(about.st_mode) || S_ISREG(about.st_mode) || S_ISSOCK(about.st_mode);
+}
+
+QStringList documentsOf(const CommandLine &line) {
+  if (!line.files.isEmpty() || !hasStandardInput()) return line.files;
+  return {standardInput()};
 }
 
 }  // namespace
@@ -146,8 +143,9 @@ DialogSetup dialogSetupFor(const CommandLine &line, PrintSession &session,
                            const std::shared_ptr<PasswordSource> &passwords) {
   DialogSetup setup;
   if (line.output.isNull()) setup.destination = session.origin().destination;
-  setup.documentName = line.title.isNull() ? namesOf(line.files) : line.title;
-  setup.document.path = onlyDocument(line.files);
+  setup.files = documentsOf(line);
+  setup.documentName = line.title.isNull() ? documentsInWords(setup.files) : line.title;
+  if (setup.files.size() == 1) setup.document.path = setup.files.first();
   setup.askPrinter = [&line, passwords](const QString &destination,
                                         const std::atomic<bool> &cancelled) {
     return gatherSetup(lineFor(line, destination, QString()), passwords, &cancelled);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <atomic>
 #include <functional>
 #include <memory>
@@ -27,9 +28,11 @@ struct DialogSetup {
   /// Begins a session with what was asked for, its panels open.
   using BeginSession = std::function<Result<std::unique_ptr<PrintSession>>(const SessionSetup &)>;
 
-  /// For people.
+  /// The job's documents; none: the user has yet to choose them.
+  QStringList files;
+  /// What they are called for people.
   QString documentName;
-  /// What is known of it; more may come with setDocument.
+  /// What is known of an only one; more may come.
   DocumentInfo document;
   /// "NAME/INSTANCE" of the session's queue; empty: into a file.
   QString destination;
@@ -37,8 +40,8 @@ struct DialogSetup {
   QString outputFile;
   ServerAccess server;
 
-  /// The job as the session has it. Where it goes is the window's business. Empty: a request that
-  /// says nothing.
+  /// The job as the session has it. What is printed and where it goes is the window's business.
+  /// Empty: a request that says nothing.
   std::function<JobRequest(PrintSession &)> jobRequest;
 
   /// Asks for the printer that the window is made for, where that is still to come: the session is

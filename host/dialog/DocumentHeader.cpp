@@ -4,6 +4,7 @@
 #include "host/dialog/DocumentHeader.h"
 
 #include <QGridLayout>
+#include <QPushButton>
 #include <QTimer>
 #include <utility>
 
@@ -23,9 +24,13 @@ DocumentHeader::DocumentHeader(QWidget *parent)
     : QWidget(parent),
       m_picture(new PlainLabel(this)),
       m_name(new ElidedLabel(Qt::ElideMiddle, this)),
-      m_detail(new PlainLabel(this)) {
+      m_detail(new PlainLabel(this)),
+      m_action(new QPushButton(this)) {
   m_picture->hide();
   m_name->setMinimumWidth(leastNameWidth);
+  m_action->setObjectName(QStringLiteral("documentAction"));
+  m_action->setAutoDefault(false);
+  m_action->hide();
   auto *grid = new QGridLayout(this);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setHorizontalSpacing(gap);
@@ -33,7 +38,9 @@ DocumentHeader::DocumentHeader(QWidget *parent)
   grid->addWidget(m_picture, 0, 0, 2, 1);
   grid->addWidget(m_name, 0, 1);
   grid->addWidget(m_detail, 1, 1);
+  grid->addWidget(m_action, 0, 2, 2, 1);
   grid->setColumnStretch(1, 1);
+  connect(m_action, &QPushButton::clicked, this, &DocumentHeader::actionAsked);
 }
 
 void DocumentHeader::setPicture(QStyle::StandardPixmap picture) {
@@ -56,6 +63,12 @@ void DocumentHeader::loadPicture() {
 void DocumentHeader::setTexts(const QString &name, const QString &detail) {
   m_name->setWholeText(name);
   m_detail->setText(detail);
+}
+
+void DocumentHeader::setAction(const QString &text) {
+  m_action->setText(text);
+  m_action->setAccessibleName(text);
+  m_action->setVisible(!text.isNull());
 }
 
 QString pagesInWords(int pages) {

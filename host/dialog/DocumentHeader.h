@@ -7,13 +7,14 @@
 #include <optional>
 
 class QLabel;
+class QPushButton;
 
 namespace orvek {
 
 class ElidedLabel;
 
-/// A picture, a name and a line about it. Belongs to its parent, owns its child controls, and lives
-/// on the interface's thread. Nothing fails.
+/// A picture, a name and a line about it, and what can be done about it. Belongs to its parent,
+/// owns its child controls, and lives on the interface's thread. Nothing fails.
 class DocumentHeader final : public QWidget {
   Q_OBJECT
 
@@ -27,6 +28,12 @@ class DocumentHeader final : public QWidget {
   /// A name too long for the window is shortened in its middle; the tool tip has all of it.
   void setTexts(const QString &name, const QString &detail);
 
+  /// A button behind the texts; null: there is none.
+  void setAction(const QString &text);
+
+ Q_SIGNALS:
+  void actionAsked();
+
  protected:
   void paintEvent(QPaintEvent *event) override;
 
@@ -37,6 +44,7 @@ class DocumentHeader final : public QWidget {
   QLabel *m_picture;
   ElidedLabel *m_name;
   QLabel *m_detail;
+  QPushButton *m_action;
 };
 
 /// "8 pages", "1 page"; null for 0, which stands for unknown.

@@ -8,6 +8,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 
+#include "host/dialog/ElidedLabel.h"
 #include "platform/ui/PlainText.h"
 
 namespace orvek {
@@ -19,7 +20,10 @@ constexpr int wholeJob = 100;
 }  // namespace
 
 JobBar::JobBar(QWidget *parent)
-    : QWidget(parent), m_words(new PlainLabel(this)), m_progress(new QProgressBar(this)) {
+    : QWidget(parent),
+      m_words(new ElidedLabel(Qt::ElideRight, this)),
+      m_progress(new QProgressBar(this)) {
+  m_words->setObjectName(QStringLiteral("jobWords"));
   auto *buttons = new QDialogButtonBox(this);
   m_print = buttons->addButton(tr("&Print"), QDialogButtonBox::AcceptRole);
   m_print->setObjectName(QStringLiteral("printButton"));
@@ -49,12 +53,22 @@ void JobBar::setState(const JobBarState &state) {
   m_cancel->setAccessibleDescription(state.isPrinting ? tr("Stops the job")
                                                       : tr("Closes the window without printing"));
   m_progress->setVisible(state.isPrinting);
-  m_words->setVisible(state.isPrinting);
+  showObstacle(state.isPrinting ? QString() : state.obstacle);
+  m_words->setVisible(state.isPrinting || !state.obstacle.isNull());
   if (state.isCancelling) setProgress(tr("Stopping the job"), -1);
 }
 
+// Beside the button that it is about, and in all that is told of that button.
+void JobBar::showObstacle(const QString &obstacle) {
+  m_print->setToolTip(plainToolTip(obstacle));
+  m_print->setAccessibleDescription(obstacle);
+  m_words->setAlignment((obstacle.isNull() ? Qt::AlignLeading : Qt::AlignTrailing) |
+                        Qt::AlignVCenter);
+  if (!obstacle.isNull()) m_words->setWholeText(obstacle);
+}
+
 void JobBar::setProgress(const QString &words, int percent) {
-  m_words->setText(words);
+  m_words->setWholeText(words);
   m_progress->setRange(0, percent < 0 ? 0 : wholeJob);
   m_progress->setValue(percent);
 }

@@ -2,13 +2,15 @@
 // The dialog's last row: Print and Cancel, and a job's progress. Shows and asks, knows no job.
 #pragma once
 
+#include <QString>
 #include <QWidget>
 
-class QLabel;
 class QProgressBar;
 class QPushButton;
 
 namespace orvek {
+
+class ElidedLabel;
 
 /// What the row shows. Plain data.
 struct JobBarState {
@@ -17,6 +19,8 @@ struct JobBarState {
   bool asksForFile = false;
   bool isPrinting = false;
   bool isCancelling = false;
+  /// Why nothing can be printed, in one sentence; null: nothing is to be said.
+  QString obstacle;
 
   bool operator==(const JobBarState &) const = default;
 };
@@ -40,7 +44,9 @@ class JobBar final : public QWidget {
   void cancelAsked();
 
  private:
-  QLabel *m_words;
+  void showObstacle(const QString &obstacle);
+
+  ElidedLabel *m_words;
   QProgressBar *m_progress;
   QPushButton *m_print;
   QPushButton *m_cancel;

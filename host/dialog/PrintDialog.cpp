@@ -13,12 +13,12 @@
 #include "host/dialog/ChooserRow.h"
 #include "host/dialog/DocumentHeader.h"
 #include "host/dialog/JobBar.h"
+#include "host/dialog/JobDocuments.h"
 #include "host/dialog/NoticeKeeper.h"
 #include "host/dialog/PrinterChooser.h"
 #include "host/dialog/SessionView.h"
 #include "host/jobs/BackgroundJob.h"
-#include "host/jobs/Document.h"
-#include "host/jobs/InputSpool.h"
+#include "host/session/JobWarnings.h"
 #include "host/settings/JobStrip.h"
 #include "host/translations/FailureText.h"
 
@@ -33,16 +33,6 @@ QFrame *separator(QWidget *parent) {
   line->setFrameShape(QFrame::HLine);
   line->setFrameShadow(QFrame::Sunken);
   return line;
-}
-
-// What comes once can be looked at as a copy, which is what will be printed, too.
-DocumentInfo knownOf(const QString &path, DocumentFiles &copies,
-                     const BackgroundTask::Cancelled &cancelled) {
-  if (!comesOnce(path)) return documentInfo(path);
-  const auto files = copies.of({path}, cancelled);
-  DocumentInfo known = files ? documentInfo(files.value().constFirst()) : DocumentInfo();
-  known.name = documentInfo(path).name;
-  return known;
 }
 
 }  // namespace
@@ -74,8 +64,8 @@ PrintDialog::~PrintDialog() {
 }
 
 void PrintDialog::build() {
-  m_document = new DocumentHeader(this);
-  m_document->setPicture(QStyle::SP_FileIcon);
+  m_header = new DocumentHeader(this);
+  m_header->setPicture(QStyle::SP_FileIcon);
   const auto snapshot = [this](const QString &name) { return presetOf(*m_session, name); };
   m_choosers = new ChooserRow(m_setup.server, m_setup.presets, snapshot, this);
   m_printers = m_choosers->printers();
@@ -86,9 +76,11 @@ void PrintDialog::build() {
   connect(m_view, &SessionView::pageTurned, m_strip, &JobStrip::assignLetters);
   m_jobBar = new JobBar(this);
   m_job = new BackgroundJob(this);
+  m_documents = new JobDocuments(m_job->files(), this);
+  m_documents->begin(m_setup.files, m_setup.documentName, m_setup.document);
   auto *header = new QHBoxLayout;
   header->setSpacing(2 * margin);
-  header->addWidget(m_document, 1, Qt::AlignTop);
+  header->addWidget(m_header, 1, Qt::AlignTop);
   header->addWidget(m_choosers, 0, Qt::AlignTop);
   auto *column = new QVBoxLayout(this);
   column->setContentsMargins(margin, margin, margin, margin);
@@ -108,6 +100,8 @@ void PrintDialog::connectParts() {
     connect(presets, &PresetChooser::picked, this, &PrintDialog::applyPicked);
     connect(presets, &PresetChooser::failed, this, &PrintDialog::showProblem);
   }
+  connect(m_header, &DocumentHeader::actionAsked, m_documents, &JobDocuments::applyRemedy);
+  connect(m_documents, &JobDocuments::changed, this, &PrintDialog::followDocuments);
   connect(m_jobBar, &JobBar::printAsked, this, &PrintDialog::print);
   connect(m_jobBar, &JobBar::cancelAsked, this, &PrintDialog::reject);
   connect(m_job, &BackgroundJob::progressed, this, &PrintDialog::showProgress);
@@ -122,6 +116,16 @@ void PrintDialog::connectParts() {
 void PrintDialog::followSession() {
   m_notices->follow(*m_session);
   connect(m_session, &PrintSession::changed, this, &PrintDialog::updateControls);
+  m_session->job().setDocumentPages(m_documents->only().pages);
+}
+
+// Where it is the interface that is busy, that is said elsewhere.
+QString PrintDialog::obstacle() const {
+  if (m_switch.isAsking() || m_awaitsFirst) return {};
+  const bool isForFile = m_setup.destination.isEmpty();
+  if (isForFile && m_session->origin().printer == nullptr) return tr("No printer is chosen");
+  if (const QString problem = m_documents->problem(); !problem.isNull()) return problem;
+  return pagesProblem(m_session->job().settings(), m_documents->only().pages);
 }
 
 void PrintDialog::updateControls() {
@@ -132,20 +136,35 @@ void PrintDialog::updateControls() {
   m_view->setEnabled(!isPrinting && !m_awaitsFirst);
   m_noticeBar->setEnabled(!isPrinting);
   m_choosers->setEnabled(!isPrinting);
-  const bool hasPrinter = !isForFile || m_session->origin().printer != nullptr;
-  m_jobBar->setState({.canPrint = hasPrinter && !m_switch.isAsking(),
+  m_documents->setMayChange(!isPrinting);
+  const QString obstacle = this->obstacle();
+  m_jobBar->setState({.canPrint = obstacle.isNull() && !m_switch.isAsking() && !m_awaitsFirst,
                       .asksForFile = isForFile && !hasFile && !m_switch.isAsking(),
                       .isPrinting = isPrinting,
-                      .isCancelling = isPrinting && m_isCancelling});
+                      .isCancelling = isPrinting && m_isCancelling,
+                      .obstacle = obstacle});
 }
 
-void PrintDialog::showDocument() {
-  const QString pages = pagesInWords(m_setup.document.pages);
-  m_document->setTexts(m_setup.documentName, pages.isNull() ? tr("Document") : pages);
+void PrintDialog::followDocuments() {
+  const DocumentInfo &only = m_documents->only();
+  m_header->setTexts(m_documents->files().isEmpty() ? tr("No document") : m_documents->name(),
+                     m_documents->detail());
+  m_header->setAction(m_documents->remedy());
+  m_session->job().setDocumentPages(only.pages);
+  m_view->setDocument(only);
+  updateControls();
+}
+
+const DocumentInfo &PrintDialog::document() const {
+  return m_documents->only();
+}
+
+const QStringList &PrintDialog::files() const {
+  return m_documents->files();
 }
 
 void PrintDialog::showHeader() {
-  showDocument();
+  followDocuments();
   m_printers->setFileModel(m_session->origin().printer ? m_session->origin().printer->modelName()
                                                        : QString());
   m_printers->setFileIsPossible(m_session->origin().printer != nullptr);
@@ -154,23 +173,10 @@ void PrintDialog::showHeader() {
   updateControls();
 }
 
-void PrintDialog::setDocument(const DocumentInfo &document) {
-  m_setup.document = document;
-  showDocument();
-  m_view->setDocument(document);
-}
-
 void PrintDialog::lookAround() {
   m_printers->refresh();
   if (m_setup.askFirst) askFirst();
-  const QString path = m_setup.document.path;
-  if (path.isEmpty()) return;
-  m_reading.start(
-      this,
-      [path, copies = m_job->files()](const BackgroundTask::Cancelled &cancelled) {
-        return knownOf(path, *copies, cancelled);
-      },
-      [this](const DocumentInfo &document) { setDocument(document); });
+  m_documents->look();
 }
 
 void PrintDialog::showProblem(const Failure &failure) {

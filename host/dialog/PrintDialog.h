@@ -10,8 +10,8 @@
 //   SessionView       pages, preview and summary
 //   JobBar            progress, Cancel, Print
 //
-//   Helpers: NoticeKeeper, what the bar says; PrinterSwitch, the way to another printer;
-//   WindowRoom, the window's size
+//   Helpers: JobDocuments, what is printed; NoticeKeeper, what the bar says; PrinterSwitch, the way
+//   to another printer; WindowRoom, the window's size
 #pragma once
 
 #include <QDialog>
@@ -22,7 +22,6 @@
 #include "host/dialog/PrinterSwitch.h"
 #include "host/dialog/WindowRoom.h"
 #include "host/presets/SessionPreset.h"
-#include "host/printers/BackgroundTask.h"
 
 namespace orvek {
 
@@ -30,6 +29,7 @@ class BackgroundJob;
 class ChooserRow;
 class DocumentHeader;
 class JobBar;
+class JobDocuments;
 class JobStrip;
 class NoticeBar;
 class NoticeKeeper;
@@ -50,11 +50,12 @@ class PrintDialog final : public QDialog {
   /// The session on show: the one it was made with, or the one of a printer that came since.
   PrintSession &session() const { return *m_session; }
 
-  void setDocument(const DocumentInfo &document);
-
   /// What is known of the document by now. One that comes once, and that could be read, is a file
   /// by then, which lives as long as the window.
-  const DocumentInfo &document() const { return m_setup.document; }
+  const DocumentInfo &document() const;
+
+  /// What is to be printed, as it was named.
+  const QStringList &files() const;
 
   /// Reads the document and asks the server for its printers, and for the first one where that is
   /// still to come, all in the background.
@@ -87,7 +88,8 @@ class PrintDialog final : public QDialog {
   void followSession();
   void updateControls();
   void showHeader();
-  void showDocument();
+  void followDocuments();
+  QString obstacle() const;
 
   // Other printers, presets
   void choosePrinter(const QString &destination);
@@ -121,7 +123,8 @@ class PrintDialog final : public QDialog {
   bool m_awaitsFirst = false;
   WindowRoom m_room;
 
-  DocumentHeader *m_document = nullptr;
+  DocumentHeader *m_header = nullptr;
+  JobDocuments *m_documents = nullptr;
   ChooserRow *m_choosers = nullptr;
   PrinterChooser *m_printers = nullptr;
   NoticeBar *m_noticeBar = nullptr;
@@ -131,8 +134,7 @@ class PrintDialog final : public QDialog {
   SessionView *m_view = nullptr;
   JobBar *m_jobBar = nullptr;
   BackgroundJob *m_job = nullptr;
-  /// The last two: they end before what they report to.
-  BackgroundTask m_reading;
+  /// The last: it ends before what it reports to.
   PrinterSwitch m_switch;
 };
 

@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "host/dialog/JobBar.h"
+#include "host/dialog/JobDocuments.h"
 #include "host/dialog/NoticeKeeper.h"
 #include "host/dialog/PrintDialog.h"
 #include "host/dialog/PrinterChooser.h"
@@ -30,6 +31,7 @@ JobRequest PrintDialog::gatherRequest() {
   const Destination destination = destinationFrom(isForFile ? QString() : m_setup.destination);
   request.queue = destination.queue;
   request.instance = destination.instance;
+  request.files = m_documents->files();
   request.outputFile = isForFile ? m_setup.outputFile : QString();
   return request;
 }
@@ -41,7 +43,7 @@ bool PrintDialog::completeRequest(JobRequest *request) {
 }
 
 bool PrintDialog::acceptsWarnings() {
-  const QStringList warnings = jobWarnings(*m_session, m_setup.document.pages);
+  const QStringList warnings = jobWarnings(*m_session, m_documents->only().pages);
   if (warnings.isEmpty()) return true;
   PlainMessageBox question(QMessageBox::Warning, tr("Print"),
                            warnings.join(QStringLiteral(".\n")) + QLatin1Char('.'),
@@ -73,7 +75,7 @@ bool PrintDialog::acceptsSheets(const JobOutcome &outcome) {
 }
 
 void PrintDialog::print() {
-  if (m_job->isRunning() || m_switch.isAsking()) return;
+  if (m_job->isRunning() || m_switch.isAsking() || !obstacle().isNull()) return;
   JobRequest request = gatherRequest();
   if (!acceptsWarnings() || !completeRequest(&request)) return;
   m_request = request;
@@ -101,7 +103,8 @@ void PrintDialog::reject() {
 
 void PrintDialog::showProgress(const JobProgress &progress) {
   if (m_isCancelling) return;
-  m_jobBar->setProgress(progressInWords(progress), percentDone(progress, m_setup.document.pages));
+  m_jobBar->setProgress(progressInWords(progress),
+                        percentDone(progress, m_documents->only().pages));
 }
 
 void PrintDialog::end(const JobOutcome &outcome) {

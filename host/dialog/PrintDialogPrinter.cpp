@@ -7,6 +7,7 @@
 #include <QLayout>
 #include <utility>
 
+#include "host/dialog/JobDocuments.h"
 #include "host/dialog/NoticeKeeper.h"
 #include "host/dialog/PrintDialog.h"
 #include "host/dialog/PrinterChooser.h"
@@ -89,7 +90,7 @@ void PrintDialog::takeSession(std::unique_ptr<PrintSession> session, const QStri
   m_notices->fallSilent();
   // The old ones give back what they borrowed before the old session goes.
   auto *strip = new JobStrip(*session, this);
-  auto *view = new SessionView(*session, m_setup.document, this);
+  auto *view = new SessionView(*session, m_documents->only(), this);
   delete layout()->replaceWidget(m_strip, strip);
   delete layout()->replaceWidget(m_view, view);
   delete std::exchange(m_strip, strip);

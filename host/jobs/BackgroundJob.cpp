@@ -6,7 +6,6 @@
 
 #include <QElapsedTimer>
 #include <QMetaObject>
-#include <algorithm>
 
 #include "host/jobs/Document.h"
 #include "host/jobs/ReadJob.h"
@@ -48,9 +47,9 @@ void BackgroundJob::start(const JobRequest &request, Work work) {
 Result<JobOutcome> BackgroundJob::run(const JobRequest &request, const Work &work,
                                       JobControl &control) {
   const QStringList documents = effectiveFiles(request);
-  if (std::none_of(documents.begin(), documents.end(), comesOnce)) return work(request, control);
   const auto files = m_files->of(documents, control);
   if (!files) return files.failure();
+  if (files.value() == documents) return work(request, control);
   const ReadJob job{request, files.value()};
   auto outcome = work(job.onFiles(), control);
   if (outcome) return outcome;

@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QRegularExpression>
+#include <algorithm>
 
 #include "host/jobs/Document.h"
 #include "host/jobs/PdfReport.h"
@@ -28,12 +29,24 @@ int numberIn(const QString &text, const QString &pattern) {
   return expression.match(text).captured(1).toInt();
 }
 
-void readPdf(DocumentInfo *info) {
-  const std::atomic<bool> never = false;
-  const Result<QByteArray> report = pdfReport(info->path, ReportOn::FirstPage, never);
-  if (!report) return;
-  info->pages =
-      numberIn(QString::fromUtf8(report.value()), QStringLiteral("^Pages:\\s*(\\d+)\\s*$"));
+// As a PDF ends that was written to its end. Readers of pages are content with less than those who
+// print them.
+bool endsWell(QFile &file) {
+  constexpr qint64 lastBytes = 2048;
+  if (!file.seek(std::max(qint64{0}, file.size() - lastBytes))) return false;
+  return file.read(lastBytes).contains("startxref");
+}
+
+void readPdf(DocumentInfo *info, QFile &file, const std::atomic<bool> &cancelled) {
+  const Result<QByteArray> report = pdfReport(info->path, ReportOn::FirstPage, cancelled);
+  if (report) {
+    info->pages =
+        numberIn(QString::fromUtf8(report.value()), QStringLiteral("^Pages:\\s*(\\d+)\\s*$"));
+  }
+  if (info->pages > 0 && endsWell(file)) return;
+  const PdfFindings found = lookAtPdf(info->path, cancelled);
+  info->state = found.state;
+  info->pages = found.state == DocumentState::Usable ? std::max(found.pages, info->pages) : 0;
 }
 
 // A count that is "(atend)" is no number there, and stands among the last comments.
@@ -46,14 +59,16 @@ void readPostScript(DocumentInfo *info, QFile &file, const QString &start) {
   info->pages = numberIn(comments, QStringLiteral("^%%Pages:\\s*(\\d+)"));
 }
 
-void readContent(DocumentInfo *info) {
+void readContent(DocumentInfo *info, const std::atomic<bool> &cancelled) {
   // A pipe's bytes can be read once, and belong to the job.
-  if (!QFileInfo(info->path).isFile()) return;
+  if (comesOnce(info->path)) return;
+  info->state = DocumentState::Unreadable;
   QFile file(info->path);
-  if (!file.open(QIODevice::ReadOnly)) return;
+  if (!QFileInfo(info->path).isFile() || !file.open(QIODevice::ReadOnly)) return;
+  info->state = file.size() > 0 ? DocumentState::Usable : DocumentState::Empty;
   const QByteArray start = file.read(commentBytes);
   if (beginsAsPdf(start)) {
-    readPdf(info);
+    readPdf(info, file, cancelled);
   } else if (start.startsWith("%!") || start.startsWith("\x04%!")) {
     readPostScript(info, file, QString::fromLatin1(start));
   } else if (!QImageReader::imageFormat(info->path).isEmpty()) {
@@ -63,7 +78,7 @@ void readContent(DocumentInfo *info) {
 
 }  // namespace
 
-DocumentInfo documentInfo(const QString &path) {
+DocumentInfo documentInfo(const QString &path, const std::atomic<bool> &cancelled) {
   DocumentInfo info;
   info.path = path.isEmpty() ? standardInput() : path;
   if (isStandardInput(info.path)) {
@@ -71,9 +86,62 @@ DocumentInfo documentInfo(const QString &path) {
     return info;
   }
   info.name = QFileInfo(path).fileName();
-  readContent(&info);
+  readContent(&info, cancelled);
   if (info.pages > mostPages) info.pages = 0;
   return info;
+}
+
+DocumentInfo documentInfo(const QString &path) {
+  const std::atomic<bool> never = false;
+  return documentInfo(path, never);
+}
+
+Status usable(const QString &path, DocumentState state) {
+  const auto failure = [&path](const char *why) {
+    return Status(Failure{FailureKind::Io, documentName(path), Phrase(why)});
+  };
+  switch (state) {
+    case DocumentState::Locked:
+      return failure(QT_TRANSLATE_NOOP("orvek::Failure",
+                                       "it needs a password; print it from a program that opens "
+                                       "it with that password"));
+    case DocumentState::Damaged:
+      return failure(QT_TRANSLATE_NOOP("orvek::Failure", "is damaged beyond repair"));
+    case DocumentState::NoPages:
+      return failure(
+          QT_TRANSLATE_NOOP("orvek::Failure", "has no pages, so there is nothing to print"));
+    case DocumentState::Empty:
+      return emptyDocument(path);
+    // Whoever opens it says why that fails.
+    case DocumentState::Unreadable:
+    case DocumentState::Usable:
+      break;
+  }
+  return {};
+}
+
+// Ranges are ascending, or make no sense, which filters say better.
+bool beginsWithin(const QString &pageRanges, int pages) {
+  const QStringList ranges = pageRanges.split(u',');
+  return std::any_of(ranges.begin(), ranges.end(), [pages](const QString &range) {
+    return range.section(u'-', 0, 0).toDouble() <= pages;
+  });
+}
+
+Status checkContents(const QStringList &files, const QString &pageRanges,
+                     const std::atomic<bool> &cancelled) {
+  for (const QString &file : files) {
+    if (comesOnce(file)) continue;
+    const DocumentInfo info = documentInfo(file, cancelled);
+    if (Status checked = usable(file, info.state); !checked) return checked;
+    const bool isJudged = files.size() == 1 && info.pages > 0 && !pageRanges.isEmpty();
+    if (!isJudged || beginsWithin(pageRanges, info.pages)) continue;
+    return Failure{
+        FailureKind::Io, documentName(file),
+        Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "has no page %1: the number of its pages is %2"),
+               {pageRanges, QString::number(info.pages)})};
+  }
+  return {};
 }
 
 }  // namespace orvek

@@ -4,6 +4,11 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
+#include <atomic>
+
+#include "host/jobs/PdfOpener.h"
+#include "platform/system/Result.h"
 
 namespace orvek {
 
@@ -16,11 +21,26 @@ struct DocumentInfo {
   QString path;
   /// 0: unknown.
   int pages = 0;
+  DocumentState state = DocumentState::Usable;
 };
 
 /// PDF: what pdfinfo says of it. PostScript: the document's own comments (%%Pages). A picture: one
 /// page. Anything else, standard input, a file that can't be read, is damaged or takes too long:
-/// unknown.
+/// unknown. What can't be printed for certain says so in its state.
 DocumentInfo documentInfo(const QString &path);
+DocumentInfo documentInfo(const QString &path, const std::atomic<bool> &cancelled);
+
+/// The failure of a job with such a document; success where it is usable.
+Status usable(const QString &path, DocumentState state);
+
+/// Whether these documents, of which those that come once are not looked at, can be printed, and
+/// whether an only one has any of the pages asked for (null: all of them). Blocks, within bounds,
+/// and ends soon after `cancelled` was set.
+Status checkContents(const QStringList &files, const QString &pageRanges,
+                     const std::atomic<bool> &cancelled);
+
+/// Whether page ranges as CUPS takes them begin within so many pages. Ranges that make no sense
+/// are whoever prints them to refuse.
+bool beginsWithin(const QString &pageRanges, int pages);
 
 }  // namespace orvek

@@ -8,7 +8,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
-#include <algorithm>
 
 #include "host/jobs/BookletDriver.h"
 #include "host/jobs/Document.h"
@@ -35,24 +34,13 @@ Status checkPPDFile(const QString &path) {
   return {};
 }
 
-// Ranges are ascending, or make no sense, which filters say better.
-bool beginsWithin(const QString &pageRanges, int pages) {
-  const QStringList ranges = pageRanges.split(u',');
-  return std::any_of(ranges.begin(), ranges.end(), [pages](const QString &range) {
-    return range.section(u'-', 0, 0).toDouble() <= pages;
-  });
-}
-
-/// Filters make anything from nothing to a damaged file where no page is left.
-Status checkPagesOf(const QString &file, const Phrase &name, const JobRequest &request) {
+/// Filters make anything from nothing to a damaged file where there is nothing to print.
+Status checkPagesOf(const QString &file, const Phrase &name, const FilterRun &run,
+                    const JobRequest &request) {
   const auto ranges = valueNamed(effectiveOptions(request), u"page-ranges");
-  if (!ranges || ranges->isEmpty()) return {};
-  const int pages = documentInfo(file).pages;
-  if (pages == 0 || beginsWithin(*ranges, pages)) return {};
-  return Failure{
-      FailureKind::Io, name,
-      Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "has no page %1: the number of its pages is %2"),
-             {*ranges, QString::number(pages)})};
+  const Status checked = checkContents({file}, ranges.value_or(QString()), run.control.cancelled);
+  if (checked) return {};
+  return Failure{checked.failure().kind, name, checked.failure().why};
 }
 
 Status checkOutput(const JobRequest &request) {
@@ -88,7 +76,7 @@ Status printAll(FilterRun &run, const JobRequest &request, const QString &tool,
     if (!files) return files.failure();
     const QString file = files.value().constFirst();
     const Phrase name = documentName(document);
-    if (Status pages = checkPagesOf(file, name, request); !pages) return pages;
+    if (Status pages = checkPagesOf(file, name, run, request); !pages) return pages;
     const auto call = filterToolCall(request, tool, ppd, printerFormat, file);
     if (Status done = runFilters(run, call, name); !done) return done;
     ++run.progress.document;

@@ -64,6 +64,10 @@ Result<QStringList> DocumentFiles::of(const QStringList &documents,
   const std::lock_guard<std::timed_mutex> lock(m_mutex, std::adopt_lock);
   QStringList files;
   for (const QString &document : documents) {
+    if (const auto other = m_replaced.find(document); other != m_replaced.end()) {
+      files << other->second->path();
+      continue;
+    }
     if (!comesOnce(document)) {
       files << document;
       continue;
@@ -74,6 +78,11 @@ Result<QStringList> DocumentFiles::of(const QStringList &documents,
     files << copy.path();
   }
   return files;
+}
+
+void DocumentFiles::replace(const QString &document, std::shared_ptr<ScratchFile> file) {
+  const std::lock_guard<std::timed_mutex> lock(m_mutex);
+  m_replaced[document] = std::move(file);
 }
 
 }  // namespace orvek

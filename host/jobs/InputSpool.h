@@ -45,9 +45,9 @@ class InputSpool {
 /// that.
 class DocumentFiles {
  public:
-  /// For every document a file with its bytes: its own, or a copy where it comes once only.
-  /// `beginOfStandardInput` has been read of that already. Fails as InputSpool does; as cancelled
-  /// also where that was waited for.
+  /// For every document a file with its bytes: its own, a copy where it comes once only, or
+  /// what has replaced it.  /// `beginOfStandardInput` has been read of that already. Fails as
+  /// InputSpool does; as cancelled also where that was waited for.
   Result<QStringList> of(const QStringList &documents, const std::atomic<bool> &cancelled,
                          const QByteArray &beginOfStandardInput = {});
   Result<QStringList> of(const QStringList &documents, const JobControl &control,
@@ -55,9 +55,13 @@ class DocumentFiles {
     return of(documents, control.cancelled, beginOfStandardInput);
   }
 
+  /// From now on this file stands for the document: a copy that the filters can open.
+  void replace(const QString &document, std::shared_ptr<ScratchFile> file);
+
  private:
   std::timed_mutex m_mutex;
   std::map<QString, InputSpool> m_copies;
+  std::map<QString, std::shared_ptr<ScratchFile>> m_replaced;
 };
 
 }  // namespace orvek

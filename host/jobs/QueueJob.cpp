@@ -4,9 +4,11 @@
 #include "host/jobs/QueueJob.h"
 
 #include <algorithm>
+#include <future>
 
 #include "host/jobs/BookletDriver.h"
 #include "host/jobs/Document.h"
+#include "host/jobs/DocumentInfo.h"
 #include "host/jobs/DocumentReader.h"
 #include "host/jobs/FinishedSheets.h"
 #include "host/jobs/JobState.h"
@@ -15,6 +17,7 @@
 #include "host/printers/CupsOptions.h"
 #include "host/printers/PrinterList.h"
 #include "host/printers/QueuePPD.h"
+#include "platform/system/OptionMap.h"
 
 namespace orvek {
 namespace {
@@ -35,6 +38,16 @@ Result<QByteArray> beginOfStandardInput(const QStringList &files, const JobContr
     }
   }
   return jobCancelled();
+}
+
+// What is sent as it is, or as what somebody said it is, is for the printer to judge.
+Status checkedContents(const JobRequest &request, const JobControl &control) {
+  const QMap<QString, QString> options = effectiveOptions(request);
+  for (const QStringView sentAsIs : {u"raw", u"document-format"}) {
+    if (valueNamed(options, sentAsIs)) return {};
+  }
+  const QString ranges = valueNamed(options, u"page-ranges").value_or(QString());
+  return checkContents(effectiveFiles(request), ranges, control.cancelled);
 }
 
 ServerAccess accessOf(const JobRequest &request, const std::atomic<bool> *cancelled) {
@@ -171,8 +184,11 @@ Result<JobOutcome> submitToQueue(const JobRequest &request, JobControl &control)
   if (Status checked = checkAllDocuments(files); !checked) return checked.failure();
   auto begin = beginOfStandardInput(files, control);
   if (!begin) return begin.failure();
+  // The server takes its time, in which documents can be looked at.
+  auto looking = std::async(std::launch::async, [&] { return checkedContents(request, control); });
   auto target = findTarget(request, control);
   if (!target) return target.failure();
+  if (const Status checked = looking.get(); !checked) return checked.failure();
 
   CupsOptions options(effectiveOptions(request));
   options.addMissing(savedOptions(target.value().queue, request));

@@ -94,15 +94,16 @@ QString notOnBothSides(const PrintSession &session) {
       .arg(partners.join(QStringLiteral(", ")));
 }
 
-QString noSuchPage(const JobSettings &settings, int pages) {
+}  // namespace
+
+QString pagesProblem(const JobSettings &settings, int pages) {
+  if (!settings.pageRangesProblem.isNull()) return settings.pageRangesProblem;
   const bool isKnown = pages > 0 && !settings.pageRanges.isEmpty();
   if (!isKnown || !pagesInRanges(settings.pageRanges, pages).isEmpty()) return {};
   return Words::tr("The document has no page %1: the number of its pages is %2")
       .arg(settings.pageRanges)
       .arg(pages);
 }
-
-}  // namespace
 
 int maximumBookletSheets(const PrinterDescription &printer) {
   const int sheets = leadingInteger(printer.attribute(maximumBookletSheetsAttribute));
@@ -115,8 +116,8 @@ bool warningsDependOnPages(const Marks &marks, const TicketValues &ticket) {
 
 QStringList jobWarnings(const Marks &marks, const TicketValues &ticket, const JobSettings &settings,
                         int pages) {
-  QStringList words{settings.pageRangesProblem, staplesUncollated(marks, settings),
-                    tooManySheets(marks, ticket, settings, pages), noSuchPage(settings, pages)};
+  QStringList words{staplesUncollated(marks, settings),
+                    tooManySheets(marks, ticket, settings, pages)};
   words.removeAll(QString());
   return words;
 }

@@ -13,10 +13,13 @@ namespace orvek {
 
 class PrintSession;
 
-/// One sentence, without a full stop, for each of: page ranges that can't be read (all pages would
-/// be printed); staples in copies that are not collated; a booklet that the printer is to fold, of
-/// more sheets than it folds; page ranges that the document has no page of. `pages` is the
-/// document's page count (0: unknown, and then the last two are not judged).
+/// Why nothing can be printed with these settings, in one sentence without a full stop; null where
+/// something can: page ranges that can't be read, or that the document has no page of. `pages` is
+/// the document's page count (0: unknown, and then the latter is not judged).
+QString pagesProblem(const JobSettings &settings, int pages);
+
+/// One sentence, without a full stop, for each of: staples in copies that are not collated; a
+/// booklet that the printer is to fold, of more sheets than it folds. `pages` as above.
 QStringList jobWarnings(const Marks &marks, const TicketValues &ticket, const JobSettings &settings,
                         int pages);
 

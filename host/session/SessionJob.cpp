@@ -34,6 +34,12 @@ void SessionJob::setSettings(const JobSettings &newSettings) {
                  newSettings.collate ? QStringLiteral("True") : QStringLiteral("False"));
 }
 
+void SessionJob::setDocumentPages(int pages) {
+  if (pages == m_documentPages) return;
+  const ActionScope action(m_session);
+  m_documentPages = pages;
+}
+
 // What makes no sense to a reader goes along as it was saved.
 void SessionJob::beginAsSaved() {
   for (const OptionChoice &saved : m_session.origin().queueOptions) {

@@ -33,6 +33,11 @@ class SessionJob {
   /// As the session began.
   const JobSettings &firstSettings() const { return m_first; }
 
+  /// How many pages the document has; 0: unknown. No part of the job: what is said of it depends on
+  /// it.
+  int documentPages() const { return m_documentPages; }
+  void setDocumentPages(int pages);
+
   /// Reads an option of the command line that is about job settings: false where it is none, or the
   /// PPD has an option for it; a Usage failure where its value makes no sense.
   Result<bool> take(const QString &name, const QString &value);
@@ -78,6 +83,7 @@ class SessionJob {
   AskedOptions m_asked;
   AskedOptions m_saved;
   JobSettings m_first;
+  int m_documentPages = 0;
 };
 
 }  // namespace orvek

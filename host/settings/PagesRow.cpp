@@ -4,10 +4,12 @@
 #include "host/settings/PagesRow.h"
 
 #include <QAccessible>
+#include <QEvent>
 #include <QGridLayout>
 #include <QLineEdit>
 #include <QRadioButton>
 
+#include "host/session/JobWarnings.h"
 #include "host/ticket/PageRanges.h"
 #include "host/translations/FailureText.h"
 #include "platform/ui/PlainText.h"
@@ -57,6 +59,8 @@ void PagesRow::arrange() {
 void PagesRow::connectControls() {
   connect(m_all, &QRadioButton::clicked, this, &PagesRow::pick);
   connect(m_some, &QRadioButton::clicked, this, [this] {
+    // Nobody has had the time to write any yet.
+    m_isTyping = m_ranges->text().trimmed().isEmpty();
     m_ranges->setFocus(Qt::OtherFocusReason);
     pick();
   });
@@ -69,21 +73,28 @@ void PagesRow::connectControls() {
     m_isTyping = false;
     updateControls();
   });
+  // A field that was left without a single letter has not been edited to the toolkit.
+  m_ranges->installEventFilter(this);
+}
+
+bool PagesRow::eventFilter(QObject *watched, QEvent *event) {
+  if (watched == m_ranges && event->type() == QEvent::FocusOut) {
+    m_isTyping = false;
+    updateControls();
+  }
+  return QWidget::eventFilter(watched, event);
 }
 
 void PagesRow::pick() {
-  const Result<QString> ranges = normalizedPageRanges(m_ranges->text());
-  if (m_all->isChecked()) {
-    Q_EMIT rangesPicked(QString(), QString());
-  } else if (ranges) {
-    Q_EMIT rangesPicked(ranges.value(), QString());
-  } else {
-    Q_EMIT rangesPicked(QString(), failureText(ranges.failure()));
-  }
+  const QString problem = typingProblem();
+  const bool hasRanges = m_some->isChecked() && problem.isNull();
+  Q_EMIT rangesPicked(hasRanges ? normalizedPageRanges(m_ranges->text()).value() : QString(),
+                      m_some->isChecked() ? problem : QString());
   updateControls();
 }
 
-void PagesRow::setSettings(const JobSettings &settings) {
+void PagesRow::setSettings(const JobSettings &settings, int documentPages) {
+  m_documentPages = documentPages;
   const Result<QString> typed = normalizedPageRanges(m_ranges->text());
   const bool hasRanges = !settings.pageRanges.isNull();
   if (hasRanges && (!typed || typed.value() != settings.pageRanges)) {
@@ -95,10 +106,26 @@ void PagesRow::setSettings(const JobSettings &settings) {
   updateControls();
 }
 
-void PagesRow::updateControls() {
+/// What is wrong with the field's text, whatever the document.
+QString PagesRow::typingProblem() const {
+  if (m_ranges->text().trimmed().isEmpty()) {
+    return tr("Write which pages to print, for example 1-3, 7");
+  }
   const Result<QString> typed = normalizedPageRanges(m_ranges->text());
-  const bool isWrong = m_some->isChecked() && !typed;
-  const QString problem = isWrong ? failureText(typed.failure()) : QString();
+  return typed ? QString() : failureText(typed.failure());
+}
+
+QString PagesRow::problem() const {
+  if (!m_some->isChecked()) return {};
+  if (const QString typing = typingProblem(); !typing.isNull()) return typing;
+  JobSettings asked;
+  asked.pageRanges = normalizedPageRanges(m_ranges->text()).value();
+  return pagesProblem(asked, m_documentPages);
+}
+
+void PagesRow::updateControls() {
+  const QString problem = this->problem();
+  const bool isWrong = !problem.isNull();
   const bool isNew = m_problem->text() != problem;
   m_problem->setText(problem);
   m_problem->setVisible(isWrong && !m_isTyping);

@@ -21,8 +21,11 @@ class PagesRow final : public QWidget {
  public:
   explicit PagesRow(QWidget *parent = nullptr);
 
-  /// Leaves a text alone that means the same, so that it can be typed in peace.
-  void setSettings(const JobSettings &settings);
+  /// Leaves a text alone that means the same, so that it can be typed in peace. `documentPages`
+  /// (0: unknown) is what ranges are held against.
+  void setSettings(const JobSettings &settings, int documentPages);
+
+  bool eventFilter(QObject *watched, QEvent *event) override;
 
  Q_SIGNALS:
   /// Ranges as CUPS wants them (null: all pages), or what is wrong with what was typed.
@@ -32,6 +35,8 @@ class PagesRow final : public QWidget {
   void arrange();
   void connectControls();
   void pick();
+  QString typingProblem() const;
+  QString problem() const;
   void updateControls();
 
   QRadioButton *m_all;
@@ -40,6 +45,7 @@ class PagesRow final : public QWidget {
   QLabel *m_problem;
   /// A half-typed text is not wrong yet.
   bool m_isTyping = false;
+  int m_documentPages = 0;
 };
 
 }  // namespace orvek

@@ -114,6 +114,33 @@
     </message>
 </context>
 <context>
+    <name>orvek::DocumentPassword</name>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>That password does not open %1.</source>
+        <translation>Dieses Passwort öffnet %1 nicht.</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password.</source>
+        <translation>%1 ist mit einem Passwort geschützt.</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Passwort:</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>orvek::Failure</name>
     <message>
         <source>is empty, so no job has been sent</source>
@@ -527,6 +554,18 @@
         <source>the connection to the print server broke</source>
         <translation>die Verbindung zum Druckserver ist abgebrochen</translation>
     </message>
+    <message>
+        <source>is damaged beyond repair</source>
+        <translation>ist nicht reparierbar beschädigt</translation>
+    </message>
+    <message>
+        <source>has no pages, so there is nothing to print</source>
+        <translation>hat keine Seiten, es gibt also nichts zu drucken</translation>
+    </message>
+    <message>
+        <source>a copy that the filters can open can&apos;t be written; make room for temporary files</source>
+        <translation>eine Kopie, die die Filter öffnen können, kann nicht geschrieben werden; schaffen Sie Platz für temporäre Dateien</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -615,18 +654,58 @@
     </message>
 </context>
 <context>
-    <name>orvek::JobStrip</name>
+    <name>orvek::JobDocuments</name>
     <message>
-        <source>Copies</source>
-        <translation>Exemplare</translation>
+        <source>Choose a file, or drop one here</source>
+        <translation>Datei auswählen oder hier ablegen</translation>
     </message>
     <message>
-        <source>Pages</source>
-        <translation>Seiten</translation>
+        <source>Opening…</source>
+        <translation>Wird geöffnet …</translation>
     </message>
     <message>
-        <source>Two-sided</source>
-        <translation>Zweiseitig</translation>
+        <source>Protected by a password</source>
+        <translation>Mit Passwort geschützt</translation>
+    </message>
+    <message>
+        <source>Can&apos;t be printed</source>
+        <translation>Kann nicht gedruckt werden</translation>
+    </message>
+    <message>
+        <source>There is no document yet</source>
+        <translation>Es gibt noch kein Dokument</translation>
+    </message>
+    <message>
+        <source>%1 needs its password</source>
+        <translation>%1 braucht sein Passwort</translation>
+    </message>
+    <message>
+        <source>%1 is damaged beyond repair</source>
+        <translation>%1 ist nicht reparierbar beschädigt</translation>
+    </message>
+    <message>
+        <source>%1 has no pages</source>
+        <translation>%1 hat keine Seiten</translation>
+    </message>
+    <message>
+        <source>%1 is empty</source>
+        <translation>%1 ist leer</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read</source>
+        <translation>%1 ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>Enter Password…</source>
+        <translation>Passwort eingeben …</translation>
+    </message>
+    <message>
+        <source>Choose File…</source>
+        <translation>Datei auswählen …</translation>
+    </message>
+    <message>
+        <source>Choose Documents</source>
+        <translation>Dokumente auswählen</translation>
     </message>
 </context>
 <context>
@@ -678,6 +757,21 @@
     <message>
         <source>%1 sheets</source>
         <translation>%1 Blatt</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::JobStrip</name>
+    <message>
+        <source>Copies</source>
+        <translation>Exemplare</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>Zweiseitig</translation>
     </message>
 </context>
 <context>
@@ -820,6 +914,10 @@
     <message>
         <source>e.g. 1-3, 7</source>
         <translation>z. B. 1-3, 7</translation>
+    </message>
+    <message>
+        <source>Write which pages to print, for example 1-3, 7</source>
+        <translation>Geben Sie die Seiten an, zum Beispiel 1-3, 7</translation>
     </message>
 </context>
 <context>
@@ -1012,6 +1110,14 @@
     <message>
         <source>&amp;Prepare here and print</source>
         <translation>&amp;Hier vorbereiten und drucken</translation>
+    </message>
+    <message>
+        <source>No printer is chosen</source>
+        <translation>Es ist kein Drucker ausgewählt</translation>
+    </message>
+    <message>
+        <source>No document</source>
+        <translation>Kein Dokument</translation>
     </message>
 </context>
 <context>

@@ -114,6 +114,33 @@
     </message>
 </context>
 <context>
+    <name>orvek::DocumentPassword</name>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>That password does not open %1.</source>
+        <translation>Ce mot de passe n’ouvre pas %1.</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password.</source>
+        <translation>%1 est protégé par un mot de passe.</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>Mot de &amp;passe :</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Ouvrir</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
     <name>orvek::Failure</name>
     <message>
         <source>is empty, so no job has been sent</source>
@@ -527,6 +554,18 @@
         <source>the connection to the print server broke</source>
         <translation>la connexion au serveur d’impression s’est rompue</translation>
     </message>
+    <message>
+        <source>is damaged beyond repair</source>
+        <translation>est endommagé et irréparable</translation>
+    </message>
+    <message>
+        <source>has no pages, so there is nothing to print</source>
+        <translation>n’a aucune page, il n’y a donc rien à imprimer</translation>
+    </message>
+    <message>
+        <source>a copy that the filters can open can&apos;t be written; make room for temporary files</source>
+        <translation>impossible d’écrire une copie que les filtres peuvent ouvrir ; libérez de la place pour les fichiers temporaires</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -615,18 +654,58 @@
     </message>
 </context>
 <context>
-    <name>orvek::JobStrip</name>
+    <name>orvek::JobDocuments</name>
     <message>
-        <source>Copies</source>
-        <translation>Copies</translation>
+        <source>Choose a file, or drop one here</source>
+        <translation>Choisissez un fichier ou déposez-le ici</translation>
     </message>
     <message>
-        <source>Pages</source>
-        <translation>Pages</translation>
+        <source>Opening…</source>
+        <translation>Ouverture…</translation>
     </message>
     <message>
-        <source>Two-sided</source>
-        <translation>Recto verso</translation>
+        <source>Protected by a password</source>
+        <translation>Protégé par un mot de passe</translation>
+    </message>
+    <message>
+        <source>Can&apos;t be printed</source>
+        <translation>Ne peut pas être imprimé</translation>
+    </message>
+    <message>
+        <source>There is no document yet</source>
+        <translation>Il n’y a pas encore de document</translation>
+    </message>
+    <message>
+        <source>%1 needs its password</source>
+        <translation>%1 demande son mot de passe</translation>
+    </message>
+    <message>
+        <source>%1 is damaged beyond repair</source>
+        <translation>%1 est endommagé et irréparable</translation>
+    </message>
+    <message>
+        <source>%1 has no pages</source>
+        <translation>%1 n’a aucune page</translation>
+    </message>
+    <message>
+        <source>%1 is empty</source>
+        <translation>%1 est vide</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read</source>
+        <translation>%1 est illisible</translation>
+    </message>
+    <message>
+        <source>Enter Password…</source>
+        <translation>Saisir le mot de passe…</translation>
+    </message>
+    <message>
+        <source>Choose File…</source>
+        <translation>Choisir un fichier…</translation>
+    </message>
+    <message>
+        <source>Choose Documents</source>
+        <translation>Choisir des documents</translation>
     </message>
 </context>
 <context>
@@ -678,6 +757,21 @@
     <message>
         <source>%1 sheets</source>
         <translation>%1 feuilles</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::JobStrip</name>
+    <message>
+        <source>Copies</source>
+        <translation>Copies</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>Recto verso</translation>
     </message>
 </context>
 <context>
@@ -820,6 +914,10 @@
     <message>
         <source>e.g. 1-3, 7</source>
         <translation>p. ex. 1-3, 7</translation>
+    </message>
+    <message>
+        <source>Write which pages to print, for example 1-3, 7</source>
+        <translation>Indiquez les pages à imprimer, par exemple 1-3, 7</translation>
     </message>
 </context>
 <context>
@@ -1012,6 +1110,14 @@
     <message>
         <source>&amp;Prepare here and print</source>
         <translation>&amp;Préparer ici et imprimer</translation>
+    </message>
+    <message>
+        <source>No printer is chosen</source>
+        <translation>Aucune imprimante n’est choisie</translation>
+    </message>
+    <message>
+        <source>No document</source>
+        <translation>Aucun document</translation>
     </message>
 </context>
 <context>

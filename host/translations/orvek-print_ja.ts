@@ -114,6 +114,33 @@
     </message>
 </context>
 <context>
+    <name>orvek::DocumentPassword</name>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>That password does not open %1.</source>
+        <translation>このパスワードでは %1 を開けません。</translation>
+    </message>
+    <message>
+        <source>%1 is protected by a password.</source>
+        <translation>%1 はパスワードで保護されています。</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>パスワード(&amp;P):</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>開く(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
     <name>orvek::Failure</name>
     <message>
         <source>is empty, so no job has been sent</source>
@@ -527,6 +554,18 @@
         <source>the connection to the print server broke</source>
         <translation>プリントサーバーとの接続が切れました</translation>
     </message>
+    <message>
+        <source>is damaged beyond repair</source>
+        <translation>修復できないほど破損しています</translation>
+    </message>
+    <message>
+        <source>has no pages, so there is nothing to print</source>
+        <translation>ページがないため、印刷するものがありません</translation>
+    </message>
+    <message>
+        <source>a copy that the filters can open can&apos;t be written; make room for temporary files</source>
+        <translation>フィルターが開けるコピーを書き込めません。一時ファイル用の空き容量を確保してください</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -615,18 +654,58 @@
     </message>
 </context>
 <context>
-    <name>orvek::JobStrip</name>
+    <name>orvek::JobDocuments</name>
     <message>
-        <source>Copies</source>
-        <translation>部数</translation>
+        <source>Choose a file, or drop one here</source>
+        <translation>ファイルを選択するか、ここにドロップしてください</translation>
     </message>
     <message>
-        <source>Pages</source>
-        <translation>ページ</translation>
+        <source>Opening…</source>
+        <translation>開いています…</translation>
     </message>
     <message>
-        <source>Two-sided</source>
-        <translation>両面印刷</translation>
+        <source>Protected by a password</source>
+        <translation>パスワードで保護されています</translation>
+    </message>
+    <message>
+        <source>Can&apos;t be printed</source>
+        <translation>印刷できません</translation>
+    </message>
+    <message>
+        <source>There is no document yet</source>
+        <translation>まだ文書がありません</translation>
+    </message>
+    <message>
+        <source>%1 needs its password</source>
+        <translation>%1 にはパスワードが必要です</translation>
+    </message>
+    <message>
+        <source>%1 is damaged beyond repair</source>
+        <translation>%1 は修復できないほど破損しています</translation>
+    </message>
+    <message>
+        <source>%1 has no pages</source>
+        <translation>%1 にはページがありません</translation>
+    </message>
+    <message>
+        <source>%1 is empty</source>
+        <translation>%1 は空です</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read</source>
+        <translation>%1 を読み取れません</translation>
+    </message>
+    <message>
+        <source>Enter Password…</source>
+        <translation>パスワードを入力…</translation>
+    </message>
+    <message>
+        <source>Choose File…</source>
+        <translation>ファイルを選択…</translation>
+    </message>
+    <message>
+        <source>Choose Documents</source>
+        <translation>文書の選択</translation>
     </message>
 </context>
 <context>
@@ -678,6 +757,21 @@
     <message>
         <source>%1 sheets</source>
         <translation>%1 枚</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::JobStrip</name>
+    <message>
+        <source>Copies</source>
+        <translation>部数</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>両面印刷</translation>
     </message>
 </context>
 <context>
@@ -820,6 +914,10 @@
     <message>
         <source>e.g. 1-3, 7</source>
         <translation>例: 1-3, 7</translation>
+    </message>
+    <message>
+        <source>Write which pages to print, for example 1-3, 7</source>
+        <translation>印刷するページを 1-3, 7 のように入力してください</translation>
     </message>
 </context>
 <context>
@@ -1012,6 +1110,14 @@
     <message>
         <source>&amp;Prepare here and print</source>
         <translation>ここで準備して印刷(&amp;P)</translation>
+    </message>
+    <message>
+        <source>No printer is chosen</source>
+        <translation>プリンターが選択されていません</translation>
+    </message>
+    <message>
+        <source>No document</source>
+        <translation>文書なし</translation>
     </message>
 </context>
 <context>

@@ -62,6 +62,7 @@ class DialogTest : public ::testing::Test {
 
   void showWindow() {
     DialogSetup dialogSetup;
+    dialogSetup.files = files;
     dialogSetup.documentName = QStringLiteral("Finishing-Sample.pdf");
     dialogSetup.document.pages = 8;
     dialogSetup.outputFile = outputFile;

@@ -12,6 +12,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
+#include "tests/support/OddDocuments.h"
 #include "tests/support/Printers.h"
 
 namespace orvek::test {
@@ -79,6 +80,41 @@ TEST_F(DocumentInfoTest, KnowsNothingOfWhatCanNotBeRead) {
   EXPECT_EQ(documentInfo(folder.filePath("missing.pdf")).name, "missing.pdf");
   EXPECT_EQ(documentInfo(folder.path()).pages, 0);
   EXPECT_EQ(documentInfo(write("empty.pdf", "")).pages, 0);
+}
+
+TEST_F(DocumentInfoTest, KnowsWhatCanNotBePrinted) {
+  const auto stateOf = [](const QString &path) { return documentInfo(path).state; };
+  EXPECT_EQ(stateOf(sample("Finishing-Sample.pdf")), DocumentState::Usable);
+  EXPECT_EQ(stateOf(write("a.txt", "words\n")), DocumentState::Usable);
+  EXPECT_EQ(stateOf(write("empty.pdf", "")), DocumentState::Empty);
+  EXPECT_EQ(stateOf(write("blank.pdf", pdfWithoutPages())), DocumentState::NoPages);
+  EXPECT_EQ(stateOf(write("broken.pdf", pdfBeyondRepair())), DocumentState::Damaged);
+  EXPECT_EQ(stateOf(folder.path()), DocumentState::Unreadable);
+  EXPECT_EQ(stateOf(folder.filePath("missing.pdf")), DocumentState::Unreadable);
+}
+
+TEST_F(DocumentInfoTest, KnowsThatAPasswordIsMissing) {
+  const QString locked = folder.filePath("locked.pdf");
+  if (!protect(sample("Finishing-Sample.pdf"), "secret", locked)) {
+    GTEST_SKIP() << "qpdf is not installed";
+  }
+  EXPECT_EQ(documentInfo(locked).state, DocumentState::Locked);
+  EXPECT_EQ(documentInfo(locked).pages, 0);
+}
+
+TEST_F(DocumentInfoTest, TakesACopyThatThePasswordOpened) {
+  const QString locked = folder.filePath("locked.pdf");
+  if (!protect(sample("Finishing-Sample.pdf"), "secret", locked)) {
+    GTEST_SKIP() << "qpdf is not installed";
+  }
+  const std::atomic<bool> never = false;
+  const auto wrong = openedPdf(locked, "Secret", never);
+  ASSERT_TRUE(wrong);
+  EXPECT_EQ(wrong.value(), nullptr);
+  const auto opened = openedPdf(locked, "secret", never);
+  ASSERT_TRUE(opened) << opened.failure().line().toStdString();
+  ASSERT_NE(opened.value(), nullptr);
+  EXPECT_EQ(documentInfo(opened.value()->path()).pages, 8);
 }
 
 TEST_F(DocumentInfoTest, DoesNotWaitForAPipe) {

@@ -11,6 +11,7 @@
 
 #include "tests/support/CapturingFilter.h"
 #include "tests/support/MemoryGrowth.h"
+#include "tests/support/OddDocuments.h"
 #include "tests/support/PrivateCups.h"
 #include "tests/support/StandardInput.h"
 
@@ -69,6 +70,33 @@ class QueueJob : public ::testing::Test {
 TEST_F(QueueJob, PutsAChosenFeaturesCodeIntoWhatThePrinterGets) {
   request.options.insert(QStringLiteral("OVKFolding"), QStringLiteral("Saddle"));
   EXPECT_TRUE(printedAfter(submit()).contains("%%BeginFeature: *OVKFolding Saddle"));
+}
+
+TEST_F(QueueJob, IsNotSentWhereNothingCanBePrintedOfItsDocument) {
+  const QString pdf = QStringLiteral(ORVEK_SOURCE_DIR "/samples/Finishing-Sample.pdf");
+  const QString odd = folder.filePath(QStringLiteral("odd.pdf"));
+  request.files = {odd};
+  writeContents(odd, pdfWithoutPages());
+  EXPECT_EQ(failureLine(), odd.toStdString() + ": has no pages, so there is nothing to print");
+  writeContents(odd, pdfBeyondRepair());
+  EXPECT_EQ(failureLine(), odd.toStdString() + ": is damaged beyond repair");
+  request.files = {pdf};
+  request.options.insert(QStringLiteral("page-ranges"), QStringLiteral("12-20"));
+  EXPECT_EQ(failureLine(), pdf.toStdString() + ": has no page 12-20: the number of its pages is 8");
+  if (!protect(pdf, QStringLiteral("secret"), odd)) GTEST_SKIP() << "qpdf is not installed";
+  request.files = {odd};
+  EXPECT_EQ(failureLine(),
+            odd.toStdString() +
+                ": it needs a password; print it from a program that opens it with that password");
+  request.options = {};
+  request.files = {document};
+  EXPECT_EQ(submit().jobId, 1);
+}
+
+TEST_F(QueueJob, IsSentAsItIsWhereThatIsAskedFor) {
+  writeContents(document, pdfBeyondRepair());
+  request.options.insert(QStringLiteral("raw"), QStringLiteral("true"));
+  EXPECT_EQ(failureLine(), "no failure");
 }
 
 TEST_F(QueueJob, LetsTheDriverReadTheBookletKeys) {

@@ -149,11 +149,11 @@ TEST_F(JobWarnings, DoNotJudgeADocumentOfUnknownLength) {
   EXPECT_EQ(jobWarnings(*session, 0), QStringList());
 }
 
-TEST_F(JobWarnings, NameRangesThatCanNotBeRead) {
+TEST(PagesProblem, IsWhatIsWrongWithRangesThatCanNotBeRead) {
   JobSettings settings;
   settings.pageRangesProblem = QStringLiteral("3-x: not a page range");
-  session->job().setSettings(settings);
-  EXPECT_EQ(jobWarnings(*session, 8), QStringList{"3-x: not a page range"});
+  EXPECT_EQ(pagesProblem(settings, 8), "3-x: not a page range");
+  EXPECT_EQ(pagesProblem(settings, 0), "3-x: not a page range");
 }
 
 TEST(MaximumBookletSheets, AreThePrintersOrWhatIsUsual) {
@@ -179,14 +179,13 @@ TEST(JobWarningsWithoutPpd, KnowNoStaples) {
   EXPECT_EQ(jobWarnings(*session, 8), QStringList());
 }
 
-TEST_F(JobWarnings, NamePagesThatTheDocumentLacks) {
+TEST(PagesProblem, NamesPagesThatTheDocumentLacks) {
   JobSettings settings;
   settings.pageRanges = "9-12,99";
-  session->job().setSettings(settings);
-  EXPECT_EQ(jobWarnings(*session, 8),
-            QStringList("The document has no page 9-12,99: the number of its pages is 8"));
-  EXPECT_EQ(jobWarnings(*session, 9), QStringList());
-  EXPECT_EQ(jobWarnings(*session, 0), QStringList());
+  EXPECT_EQ(pagesProblem(settings, 8),
+            "The document has no page 9-12,99: the number of its pages is 8");
+  EXPECT_TRUE(pagesProblem(settings, 9).isNull());
+  EXPECT_TRUE(pagesProblem(settings, 0).isNull());
 }
 
 }  // namespace
