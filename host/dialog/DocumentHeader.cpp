@@ -73,7 +73,7 @@ void DocumentHeader::setAction(const QString &text) {
 
 QString pagesInWords(int pages) {
   if (pages < 1) return {};
-  return pages == 1 ? DocumentHeader::tr("1 page") : DocumentHeader::tr("%1 pages").arg(pages);
+  return pages == 1 ? DocumentHeader::tr("1 page") : DocumentHeader::tr("%n pages", nullptr, pages);
 }
 
 }  // namespace orvek

@@ -13,21 +13,25 @@
 namespace orvek {
 namespace {
 
-// Titles and values of the marks that are not the PPD's own, and of a booklet's sides.
-QMap<QString, QString> changedOptions(const PrintSession &session, QStringList *order) {
-  QMap<QString, QString> changed;
+// What the marks that are not the PPD's own say, and a booklet's sides; by the titles that panels
+// have for them, which are the PPD's.
+QMap<QString, SummaryLine> changedOptions(const PrintSession &session, QStringList *order) {
+  QMap<QString, SummaryLine> changed;
+  const auto line = [](const PrinterDescription &printer, const OptionChoice &mark) {
+    return SummaryLine{optionText(printer, mark.option), choiceText(printer, mark), true};
+  };
   if (!session.origin().printer) return changed;
   const PrinterDescription &printer = *session.origin().printer;
   for (const OptionChoice &mark : session.marks().differingFromDefaults()) {
     if (printer.isEquipment(mark.option)) continue;
-    const QString title = optionText(printer, mark.option);
+    const QString title = printer.option(mark.option).textInPpd();
     *order << title;
-    changed.insert(title, choiceText(printer, mark));
+    changed.insert(title, line(printer, mark));
   }
   if (const auto sides = sidesOfBooklet(session)) {
-    const QString title = optionText(printer, sides->option);
+    const QString title = printer.option(sides->option).textInPpd();
     if (!changed.contains(title)) *order << title;
-    changed.insert(title, choiceText(printer, *sides));
+    changed.insert(title, line(printer, *sides));
   }
   return changed;
 }
@@ -82,7 +86,7 @@ QSet<QString> optionTitles(const PrintSession &session) {
   QSet<QString> titles;
   if (!session.origin().printer) return titles;
   for (const QString &option : session.panels().claimedOptions()) {
-    titles.insert(optionText(*session.origin().printer, option));
+    titles.insert(session.origin().printer->option(option).textInPpd());
   }
   return titles;
 }
@@ -97,6 +101,21 @@ QMap<QString, QString> defaultsOf(const PrintSession &session) {
   return defaults;
 }
 
+// A panel speaks of an option in the PPD's words, which may be keywords, or in another language
+// than the user's.
+SummaryLine inBetterWords(const PrintSession &session, const SummaryLine &line) {
+  if (!session.origin().printer) return line;
+  const PrinterDescription &printer = *session.origin().printer;
+  for (const QString &keyword : session.panels().claimedOptions()) {
+    const PrinterOption option = printer.option(keyword);
+    if (option.textInPpd() != line.title) continue;
+    const auto choice = option.choice(session.marks().marked(keyword));
+    const bool isChoice = choice && choice->textInPpd == line.value;
+    return {option.text(), isChoice ? choice->text : line.value, line.changed};
+  }
+  return line;
+}
+
 bool differs(const QMap<QString, QString> &defaults, const SummaryLine &line) {
   const auto standard = defaults.find(line.title);
   return standard != defaults.end() && standard.value() != line.value;
@@ -107,17 +126,17 @@ bool differs(const QMap<QString, QString> &defaults, const SummaryLine &line) {
 QList<SummaryLine> summaryLines(const PrintSession &session) {
   const QMap<QString, QString> defaults = defaultsOf(session);
   QStringList order;
-  QMap<QString, QString> changed = changedOptions(session, &order);
+  QMap<QString, SummaryLine> changed = changedOptions(session, &order);
   QList<SummaryLine> lines;
   for (const auto &[title, value] : session.panels().summary()) {
     SummaryLine line{title, value, changed.contains(title)};
     line.changed = line.changed || differs(defaults, line);
     changed.remove(title);
-    lines << line;
+    lines << inBetterWords(session, line);
   }
   for (const QString &title : order) {
     const auto entry = changed.find(title);
-    if (entry != changed.end()) lines << SummaryLine{title, entry.value(), true};
+    if (entry != changed.end()) lines << entry.value();
   }
   lines << jobLines(session);
   std::stable_partition(lines.begin(), lines.end(),

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "host/ppd/StandardNames.h"
 #include "platform/printing/PPD.h"
 
 namespace orvek {
@@ -62,8 +63,14 @@ void localize(ppd_file_t *ppd) {
   if (hasTexts) ppdLocalize(ppd);
 }
 
-QString textOf(const ppd_group_t &group) {
-  return QString::fromUtf8(group.text[0] != '\0' ? group.text : group.name);
+// libcups itself names the group of options that stand in none.
+QString textOf(const ppd_group_t &group, const LocalTexts &texts) {
+  const QString name = QString::fromUtf8(group.name);
+  const QString own = group.text[0] != '\0' ? QString::fromUtf8(group.text) : name;
+  const bool isPlain = own == name || (!texts.isEnglish() && standardNamesAreTranslated() &&
+                                       !texts.hasOption(group.name));
+  const QString standard = isPlain ? standardGroupName(name) : QString();
+  return standard.isNull() ? own : standard;
 }
 
 // libcups sorts the options of subgroups into the group itself; the interface has them all the
@@ -97,7 +104,7 @@ const PrinterDescription &PrinterDescription::none() {
 }
 
 PrinterDescription::PrinterDescription(QString path, ppd_file_s *ppd)
-    : m_path(std::move(path)), m_ppd(ppd) {}
+    : m_path(std::move(path)), m_ppd(ppd), m_texts(ppd, cupsLangDefault()->language) {}
 
 PrinterDescription::~PrinterDescription() {
   ppdClose(m_ppd);
@@ -109,29 +116,29 @@ QString PrinterDescription::modelName() const {
 }
 
 void PrinterDescription::append(const ppd_group_s &group, const QString &text,
-                                QList<PrinterOptionGroup> *groups) {
+                                QList<PrinterOptionGroup> *groups) const {
   PrinterOptionGroup found{text, {}};
   found.options.reserve(group.num_options);
   for (int i = 0; i < group.num_options; ++i) {
-    found.options.append(PrinterOption(&group.options[i]));
+    found.options.append(PrinterOption(&group.options[i], &m_texts));
   }
   if (!found.options.isEmpty()) groups->append(found);
   for (int i = 0; i < group.num_subgroups; ++i) {
     const ppd_group_t &inner = group.subgroups[i];
-    append(inner, text + QStringLiteral(" – ") + textOf(inner), groups);
+    append(inner, text + QStringLiteral(" – ") + textOf(inner, m_texts), groups);
   }
 }
 
 QList<PrinterOptionGroup> PrinterDescription::options() const {
   QList<PrinterOptionGroup> groups;
   for (int i = 0; m_ppd != nullptr && i < m_ppd->num_groups; ++i) {
-    append(m_ppd->groups[i], textOf(m_ppd->groups[i]), &groups);
+    append(m_ppd->groups[i], textOf(m_ppd->groups[i], m_texts), &groups);
   }
   return groups;
 }
 
 PrinterOption PrinterDescription::option(const QString &keyword) const {
-  return PrinterOption(ppdFindOption(m_ppd, keyword.toUtf8().constData()));
+  return {ppdFindOption(m_ppd, keyword.toUtf8().constData()), &m_texts};
 }
 
 std::optional<OptionChoice> PrinterDescription::spelled(const QString &option,

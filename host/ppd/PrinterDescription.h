@@ -10,6 +10,7 @@
 
 #include "host/ppd/ConstrainedPairs.h"
 #include "host/ppd/Keyword.h"
+#include "host/ppd/LocalTexts.h"
 #include "host/ppd/PlainConstraints.h"
 #include "host/ppd/PrinterOption.h"
 #include "platform/system/Result.h"
@@ -77,11 +78,12 @@ class PrinterDescription {
  private:
   PrinterDescription(QString path, ppd_file_s *ppd);
 
-  static void append(const ppd_group_s &group, const QString &text,
-                     QList<PrinterOptionGroup> *groups);
+  void append(const ppd_group_s &group, const QString &text,
+              QList<PrinterOptionGroup> *groups) const;
 
   QString m_path;
   ppd_file_s *m_ppd;
+  LocalTexts m_texts;
   mutable std::optional<std::optional<PlainConstraints>> m_plainConstraints;
   mutable std::optional<ConstrainedPairs> m_constrainedPairs;
 };

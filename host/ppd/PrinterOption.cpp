@@ -5,14 +5,30 @@
 
 #include "host/ppd/CustomChoice.h"
 #include "host/ppd/Keyword.h"
+#include "host/ppd/LocalTexts.h"
+#include "host/ppd/StandardNames.h"
 #include "platform/printing/PPD.h"
 
 namespace orvek {
 namespace {
 
-PrinterChoice choiceOf(const ppd_choice_t &choice) {
-  return {QString::fromUtf8(choice.choice),
-          QString::fromUtf8(choice.text[0] != '\0' ? choice.text : choice.choice)};
+QString ownText(const char *text, const char *keyword) {
+  return QString::fromUtf8(text[0] != '\0' ? text : keyword);
+}
+
+// Our names are of use where they are in the user's language and the PPD's text is not.
+bool speakBetter(const LocalTexts &texts) {
+  return texts.isEnglish() || standardNamesAreTranslated();
+}
+
+// What libcups puts where a PPD has no text.
+bool isStandIn(const QString &text, const QString &keyword) {
+  return text == keyword ||
+         isAnyOf(text, {"Media Size", "Media Source", "Media Type", "Output Mode"});
+}
+
+QString nameOr(const QString &name, const QString &text) {
+  return name.isNull() ? text : name;
 }
 
 }  // namespace
@@ -21,9 +37,33 @@ QString PrinterOption::keyword() const {
   return m_option == nullptr ? QString() : QString::fromUtf8(m_option->keyword);
 }
 
+QString PrinterOption::textInPpd() const {
+  return m_option == nullptr ? QString() : ownText(m_option->text, m_option->keyword);
+}
+
 QString PrinterOption::text() const {
-  if (m_option == nullptr) return {};
-  return QString::fromUtf8(m_option->text[0] != '\0' ? m_option->text : m_option->keyword);
+  const QString own = textInPpd();
+  if (!isStandIn(own, keyword()) &&
+      (m_texts->hasOption(m_option->keyword) || !speakBetter(*m_texts))) {
+    return own;
+  }
+  return nameOr(standardOptionName(keyword()), own);
+}
+
+PrinterChoice PrinterOption::choiceOf(const ppd_choice_s &choice) const {
+  const QString keyword = QString::fromUtf8(choice.choice);
+  const QString own = ownText(choice.text, choice.choice);
+  // libcups puts "Yes" and "No" where a switch has no texts.
+  const bool isYesOrNo = kind() == OptionKind::Boolean && isAnyOf(own, {"Yes", "No"});
+  if (own == keyword || isYesOrNo) {
+    const QString name = standardChoiceName(this->keyword(), keyword);
+    const QString onOrOff = kind() == OptionKind::Boolean ? switchName(keyword) : QString();
+    return {keyword, nameOr(name, nameOr(onOrOff, own)), own};
+  }
+  if (m_texts->hasChoice(m_option->keyword, choice.choice) || !speakBetter(*m_texts)) {
+    return {keyword, own, own};
+  }
+  return {keyword, nameOr(standardChoiceName(this->keyword(), keyword), own), own};
 }
 
 QString PrinterOption::defaultChoice() const {

@@ -7,9 +7,12 @@
 #include <QString>
 #include <optional>
 
+struct ppd_choice_s;
 struct ppd_option_s;
 
 namespace orvek {
+
+class LocalTexts;
 
 /// How many of an option's choices a PPD allows at a time; Boolean is on or off.
 enum class OptionKind { Boolean, PickOne, PickMany };
@@ -17,8 +20,10 @@ enum class OptionKind { Boolean, PickOne, PickMany };
 /// One choice of an option. Plain data.
 struct PrinterChoice {
   QString keyword;
-  /// For people, in the user's language.
+  /// For people, in the user's language, by the same rule as the option's.
   QString text;
+  /// What the PPD itself calls it, in whatever language.
+  QString textInPpd;
 };
 
 /// One option. Borrows from the PrinterDescription that gave it and must not outlive it. Nothing
@@ -34,8 +39,12 @@ class PrinterOption {
   /// As the PPD spells it.
   QString keyword() const;
 
-  /// For people, in the user's language; the keyword where the PPD has no text.
+  /// For people, in the user's language: the PPD's own text, or for a standard option that has none
+  /// in that language our name for it; the keyword where there is neither.
   QString text() const;
+
+  /// What the PPD itself calls it, in whatever language: panels show that.
+  QString textInPpd() const;
 
   /// The PPD's own default, as it is written there; it need not be one of the choices.
   QString defaultChoice() const;
@@ -59,9 +68,12 @@ class PrinterOption {
 
  private:
   friend class PrinterDescription;
-  explicit PrinterOption(ppd_option_s *option) : m_option(option) {}
+  PrinterOption(ppd_option_s *option, const LocalTexts *texts) : m_option(option), m_texts(texts) {}
+
+  PrinterChoice choiceOf(const ppd_choice_s &choice) const;
 
   ppd_option_s *m_option = nullptr;
+  const LocalTexts *m_texts = nullptr;
 };
 
 /// Options that a PPD puts into one group. Borrows as they do. Plain data.

@@ -266,9 +266,9 @@ QString JobPreview::caption() const {
   if (m_isSample) parts << tr("The document's pages are not known: a sample");
   if (m_copies > 1) {
     parts << (sheets == 1 ? tr("%1 × 1 sheet").arg(m_copies)
-                          : tr("%1 × %2 sheets").arg(m_copies).arg(sheets));
+                          : tr("%1 × %n sheets", nullptr, sheets).arg(m_copies));
   } else {
-    parts << (sheets == 1 ? tr("1 sheet") : tr("%1 sheets").arg(sheets));
+    parts << (sheets == 1 ? tr("1 sheet") : tr("%n sheets", nullptr, sheets));
   }
   if (const QString paper = choiceInWords(m_session, "PageSize"); !paper.isEmpty()) parts << paper;
   if (const QString bin = binInWords(m_session); !bin.isEmpty()) parts << bin;

@@ -66,8 +66,9 @@ QString spokenSide(const PrintedSide &side, const QString &fold) {
   const int staples = marksOf(side, MarkKind::Staple);
   const int holes = marksOf(side, MarkKind::Hole);
   if (staples == 1) parts << Words::tr("1 staple");
-  if (staples > 1) parts << Words::tr("%1 staples").arg(staples);
-  if (holes > 0) parts << Words::tr("%1 holes").arg(holes);
+  if (staples > 1) parts << Words::tr("%n staples", nullptr, staples);
+  if (holes == 1) parts << Words::tr("1 hole");
+  if (holes > 1) parts << Words::tr("%n holes", nullptr, holes);
   const QString all = parts.join(Words::tr(", "));
   return side.face == Face::Front ? Words::tr("Sheet %1, front: %2").arg(side.sheet).arg(all)
                                   : Words::tr("Sheet %1, back: %2").arg(side.sheet).arg(all);

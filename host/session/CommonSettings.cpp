@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "host/ppd/CustomChoice.h"
+#include "host/ppd/StandardNames.h"
 #include "host/session/PrintSession.h"
 #include "host/ticket/BookletSettings.h"
 #include "host/ticket/JobOptionNames.h"
@@ -79,8 +80,20 @@ QString choiceInForce(const PrintSession &session, const SettingOffer &offer) {
   return offer.standard;
 }
 
+// A print server names what a printer offers in English, where libcups lacks the user's language;
+// papers it names by keywords everywhere.
 Setting settingOf(const PrintSession &session, const SettingOffer &offer) {
-  return {offer.attribute, offer.title, offer.choices, choiceInForce(session, offer), false};
+  Setting setting{offer.attribute, offer.title, offer.choices, choiceInForce(session, offer),
+                  false};
+  const QString title =
+      standardNamesAreTranslated() ? standardOptionName(offer.attribute) : QString();
+  if (!title.isNull()) setting.title = title;
+  if (!standardNamesAreTranslated() && offer.attribute != u"media") return setting;
+  for (SettingChoice &choice : setting.choices) {
+    const QString name = standardChoiceName(offer.attribute, choice.keyword);
+    if (!name.isNull()) choice.text = name;
+  }
+  return setting;
 }
 
 std::optional<Setting> offered(const PrintSession &session, const Names &names) {

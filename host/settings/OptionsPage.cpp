@@ -112,7 +112,8 @@ void OptionsPage::updateControls() {
   const int changed = static_cast<int>(m_model->changed().size());
   m_setBack->setEnabled(m_model->isChangedAt(m_view->currentIndex()));
   m_setAllBack->setEnabled(changed > 0);
-  QString state = changed == 1 ? tr("1 option changed") : tr("%1 options changed").arg(changed);
+  QString state =
+      changed == 1 ? tr("1 option changed") : tr("%n options changed", nullptr, changed);
   if (changed == 0) state = tr("No option changed");
   if (m_model->rowCount() == 0) {
     state = m_model->isFiltered() ? tr("No option found") : tr("This printer has no more options");

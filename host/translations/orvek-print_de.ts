@@ -101,9 +101,12 @@
         <source>1 page</source>
         <translation>1 Seite</translation>
     </message>
-    <message>
-        <source>%1 pages</source>
-        <translation>%1 Seiten</translation>
+    <message numerus="yes">
+        <source>%n pages</source>
+        <translation>
+            <numerusform>%n Seite</numerusform>
+            <numerusform>%n Seiten</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -747,16 +750,22 @@
         <translation>%1 × 1 Blatt</translation>
     </message>
     <message>
-        <source>%1 × %2 sheets</source>
-        <translation>%1 × %2 Blatt</translation>
-    </message>
-    <message>
         <source>1 sheet</source>
         <translation>1 Blatt</translation>
     </message>
-    <message>
-        <source>%1 sheets</source>
-        <translation>%1 Blatt</translation>
+    <message numerus="yes">
+        <source>%1 × %n sheets</source>
+        <translation>
+            <numerusform>%1 × %n Blatt</numerusform>
+            <numerusform>%1 × %n Blatt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheets</source>
+        <translation>
+            <numerusform>%n Blatt</numerusform>
+            <numerusform>%n Blatt</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -862,10 +871,6 @@
         <translation>1 Option geändert</translation>
     </message>
     <message>
-        <source>%1 options changed</source>
-        <translation>%1 Optionen geändert</translation>
-    </message>
-    <message>
         <source>No option changed</source>
         <translation>Keine Option geändert</translation>
     </message>
@@ -876,6 +881,13 @@
     <message>
         <source>This printer has no more options</source>
         <translation>Dieser Drucker hat keine weiteren Optionen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n options changed</source>
+        <translation>
+            <numerusform>%n Option geändert</numerusform>
+            <numerusform>%n Optionen geändert</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1370,14 +1382,6 @@
         <translation>1 Klammer</translation>
     </message>
     <message>
-        <source>%1 staples</source>
-        <translation>%1 Klammern</translation>
-    </message>
-    <message>
-        <source>%1 holes</source>
-        <translation>%1 Löcher</translation>
-    </message>
-    <message>
         <source>, </source>
         <translation>, </translation>
     </message>
@@ -1396,6 +1400,823 @@
     <message>
         <source>single fold</source>
         <translation>Einfachfalz</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n staples</source>
+        <translation>
+            <numerusform>%n Klammer</numerusform>
+            <numerusform>%n Klammern</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 hole</source>
+        <translation>1 Loch</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n holes</source>
+        <translation>
+            <numerusform>%n Loch</numerusform>
+            <numerusform>%n Löcher</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>orvek::StandardNames</name>
+    <message>
+        <source>One staple, portrait</source>
+        <translation>Eine Klammer, Hochformat</translation>
+    </message>
+    <message>
+        <source>One staple, landscape</source>
+        <translation>Eine Klammer, Querformat</translation>
+    </message>
+    <message>
+        <source>Two staples, portrait</source>
+        <translation>Zwei Klammern, Hochformat</translation>
+    </message>
+    <message>
+        <source>Two staples, landscape</source>
+        <translation>Zwei Klammern, Querformat</translation>
+    </message>
+    <message>
+        <source>Saddle stitch</source>
+        <translation>Rückenheftung</translation>
+    </message>
+    <message>
+        <source>Accordion fold</source>
+        <translation>Zickzackfalz</translation>
+    </message>
+    <message>
+        <source>Double gate fold</source>
+        <translation>Doppelter Fensterfalz</translation>
+    </message>
+    <message>
+        <source>Gate fold</source>
+        <translation>Fensterfalz</translation>
+    </message>
+    <message>
+        <source>Half fold</source>
+        <translation>Halbfalz</translation>
+    </message>
+    <message>
+        <source>Half Z fold</source>
+        <translation>Halber Z-Falz</translation>
+    </message>
+    <message>
+        <source>Left gate fold</source>
+        <translation>Fensterfalz links</translation>
+    </message>
+    <message>
+        <source>Letter fold</source>
+        <translation>Wickelfalz</translation>
+    </message>
+    <message>
+        <source>Parallel fold</source>
+        <translation>Parallelfalz</translation>
+    </message>
+    <message>
+        <source>Poster fold</source>
+        <translation>Posterfalz</translation>
+    </message>
+    <message>
+        <source>Right gate fold</source>
+        <translation>Fensterfalz rechts</translation>
+    </message>
+    <message>
+        <source>Z fold</source>
+        <translation>Z-Falz</translation>
+    </message>
+    <message>
+        <source>Engineering Z fold</source>
+        <translation>Z-Falz für Pläne</translation>
+    </message>
+    <message>
+        <source>Saddle fold</source>
+        <translation>Sattelfalz</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>Heften</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Lochen</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <translation>Deckblatt</translation>
+    </message>
+    <message>
+        <source>Binding</source>
+        <translation>Bindung</translation>
+    </message>
+    <message>
+        <source>Edge stitch</source>
+        <translation>Kantenheftung</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Falzen</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Beschneiden</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Broschüre</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>Versatz</translation>
+    </message>
+    <message>
+        <source>Coating</source>
+        <translation>Beschichtung</translation>
+    </message>
+    <message>
+        <source>Laminating</source>
+        <translation>Laminierung</translation>
+    </message>
+    <message>
+        <source>Two staples</source>
+        <translation>Zwei Klammern</translation>
+    </message>
+    <message>
+        <source>Three staples</source>
+        <translation>Drei Klammern</translation>
+    </message>
+    <message>
+        <source>One staple</source>
+        <translation>Eine Klammer</translation>
+    </message>
+    <message>
+        <source>Two holes</source>
+        <translation>Zwei Löcher</translation>
+    </message>
+    <message>
+        <source>Three holes</source>
+        <translation>Drei Löcher</translation>
+    </message>
+    <message>
+        <source>Four holes</source>
+        <translation>Vier Löcher</translation>
+    </message>
+    <message>
+        <source>Many holes</source>
+        <translation>Viele Löcher</translation>
+    </message>
+    <message>
+        <source>One hole</source>
+        <translation>Ein Loch</translation>
+    </message>
+    <message>
+        <source>After each page</source>
+        <translation>Nach jeder Seite</translation>
+    </message>
+    <message>
+        <source>After each document</source>
+        <translation>Nach jedem Dokument</translation>
+    </message>
+    <message>
+        <source>After each copy</source>
+        <translation>Nach jedem Exemplar</translation>
+    </message>
+    <message>
+        <source>After the job</source>
+        <translation>Nach dem Auftrag</translation>
+    </message>
+    <message>
+        <source>top left</source>
+        <translation>oben links</translation>
+    </message>
+    <message>
+        <source>top right</source>
+        <translation>oben rechts</translation>
+    </message>
+    <message>
+        <source>bottom left</source>
+        <translation>unten links</translation>
+    </message>
+    <message>
+        <source>bottom right</source>
+        <translation>unten rechts</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>links</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>rechts</translation>
+    </message>
+    <message>
+        <source>top</source>
+        <translation>oben</translation>
+    </message>
+    <message>
+        <source>bottom</source>
+        <translation>unten</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 dpi</source>
+        <translation>%1 dpi</translation>
+    </message>
+    <message>
+        <source>%1 × %2 dpi</source>
+        <translation>%1 × %2 dpi</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>Paper size for manual feed</source>
+        <translation>Papierformat bei manueller Zufuhr</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>Papierformat</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Benutzerdefiniert</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Installed equipment</source>
+        <translation>Installierte Ausstattung</translation>
+    </message>
+    <message>
+        <source>Further options</source>
+        <translation>Weitere Optionen</translation>
+    </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>Zweiseitig</translation>
+    </message>
+    <message>
+        <source>Upper tray</source>
+        <translation>Oberes Fach</translation>
+    </message>
+    <message>
+        <source>Middle tray</source>
+        <translation>Mittleres Fach</translation>
+    </message>
+    <message>
+        <source>Lower tray</source>
+        <translation>Unteres Fach</translation>
+    </message>
+    <message>
+        <source>Rear tray</source>
+        <translation>Hinteres Fach</translation>
+    </message>
+    <message>
+        <source>Side tray</source>
+        <translation>Seitliches Fach</translation>
+    </message>
+    <message>
+        <source>Left tray</source>
+        <translation>Linkes Fach</translation>
+    </message>
+    <message>
+        <source>Right tray</source>
+        <translation>Rechtes Fach</translation>
+    </message>
+    <message>
+        <source>Center tray</source>
+        <translation>Fach in der Mitte</translation>
+    </message>
+    <message>
+        <source>Manual feed</source>
+        <translation>Manuelle Zufuhr</translation>
+    </message>
+    <message>
+        <source>Bypass tray</source>
+        <translation>Zusatzzufuhr</translation>
+    </message>
+    <message>
+        <source>Multipurpose tray</source>
+        <translation>Mehrzweckfach</translation>
+    </message>
+    <message>
+        <source>Large-capacity tray</source>
+        <translation>Großraumfach</translation>
+    </message>
+    <message>
+        <source>Envelope feeder</source>
+        <translation>Umschlagzufuhr</translation>
+    </message>
+    <message>
+        <source>Main tray</source>
+        <translation>Hauptfach</translation>
+    </message>
+    <message>
+        <source>Alternate tray</source>
+        <translation>Ausweichfach</translation>
+    </message>
+    <message>
+        <source>Photo tray</source>
+        <translation>Fotofach</translation>
+    </message>
+    <message>
+        <source>Disc tray</source>
+        <translation>Fach für Datenträger</translation>
+    </message>
+    <message>
+        <source>Cassette</source>
+        <translation>Kassette</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Rolle</translation>
+    </message>
+    <message>
+        <source>Tractor feed</source>
+        <translation>Traktorzufuhr</translation>
+    </message>
+    <message>
+        <source>Tray %1</source>
+        <translation>Fach %1</translation>
+    </message>
+    <message>
+        <source>Cassette %1</source>
+        <translation>Kassette %1</translation>
+    </message>
+    <message>
+        <source>Roll %1</source>
+        <translation>Rolle %1</translation>
+    </message>
+    <message>
+        <source>Standard tray</source>
+        <translation>Standardfach</translation>
+    </message>
+    <message>
+        <source>Face down</source>
+        <translation>Druckseite unten</translation>
+    </message>
+    <message>
+        <source>Face up</source>
+        <translation>Druckseite oben</translation>
+    </message>
+    <message>
+        <source>Stacker</source>
+        <translation>Stapler</translation>
+    </message>
+    <message>
+        <source>Mailbox</source>
+        <translation>Mailbox</translation>
+    </message>
+    <message>
+        <source>Finisher tray</source>
+        <translation>Finisherfach</translation>
+    </message>
+    <message>
+        <source>Booklet tray</source>
+        <translation>Broschürenfach</translation>
+    </message>
+    <message>
+        <source>Stacker %1</source>
+        <translation>Stapler %1</translation>
+    </message>
+    <message>
+        <source>Mailbox %1</source>
+        <translation>Mailbox %1</translation>
+    </message>
+    <message>
+        <source>Plain</source>
+        <translation>Normalpapier</translation>
+    </message>
+    <message>
+        <source>Recycled</source>
+        <translation>Recyclingpapier</translation>
+    </message>
+    <message>
+        <source>Letterhead</source>
+        <translation>Briefkopf</translation>
+    </message>
+    <message>
+        <source>Prepunched</source>
+        <translation>Vorgelocht</translation>
+    </message>
+    <message>
+        <source>Preprinted</source>
+        <translation>Vorgedruckt</translation>
+    </message>
+    <message>
+        <source>Bond</source>
+        <translation>Bond-Papier</translation>
+    </message>
+    <message>
+        <source>Heavy</source>
+        <translation>Schweres Papier</translation>
+    </message>
+    <message>
+        <source>Thin</source>
+        <translation>Dünnes Papier</translation>
+    </message>
+    <message>
+        <source>Coated</source>
+        <translation>Gestrichen</translation>
+    </message>
+    <message>
+        <source>Card stock</source>
+        <translation>Karton</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Etiketten</translation>
+    </message>
+    <message>
+        <source>Transparencies</source>
+        <translation>Folien</translation>
+    </message>
+    <message>
+        <source>Envelopes</source>
+        <translation>Umschläge</translation>
+    </message>
+    <message>
+        <source>Glossy</source>
+        <translation>Glanzpapier</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>Fotopapier</translation>
+    </message>
+    <message>
+        <source>High-gloss photo paper</source>
+        <translation>Hochglanz-Fotopapier</translation>
+    </message>
+    <message>
+        <source>Matte photo paper</source>
+        <translation>Mattes Fotopapier</translation>
+    </message>
+    <message>
+        <source>Semi-gloss photo paper</source>
+        <translation>Seidenmattes Fotopapier</translation>
+    </message>
+    <message>
+        <source>Matte</source>
+        <translation>Matt</translation>
+    </message>
+    <message>
+        <source>Colored</source>
+        <translation>Farbiges Papier</translation>
+    </message>
+    <message>
+        <source>Rough</source>
+        <translation>Raues Papier</translation>
+    </message>
+    <message>
+        <source>Tab stock</source>
+        <translation>Registerblätter</translation>
+    </message>
+    <message>
+        <source>Vellum</source>
+        <translation>Velin</translation>
+    </message>
+    <message>
+        <source>Continuous</source>
+        <translation>Endlospapier</translation>
+    </message>
+    <message>
+        <source>Disc</source>
+        <translation>Datenträger</translation>
+    </message>
+    <message>
+        <source>Fine paper</source>
+        <translation>Feinpapier</translation>
+    </message>
+    <message>
+        <source>Cotton</source>
+        <translation>Baumwollpapier</translation>
+    </message>
+    <message>
+        <source>US Letter</source>
+        <translation>US-Letter</translation>
+    </message>
+    <message>
+        <source>US Legal</source>
+        <translation>US-Legal</translation>
+    </message>
+    <message>
+        <source>Tabloid</source>
+        <translation>Tabloid</translation>
+    </message>
+    <message>
+        <source>Ledger</source>
+        <translation>Ledger</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>US-Statement</translation>
+    </message>
+    <message>
+        <source>Executive</source>
+        <translation>US-Executive</translation>
+    </message>
+    <message>
+        <source>Folio</source>
+        <translation>Folio</translation>
+    </message>
+    <message>
+        <source>Oficio</source>
+        <translation>Oficio</translation>
+    </message>
+    <message>
+        <source>Postcard</source>
+        <translation>Postkarte</translation>
+    </message>
+    <message>
+        <source>Double postcard</source>
+        <translation>Doppelpostkarte</translation>
+    </message>
+    <message>
+        <source>Envelope No. 10</source>
+        <translation>Umschlag Nr. 10</translation>
+    </message>
+    <message>
+        <source>Envelope No. 9</source>
+        <translation>Umschlag Nr. 9</translation>
+    </message>
+    <message>
+        <source>Envelope DL</source>
+        <translation>Umschlag DL</translation>
+    </message>
+    <message>
+        <source>Envelope C4</source>
+        <translation>Umschlag C4</translation>
+    </message>
+    <message>
+        <source>Envelope C5</source>
+        <translation>Umschlag C5</translation>
+    </message>
+    <message>
+        <source>Envelope C6</source>
+        <translation>Umschlag C6</translation>
+    </message>
+    <message>
+        <source>Envelope B5</source>
+        <translation>Umschlag B5</translation>
+    </message>
+    <message>
+        <source>Envelope Monarch</source>
+        <translation>Umschlag Monarch</translation>
+    </message>
+    <message>
+        <source>Envelope A2</source>
+        <translation>Umschlag A2</translation>
+    </message>
+    <message>
+        <source>B4 (ISO)</source>
+        <translation>B4 (ISO)</translation>
+    </message>
+    <message>
+        <source>B5 (ISO)</source>
+        <translation>B5 (ISO)</translation>
+    </message>
+    <message>
+        <source>B4 (JIS)</source>
+        <translation>B4 (JIS)</translation>
+    </message>
+    <message>
+        <source>B5 (JIS)</source>
+        <translation>B5 (JIS)</translation>
+    </message>
+    <message>
+        <source>B6 (JIS)</source>
+        <translation>B6 (JIS)</translation>
+    </message>
+    <message>
+        <source>A3 oversize</source>
+        <translation>A3 mit Überformat</translation>
+    </message>
+    <message>
+        <source>3 × 5 in</source>
+        <translation>3 × 5 Zoll</translation>
+    </message>
+    <message>
+        <source>4 × 6 in</source>
+        <translation>4 × 6 Zoll</translation>
+    </message>
+    <message>
+        <source>5 × 7 in</source>
+        <translation>5 × 7 Zoll</translation>
+    </message>
+    <message>
+        <source>5 × 8 in</source>
+        <translation>5 × 8 Zoll</translation>
+    </message>
+    <message>
+        <source>8 × 10 in</source>
+        <translation>8 × 10 Zoll</translation>
+    </message>
+    <message>
+        <source>US Foolscap</source>
+        <translation>US-Foolscap</translation>
+    </message>
+    <message>
+        <source>%1, borderless</source>
+        <translation>%1, randlos</translation>
+    </message>
+    <message>
+        <source>%1, rotated</source>
+        <translation>%1, gedreht</translation>
+    </message>
+    <message>
+        <source>%1, oversize</source>
+        <translation>%1, Überformat</translation>
+    </message>
+    <message>
+        <source>%1, large margins</source>
+        <translation>%1, breite Ränder</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Long edge</source>
+        <translation>Lange Kante</translation>
+    </message>
+    <message>
+        <source>Short edge</source>
+        <translation>Kurze Kante</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>Schwarzweiß</translation>
+    </message>
+    <message>
+        <source>Pure black and white</source>
+        <translation>Reines Schwarzweiß</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Color (CMYK)</source>
+        <translation>Farbe (CMYK)</translation>
+    </message>
+    <message>
+        <source>Color (CMY)</source>
+        <translation>Farbe (CMY)</translation>
+    </message>
+    <message>
+        <source>Color (Adobe RGB)</source>
+        <translation>Farbe (Adobe RGB)</translation>
+    </message>
+    <message>
+        <source>Color (16 bits)</source>
+        <translation>Farbe (16 Bit)</translation>
+    </message>
+    <message>
+        <source>Black and white (16 bits)</source>
+        <translation>Schwarzweiß (16 Bit)</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>Entwurf</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Best</source>
+        <translation>Beste</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>Schnell</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>First page first</source>
+        <translation>Erste Seite zuerst</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Letzte Seite zuerst</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Printer’s default</source>
+        <translation>Vorgabe des Druckers</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Anderes</translation>
+    </message>
+    <message>
+        <source>Paper source</source>
+        <translation>Papierzufuhr</translation>
+    </message>
+    <message>
+        <source>Paper type</source>
+        <translation>Papierart</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message>
+        <source>Output tray</source>
+        <translation>Ausgabefach</translation>
+    </message>
+    <message>
+        <source>Stapling</source>
+        <translation>Heftung</translation>
+    </message>
+    <message>
+        <source>Folding</source>
+        <translation>Falzung</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Lochung</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Endverarbeitung</translation>
+    </message>
+    <message>
+        <source>Cutting</source>
+        <translation>Schneiden</translation>
+    </message>
+    <message>
+        <source>Page order</source>
+        <translation>Seitenfolge</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>Sortieren</translation>
+    </message>
+    <message>
+        <source>Pages per sheet</source>
+        <translation>Seiten pro Blatt</translation>
+    </message>
+    <message>
+        <source>Tray switching</source>
+        <translation>Fachwechsel</translation>
+    </message>
+    <message>
+        <source>Mirror image</source>
+        <translation>Spiegelbild</translation>
+    </message>
+    <message>
+        <source>Negative</source>
+        <translation>Negativ</translation>
+    </message>
+    <message>
+        <source>Smoothing</source>
+        <translation>Glättung</translation>
+    </message>
+    <message>
+        <source>Slip sheets</source>
+        <translation>Trennblätter</translation>
+    </message>
+    <message>
+        <source>Toner saving</source>
+        <translation>Toner sparen</translation>
+    </message>
+    <message>
+        <source>Paper color</source>
+        <translation>Papierfarbe</translation>
+    </message>
+    <message>
+        <source>Paper weight</source>
+        <translation>Papiergewicht</translation>
     </message>
 </context>
 <context>

@@ -101,9 +101,12 @@
         <source>1 page</source>
         <translation>1 page</translation>
     </message>
-    <message>
-        <source>%1 pages</source>
-        <translation>%1 pages</translation>
+    <message numerus="yes">
+        <source>%n pages</source>
+        <translation>
+            <numerusform>%n page</numerusform>
+            <numerusform>%n pages</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -747,16 +750,22 @@
         <translation>%1 × 1 feuille</translation>
     </message>
     <message>
-        <source>%1 × %2 sheets</source>
-        <translation>%1 × %2 feuilles</translation>
-    </message>
-    <message>
         <source>1 sheet</source>
         <translation>1 feuille</translation>
     </message>
-    <message>
-        <source>%1 sheets</source>
-        <translation>%1 feuilles</translation>
+    <message numerus="yes">
+        <source>%1 × %n sheets</source>
+        <translation>
+            <numerusform>%1 × %n feuille</numerusform>
+            <numerusform>%1 × %n feuilles</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheets</source>
+        <translation>
+            <numerusform>%n feuille</numerusform>
+            <numerusform>%n feuilles</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -862,10 +871,6 @@
         <translation>1 option modifiée</translation>
     </message>
     <message>
-        <source>%1 options changed</source>
-        <translation>%1 options modifiées</translation>
-    </message>
-    <message>
         <source>No option changed</source>
         <translation>Aucune option modifiée</translation>
     </message>
@@ -876,6 +881,13 @@
     <message>
         <source>This printer has no more options</source>
         <translation>Cette imprimante n’a pas d’autres options</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n options changed</source>
+        <translation>
+            <numerusform>%n option modifiée</numerusform>
+            <numerusform>%n options modifiées</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1370,14 +1382,6 @@
         <translation>1 agrafe</translation>
     </message>
     <message>
-        <source>%1 staples</source>
-        <translation>%1 agrafes</translation>
-    </message>
-    <message>
-        <source>%1 holes</source>
-        <translation>%1 trous</translation>
-    </message>
-    <message>
         <source>, </source>
         <translation>, </translation>
     </message>
@@ -1396,6 +1400,823 @@
     <message>
         <source>single fold</source>
         <translation>pli simple</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n staples</source>
+        <translation>
+            <numerusform>%n agrafe</numerusform>
+            <numerusform>%n agrafes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 hole</source>
+        <translation>1 trou</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n holes</source>
+        <translation>
+            <numerusform>%n trou</numerusform>
+            <numerusform>%n trous</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>orvek::StandardNames</name>
+    <message>
+        <source>One staple, portrait</source>
+        <translation>Une agrafe, portrait</translation>
+    </message>
+    <message>
+        <source>One staple, landscape</source>
+        <translation>Une agrafe, paysage</translation>
+    </message>
+    <message>
+        <source>Two staples, portrait</source>
+        <translation>Deux agrafes, portrait</translation>
+    </message>
+    <message>
+        <source>Two staples, landscape</source>
+        <translation>Deux agrafes, paysage</translation>
+    </message>
+    <message>
+        <source>Saddle stitch</source>
+        <translation>Piqûre à cheval</translation>
+    </message>
+    <message>
+        <source>Accordion fold</source>
+        <translation>Pli accordéon</translation>
+    </message>
+    <message>
+        <source>Double gate fold</source>
+        <translation>Double pli fenêtre</translation>
+    </message>
+    <message>
+        <source>Gate fold</source>
+        <translation>Pli fenêtre</translation>
+    </message>
+    <message>
+        <source>Half fold</source>
+        <translation>Pli en deux</translation>
+    </message>
+    <message>
+        <source>Half Z fold</source>
+        <translation>Demi-pli en Z</translation>
+    </message>
+    <message>
+        <source>Left gate fold</source>
+        <translation>Pli fenêtre à gauche</translation>
+    </message>
+    <message>
+        <source>Letter fold</source>
+        <translation>Pli roulé</translation>
+    </message>
+    <message>
+        <source>Parallel fold</source>
+        <translation>Pli parallèle</translation>
+    </message>
+    <message>
+        <source>Poster fold</source>
+        <translation>Pli affiche</translation>
+    </message>
+    <message>
+        <source>Right gate fold</source>
+        <translation>Pli fenêtre à droite</translation>
+    </message>
+    <message>
+        <source>Z fold</source>
+        <translation>Pli en Z</translation>
+    </message>
+    <message>
+        <source>Engineering Z fold</source>
+        <translation>Pli en Z pour plans</translation>
+    </message>
+    <message>
+        <source>Saddle fold</source>
+        <translation>Pli à cheval</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>Agrafer</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>Perforer</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <translation>Couverture</translation>
+    </message>
+    <message>
+        <source>Binding</source>
+        <translation>Reliure</translation>
+    </message>
+    <message>
+        <source>Edge stitch</source>
+        <translation>Piqûre à plat</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Plier</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Rogner</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Livret</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>Décalage</translation>
+    </message>
+    <message>
+        <source>Coating</source>
+        <translation>Vernissage</translation>
+    </message>
+    <message>
+        <source>Laminating</source>
+        <translation>Plastification</translation>
+    </message>
+    <message>
+        <source>Two staples</source>
+        <translation>Deux agrafes</translation>
+    </message>
+    <message>
+        <source>Three staples</source>
+        <translation>Trois agrafes</translation>
+    </message>
+    <message>
+        <source>One staple</source>
+        <translation>Une agrafe</translation>
+    </message>
+    <message>
+        <source>Two holes</source>
+        <translation>Deux trous</translation>
+    </message>
+    <message>
+        <source>Three holes</source>
+        <translation>Trois trous</translation>
+    </message>
+    <message>
+        <source>Four holes</source>
+        <translation>Quatre trous</translation>
+    </message>
+    <message>
+        <source>Many holes</source>
+        <translation>Plusieurs trous</translation>
+    </message>
+    <message>
+        <source>One hole</source>
+        <translation>Un trou</translation>
+    </message>
+    <message>
+        <source>After each page</source>
+        <translation>Après chaque page</translation>
+    </message>
+    <message>
+        <source>After each document</source>
+        <translation>Après chaque document</translation>
+    </message>
+    <message>
+        <source>After each copy</source>
+        <translation>Après chaque exemplaire</translation>
+    </message>
+    <message>
+        <source>After the job</source>
+        <translation>Après le travail</translation>
+    </message>
+    <message>
+        <source>top left</source>
+        <translation>en haut à gauche</translation>
+    </message>
+    <message>
+        <source>top right</source>
+        <translation>en haut à droite</translation>
+    </message>
+    <message>
+        <source>bottom left</source>
+        <translation>en bas à gauche</translation>
+    </message>
+    <message>
+        <source>bottom right</source>
+        <translation>en bas à droite</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>à gauche</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>à droite</translation>
+    </message>
+    <message>
+        <source>top</source>
+        <translation>en haut</translation>
+    </message>
+    <message>
+        <source>bottom</source>
+        <translation>en bas</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 dpi</source>
+        <translation>%1 ppp</translation>
+    </message>
+    <message>
+        <source>%1 × %2 dpi</source>
+        <translation>%1 × %2 ppp</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>Paper size for manual feed</source>
+        <translation>Format du papier en alimentation manuelle</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>Format du papier</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personnalisé</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Installed equipment</source>
+        <translation>Équipements installés</translation>
+    </message>
+    <message>
+        <source>Further options</source>
+        <translation>Autres options</translation>
+    </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>Recto verso</translation>
+    </message>
+    <message>
+        <source>Upper tray</source>
+        <translation>Bac supérieur</translation>
+    </message>
+    <message>
+        <source>Middle tray</source>
+        <translation>Bac central</translation>
+    </message>
+    <message>
+        <source>Lower tray</source>
+        <translation>Bac inférieur</translation>
+    </message>
+    <message>
+        <source>Rear tray</source>
+        <translation>Bac arrière</translation>
+    </message>
+    <message>
+        <source>Side tray</source>
+        <translation>Bac latéral</translation>
+    </message>
+    <message>
+        <source>Left tray</source>
+        <translation>Bac gauche</translation>
+    </message>
+    <message>
+        <source>Right tray</source>
+        <translation>Bac droit</translation>
+    </message>
+    <message>
+        <source>Center tray</source>
+        <translation>Bac du milieu</translation>
+    </message>
+    <message>
+        <source>Manual feed</source>
+        <translation>Alimentation manuelle</translation>
+    </message>
+    <message>
+        <source>Bypass tray</source>
+        <translation>Départ manuel</translation>
+    </message>
+    <message>
+        <source>Multipurpose tray</source>
+        <translation>Bac polyvalent</translation>
+    </message>
+    <message>
+        <source>Large-capacity tray</source>
+        <translation>Bac grande capacité</translation>
+    </message>
+    <message>
+        <source>Envelope feeder</source>
+        <translation>Chargeur d’enveloppes</translation>
+    </message>
+    <message>
+        <source>Main tray</source>
+        <translation>Bac principal</translation>
+    </message>
+    <message>
+        <source>Alternate tray</source>
+        <translation>Bac alternatif</translation>
+    </message>
+    <message>
+        <source>Photo tray</source>
+        <translation>Bac photo</translation>
+    </message>
+    <message>
+        <source>Disc tray</source>
+        <translation>Plateau pour disques</translation>
+    </message>
+    <message>
+        <source>Cassette</source>
+        <translation>Cassette</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Rouleau</translation>
+    </message>
+    <message>
+        <source>Tractor feed</source>
+        <translation>Alimentation par tracteur</translation>
+    </message>
+    <message>
+        <source>Tray %1</source>
+        <translation>Magasin %1</translation>
+    </message>
+    <message>
+        <source>Cassette %1</source>
+        <translation>Cassette %1</translation>
+    </message>
+    <message>
+        <source>Roll %1</source>
+        <translation>Rouleau %1</translation>
+    </message>
+    <message>
+        <source>Standard tray</source>
+        <translation>Bac standard</translation>
+    </message>
+    <message>
+        <source>Face down</source>
+        <translation>Face imprimée vers le bas</translation>
+    </message>
+    <message>
+        <source>Face up</source>
+        <translation>Face imprimée vers le haut</translation>
+    </message>
+    <message>
+        <source>Stacker</source>
+        <translation>Empileur</translation>
+    </message>
+    <message>
+        <source>Mailbox</source>
+        <translation>Boîte aux lettres</translation>
+    </message>
+    <message>
+        <source>Finisher tray</source>
+        <translation>Bac du finisseur</translation>
+    </message>
+    <message>
+        <source>Booklet tray</source>
+        <translation>Bac à livrets</translation>
+    </message>
+    <message>
+        <source>Stacker %1</source>
+        <translation>Empileur %1</translation>
+    </message>
+    <message>
+        <source>Mailbox %1</source>
+        <translation>Boîte aux lettres %1</translation>
+    </message>
+    <message>
+        <source>Plain</source>
+        <translation>Ordinaire</translation>
+    </message>
+    <message>
+        <source>Recycled</source>
+        <translation>Recyclé</translation>
+    </message>
+    <message>
+        <source>Letterhead</source>
+        <translation>En-tête</translation>
+    </message>
+    <message>
+        <source>Prepunched</source>
+        <translation>Perforé</translation>
+    </message>
+    <message>
+        <source>Preprinted</source>
+        <translation>Préimprimé</translation>
+    </message>
+    <message>
+        <source>Bond</source>
+        <translation>Papier bond</translation>
+    </message>
+    <message>
+        <source>Heavy</source>
+        <translation>Épais</translation>
+    </message>
+    <message>
+        <source>Thin</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Coated</source>
+        <translation>Couché</translation>
+    </message>
+    <message>
+        <source>Card stock</source>
+        <translation>Cartonné</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Étiquettes</translation>
+    </message>
+    <message>
+        <source>Transparencies</source>
+        <translation>Transparents</translation>
+    </message>
+    <message>
+        <source>Envelopes</source>
+        <translation>Enveloppes</translation>
+    </message>
+    <message>
+        <source>Glossy</source>
+        <translation>Brillant</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>Papier photo</translation>
+    </message>
+    <message>
+        <source>High-gloss photo paper</source>
+        <translation>Papier photo très brillant</translation>
+    </message>
+    <message>
+        <source>Matte photo paper</source>
+        <translation>Papier photo mat</translation>
+    </message>
+    <message>
+        <source>Semi-gloss photo paper</source>
+        <translation>Papier photo satiné</translation>
+    </message>
+    <message>
+        <source>Matte</source>
+        <translation>Mat</translation>
+    </message>
+    <message>
+        <source>Colored</source>
+        <translation>Papier couleur</translation>
+    </message>
+    <message>
+        <source>Rough</source>
+        <translation>Rugueux</translation>
+    </message>
+    <message>
+        <source>Tab stock</source>
+        <translation>Intercalaires</translation>
+    </message>
+    <message>
+        <source>Vellum</source>
+        <translation>Vélin</translation>
+    </message>
+    <message>
+        <source>Continuous</source>
+        <translation>Continu</translation>
+    </message>
+    <message>
+        <source>Disc</source>
+        <translation>Disque</translation>
+    </message>
+    <message>
+        <source>Fine paper</source>
+        <translation>Papier fin</translation>
+    </message>
+    <message>
+        <source>Cotton</source>
+        <translation>Coton</translation>
+    </message>
+    <message>
+        <source>US Letter</source>
+        <translation>US Letter</translation>
+    </message>
+    <message>
+        <source>US Legal</source>
+        <translation>US Legal</translation>
+    </message>
+    <message>
+        <source>Tabloid</source>
+        <translation>Tabloïd</translation>
+    </message>
+    <message>
+        <source>Ledger</source>
+        <translation>Ledger</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>US Statement</translation>
+    </message>
+    <message>
+        <source>Executive</source>
+        <translation>US Executive</translation>
+    </message>
+    <message>
+        <source>Folio</source>
+        <translation>Folio</translation>
+    </message>
+    <message>
+        <source>Oficio</source>
+        <translation>Oficio</translation>
+    </message>
+    <message>
+        <source>Postcard</source>
+        <translation>Carte postale</translation>
+    </message>
+    <message>
+        <source>Double postcard</source>
+        <translation>Double carte postale</translation>
+    </message>
+    <message>
+        <source>Envelope No. 10</source>
+        <translation>Enveloppe nº 10</translation>
+    </message>
+    <message>
+        <source>Envelope No. 9</source>
+        <translation>Enveloppe nº 9</translation>
+    </message>
+    <message>
+        <source>Envelope DL</source>
+        <translation>Enveloppe DL</translation>
+    </message>
+    <message>
+        <source>Envelope C4</source>
+        <translation>Enveloppe C4</translation>
+    </message>
+    <message>
+        <source>Envelope C5</source>
+        <translation>Enveloppe C5</translation>
+    </message>
+    <message>
+        <source>Envelope C6</source>
+        <translation>Enveloppe C6</translation>
+    </message>
+    <message>
+        <source>Envelope B5</source>
+        <translation>Enveloppe B5</translation>
+    </message>
+    <message>
+        <source>Envelope Monarch</source>
+        <translation>Enveloppe Monarch</translation>
+    </message>
+    <message>
+        <source>Envelope A2</source>
+        <translation>Enveloppe A2</translation>
+    </message>
+    <message>
+        <source>B4 (ISO)</source>
+        <translation>B4 (ISO)</translation>
+    </message>
+    <message>
+        <source>B5 (ISO)</source>
+        <translation>B5 (ISO)</translation>
+    </message>
+    <message>
+        <source>B4 (JIS)</source>
+        <translation>B4 (JIS)</translation>
+    </message>
+    <message>
+        <source>B5 (JIS)</source>
+        <translation>B5 (JIS)</translation>
+    </message>
+    <message>
+        <source>B6 (JIS)</source>
+        <translation>B6 (JIS)</translation>
+    </message>
+    <message>
+        <source>A3 oversize</source>
+        <translation>A3 allongé</translation>
+    </message>
+    <message>
+        <source>3 × 5 in</source>
+        <translation>3 × 5 po</translation>
+    </message>
+    <message>
+        <source>4 × 6 in</source>
+        <translation>4 × 6 po</translation>
+    </message>
+    <message>
+        <source>5 × 7 in</source>
+        <translation>5 × 7 po</translation>
+    </message>
+    <message>
+        <source>5 × 8 in</source>
+        <translation>5 × 8 po</translation>
+    </message>
+    <message>
+        <source>8 × 10 in</source>
+        <translation>8 × 10 po</translation>
+    </message>
+    <message>
+        <source>US Foolscap</source>
+        <translation>US Foolscap</translation>
+    </message>
+    <message>
+        <source>%1, borderless</source>
+        <translation>%1, sans marges</translation>
+    </message>
+    <message>
+        <source>%1, rotated</source>
+        <translation>%1, pivoté</translation>
+    </message>
+    <message>
+        <source>%1, oversize</source>
+        <translation>%1, grand format</translation>
+    </message>
+    <message>
+        <source>%1, large margins</source>
+        <translation>%1, grandes marges</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>Long edge</source>
+        <translation>Bord long</translation>
+    </message>
+    <message>
+        <source>Short edge</source>
+        <translation>Bord court</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>Noir et blanc</translation>
+    </message>
+    <message>
+        <source>Pure black and white</source>
+        <translation>Noir et blanc pur</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Color (CMYK)</source>
+        <translation>Couleur (CMJN)</translation>
+    </message>
+    <message>
+        <source>Color (CMY)</source>
+        <translation>Couleur (CMJ)</translation>
+    </message>
+    <message>
+        <source>Color (Adobe RGB)</source>
+        <translation>Couleur (Adobe RGB)</translation>
+    </message>
+    <message>
+        <source>Color (16 bits)</source>
+        <translation>Couleur (16 bits)</translation>
+    </message>
+    <message>
+        <source>Black and white (16 bits)</source>
+        <translation>Noir et blanc (16 bits)</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>Brouillon</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normale</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Élevée</translation>
+    </message>
+    <message>
+        <source>Best</source>
+        <translation>Optimale</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>Rapide</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Photo</translation>
+    </message>
+    <message>
+        <source>First page first</source>
+        <translation>Première page en premier</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Dernière page en premier</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>Printer’s default</source>
+        <translation>Valeur de l’imprimante</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Autre</translation>
+    </message>
+    <message>
+        <source>Paper source</source>
+        <translation>Source du papier</translation>
+    </message>
+    <message>
+        <source>Paper type</source>
+        <translation>Type de papier</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message>
+        <source>Output tray</source>
+        <translation>Bac de sortie</translation>
+    </message>
+    <message>
+        <source>Stapling</source>
+        <translation>Agrafage</translation>
+    </message>
+    <message>
+        <source>Folding</source>
+        <translation>Pliage</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>Perforation</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Finition</translation>
+    </message>
+    <message>
+        <source>Cutting</source>
+        <translation>Coupe</translation>
+    </message>
+    <message>
+        <source>Page order</source>
+        <translation>Ordre des pages</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Résolution</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>Assembler</translation>
+    </message>
+    <message>
+        <source>Pages per sheet</source>
+        <translation>Pages par feuille</translation>
+    </message>
+    <message>
+        <source>Tray switching</source>
+        <translation>Changement de bac</translation>
+    </message>
+    <message>
+        <source>Mirror image</source>
+        <translation>Image miroir</translation>
+    </message>
+    <message>
+        <source>Negative</source>
+        <translation>Négatif</translation>
+    </message>
+    <message>
+        <source>Smoothing</source>
+        <translation>Lissage</translation>
+    </message>
+    <message>
+        <source>Slip sheets</source>
+        <translation>Feuilles intercalaires</translation>
+    </message>
+    <message>
+        <source>Toner saving</source>
+        <translation>Économie de toner</translation>
+    </message>
+    <message>
+        <source>Paper color</source>
+        <translation>Couleur du papier</translation>
+    </message>
+    <message>
+        <source>Paper weight</source>
+        <translation>Grammage</translation>
     </message>
 </context>
 <context>

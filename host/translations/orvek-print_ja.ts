@@ -101,9 +101,11 @@
         <source>1 page</source>
         <translation>1 ページ</translation>
     </message>
-    <message>
-        <source>%1 pages</source>
-        <translation>%1 ページ</translation>
+    <message numerus="yes">
+        <source>%n pages</source>
+        <translation>
+            <numerusform>%n ページ</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -747,16 +749,20 @@
         <translation>%1 × 1 枚</translation>
     </message>
     <message>
-        <source>%1 × %2 sheets</source>
-        <translation>%1 × %2 枚</translation>
-    </message>
-    <message>
         <source>1 sheet</source>
         <translation>1 枚</translation>
     </message>
-    <message>
-        <source>%1 sheets</source>
-        <translation>%1 枚</translation>
+    <message numerus="yes">
+        <source>%1 × %n sheets</source>
+        <translation>
+            <numerusform>%1 × %n 枚</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n sheets</source>
+        <translation>
+            <numerusform>%n 枚</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -786,7 +792,7 @@
     </message>
     <message>
         <source>A booklet of %1 sheets is more than the printer folds at once: at most %2</source>
-        <translation>%1 枚の小冊子は一度に折れる枚数 (最大 %2 枚) を超えています</translation>
+        <translation>%1 枚の小冊子は、プリンターが一度に折れる枚数 (最大 %2 枚) を超えています</translation>
     </message>
     <message>
         <source>The document has no page %1: the number of its pages is %2</source>
@@ -862,20 +868,22 @@
         <translation>1 個のオプションを変更</translation>
     </message>
     <message>
-        <source>%1 options changed</source>
-        <translation>%1 個のオプションを変更</translation>
-    </message>
-    <message>
         <source>No option changed</source>
-        <translation>変更なし</translation>
+        <translation>オプションの変更なし</translation>
     </message>
     <message>
         <source>No option found</source>
-        <translation>見つかりません</translation>
+        <translation>オプションが見つかりません</translation>
     </message>
     <message>
         <source>This printer has no more options</source>
         <translation>このプリンターに他のオプションはありません</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n options changed</source>
+        <translation>
+            <numerusform>%n 個のオプションを変更</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -886,7 +894,7 @@
     </message>
     <message>
         <source>Return opens an option&apos;s choices or switches it, Delete sets it back</source>
-        <translation>Enter で選択肢を開くか切り替え、Delete で元に戻します</translation>
+        <translation>Enter でオプションの選択肢を開くか切り替え、Delete で元に戻します</translation>
     </message>
 </context>
 <context>
@@ -1190,11 +1198,11 @@
     </message>
     <message>
         <source>The printer&apos;s filter can be changed by others and is not run</source>
-        <translation>フィルターが他の人に変更可能なため実行されません</translation>
+        <translation>プリンターのフィルターが他の人に変更可能なため実行されません</translation>
     </message>
     <message>
         <source>The printer&apos;s filter is missing</source>
-        <translation>フィルターがありません</translation>
+        <translation>プリンターのフィルターがありません</translation>
     </message>
     <message>
         <source>A door is open</source>
@@ -1370,14 +1378,6 @@
         <translation>ホチキス 1 か所</translation>
     </message>
     <message>
-        <source>%1 staples</source>
-        <translation>ホチキス %1 か所</translation>
-    </message>
-    <message>
-        <source>%1 holes</source>
-        <translation>パンチ穴 %1 個</translation>
-    </message>
-    <message>
         <source>, </source>
         <translation>、</translation>
     </message>
@@ -1396,6 +1396,821 @@
     <message>
         <source>single fold</source>
         <translation>二つ折り</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n staples</source>
+        <translation>
+            <numerusform>ホチキス %n か所</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 hole</source>
+        <translation>パンチ穴 1 個</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n holes</source>
+        <translation>
+            <numerusform>パンチ穴 %n 個</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>orvek::StandardNames</name>
+    <message>
+        <source>One staple, portrait</source>
+        <translation>1か所（縦）</translation>
+    </message>
+    <message>
+        <source>One staple, landscape</source>
+        <translation>1か所（横）</translation>
+    </message>
+    <message>
+        <source>Two staples, portrait</source>
+        <translation>2か所（縦）</translation>
+    </message>
+    <message>
+        <source>Two staples, landscape</source>
+        <translation>2か所（横）</translation>
+    </message>
+    <message>
+        <source>Saddle stitch</source>
+        <translation>中とじ</translation>
+    </message>
+    <message>
+        <source>Accordion fold</source>
+        <translation>蛇腹折り</translation>
+    </message>
+    <message>
+        <source>Double gate fold</source>
+        <translation>両観音折り</translation>
+    </message>
+    <message>
+        <source>Gate fold</source>
+        <translation>観音折り</translation>
+    </message>
+    <message>
+        <source>Half fold</source>
+        <translation>半折り</translation>
+    </message>
+    <message>
+        <source>Half Z fold</source>
+        <translation>片袖折り</translation>
+    </message>
+    <message>
+        <source>Left gate fold</source>
+        <translation>左片観音折り</translation>
+    </message>
+    <message>
+        <source>Letter fold</source>
+        <translation>内三つ折り</translation>
+    </message>
+    <message>
+        <source>Parallel fold</source>
+        <translation>平行折り</translation>
+    </message>
+    <message>
+        <source>Poster fold</source>
+        <translation>ポスター折り</translation>
+    </message>
+    <message>
+        <source>Right gate fold</source>
+        <translation>右片観音折り</translation>
+    </message>
+    <message>
+        <source>Z fold</source>
+        <translation>Z折り</translation>
+    </message>
+    <message>
+        <source>Engineering Z fold</source>
+        <translation>図面Z折り</translation>
+    </message>
+    <message>
+        <source>Saddle fold</source>
+        <translation>中とじ折り</translation>
+    </message>
+    <message>
+        <source>Staple</source>
+        <translation>ステープル</translation>
+    </message>
+    <message>
+        <source>Punch</source>
+        <translation>パンチ</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <translation>表紙</translation>
+    </message>
+    <message>
+        <source>Binding</source>
+        <translation>製本</translation>
+    </message>
+    <message>
+        <source>Edge stitch</source>
+        <translation>端とじ</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>折り</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>断裁</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>小冊子</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>オフセット</translation>
+    </message>
+    <message>
+        <source>Coating</source>
+        <translation>コーティング</translation>
+    </message>
+    <message>
+        <source>Laminating</source>
+        <translation>ラミネート</translation>
+    </message>
+    <message>
+        <source>Two staples</source>
+        <translation>2か所とじ</translation>
+    </message>
+    <message>
+        <source>Three staples</source>
+        <translation>3か所とじ</translation>
+    </message>
+    <message>
+        <source>One staple</source>
+        <translation>1か所とじ</translation>
+    </message>
+    <message>
+        <source>Two holes</source>
+        <translation>2穴</translation>
+    </message>
+    <message>
+        <source>Three holes</source>
+        <translation>3穴</translation>
+    </message>
+    <message>
+        <source>Four holes</source>
+        <translation>4穴</translation>
+    </message>
+    <message>
+        <source>Many holes</source>
+        <translation>多穴</translation>
+    </message>
+    <message>
+        <source>One hole</source>
+        <translation>1穴</translation>
+    </message>
+    <message>
+        <source>After each page</source>
+        <translation>1ページごと</translation>
+    </message>
+    <message>
+        <source>After each document</source>
+        <translation>1文書ごと</translation>
+    </message>
+    <message>
+        <source>After each copy</source>
+        <translation>1部ごと</translation>
+    </message>
+    <message>
+        <source>After the job</source>
+        <translation>ジョブの終わり</translation>
+    </message>
+    <message>
+        <source>top left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>top right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>bottom left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>bottom right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>top</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>bottom</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>%1 dpi</source>
+        <translation>%1 dpi</translation>
+    </message>
+    <message>
+        <source>%1 × %2 dpi</source>
+        <translation>%1 × %2 dpi</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>Paper size for manual feed</source>
+        <translation>手差しの用紙サイズ</translation>
+    </message>
+    <message>
+        <source>Paper size</source>
+        <translation>用紙サイズ</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>カスタム</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>Installed equipment</source>
+        <translation>装着オプション</translation>
+    </message>
+    <message>
+        <source>Further options</source>
+        <translation>その他のオプション</translation>
+    </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>両面印刷</translation>
+    </message>
+    <message>
+        <source>Upper tray</source>
+        <translation>上段トレイ</translation>
+    </message>
+    <message>
+        <source>Middle tray</source>
+        <translation>中段トレイ</translation>
+    </message>
+    <message>
+        <source>Lower tray</source>
+        <translation>下段トレイ</translation>
+    </message>
+    <message>
+        <source>Rear tray</source>
+        <translation>後ろトレイ</translation>
+    </message>
+    <message>
+        <source>Side tray</source>
+        <translation>側面トレイ</translation>
+    </message>
+    <message>
+        <source>Left tray</source>
+        <translation>左トレイ</translation>
+    </message>
+    <message>
+        <source>Right tray</source>
+        <translation>右トレイ</translation>
+    </message>
+    <message>
+        <source>Center tray</source>
+        <translation>中央トレイ</translation>
+    </message>
+    <message>
+        <source>Manual feed</source>
+        <translation>手差し給紙</translation>
+    </message>
+    <message>
+        <source>Bypass tray</source>
+        <translation>手差しトレイ</translation>
+    </message>
+    <message>
+        <source>Multipurpose tray</source>
+        <translation>多目的トレイ</translation>
+    </message>
+    <message>
+        <source>Large-capacity tray</source>
+        <translation>大容量トレイ</translation>
+    </message>
+    <message>
+        <source>Envelope feeder</source>
+        <translation>封筒フィーダー</translation>
+    </message>
+    <message>
+        <source>Main tray</source>
+        <translation>メイントレイ</translation>
+    </message>
+    <message>
+        <source>Alternate tray</source>
+        <translation>代替トレイ</translation>
+    </message>
+    <message>
+        <source>Photo tray</source>
+        <translation>フォトトレイ</translation>
+    </message>
+    <message>
+        <source>Disc tray</source>
+        <translation>ディスクトレイ</translation>
+    </message>
+    <message>
+        <source>Cassette</source>
+        <translation>カセット</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>ロール紙</translation>
+    </message>
+    <message>
+        <source>Tractor feed</source>
+        <translation>トラクターフィード</translation>
+    </message>
+    <message>
+        <source>Tray %1</source>
+        <translation>トレイ %1</translation>
+    </message>
+    <message>
+        <source>Cassette %1</source>
+        <translation>カセット %1</translation>
+    </message>
+    <message>
+        <source>Roll %1</source>
+        <translation>ロール紙 %1</translation>
+    </message>
+    <message>
+        <source>Standard tray</source>
+        <translation>標準トレイ</translation>
+    </message>
+    <message>
+        <source>Face down</source>
+        <translation>裏向き排紙</translation>
+    </message>
+    <message>
+        <source>Face up</source>
+        <translation>表向き排紙</translation>
+    </message>
+    <message>
+        <source>Stacker</source>
+        <translation>スタッカー</translation>
+    </message>
+    <message>
+        <source>Mailbox</source>
+        <translation>メールボックス</translation>
+    </message>
+    <message>
+        <source>Finisher tray</source>
+        <translation>フィニッシャートレイ</translation>
+    </message>
+    <message>
+        <source>Booklet tray</source>
+        <translation>小冊子トレイ</translation>
+    </message>
+    <message>
+        <source>Stacker %1</source>
+        <translation>スタッカー %1</translation>
+    </message>
+    <message>
+        <source>Mailbox %1</source>
+        <translation>メールボックス %1</translation>
+    </message>
+    <message>
+        <source>Plain</source>
+        <translation>普通紙</translation>
+    </message>
+    <message>
+        <source>Recycled</source>
+        <translation>再生紙</translation>
+    </message>
+    <message>
+        <source>Letterhead</source>
+        <translation>レターヘッド</translation>
+    </message>
+    <message>
+        <source>Prepunched</source>
+        <translation>穴あき紙</translation>
+    </message>
+    <message>
+        <source>Preprinted</source>
+        <translation>印刷済み用紙</translation>
+    </message>
+    <message>
+        <source>Bond</source>
+        <translation>ボンド紙</translation>
+    </message>
+    <message>
+        <source>Heavy</source>
+        <translation>厚紙</translation>
+    </message>
+    <message>
+        <source>Thin</source>
+        <translation>薄紙</translation>
+    </message>
+    <message>
+        <source>Coated</source>
+        <translation>コート紙</translation>
+    </message>
+    <message>
+        <source>Card stock</source>
+        <translation>カード紙</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>ラベル紙</translation>
+    </message>
+    <message>
+        <source>Transparencies</source>
+        <translation>OHPフィルム</translation>
+    </message>
+    <message>
+        <source>Envelopes</source>
+        <translation>封筒</translation>
+    </message>
+    <message>
+        <source>Glossy</source>
+        <translation>光沢紙</translation>
+    </message>
+    <message>
+        <source>Photo paper</source>
+        <translation>写真用紙</translation>
+    </message>
+    <message>
+        <source>High-gloss photo paper</source>
+        <translation>写真用紙（高光沢）</translation>
+    </message>
+    <message>
+        <source>Matte photo paper</source>
+        <translation>写真用紙（マット）</translation>
+    </message>
+    <message>
+        <source>Semi-gloss photo paper</source>
+        <translation>写真用紙（半光沢）</translation>
+    </message>
+    <message>
+        <source>Matte</source>
+        <translation>マット紙</translation>
+    </message>
+    <message>
+        <source>Colored</source>
+        <translation>色紙</translation>
+    </message>
+    <message>
+        <source>Rough</source>
+        <translation>粗い用紙</translation>
+    </message>
+    <message>
+        <source>Tab stock</source>
+        <translation>タブ紙</translation>
+    </message>
+    <message>
+        <source>Vellum</source>
+        <translation>ベラム紙</translation>
+    </message>
+    <message>
+        <source>Continuous</source>
+        <translation>連続紙</translation>
+    </message>
+    <message>
+        <source>Disc</source>
+        <translation>ディスク</translation>
+    </message>
+    <message>
+        <source>Fine paper</source>
+        <translation>上質紙</translation>
+    </message>
+    <message>
+        <source>Cotton</source>
+        <translation>コットン紙</translation>
+    </message>
+    <message>
+        <source>US Letter</source>
+        <translation>レター</translation>
+    </message>
+    <message>
+        <source>US Legal</source>
+        <translation>リーガル</translation>
+    </message>
+    <message>
+        <source>Tabloid</source>
+        <translation>タブロイド</translation>
+    </message>
+    <message>
+        <source>Ledger</source>
+        <translation>レジャー</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>ステートメント</translation>
+    </message>
+    <message>
+        <source>Executive</source>
+        <translation>エグゼクティブ</translation>
+    </message>
+    <message>
+        <source>Folio</source>
+        <translation>フォリオ</translation>
+    </message>
+    <message>
+        <source>Oficio</source>
+        <translation>オフィシオ</translation>
+    </message>
+    <message>
+        <source>Postcard</source>
+        <translation>郵便はがき</translation>
+    </message>
+    <message>
+        <source>Double postcard</source>
+        <translation>往復はがき</translation>
+    </message>
+    <message>
+        <source>Envelope No. 10</source>
+        <translation>封筒 10号</translation>
+    </message>
+    <message>
+        <source>Envelope No. 9</source>
+        <translation>封筒 9号</translation>
+    </message>
+    <message>
+        <source>Envelope DL</source>
+        <translation>封筒 DL</translation>
+    </message>
+    <message>
+        <source>Envelope C4</source>
+        <translation>封筒 C4</translation>
+    </message>
+    <message>
+        <source>Envelope C5</source>
+        <translation>封筒 C5</translation>
+    </message>
+    <message>
+        <source>Envelope C6</source>
+        <translation>封筒 C6</translation>
+    </message>
+    <message>
+        <source>Envelope B5</source>
+        <translation>封筒 B5</translation>
+    </message>
+    <message>
+        <source>Envelope Monarch</source>
+        <translation>封筒 モナーク</translation>
+    </message>
+    <message>
+        <source>Envelope A2</source>
+        <translation>封筒 A2</translation>
+    </message>
+    <message>
+        <source>B4 (ISO)</source>
+        <translation>B4（ISO）</translation>
+    </message>
+    <message>
+        <source>B5 (ISO)</source>
+        <translation>B5（ISO）</translation>
+    </message>
+    <message>
+        <source>B4 (JIS)</source>
+        <translation>B4（JIS）</translation>
+    </message>
+    <message>
+        <source>B5 (JIS)</source>
+        <translation>B5（JIS）</translation>
+    </message>
+    <message>
+        <source>B6 (JIS)</source>
+        <translation>B6（JIS）</translation>
+    </message>
+    <message>
+        <source>A3 oversize</source>
+        <translation>A3ノビ</translation>
+    </message>
+    <message>
+        <source>3 × 5 in</source>
+        <translation>3 × 5 インチ</translation>
+    </message>
+    <message>
+        <source>4 × 6 in</source>
+        <translation>4 × 6 インチ</translation>
+    </message>
+    <message>
+        <source>5 × 7 in</source>
+        <translation>5 × 7 インチ</translation>
+    </message>
+    <message>
+        <source>5 × 8 in</source>
+        <translation>5 × 8 インチ</translation>
+    </message>
+    <message>
+        <source>8 × 10 in</source>
+        <translation>8 × 10 インチ</translation>
+    </message>
+    <message>
+        <source>US Foolscap</source>
+        <translation>フールスキャップ</translation>
+    </message>
+    <message>
+        <source>%1, borderless</source>
+        <translation>%1（フチなし）</translation>
+    </message>
+    <message>
+        <source>%1, rotated</source>
+        <translation>%1（回転）</translation>
+    </message>
+    <message>
+        <source>%1, oversize</source>
+        <translation>%1（ノビ）</translation>
+    </message>
+    <message>
+        <source>%1, large margins</source>
+        <translation>%1（余白大）</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>Long edge</source>
+        <translation>長辺とじ</translation>
+    </message>
+    <message>
+        <source>Short edge</source>
+        <translation>短辺とじ</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>白黒</translation>
+    </message>
+    <message>
+        <source>Pure black and white</source>
+        <translation>白黒（2値）</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>カラー</translation>
+    </message>
+    <message>
+        <source>Color (CMYK)</source>
+        <translation>カラー（CMYK）</translation>
+    </message>
+    <message>
+        <source>Color (CMY)</source>
+        <translation>カラー（CMY）</translation>
+    </message>
+    <message>
+        <source>Color (Adobe RGB)</source>
+        <translation>カラー（Adobe RGB）</translation>
+    </message>
+    <message>
+        <source>Color (16 bits)</source>
+        <translation>カラー（16ビット）</translation>
+    </message>
+    <message>
+        <source>Black and white (16 bits)</source>
+        <translation>白黒（16ビット）</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>下書き</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>きれい</translation>
+    </message>
+    <message>
+        <source>Best</source>
+        <translation>最高</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>高速</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>スタンダード</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>写真</translation>
+    </message>
+    <message>
+        <source>First page first</source>
+        <translation>先頭ページから</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>最後のページから</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Printer’s default</source>
+        <translation>プリンターの既定値</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>その他</translation>
+    </message>
+    <message>
+        <source>Paper source</source>
+        <translation>給紙元</translation>
+    </message>
+    <message>
+        <source>Paper type</source>
+        <translation>用紙の種類</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>品質</translation>
+    </message>
+    <message>
+        <source>Output tray</source>
+        <translation>排紙先</translation>
+    </message>
+    <message>
+        <source>Stapling</source>
+        <translation>ステープル</translation>
+    </message>
+    <message>
+        <source>Folding</source>
+        <translation>折り</translation>
+    </message>
+    <message>
+        <source>Hole punch</source>
+        <translation>パンチ</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>仕上げ</translation>
+    </message>
+    <message>
+        <source>Cutting</source>
+        <translation>カット</translation>
+    </message>
+    <message>
+        <source>Page order</source>
+        <translation>ページの順序</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>解像度</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>部単位で印刷</translation>
+    </message>
+    <message>
+        <source>Pages per sheet</source>
+        <translation>1 枚あたりのページ数</translation>
+    </message>
+    <message>
+        <source>Tray switching</source>
+        <translation>トレイ切り替え</translation>
+    </message>
+    <message>
+        <source>Mirror image</source>
+        <translation>左右反転</translation>
+    </message>
+    <message>
+        <source>Negative</source>
+        <translation>ネガ</translation>
+    </message>
+    <message>
+        <source>Smoothing</source>
+        <translation>スムージング</translation>
+    </message>
+    <message>
+        <source>Slip sheets</source>
+        <translation>合紙</translation>
+    </message>
+    <message>
+        <source>Toner saving</source>
+        <translation>トナー節約</translation>
+    </message>
+    <message>
+        <source>Paper color</source>
+        <translation>用紙の色</translation>
+    </message>
+    <message>
+        <source>Paper weight</source>
+        <translation>用紙の厚さ</translation>
     </message>
 </context>
 <context>
@@ -1434,7 +2249,7 @@
     </message>
     <message>
         <source>Order of copies</source>
-        <translation>印刷の順序</translation>
+        <translation>部数の印刷順</translation>
     </message>
     <message>
         <source>Pages</source>

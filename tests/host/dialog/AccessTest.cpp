@@ -8,10 +8,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QTabWidget>
-#include <QTranslator>
 
-#include "host/translations/Translations.h"
 #include "tests/host/dialog/DialogKit.h"
+#include "tests/host/dialog/Languages.h"
 
 using namespace orvek;
 using namespace orvek::test;
@@ -70,12 +69,7 @@ class AccessIn : public Access, public ::testing::WithParamInterface<const char 
  protected:
   void SetUp() override {
     Access::SetUp();
-    const QString file =
-        QStringLiteral(":/translations/orvek-print_%1.qm").arg(QLatin1String(GetParam()));
-    installTranslations();
-    // English is what the program speaks by itself.
-    ASSERT_EQ(translator.load(file), QLatin1String(GetParam()) != QLatin1String("en"));
-    if (!translator.isEmpty()) QCoreApplication::installTranslator(&translator);
+    speech = std::make_unique<SpokenLanguage>(GetParam());
   }
 
   QStringList texts() const {
@@ -92,7 +86,7 @@ class AccessIn : public Access, public ::testing::WithParamInterface<const char 
     return all;
   }
 
-  QTranslator translator;
+  std::unique_ptr<SpokenLanguage> speech;
 };
 
 TEST_P(AccessIn, NoTwoControlsOfAPageHaveOneLetter) {
@@ -134,7 +128,7 @@ TEST_P(AccessIn, EveryGeneralSettingHasALetter) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, AccessIn, ::testing::Values("en", "de", "fr", "ja"));
+INSTANTIATE_TEST_SUITE_P(Each, AccessIn, allLanguages);
 
 TEST_F(Access, TabReachesEveryControlOfThePanel) {
   open();

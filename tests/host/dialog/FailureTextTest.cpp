@@ -15,6 +15,7 @@
 #include "host/ticket/PageRanges.h"
 #include "host/translations/Translations.h"
 #include "tests/host/dialog/DialogKit.h"
+#include "tests/host/dialog/Languages.h"
 
 using namespace orvek;
 using namespace orvek::test;
@@ -75,15 +76,9 @@ QList<Failure> failuresOfTheWindow() {
 
 class FailureTextIn : public DialogTest, public ::testing::WithParamInterface<const char *> {
  protected:
-  void SetUp() override {
-    installTranslations();
-    const QString file =
-        QStringLiteral(":/translations/orvek-print_%1.qm").arg(QLatin1String(GetParam()));
-    ASSERT_TRUE(translator.load(file));
-    QCoreApplication::installTranslator(&translator);
-  }
+  void SetUp() override { speech = std::make_unique<SpokenLanguage>(GetParam()); }
 
-  QTranslator translator;
+  std::unique_ptr<SpokenLanguage> speech;
 };
 
 TEST_P(FailureTextIn, IsNotTheEnglishOne) {
@@ -108,7 +103,7 @@ TEST_P(FailureTextIn, StandsInTheWindow) {
   EXPECT_FALSE(notices().sentences().first().contains(QStringLiteral("give the preset a name")));
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, FailureTextIn, ::testing::Values("de", "fr", "ja"));
+INSTANTIATE_TEST_SUITE_P(Each, FailureTextIn, otherLanguages);
 
 TEST(FailureText, TranslatesThePartsOfASentenceToo) {
   installTranslations();

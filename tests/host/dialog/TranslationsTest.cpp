@@ -9,40 +9,15 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QXmlStreamReader>
 
+#include "tests/host/dialog/Catalogue.h"
+#include "tests/host/dialog/Languages.h"
 #include "tests/support/Printers.h"
 
+using namespace orvek::test;
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
-
-struct Message {
-  QString source;
-  QString translation;
-  bool isFinished = true;
-  QString context;
-};
-
-QString fileOf(const QString &language) {
-  return QStringLiteral(ORVEK_SOURCE_DIR "/host/translations/orvek-print_%1.ts").arg(language);
-}
-
-QList<Message> messagesIn(const QString &path) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) return {};
-  QXmlStreamReader reader(&file);
-  QList<Message> messages;
-  QString context;
-  while (!reader.atEnd()) {
-    if (reader.readNext() != QXmlStreamReader::StartElement) continue;
-    if (reader.name() == u"name") context = reader.readElementText();
-    if (reader.name() == u"source") messages.append({reader.readElementText(), {}, true, context});
-    if (reader.name() == u"translation") {
-      messages.last().isFinished = !reader.attributes().hasAttribute(QStringLiteral("type"));
-      messages.last().translation = reader.readElementText();
-    }
-  }
-  return messages;
-}
 
 QStringList sourcesOf(const QList<Message> &messages) {
   QStringList sources;
@@ -65,7 +40,7 @@ QStringList programSources() {
 QList<Message> messagesReadAgain(const QString &language) {
   const QTemporaryDir folder;
   const QString copy = folder.filePath(QStringLiteral("again.ts"));
-  if (!QFile::copy(fileOf(language), copy)) return {};
+  if (!QFile::copy(catalogueOf(language), copy)) return {};
   const QStringList options{QStringLiteral("-silent"),    QStringLiteral("-no-obsolete"),
                             QStringLiteral("-locations"), QStringLiteral("none"),
                             QStringLiteral("-I"),         QStringLiteral(ORVEK_SOURCE_DIR)};
@@ -76,7 +51,7 @@ QList<Message> messagesReadAgain(const QString &language) {
 }
 
 QStringList placesIn(const QString &text) {
-  static const QRegularExpression place(QStringLiteral("%\\d"));
+  static const QRegularExpression place(QStringLiteral("%[\\dn]"));
   QStringList found;
   for (auto match = place.globalMatch(text); match.hasNext();) found << match.next().captured();
   found.sort();
@@ -85,14 +60,14 @@ QStringList placesIn(const QString &text) {
 
 class Translations : public ::testing::TestWithParam<const char *> {
  protected:
-  QList<Message> messages = messagesIn(fileOf(QLatin1String(GetParam())));
+  QList<Message> messages = messagesIn(catalogueOf(QLatin1String(GetParam())));
 };
 
 TEST_P(Translations, AreComplete) {
   ASSERT_FALSE(messages.isEmpty());
   for (const Message &message : messages) {
-    EXPECT_TRUE(message.isFinished && !message.translation.isEmpty())
-        << message.source.toStdString();
+    EXPECT_TRUE(message.isFinished) << message.source.toStdString();
+    EXPECT_FALSE(message.translations.contains(QString())) << message.source.toStdString();
   }
 }
 
@@ -100,20 +75,33 @@ TEST_P(Translations, HaveEveryTextOfTheProgramAndNoOther) {
   EXPECT_EQ(sourcesOf(messages), sourcesOf(messagesReadAgain(QLatin1String(GetParam()))));
 }
 
+// Forms for one and for two may say the number as a word.
 TEST_P(Translations, HaveTheSameValuesInThem) {
   for (const Message &message : messages) {
-    EXPECT_EQ(placesIn(message.translation), placesIn(message.source))
-        << message.source.toStdString();
+    for (QString translation : message.translations) {
+      if (message.isCounted && !translation.contains(u"%n")) translation += u"%n";
+      EXPECT_EQ(placesIn(translation), placesIn(message.source)) << message.source.toStdString();
+    }
+  }
+}
+
+TEST_P(Translations, HaveEveryFormThatTheLanguageCountsWith) {
+  const QHash<QString, int> forms{{u"ja"_s, 1}, {u"zh_CN"_s, 1}, {u"ko"_s, 1}, {u"ar"_s, 6}};
+  for (const Message &message : messages) {
+    const int wanted = message.isCounted ? forms.value(QLatin1String(GetParam()), 2) : 1;
+    EXPECT_EQ(message.translations.size(), wanted) << message.source.toStdString();
   }
 }
 
 TEST_P(Translations, KeepAKeyWhereTheTextHasOne) {
   for (const Message &message : messages) {
-    EXPECT_EQ(message.translation.count(u'&'), message.source.count(u'&'))
-        << message.source.toStdString();
+    for (const QString &translation : message.translations) {
+      EXPECT_EQ(translation.count(u'&'), message.source.count(u'&'))
+          << message.source.toStdString();
+    }
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, Translations, ::testing::Values("de", "fr", "ja"));
+INSTANTIATE_TEST_SUITE_P(Each, Translations, otherLanguages);
 
 }  // namespace

@@ -108,7 +108,7 @@ TEST_F(AvailabilityTest, AgreesWithWhatAPickDoes) {
   for (const char *option : {"OVKStapling", "OVKFolding", "OVKPunching", "OutputBin", "Duplex"}) {
     const QList<PrinterChoice> choices = session->marks().printer().choices(option);
     ASSERT_FALSE(choices.isEmpty());
-    for (const auto &[choice, text] : choices) {
+    for (const auto &[choice, text, textInPpd] : choices) {
       const ChoiceAvailability said = availability->of(option, choice);
       const QStringList before = session->record().notices();
       EXPECT_EQ(session->pick(option, choice), said.kind != Kind::Unusable) << choice.toStdString();
