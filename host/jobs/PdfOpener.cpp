@@ -10,7 +10,7 @@
 
 #include "host/jobs/BoundedTool.h"
 #include "host/jobs/OpenerCall.h"
-#include "host/printers/SocketProgram.h"
+#include "platform/system/SocketProgram.h"
 
 namespace orvek {
 namespace {
@@ -21,8 +21,7 @@ using namespace std::chrono_literals;
 constexpr ToolLimits limits{20s, 1 << 10, 0};
 
 QString openerPath() {
-  constexpr const char *place = "../" ORVEK_HELPER_FOLDER "/orvek-pdf-opener";
-  return QDir::cleanPath(QFile::decodeName(besideThisProgram(place).c_str()));
+  return QDir::cleanPath(QFile::decodeName(helperProgram("orvek-pdf-opener").c_str()));
 }
 
 Result<QByteArray> askOpener(const QStringList &arguments, const std::atomic<bool> &cancelled) {
