@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <optional>
 
-#include "host/ppd/ConstraintPartners.h"
 #include "host/ppd/CustomChoice.h"
 #include "host/ppd/MarksTrial.h"
 #include "platform/printing/PPD.h"
@@ -87,10 +86,21 @@ bool apply(Marks &marks, const QList<ChoiceChange> &changes, const OptionChoice 
   return marks.marked(pick.option) == pick.choice && !isInConflict(marks, pick);
 }
 
-// Other sides are told apart while the conflict still stands.
+// The pick where a constraint names both, else the first conflicting option that shares one with
+// the changed one, else the pick. Told apart while the conflict still stands.
 void namePartners(const Marks &marks, QList<ChoiceChange> *changes, const OptionChoice &pick) {
+  const ConstrainedPairs &pairs = marks.printer().constrainedPairs();
+  std::optional<QList<OptionChoice>> conflicts;
   for (ChoiceChange &change : *changes) {
-    change.partner = partnerOf(marks, {change.option, change.oldChoice}, pick);
+    change.partner = pick;
+    if (pairs.contain(change.option, pick.option)) continue;
+    if (!conflicts) conflicts = marks.conflicts();
+    const auto other =
+        std::find_if(conflicts->begin(), conflicts->end(), [&](const OptionChoice &conflict) {
+          return !sameKeyword(conflict.option, change.option) &&
+                 pairs.contain(change.option, conflict.option);
+        });
+    if (other != conflicts->end()) change.partner = *other;
   }
 }
 
@@ -120,6 +130,17 @@ QList<OptionChoice> conflictsOf(const Marks &marks, const OptionChoice &pick) {
   return found.list();
 }
 
+QList<OptionChoice> partnersAmong(const QList<OptionChoice> &conflicts,
+                                  const PrinterDescription &printer, const OptionChoice &pick) {
+  const ConstrainedPairs &pairs = printer.constrainedPairs();
+  QList<OptionChoice> partners = conflicts;
+  partners.removeIf([&](const OptionChoice &conflict) {
+    return sameKeyword(conflict.option, pick.option) ||
+           !pairs.contain(conflict.option, pick.option);
+  });
+  return partners.isEmpty() ? conflicts : partners;
+}
+
 Resolution markAndResolve(Marks &marks, const OptionChoice &pick) {
   Resolution result{pick, true, {}, {}};
   MarksTrial trial(marks);
@@ -130,7 +151,7 @@ Resolution markAndResolve(Marks &marks, const OptionChoice &pick) {
     return result;
   }
   result.marked = false;
-  result.incompatible = partnersAmong(marks, conflicts, pick);
+  result.incompatible = partnersAmong(conflicts, marks.printer(), pick);
   return result;
 }
 

@@ -37,6 +37,11 @@ struct Resolution {
 /// stay as they are.
 QList<OptionChoice> conflictsOf(const Marks &marks, const OptionChoice &pick);
 
+/// Those of `conflicts` that share a constraint with the pick, by their names; all of them where
+/// none does.
+QList<OptionChoice> partnersAmong(const QList<OptionChoice> &conflicts,
+                                  const PrinterDescription &printer, const OptionChoice &pick);
+
 /// Marks the pick (spelled as the PPD spells it) and resolves what it conflicts with, by either
 /// form of constraints. The pick never gives way, and neither does installed equipment: nobody
 /// installs a finisher by picking a staple. A pick whose own conflicts can't be resolved is undone.

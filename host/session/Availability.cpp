@@ -3,7 +3,6 @@
 
 #include "host/session/Availability.h"
 
-#include "host/ppd/ConstraintPartners.h"
 #include "host/ppd/Constraints.h"
 #include "host/ppd/Wording.h"
 #include "host/session/CommonSettings.h"
@@ -52,7 +51,7 @@ QString ChoiceAvailability::words() const {
 Availability::Availability(PrintSession &session, QObject *parent)
     : QObject(parent),
       m_session(session),
-      m_constrained(constrainedOptions(session.marks().printer())) {
+      m_constrained(session.marks().printer().constrainedPairs().names()) {
   connect(&session, &PrintSession::changed, this, [this] { m_answers.clear(); });
 }
 
@@ -78,7 +77,7 @@ ChoiceAvailability Availability::find(const OptionChoice &pick) {
   if (conflicts.isEmpty()) return {};
 
   const PrinterDescription &printer = m_session.marks().printer();
-  const QList<OptionChoice> partners = partnersAmong(m_session.marks(), conflicts, *wanted);
+  const QList<OptionChoice> partners = partnersAmong(conflicts, printer, *wanted);
   const Resolution resolution = tryPick(m_session.marksToTry(), *wanted);
 
   ChoiceAvailability answer;
