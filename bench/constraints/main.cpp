@@ -17,7 +17,7 @@ using namespace orvek;
 
 constexpr int options = 60;
 constexpr int rounds = 3;
-constexpr double goal = 0.5;
+constexpr double goal = 0.05;
 
 QString optionName(int number) {
   return QStringLiteral("Option%1").arg(number);

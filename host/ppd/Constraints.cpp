@@ -38,9 +38,15 @@ QByteArray constrainedName(const QString &choice) {
   return (custom ? custom->constrainedName() : choice).toUtf8();
 }
 
+/// The pick, where the plain constraints can be asked about it; else null.
+const ppd_choice_t *plainPick(const Marks &marks, const OptionChoice &pick) {
+  const PlainConstraints *plain = marks.printer().plainConstraints();
+  return plain == nullptr ? nullptr : plain->pickFor(pick);
+}
+
 std::optional<QList<OptionChoice>> resolutionOf(const Marks &marks, const OptionChoice &pick) {
-  if (const PlainConstraints *plain = marks.printer().plainConstraints()) {
-    if (const ppd_choice_t *choice = plain->pickFor(pick)) return plain->resolutionOf(choice);
+  if (const ppd_choice_t *choice = plainPick(marks, pick)) {
+    return marks.printer().plainConstraints()->resolutionOf(choice);
   }
   OptionArray changed;
   const int resolved = cupsResolveConflicts(
@@ -74,8 +80,8 @@ bool touchesInstalledEquipment(const Marks &marks, const QList<ChoiceChange> &ch
 }
 
 bool isInConflict(const Marks &marks, const OptionChoice &pick) {
-  if (const PlainConstraints *plain = marks.printer().plainConstraints()) {
-    if (const ppd_choice_s *choice = plain->pickFor(pick)) return plain->isInConflict(choice);
+  if (const ppd_choice_t *choice = plainPick(marks, pick)) {
+    return marks.printer().plainConstraints()->isInConflict(choice);
   }
   return marks.isInConflict(pick.option);
 }
@@ -124,6 +130,9 @@ bool resolve(Marks &marks, MarksTrial &trial, Resolution *result) {
 }  // namespace
 
 QList<OptionChoice> conflictsOf(const Marks &marks, const OptionChoice &pick) {
+  if (const ppd_choice_t *choice = plainPick(marks, pick)) {
+    return marks.printer().plainConstraints()->conflictsOf(choice);
+  }
   OptionArray found;
   found.m_count = cupsGetConflicts(marks.printer().lend(), pick.option.toUtf8().constData(),
                                    constrainedName(pick.choice).constData(), &found.m_options);
@@ -146,7 +155,7 @@ Resolution markAndResolve(Marks &marks, const OptionChoice &pick) {
   MarksTrial trial(marks);
   marks.mark(pick.option, pick.choice);
   const QList<OptionChoice> conflicts = conflictsOf(marks, pick);
-  if (conflicts.isEmpty() || resolve(marks, trial, &result) || !marks.isInConflict(pick.option)) {
+  if (conflicts.isEmpty() || resolve(marks, trial, &result) || !isInConflict(marks, pick)) {
     trial.keep();
     return result;
   }

@@ -33,8 +33,8 @@ struct Resolution {
   QList<OptionChoice> incompatible;
 };
 
-/// What takes part in a constraint that the pick would violate, the pick itself included; the marks
-/// stay as they are.
+/// Every other option of a constraint that is violated once the pick is marked, one that was
+/// violated before included; the marks stay as they are.
 QList<OptionChoice> conflictsOf(const Marks &marks, const OptionChoice &pick);
 
 /// Those of `conflicts` that share a constraint with the pick, by their names; all of them where

@@ -8,6 +8,7 @@
 #include <iterator>
 
 #include "host/ppd/CustomChoice.h"
+#include "host/ppd/Keyword.h"
 
 namespace orvek {
 
@@ -52,6 +53,20 @@ bool isCustom(const ppd_choice_t *choice) {
 void takeMark(ppd_file_t *ppd, ppd_choice_t *choice) {
   choice->marked = 0;
   cupsArrayRemove(ppd->marked, choice);
+}
+
+bool isMarkedAlone(ppd_option_t *option) {
+  const bool isOneOfSeveral =
+      isAnyOf(option->keyword, {"PageSize", "PageRegion", "InputSlot", "ManualFeed"}) ||
+      qstrnicmp(option->keyword, "AP_", qstrlen("AP_")) == 0;
+  return !isOneOfSeveral && option->ui != PPD_UI_PICKMANY &&
+         ppdFindChoice(option, CustomChoice::keyword.data()) == nullptr;
+}
+
+void moveMark(ppd_file_t *ppd, ppd_choice_t *from, ppd_choice_t *choice) {
+  if (from != nullptr) takeMark(ppd, from);
+  choice->marked = 1;
+  cupsArrayAdd(ppd->marked, choice);
 }
 
 }  // namespace orvek

@@ -34,4 +34,13 @@ bool isCustom(const ppd_choice_t *choice);
 /// What libcups has no call for: taking one mark away.
 void takeMark(ppd_file_t *ppd, ppd_choice_t *choice);
 
+/// True for an option whose mark is its own affair: no values, and no other option's mark goes with
+/// it, as with paper and its source.
+bool isMarkedAlone(ppd_option_t *option);
+
+/// Marks a choice of such an option in the place of another one (null: of none). libcups' call
+/// looks at all constraints after each mark, and a pick may move as many marks as there are
+/// options.
+void moveMark(ppd_file_t *ppd, ppd_choice_t *from, ppd_choice_t *choice);
+
 }  // namespace orvek

@@ -23,11 +23,17 @@ bool Marks::mark(const QString &option, const QString &choice) {
   const std::optional<OptionChoice> wanted = spelled(option, choice);
   if (!wanted) return false;
   const QByteArray keyword = wanted->option.toUtf8();
+  const QByteArray name = wanted->choice.toUtf8();
+  ppd_option_t *found = ppdFindOption(m_ppd, keyword.constData());
+  ppd_choice_t *other = ppdFindMarkedChoice(m_ppd, keyword.constData());
+  if (isMarkedAlone(found)) {
+    moveMark(m_ppd, other, ppdFindChoice(found, name.constData()));
+    return true;
+  }
   // libcups would mark it beside the others. A job can say one choice only (of a list libcups marks
   // none), so more than one would be marked here and never be printed.
-  ppd_choice_t *other = ppdFindMarkedChoice(m_ppd, keyword.constData());
-  if (other != nullptr && other->option->ui == PPD_UI_PICKMANY) takeMark(m_ppd, other);
-  ppdMarkOption(m_ppd, keyword.constData(), wanted->choice.toUtf8().constData());
+  if (other != nullptr && found->ui == PPD_UI_PICKMANY) takeMark(m_ppd, other);
+  ppdMarkOption(m_ppd, keyword.constData(), name.constData());
   const ppd_choice_t *now = ppdFindMarkedChoice(m_ppd, keyword.constData());
   if (now != nullptr && isCustom(now)) {
     m_customValues.insert(wanted->option, wanted->choice);

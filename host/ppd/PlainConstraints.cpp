@@ -108,6 +108,10 @@ bool PlainConstraints::isInConflict(const ppd_choice_s *pick) const {
   return PlainResolution(*this, pick).isPickForbidden();
 }
 
+QList<OptionChoice> PlainConstraints::conflictsOf(const ppd_choice_s *pick) const {
+  return PlainResolution(*this, pick).conflicts();
+}
+
 std::optional<QList<OptionChoice>> PlainConstraints::resolutionOf(const ppd_choice_s *pick) const {
   return PlainResolution(*this, pick).found();
 }

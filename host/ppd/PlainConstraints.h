@@ -30,6 +30,10 @@ class PlainConstraints {
   /// are.
   std::optional<QList<OptionChoice>> resolutionOf(const ppd_choice_s *pick) const;
 
+  /// What cupsGetConflicts() gives for a pick: every other option of a constraint that is violated
+  /// once it is marked, whether that has a part for the pick or not.
+  QList<OptionChoice> conflictsOf(const ppd_choice_s *pick) const;
+
   /// Whether some constraint forbids the pick beside what is marked, as Marks::isInConflict() says
   /// once it is marked itself.
   bool isInConflict(const ppd_choice_s *pick) const;

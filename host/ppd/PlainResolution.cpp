@@ -73,42 +73,69 @@ bool PlainResolution::change(const Side &side) {
   return false;
 }
 
-bool PlainResolution::changeOne() {
-  const int count = int(m_constraints.m_constraints.size());
-  for (int i = 0; i < count; ++i) {
-    if (!isViolated(i)) continue;
-    for (const Side &side : m_constraints.m_constraints[i]) {
+bool PlainResolution::changeOne(const std::vector<int> &constraints, std::size_t first) {
+  for (std::size_t i = first; i < constraints.size(); ++i) {
+    if (!isViolated(constraints[i])) continue;
+    for (const Side &side : m_constraints.m_constraints[constraints[i]]) {
       if (change(side)) return true;
     }
   }
   return false;
 }
 
-std::optional<QList<OptionChoice>> PlainResolution::found() {
+std::vector<int> PlainResolution::violated() const {
+  std::vector<int> constraints;
   const int count = int(m_constraints.m_constraints.size());
-  const auto anyViolated = [&] {
-    for (int i = 0; i < count; ++i) {
-      if (isViolated(i)) return true;
-    }
-    return false;
+  for (int i = 0; i < count; ++i) {
+    if (isViolated(i)) constraints.push_back(i);
+  }
+  return constraints;
+}
+
+// No change is made that violates a constraint, so none comes to those that are violated at first.
+std::optional<QList<OptionChoice>> PlainResolution::found() {
+  const std::vector<int> constraints = violated();
+  std::size_t first = 0;
+  const auto skipMet = [&] {
+    while (first < constraints.size() && !isViolated(constraints[first])) ++first;
   };
   int tries = 0;
-  while (tries < mostTries && anyViolated()) {
+  for (skipMet(); tries < mostTries && first < constraints.size(); skipMet()) {
     ++tries;
-    if (!changeOne()) return std::nullopt;
+    if (!changeOne(constraints, first)) return std::nullopt;
   }
   if (tries >= mostTries) return std::nullopt;
-  QList<OptionChoice> changes;
-  for (std::size_t i = 0; i < m_changes.size(); ++i) {
-    if (m_changes[i] == nullptr) continue;
-    changes.append(
-        {QString::fromUtf8(m_constraints.m_options[i]->keyword), QString::fromUtf8(m_changes[i])});
+  return inOrder(m_changes);
+}
+
+QList<OptionChoice> PlainResolution::conflicts() const {
+  std::vector<const char *> others(m_choices.size(), nullptr);
+  for (const int constraint : violated()) {
+    for (const Side &side : m_constraints.m_constraints[constraint]) {
+      if (side.option != m_pick) others[side.option] = side.choice->choice;
+    }
   }
-  // In libcups' order.
-  std::sort(changes.begin(), changes.end(), [](const OptionChoice &one, const OptionChoice &other) {
-    return qstricmp(one.option.toUtf8().constData(), other.option.toUtf8().constData()) < 0;
+  return inOrder(others);
+}
+
+// By option, without those that have none; in libcups' order.
+QList<OptionChoice> PlainResolution::inOrder(const std::vector<const char *> &choices) const {
+  std::vector<std::size_t> numbers;
+  for (std::size_t i = 0; i < choices.size(); ++i) {
+    if (choices[i] != nullptr) numbers.push_back(i);
+  }
+  const auto keyword = [this](std::size_t number) {
+    return m_constraints.m_options[number]->keyword;
+  };
+  std::sort(numbers.begin(), numbers.end(), [&](std::size_t one, std::size_t other) {
+    return qstricmp(keyword(one), keyword(other)) < 0;
   });
-  return changes;
+  QList<OptionChoice> list;
+  list.reserve(qsizetype(numbers.size()));
+  for (const std::size_t number : numbers) {
+    list.append({QString::fromUtf8(keyword(number)), QString::fromUtf8(choices[number])});
+  }
+  return list;
 }
 
 }  // namespace orvek

@@ -14,6 +14,7 @@ class PlainResolution {
   PlainResolution(const PlainConstraints &constraints, const ppd_choice_s *pick);
 
   bool isPickForbidden() const { return isAnyViolated(m_pick); }
+  QList<OptionChoice> conflicts() const;
   std::optional<QList<OptionChoice>> found();
 
  private:
@@ -21,7 +22,9 @@ class PlainResolution {
 
   bool isViolated(int constraint) const;
   bool isAnyViolated(int option) const;
-  bool changeOne();
+  std::vector<int> violated() const;
+  QList<OptionChoice> inOrder(const std::vector<const char *> &choices) const;
+  bool changeOne(const std::vector<int> &constraints, std::size_t first);
   bool change(const Side &side);
   bool mayBecome(int option, const char *choice);
 

@@ -5,6 +5,9 @@
 
 #include <gmock/gmock.h>
 
+#include <QRandomGenerator>
+
+#include "platform/printing/PPD.h"
 #include "tests/host/ppd/TestPrinters.h"
 
 namespace orvek::test {
@@ -98,6 +101,38 @@ TEST(MarksWithoutPpd, KnowNothing) {
   EXPECT_FALSE(marks.mark("OVKStapling", "Front"));
   EXPECT_TRUE(marks.all().isEmpty());
   EXPECT_TRUE(marks.conflicts().isEmpty());
+}
+
+/// Marks a choice by libcups' own call.
+QList<OptionChoice> markedByLibcups(const Marks &marks, const OptionChoice &choice) {
+  ppdMarkOption(marks.printer().lend(), choice.option.toUtf8().constData(),
+                choice.choice.toUtf8().constData());
+  return marks.all();
+}
+
+TEST(MarksOfEveryPrinter, MoveAsLibcupsMovesThem) {
+  QRandomGenerator random(20261122);
+  for (const char *name : {"finisher.ppd", "sources.ppd", "../../../../printers/Orvek-6180.ppd"}) {
+    const auto ours = openTestPpd(QLatin1String(name));
+    const auto theirs = openTestPpd(QLatin1String(name));
+    ASSERT_TRUE(ours && theirs) << name;
+    Marks marks(*ours);
+    const Marks expected(*theirs);
+    QList<OptionChoice> picks;
+    for (const PrinterOptionGroup &group : ours->options()) {
+      for (const PrinterOption &option : group.options) {
+        if (option.kind() == OptionKind::PickMany) continue;
+        for (const PrinterChoice &choice : option.choices()) {
+          if (choice.keyword != u"Custom") picks.append({option.keyword(), choice.keyword});
+        }
+      }
+    }
+    for (int i = 0; i < 1000; ++i) {
+      const OptionChoice &pick = picks.at(random.bounded(int(picks.size())));
+      EXPECT_TRUE(marks.mark(pick.option, pick.choice));
+      ASSERT_EQ(marks.all(), markedByLibcups(expected, pick)) << pick.option.toStdString();
+    }
+  }
 }
 
 }  // namespace

@@ -29,6 +29,22 @@ extern "C" int cupsResolveConflicts(ppd_file_t *ppd, const char *option, const c
   return next(ppd, option, choice, count, options);
 }
 
+extern "C" int cupsGetConflicts(ppd_file_t *ppd, const char *option, const char *choice,
+                                cups_option_t **options) {
+  static auto *const next =
+      reinterpret_cast<decltype(&cupsGetConflicts)>(::dlsym(RTLD_NEXT, "cupsGetConflicts"));
+  ++callsOfLibcups;
+  return next(ppd, option, choice, options);
+}
+
+/// Looks at all constraints once it has marked.
+extern "C" int ppdMarkOption(ppd_file_t *ppd, const char *option, const char *choice) {
+  static auto *const next =
+      reinterpret_cast<decltype(&ppdMarkOption)>(::dlsym(RTLD_NEXT, "ppdMarkOption"));
+  ++callsOfLibcups;
+  return next(ppd, option, choice);
+}
+
 namespace orvek::test {
 namespace {
 
@@ -99,6 +115,17 @@ std::optional<QList<OptionChoice>> resolvedByLibcups(ppd_file_t *ppd, const ppd_
   return all;
 }
 
+QList<OptionChoice> conflictsByLibcups(ppd_file_t *ppd, const ppd_choice_t *pick) {
+  cups_option_t *options = nullptr;
+  const int count = cupsGetConflicts(ppd, pick->option->keyword, pick->choice, &options);
+  QList<OptionChoice> all;
+  for (int i = 0; i < count; ++i) {
+    all.append({QString::fromUtf8(options[i].name), QString::fromUtf8(options[i].value)});
+  }
+  cupsFreeOptions(count, options);
+  return all;
+}
+
 std::string textOf(const std::optional<QList<OptionChoice>> &choices) {
   if (!choices) return "none";
   QString text;
@@ -110,6 +137,7 @@ std::string textOf(const std::optional<QList<OptionChoice>> &choices) {
 struct Compared {
   int resolved = 0;
   int unresolved = 0;
+  int conflicts = 0;
 };
 
 void compareAllPicks(const PrinterDescription &printer, QRandomGenerator &random, Compared *done) {
@@ -126,6 +154,10 @@ void compareAllPicks(const PrinterDescription &printer, QRandomGenerator &random
     if (pick == nullptr) continue;
     ASSERT_EQ(plain->isInConflict(pick), marks.isInConflict(option.keyword()))
         << option.keyword().toStdString() << " among " << textOf(marks.all());
+    const QList<OptionChoice> conflicts = plain->conflictsOf(pick);
+    ASSERT_EQ(textOf(conflicts), textOf(conflictsByLibcups(printer.lend(), pick)))
+        << option.keyword().toStdString() << " among " << textOf(marks.all());
+    done->conflicts += int(conflicts.size());
     const auto ours = plain->resolutionOf(pick);
     ASSERT_EQ(textOf(ours), textOf(resolvedByLibcups(printer.lend(), pick)))
         << option.keyword().toStdString() << " among " << textOf(marks.all());
@@ -146,6 +178,7 @@ TEST_F(PlainConstraintsTest, AreResolvedAsLibcupsResolvesThem) {
   }
   EXPECT_GT(done.resolved, 1000);
   EXPECT_GT(done.unresolved, 100);
+  EXPECT_GT(done.conflicts, 1000);
 }
 
 TEST_F(PlainConstraintsTest, AreLeftToLibcupsWhereTheyAreNotPlain) {
@@ -165,7 +198,8 @@ TEST_F(PlainConstraintsTest, AreLeftToLibcupsWhereTheyAreNotPlain) {
 
 class ExclusiveOptions : public testing::TestWithParam<ExclusivePpd::Form> {};
 
-// Libcups takes a tenth of a second for each of these, whatever the machine.
+// Whatever of libcups looks at all constraints is a tenth of a second for each of these, or for all
+// marks that one of them moves, whatever the machine.
 TEST_P(ExclusiveOptions, NeedNoLibcupsToBeResolved) {
   constexpr int options = 60;
   const ExclusivePpd ppd(options, GetParam(), "On");
