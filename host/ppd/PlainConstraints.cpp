@@ -8,6 +8,7 @@
 
 #include "host/ppd/CustomChoice.h"
 #include "host/ppd/PlainResolution.h"
+#include "host/ppd/PrinterDescription.h"
 #include "platform/printing/PPD.h"
 
 namespace orvek {
@@ -19,18 +20,6 @@ bool isSpecial(const char *option) {
          qstrnicmp(option, "AP_FIRSTPAGE_", qstrlen("AP_FIRSTPAGE_")) == 0;
 }
 
-bool isEquipment(const ppd_file_t *ppd, const char *option) {
-  for (int i = 0; i < ppd->num_groups; ++i) {
-    const ppd_group_t &group = ppd->groups[i];
-    if (qstricmp(group.name, "InstallableOptions") != 0) continue;
-    for (int j = 0; j < group.num_options; ++j) {
-      if (qstricmp(group.options[j].keyword, option) == 0) return true;
-    }
-    return false;
-  }
-  return false;
-}
-
 bool saysTheSameBackwards(const ppd_const_t &one, const ppd_const_t &other) {
   return qstricmp(one.option1, other.option2) == 0 && qstricmp(one.choice1, other.choice2) == 0 &&
          qstricmp(one.option2, other.option1) == 0 && qstricmp(one.choice2, other.choice1) == 0;
@@ -38,16 +27,20 @@ bool saysTheSameBackwards(const ppd_const_t &one, const ppd_const_t &other) {
 
 }  // namespace
 
-std::optional<PlainConstraints> PlainConstraints::of(ppd_file_s *ppd) {
-  if (ppd == nullptr) return std::nullopt;
-  PlainConstraints constraints(ppd);
+PlainConstraints::PlainConstraints(const PrinterDescription &printer)
+    : m_printer(&printer), m_ppd(printer.lend()) {}
+
+std::optional<PlainConstraints> PlainConstraints::of(const PrinterDescription &printer) {
+  if (printer.lend() == nullptr) return std::nullopt;
+  PlainConstraints constraints(printer);
   if (!constraints.readPairs() || !constraints.readLists()) return std::nullopt;
   return constraints;
 }
 
 bool PlainConstraints::addSide(const char *option, const char *choice, Constraint *constraint) {
   ppd_option_t *found = ppdFindOption(m_ppd, option);
-  if (found == nullptr || isSpecial(option) || isEquipment(m_ppd, option)) return false;
+  if (found == nullptr || isSpecial(option)) return false;
+  if (m_printer->isEquipment(QString::fromUtf8(found->keyword))) return false;
   if (found->ui == PPD_UI_PICKMANY) return false;
   const ppd_choice_t *named = ppdFindChoice(found, choice);
   const bool takesValues = ppdFindChoice(found, CustomChoice::keyword.data()) != nullptr;

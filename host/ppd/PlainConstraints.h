@@ -18,12 +18,14 @@ struct ppd_option_s;
 
 namespace orvek {
 
-/// A PPD's constraints, read once. Borrows the PPD; belongs to its thread. Nothing fails.
+class PrinterDescription;
+
+/// A PPD's constraints, read once. Borrows the printer; belongs to its thread. Nothing fails.
 class PlainConstraints {
  public:
   /// Nothing where only libcups knows what one of them comes to: paper, equipment, custom values,
   /// choices left open, resolvers of the PPD's own, options of many choices.
-  static std::optional<PlainConstraints> of(ppd_file_s *ppd);
+  static std::optional<PlainConstraints> of(const PrinterDescription &printer);
 
   /// What cupsResolveConflicts() gives for a pick that is marked: every option that changes, with
   /// what it becomes, and the pick itself; nothing where it finds no way out. Marks stay as they
@@ -50,12 +52,13 @@ class PlainConstraints {
   };
   using Constraint = std::vector<Side>;
 
-  explicit PlainConstraints(ppd_file_s *ppd) : m_ppd(ppd) {}
+  explicit PlainConstraints(const PrinterDescription &printer);
   bool readPairs();
   bool readLists();
   bool addSide(const char *option, const char *choice, Constraint *constraint);
   void add(Constraint constraint);
 
+  const PrinterDescription *m_printer;
   ppd_file_s *m_ppd;
   std::vector<const ppd_option_s *> m_options;
   QHash<const ppd_option_s *, int> m_numbers;

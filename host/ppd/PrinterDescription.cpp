@@ -159,7 +159,7 @@ bool PrinterDescription::isEquipment(const QString &option) const {
 }
 
 const PlainConstraints *PrinterDescription::plainConstraints() const {
-  if (!m_plainConstraints) m_plainConstraints = PlainConstraints::of(m_ppd);
+  if (!m_plainConstraints) m_plainConstraints = PlainConstraints::of(*this);
   return m_plainConstraints->has_value() ? &**m_plainConstraints : nullptr;
 }
 
