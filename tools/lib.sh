@@ -56,6 +56,17 @@ ensure_packages() {
   install_packages "${missing[@]}"
 }
 
+# ensure_numbers NAMES VALUE...: the values are numbers, or the script ends and says which are not.
+ensure_numbers() {
+  local names=$1 value
+  shift
+  for value in "$@"; do
+    case $value in
+      '' | *[!0-9]*) die "$names must be numbers, not \"$value\"" 2 ;;
+    esac
+  done
+}
+
 jobs() {
   printf '%s' "${ORVEK_JOBS:-$(nproc)}"
 }

@@ -9,11 +9,7 @@ cd "$(dirname "$(readlink -f "$0")")/../.."
 . tools/lib.sh
 
 export ORVEK_CHAIN_JOBS=${1:-5000} ORVEK_CHAIN_SEED=${2:-1} QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
-for number in "$ORVEK_CHAIN_JOBS" "$ORVEK_CHAIN_SEED"; do
-  case $number in
-    '' | *[!0-9]*) die "JOBS and SEED must be numbers, not \"$number\"" 2 ;;
-  esac
-done
+ensure_numbers "JOBS and SEED" "$ORVEK_CHAIN_JOBS" "$ORVEK_CHAIN_SEED"
 
 # shard NUMBER: prints its share of the jobs; says what differs only.
 shard() {

@@ -7,11 +7,7 @@ set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/../.."
 . tools/lib.sh
 
-for number in "${1:-500}" "${2:-1}"; do
-  case $number in
-    '' | *[!0-9]*) die "KILLS and SEED must be numbers, not \"$number\"" 2 ;;
-  esac
-done
+ensure_numbers "KILLS and SEED" "${1:-500}" "${2:-1}"
 readonly sessions=5
 export ORVEK_FAULTS_ALL=yes ORVEK_FAULTS_KILLS=$(((${1:-500} + sessions - 1) / sessions)) ORVEK_FAULTS_SEED=${2:-1}
 export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8

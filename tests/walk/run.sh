@@ -9,11 +9,7 @@ cd "$(dirname "$(readlink -f "$0")")/../.."
 . tools/lib.sh
 
 export ORVEK_WALK_ACTIONS=${1:-100000} ORVEK_WALK_SEED=${2:-1} QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
-for number in "$ORVEK_WALK_ACTIONS" "$ORVEK_WALK_SEED"; do
-  case $number in
-    '' | *[!0-9]*) die "ACTIONS and SEED must be numbers, not \"$number\"" 2 ;;
-  esac
-done
+ensure_numbers "ACTIONS and SEED" "$ORVEK_WALK_ACTIONS" "$ORVEK_WALK_SEED"
 
 build dev walk-test OrvekFinishing orvek-resources
 mkdir -p out
