@@ -87,9 +87,7 @@ TEST_F(SheetsMadeHere, AreABookletEachOfSeveralDocuments) {
 
 TEST_F(SheetsMadeHere, AreNotNeededForOtherJobsWhereTheServerIsToldOfNoDriver) {
   addOldQueue();
-  request.files = {document(2)};
-  request.options.clear();
-  EXPECT_EQ(printed(ServerDriver::Works).count("%%Page: "), 2);
+  EXPECT_EQ(printedPlain(2, ServerDriver::Works).count("%%Page: "), 2);
 }
 
 TEST_F(SheetsMadeHere, HaveTheirBannersFromAServerThatMakesNoBooklets) {

@@ -98,6 +98,13 @@ class SheetsMadeHere : public ::testing::Test {
     return contentsOf(cups->printedBy(queueName));
   }
 
+  /// What it got of a document without any options.
+  QByteArray printedPlain(int pages, ServerDriver driver) {
+    request.files = {document(pages)};
+    request.options.clear();
+    return printed(driver);
+  }
+
   std::vector<SeenSide> seen() const { return look(cups->printedBy(queueName).toStdString()); }
 
   /// What is seen where the same job is printed into a file.

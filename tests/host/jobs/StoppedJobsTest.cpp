@@ -46,9 +46,7 @@ TEST_F(SheetsMadeHere, ComeWithoutBannersFromAServerThatStopsEveryJobAndTheOutco
 
 TEST_F(SheetsMadeHere, AreMadeOfEveryJobWhereTheServerStopsEveryJob) {
   addNewQueue();
-  request.files = {document(3)};
-  request.options.clear();
-  EXPECT_EQ(printed(ServerDriver::StopsEveryJob).count("%%Page: "), 3);
+  EXPECT_EQ(printedPlain(3, ServerDriver::StopsEveryJob).count("%%Page: "), 3);
 }
 
 // With a job that needs no filter the server takes its warning back.

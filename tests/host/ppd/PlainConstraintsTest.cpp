@@ -61,11 +61,7 @@ QByteArray optionText(QRandomGenerator &random, int number) {
 
 /// Of "Option0", which is equipment, and others that constraints name.
 QByteArray randomText(QRandomGenerator &random, int options) {
-  QByteArray text =
-      "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*FileVersion: \"1.0\"\n"
-      "*LanguageVersion: English\n*LanguageEncoding: ISOLatin1\n*PCFileName: \"R.PPD\"\n"
-      "*Manufacturer: \"Orvek\"\n*Product: \"(R)\"\n*ModelName: \"R\"\n*ShortNickName: \"R\"\n"
-      "*NickName: \"R\"\n*PSVersion: \"(3010.000) 0\"\n*OpenGroup: InstallableOptions/I\n";
+  QByteArray text = ppdHead("R") + "*OpenGroup: InstallableOptions/I\n";
   text += optionText(random, 0) + "*CloseGroup: InstallableOptions\n*OpenGroup: General/G\n";
   for (int i = 1; i < options; ++i) text += optionText(random, i);
   text += "*CloseGroup: General\n";
@@ -101,12 +97,8 @@ class PlainConstraintsTest : public testing::Test {
   QTemporaryDir folder;
 };
 
-std::optional<QList<OptionChoice>> resolvedByLibcups(ppd_file_t *ppd, const ppd_choice_t *pick) {
-  int count = 0;
-  cups_option_t *options = nullptr;
-  if (cupsResolveConflicts(ppd, pick->option->keyword, pick->choice, &count, &options) == 0) {
-    return std::nullopt;
-  }
+/// What libcups listed, which is freed.
+QList<OptionChoice> taken(int count, cups_option_t *options) {
   QList<OptionChoice> all;
   for (int i = 0; i < count; ++i) {
     all.append({QString::fromUtf8(options[i].name), QString::fromUtf8(options[i].value)});
@@ -115,15 +107,19 @@ std::optional<QList<OptionChoice>> resolvedByLibcups(ppd_file_t *ppd, const ppd_
   return all;
 }
 
+std::optional<QList<OptionChoice>> resolvedByLibcups(ppd_file_t *ppd, const ppd_choice_t *pick) {
+  int count = 0;
+  cups_option_t *options = nullptr;
+  if (cupsResolveConflicts(ppd, pick->option->keyword, pick->choice, &count, &options) == 0) {
+    return std::nullopt;
+  }
+  return taken(count, options);
+}
+
 QList<OptionChoice> conflictsByLibcups(ppd_file_t *ppd, const ppd_choice_t *pick) {
   cups_option_t *options = nullptr;
   const int count = cupsGetConflicts(ppd, pick->option->keyword, pick->choice, &options);
-  QList<OptionChoice> all;
-  for (int i = 0; i < count; ++i) {
-    all.append({QString::fromUtf8(options[i].name), QString::fromUtf8(options[i].value)});
-  }
-  cupsFreeOptions(count, options);
-  return all;
+  return taken(count, options);
 }
 
 std::string textOf(const std::optional<QList<OptionChoice>> &choices) {
