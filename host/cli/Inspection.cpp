@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include "host/cli/ControlInspection.h"
+#include "platform/ui/Frames.h"
 
 namespace orvek {
 namespace {
@@ -16,7 +17,8 @@ QJsonValue textOrNull(const QString &text) {
 }
 
 QJsonArray sizeOf(const QWidget *view) {
-  return view == nullptr ? QJsonArray{0, 0} : QJsonArray{view->width(), view->height()};
+  const QSizeF size = frameSize(view);
+  return {size.width(), size.height()};
 }
 
 QJsonValue panelOf(const HostedPanel *hosted) {

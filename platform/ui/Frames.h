@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // Frames as panels speak of them: in points, origin at the lower left of the superview, y growing
-// upward. Qt's own rectangles grow downward; the conversion stands here and nowhere else.
+// upward. Qt's own rectangles grow downward; the conversion stands here and nowhere else. A point
+// is a pixel but where the desktop's text is large, and frames are those of the left-to-right
+// design whichever way the interface is read.
 #pragma once
 
 #include <QRectF>
@@ -16,6 +18,12 @@ enum class PinnedEdge { Top, Bottom };
 /// The dynamic property of an interface resource that names the edge: "top" (also by default) or
 /// "bottom".
 inline constexpr const char *pinnedProperty = "pinned";
+
+/// Has a tree of views that was designed for text of the usual size, read from the left, stand as
+/// the application is now: grown with its text, and mirrored where it is read from the right. Its
+/// frames are as designed from then on. To be called once, before anything is moved. Nothing for an
+/// absent view.
+void adoptDesign(QWidget *root);
 
 /// An absent view reads as all zero. A view without superview has its origin at (0, 0).
 QRectF frame(const QWidget *view);

@@ -15,6 +15,7 @@
 #include "platform/system/Log.h"
 #include "platform/ui/Actions.h"
 #include "platform/ui/Bundle.h"
+#include "platform/ui/Frames.h"
 #include "platform/ui/PlainText.h"
 #include "platform/ui/ResourceBounds.h"
 
@@ -92,6 +93,7 @@ bool loadInterface(const Bundle *bundle, const QString &name, QObject *owner) {
     return false;
   }
   new LoadedTree(root, owner);
+  adoptDesign(root);
   connectTree(root, owner, *bundle);
   return true;
 }

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QWidget>
 
 #include "tests/support/Printers.h"
@@ -131,6 +132,48 @@ TEST_F(FramesTest, MovesPinnedSubviewsByWhatTheViewReallyGrew) {
   setFrameSize(&superview, QSizeF(200, 160));
   EXPECT_EQ(superview.height(), 120);
   EXPECT_EQ(frame(&subview), QRectF(10, 30, 40, 20));
+}
+
+TEST_F(FramesTest, MirrorsWithTheDirectionOfReadingWhileFramesStayAsDesigned) {
+  pin("bottom");
+  superview.setLayoutDirection(Qt::RightToLeft);
+  adoptDesign(&superview);
+  EXPECT_EQ(subview.geometry(), QRect(150, 50, 40, 20));
+  EXPECT_EQ(frame(&subview), QRectF(10, 30, 40, 20));
+  setFrame(&subview, QRectF(20, 10, 50, 20));
+  EXPECT_EQ(subview.geometry(), QRect(130, 70, 50, 20));
+  setFrameSize(&superview, QSizeF(300, 120));
+  EXPECT_EQ(subview.geometry(), QRect(230, 90, 50, 20));
+  EXPECT_EQ(frame(&subview), QRectF(20, 10, 50, 20));
+}
+
+TEST_F(FramesTest, GrowWithTheTextWhileFramesStayAsDesigned) {
+  const QFont usual = QApplication::font();
+  for (const int pixelSize : {15, 16, 17, 19, 20, 21, 23, 24, 27, 31, 48}) {
+    QFont large = usual;
+    large.setPixelSize(pixelSize);
+    QApplication::setFont(large);
+    QWidget root;
+    root.resize(600, 420);
+    QWidget view(&root);
+    view.setGeometry(33, 208, 567, 211);
+    view.setProperty(pinnedProperty, QStringLiteral("bottom"));
+    QWidget control(&view);
+    control.setGeometry(172, 31, 259, 26);
+    adoptDesign(&root);
+    EXPECT_GE(control.width(), 259 * pixelSize / 16) << pixelSize;
+    EXPECT_EQ(frameSize(&root), QSizeF(600, 420));
+    EXPECT_EQ(frame(&view), QRectF(33, 1, 567, 211)) << pixelSize;
+    EXPECT_EQ(frame(&control), QRectF(172, 154, 259, 26)) << pixelSize;
+    for (const int height : {208, 389, 420}) {
+      setFrameSize(&root, QSizeF(600, height));
+      setFrame(&control, frame(&control).translated(0, 30));
+      setFrame(&control, frame(&control).translated(0, -30));
+    }
+    EXPECT_EQ(frame(&view), QRectF(33, 1, 567, 211)) << pixelSize;
+    EXPECT_EQ(frame(&control), QRectF(172, 154, 259, 26)) << pixelSize;
+  }
+  QApplication::setFont(usual);
 }
 
 TEST_F(FramesTest, KeepsTheOriginOfAViewThatRefusesASize) {
