@@ -4,7 +4,7 @@
 #include "host/dialog/ChooserRow.h"
 
 #include <QComboBox>
-#include <QGridLayout>
+#include <QHBoxLayout>
 
 #include "host/dialog/PrinterChooser.h"
 #include "platform/ui/PlainText.h"
@@ -12,32 +12,33 @@
 namespace orvek {
 namespace {
 
-constexpr int gapBetween = 12;
+constexpr int gapBetween = 18;
+constexpr int lineGap = 4;
 constexpr int labelGap = 6;
 
 }  // namespace
 
 ChooserRow::ChooserRow(const ServerAccess &access, const std::shared_ptr<PresetStore> &store,
                        const PresetChooser::Snapshot &snapshot, QWidget *parent)
-    : QWidget(parent), m_printers(new PrinterChooser(access, this)) {
-  auto *grid = new QGridLayout(this);
-  grid->setContentsMargins(0, 0, 0, 0);
-  grid->setHorizontalSpacing(labelGap);
-  add(m_printers, m_printers->menu(), tr("P&rinter:"), 0);
+    : FlowRow(gapBetween, lineGap, parent), m_printers(new PrinterChooser(access, this)) {
+  addGroup(m_printers, m_printers->menu(), tr("P&rinter:"));
   if (!store) return;
   m_presets = new PresetChooser(store, snapshot, this);
-  grid->setColumnMinimumWidth(2, gapBetween);
-  add(m_presets, m_presets->menu(), tr("Pr&eset:"), 3);
+  addGroup(m_presets, m_presets->menu(), tr("Pr&eset:"));
 }
 
 // What stands below a menu has no part in the height of its label.
-void ChooserRow::add(QWidget *chooser, QWidget *menu, const QString &text, int column) {
-  auto *label = new PlainLabel(text, this);
+void ChooserRow::addGroup(QWidget *chooser, QWidget *menu, const QString &text) {
+  auto *group = new QWidget(this);
+  auto *label = new PlainLabel(text, group);
   label->setBuddy(menu);
   label->setFixedHeight(menu->sizeHint().height());
-  auto *grid = static_cast<QGridLayout *>(layout());
-  grid->addWidget(label, 0, column, Qt::AlignTop);
-  grid->addWidget(chooser, 0, column + 1, Qt::AlignTop);
+  auto *row = new QHBoxLayout(group);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(labelGap);
+  row->addWidget(label, 0, Qt::AlignTop);
+  row->addWidget(chooser, 1, Qt::AlignTop);
+  add(group);
 }
 
 }  // namespace orvek

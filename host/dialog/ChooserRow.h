@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 // Where a job goes and what it begins with: the pop-ups of printers and presets with their labels,
-// in one row.
+// in one row where there is room.
 #pragma once
 
-#include <QWidget>
 #include <memory>
 
 #include "host/dialog/PresetChooser.h"
 #include "host/printers/ServerAccess.h"
+#include "host/settings/FlowRow.h"
 
 namespace orvek {
 
@@ -15,7 +15,7 @@ class PrinterChooser;
 
 /// Lays the two out and does nothing by itself. Belongs to its parent, owns its child controls, and
 /// lives on the interface's thread. Nothing fails.
-class ChooserRow final : public QWidget {
+class ChooserRow final : public FlowRow {
   Q_OBJECT
 
  public:
@@ -29,7 +29,7 @@ class ChooserRow final : public QWidget {
   PresetChooser *presets() const { return m_presets; }
 
  private:
-  void add(QWidget *chooser, QWidget *menu, const QString &text, int column);
+  void addGroup(QWidget *chooser, QWidget *menu, const QString &text);
 
   PrinterChooser *m_printers;
   PresetChooser *m_presets = nullptr;

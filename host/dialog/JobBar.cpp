@@ -15,6 +15,7 @@ namespace orvek {
 namespace {
 
 constexpr int progressWidth = 200;
+constexpr int leastWordsWidth = 260;
 constexpr int wholeJob = 100;
 
 }  // namespace
@@ -24,6 +25,7 @@ JobBar::JobBar(QWidget *parent)
       m_words(new ElidedLabel(Qt::ElideRight, this)),
       m_progress(new QProgressBar(this)) {
   m_words->setObjectName(QStringLiteral("jobWords"));
+  m_words->setMinimumWidth(leastWordsWidth);
   auto *buttons = new QDialogButtonBox(this);
   m_print = buttons->addButton(tr("&Print"), QDialogButtonBox::AcceptRole);
   m_print->setObjectName(QStringLiteral("printButton"));

@@ -3,9 +3,10 @@
 
 #include "host/dialog/LazyPage.h"
 
-#include <QScrollArea>
 #include <QVBoxLayout>
 #include <utility>
+
+#include "host/dialog/ScrollingBody.h"
 
 namespace orvek {
 
@@ -14,17 +15,9 @@ LazyPage::LazyPage(Maker maker, QWidget *parent) : QWidget(parent), m_maker(std:
 void LazyPage::showEvent(QShowEvent *event) {
   if (m_maker) {
     const Maker maker = std::exchange(m_maker, {});
-    auto *area = new QScrollArea(this);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setFocusPolicy(Qt::NoFocus);
-    area->setWidget(maker(area));
-    // The tab's own colour shows through.
-    area->viewport()->setAutoFillBackground(false);
-    area->widget()->setAutoFillBackground(false);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(area);
+    column->addWidget(new ScrollingBody(maker(this), this));
   }
   QWidget::showEvent(event);
 }

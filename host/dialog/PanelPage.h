@@ -10,8 +10,9 @@
 namespace orvek {
 
 /// Shows a container as large as it is, in the middle, at the top; what room is left stays empty
-/// below. The container stays its owner's and is given back when the page goes. Belongs to its
-/// parent and lives on the interface's thread; nothing fails.
+/// below, and where there is too little it scrolls. The container stays its owner's and is given
+/// back when the page goes. Belongs to its parent and lives on the interface's thread; nothing
+/// fails.
 class PanelPage final : public QWidget {
   Q_OBJECT
 

@@ -19,7 +19,8 @@ namespace {
 enum ItemKind { Nothing, LastUsed, Saved };
 constexpr int kindRole = Qt::UserRole;
 
-constexpr int leastCharacters = 14;
+constexpr int usualCharacters = 14;
+constexpr int leastWidth = 80;
 
 }  // namespace
 
@@ -31,7 +32,8 @@ PresetChooser::PresetChooser(std::shared_ptr<PresetStore> store, Snapshot snapsh
       m_button(new QToolButton(this)) {
   m_menu->setObjectName(QStringLiteral("presetMenu"));
   m_menu->setAccessibleName(tr("Preset"));
-  m_menu->setMinimumContentsLength(leastCharacters);
+  m_menu->setMinimumContentsLength(usualCharacters);
+  m_menu->setMinimumWidth(leastWidth);
   m_menu->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   buildActions();
   auto *row = new QHBoxLayout(this);

@@ -3,9 +3,7 @@
 
 #include "host/dialog/PrintDialog.h"
 
-#include <QEvent>
 #include <QFrame>
-#include <QHBoxLayout>
 #include <QShortcut>
 #include <QVBoxLayout>
 #include <utility>
@@ -15,10 +13,14 @@
 #include "host/dialog/JobBar.h"
 #include "host/dialog/JobDocuments.h"
 #include "host/dialog/NoticeKeeper.h"
+#include "host/dialog/NoticePlace.h"
 #include "host/dialog/PrinterChooser.h"
+#include "host/dialog/ScrollingBody.h"
 #include "host/dialog/SessionView.h"
+#include "host/dialog/WindowRoom.h"
 #include "host/jobs/BackgroundJob.h"
 #include "host/session/JobWarnings.h"
+#include "host/settings/FlowRow.h"
 #include "host/settings/JobStrip.h"
 #include "host/translations/FailureText.h"
 
@@ -41,7 +43,6 @@ PrintDialog::PrintDialog(PrintSession &session, DialogSetup setup, QWidget *pare
     : QDialog(parent),
       m_session(&session),
       m_setup(std::move(setup)),
-      m_room(*this),
       m_switch(m_setup.beginSession,
                [this](PrinterSwitch::Session opened, const QString &destination) {
                  moveTo(std::move(opened), destination);
@@ -54,7 +55,6 @@ PrintDialog::PrintDialog(PrintSession &session, DialogSetup setup, QWidget *pare
   followSession();
   showHeader();
   m_notices->sayEarlier();
-  m_room.make();
 }
 
 PrintDialog::~PrintDialog() {
@@ -78,19 +78,41 @@ void PrintDialog::build() {
   m_job = new BackgroundJob(this);
   m_documents = new JobDocuments(m_job->files(), this);
   m_documents->begin(m_setup.files, m_setup.documentName, m_setup.document);
-  auto *header = new QHBoxLayout;
-  header->setSpacing(2 * margin);
-  header->addWidget(m_header, 1, Qt::AlignTop);
-  header->addWidget(m_choosers, 0, Qt::AlignTop);
   auto *column = new QVBoxLayout(this);
   column->setContentsMargins(margin, margin, margin, margin);
   column->setSpacing(spacing);
-  column->addLayout(header);
-  column->addWidget(m_noticeBar);
-  column->addWidget(m_strip);
-  column->addWidget(m_view, 1);
+  column->addWidget(new ScrollingBody(buildBody(), this), 1);
   column->addWidget(separator(this));
-  column->addWidget(m_jobBar);
+  column->addWidget(buildFoot());
+}
+
+QWidget *PrintDialog::buildHeader() {
+  m_header->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  auto *header = new FlowRow(2 * margin, spacing, this);
+  header->add(m_header);
+  header->add(m_choosers);
+  return header;
+}
+
+QWidget *PrintDialog::buildBody() {
+  auto *body = new QWidget(this);
+  m_body = new QVBoxLayout(body);
+  m_body->setContentsMargins(0, 0, 0, 0);
+  m_body->setSpacing(spacing);
+  m_body->addWidget(buildHeader());
+  m_body->addWidget(m_strip);
+  m_body->addWidget(m_view, 1);
+  return body;
+}
+
+QWidget *PrintDialog::buildFoot() {
+  // Nothing moves for a notice of one line.
+  m_jobBar->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+  m_jobBar->setMinimumHeight(m_noticeBar->sizeHint().height());
+  auto *foot = new FlowRow(margin, spacing, this);
+  foot->add(new NoticePlace(m_noticeBar, foot));
+  foot->add(m_jobBar);
+  return foot;
 }
 
 void PrintDialog::connectParts() {
@@ -183,11 +205,10 @@ void PrintDialog::showProblem(const Failure &failure) {
   m_notices->say(NoticeBar::Kind::Problem, {failureText(failure)});
 }
 
-bool PrintDialog::event(QEvent *event) {
-  const bool done = QDialog::event(event);
-  // Comes when something in the window needs other room than before.
-  if (event->type() == QEvent::LayoutRequest) m_room.make();
-  return done;
+// Whoever made the window may have chosen its screen or its size since.
+void PrintDialog::setVisible(bool isVisible) {
+  if (isVisible && !testAttribute(Qt::WA_Resized)) makeRoom(*this);
+  QDialog::setVisible(isVisible);
 }
 
 }  // namespace orvek

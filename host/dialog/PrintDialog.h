@@ -5,13 +5,14 @@
 //   Parts, in the window from top to bottom            Sources
 //   DocumentHeader    what is printed                  PrintDialog         parts and what they show
 //   ChooserRow        where, and with what preset      PrintDialogPrinter  other printers, presets
-//   NoticeBar         what happened; Undo              PrintDialogJob      a job's way
-//   JobStrip          copies, pages, two-sided
+//   JobStrip          copies, pages, two-sided         PrintDialogJob      a job's way
 //   SessionView       pages, preview and summary
+//   NoticeBar         what happened; Undo
 //   JobBar            progress, Cancel, Print
 //
-//   Helpers: JobDocuments, what is printed; NoticeKeeper, what the bar says; PrinterSwitch, the way
-//   to another printer; WindowRoom, the window's size
+//   Helpers: JobDocuments, what is printed; NoticeKeeper, what the bar says; NoticePlace, its room;
+//   PrinterSwitch, the way to another printer; ScrollingBody, all above the notices; WindowRoom, the
+//   window's size
 #pragma once
 
 #include <QDialog>
@@ -20,8 +21,9 @@
 
 #include "host/dialog/DialogSetup.h"
 #include "host/dialog/PrinterSwitch.h"
-#include "host/dialog/WindowRoom.h"
 #include "host/presets/SessionPreset.h"
+
+class QVBoxLayout;
 
 namespace orvek {
 
@@ -36,8 +38,8 @@ class NoticeKeeper;
 class PrinterChooser;
 class SessionView;
 
-/// Borrows the first session and owns those that it begins itself. Failures are shown above the
-/// pages, in the user's language. Lives on the interface's thread; questions and jobs run on
+/// Borrows the first session and owns those that it begins itself. Failures are shown beside
+/// the buttons, in the user's language. Lives on the interface's thread; questions and jobs run on
 /// threads of their own, which end before it does.
 class PrintDialog final : public QDialog {
   Q_OBJECT
@@ -65,7 +67,7 @@ class PrintDialog final : public QDialog {
   const std::optional<JobOutcome> &outcome() const { return m_outcome; }
   const JobRequest &request() const { return m_request; }
 
-  /// Says what went wrong, above the pages.
+  /// Says what went wrong, beside the buttons.
   void showProblem(const Failure &failure);
 
   /// Prints as the Print button does.
@@ -74,16 +76,19 @@ class PrintDialog final : public QDialog {
   /// A running job is stopped first; without one the window closes.
   void reject() override;
 
+  /// Shown for the first time, it gets a size that fits its screen.
+  void setVisible(bool isVisible) override;
+
  Q_SIGNALS:
   /// The printer that the window was made for did not come, and why. It has been said by then.
   void firstFailed(const orvek::Failure &failure);
 
- protected:
-  bool event(QEvent *event) override;
-
  private:
   // Parts and what they show
   void build();
+  QWidget *buildHeader();
+  QWidget *buildBody();
+  QWidget *buildFoot();
   void connectParts();
   void followSession();
   void updateControls();
@@ -121,12 +126,13 @@ class PrintDialog final : public QDialog {
   bool m_isCancelling = false;
   /// Until a printer has come, or did not: there is none so far.
   bool m_awaitsFirst = false;
-  WindowRoom m_room;
 
   DocumentHeader *m_header = nullptr;
   JobDocuments *m_documents = nullptr;
   ChooserRow *m_choosers = nullptr;
   PrinterChooser *m_printers = nullptr;
+  /// Strip and view stand in it.
+  QVBoxLayout *m_body = nullptr;
   NoticeBar *m_noticeBar = nullptr;
   NoticeKeeper *m_notices = nullptr;
   /// Strip and view are the session's: another session has others.

@@ -4,7 +4,7 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QLayout>
+#include <QVBoxLayout>
 #include <utility>
 
 #include "host/dialog/JobDocuments.h"
@@ -91,8 +91,8 @@ void PrintDialog::takeSession(std::unique_ptr<PrintSession> session, const QStri
   // The old ones give back what they borrowed before the old session goes.
   auto *strip = new JobStrip(*session, this);
   auto *view = new SessionView(*session, m_documents->only(), this);
-  delete layout()->replaceWidget(m_strip, strip);
-  delete layout()->replaceWidget(m_view, view);
+  delete m_body->replaceWidget(m_strip, strip);
+  delete m_body->replaceWidget(m_view, view);
   delete std::exchange(m_strip, strip);
   delete std::exchange(m_view, view);
   connect(m_view, &SessionView::pageTurned, m_strip, &JobStrip::assignLetters);

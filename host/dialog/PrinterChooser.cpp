@@ -17,7 +17,8 @@ namespace orvek {
 namespace {
 
 constexpr int kindRole = Qt::UserRole + 1;  // true: the item that opens a description
-constexpr int leastCharacters = 28;
+constexpr int usualCharacters = 28;
+constexpr int leastWidth = 120;
 constexpr int mostVisibleItems = 16;
 const QString separator = QStringLiteral(" · ");
 
@@ -46,7 +47,8 @@ PrinterChooser::PrinterChooser(ServerAccess access, QWidget *parent)
       m_detail(new ElidedLabel(Qt::ElideRight, this)) {
   m_menu->setObjectName(QStringLiteral("printerMenu"));
   m_menu->setAccessibleName(tr("Printer"));
-  m_menu->setMinimumContentsLength(leastCharacters);
+  m_menu->setMinimumContentsLength(usualCharacters);
+  m_menu->setMinimumWidth(leastWidth);
   m_menu->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   m_menu->setMaxVisibleItems(mostVisibleItems);
   m_detail->setObjectName(QStringLiteral("printerDetail"));

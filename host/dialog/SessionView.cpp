@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// Pages at the left; at the right the preview, and the summary below it.
+// Pages at one side; at the other the preview, and the summary below it. In a narrow window all of
+// that stands below the pages.
 
 #include "host/dialog/SessionView.h"
 
@@ -17,12 +18,18 @@
 #include "host/settings/GeneralPage.h"
 #include "host/settings/OptionsPage.h"
 #include "platform/ui/PlainText.h"
+#include "platform/ui/TextScale.h"
 
 namespace orvek {
 namespace {
 
 constexpr int gap = 12;
-constexpr int previewHeight = 272;
+// Takes a panel as large as the usual one gets, and a bar to scroll it by.
+constexpr QSize pageRoom(618, 456);
+constexpr int leastWidth = 300;
+constexpr int leastPageHeight = 150;
+constexpr int leastPreviewHeight = 190;
+constexpr int leastAsideWidth = 136;
 constexpr int previewShare = 3;
 constexpr int summaryShare = 1;
 // Of the room beyond what both sides want: settings are no better to read for being wide, sheets
@@ -30,28 +37,46 @@ constexpr int summaryShare = 1;
 constexpr int pagesShare = 1;
 constexpr int asideShare = 2;
 
+QSize scaledPageRoom() {
+  return {scaledToText(pageRoom.width()), scaledToText(pageRoom.height())};
+}
+
+// Asks for the same room whatever it shows, so that the window needs no other for another page or
+// another printer.
+class Pages final : public QTabWidget {
+ public:
+  explicit Pages(QWidget *parent) : QTabWidget(parent) {}
+
+  QSize sizeHint() const override {
+    return QTabWidget::sizeHint().expandedTo(scaledPageRoom() +
+                                             QSize(0, tabBar()->sizeHint().height()));
+  }
+};
+
 }  // namespace
 
 SessionView::SessionView(PrintSession &session, const DocumentInfo &document, QWidget *parent)
     : QWidget(parent),
       m_session(session),
       m_path(document.path),
-      m_pages(new QTabWidget(this)),
+      m_pages(new Pages(this)),
       m_summary(new SummaryView(this)) {
   m_pages->setObjectName(QStringLiteral("pages"));
   m_pages->setAccessibleName(tr("Settings"));
   m_pages->setDocumentMode(true);
   addPages();
-  auto *row = new QHBoxLayout(this);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(gap);
-  row->addWidget(m_pages, pagesShare);
-  row->addLayout(buildAside(), asideShare);
+  m_sides = new QHBoxLayout(this);
+  m_sides->setContentsMargins(0, 0, 0, 0);
+  m_sides->setSpacing(gap);
+  m_sides->addWidget(m_pages, pagesShare);
+  m_sides->addLayout(buildAside(), asideShare);
+  turn(false);
+  connect(m_pages, &QTabWidget::currentChanged, this, &SessionView::pageTurned);
   connect(&session, &PrintSession::changed, this, &SessionView::followSession);
   followSession();
 }
 
-QLayout *SessionView::buildAside() {
+QBoxLayout *SessionView::buildAside() {
   auto *title = new PlainLabel(tr("Summary"), this);
   // As high as a tab, so that both sides of the window have the same headings.
   title->setFixedHeight(m_pages->tabBar()->sizeHint().height() - 1);
@@ -66,15 +91,35 @@ QLayout *SessionView::buildAside() {
   return m_aside;
 }
 
-// Above the summary, and as wide as it; the window is not to grow for it.
+// In a window too narrow for both sides the pages get all of its width and all the height that they
+// would like, and whoever shows this view has it scroll.
+void SessionView::turn(bool isNarrow) {
+  m_sides->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+  const QSize room = scaledPageRoom();
+  m_pages->setMinimumWidth(isNarrow ? scaledToText(leastAsideWidth) : room.width());
+  m_pages->setMinimumHeight(isNarrow ? room.height() : scaledToText(leastPageHeight));
+}
+
+QSize SessionView::minimumSizeHint() const {
+  return {scaledToText(leastWidth), m_sides->minimumSize().height()};
+}
+
+void SessionView::resizeEvent(QResizeEvent *event) {
+  QWidget::resizeEvent(event);
+  const bool isNarrow = width() < scaledPageRoom().width() + gap + scaledToText(leastAsideWidth);
+  if (isNarrow != (m_sides->direction() == QBoxLayout::TopToBottom)) turn(isNarrow);
+}
+
+// Above the summary, and as wide as it.
 void SessionView::addPreview() {
   m_preview = new JobPreview(m_session, m_path, this);
-  m_preview->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
-  m_preview->setMinimumHeight(previewHeight);
+  m_preview->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
+  m_preview->setMinimumHeight(scaledToText(leastPreviewHeight));
   m_aside->insertWidget(0, m_preview, previewShare);
 }
 
-// The window opens with the panel, where there is one; the other pages are made when asked for.
+// The window opens with the panel, where there is one that shows something; the other pages are
+// made when asked for.
 void SessionView::addPages() {
   PrintSession &session = m_session;
   const auto general = [&session](QWidget *parent) { return new GeneralPage(session, parent); };
@@ -90,7 +135,7 @@ void SessionView::addPages() {
 
 void SessionView::addPanelPages() {
   for (const PanelPlace &place : m_session.panels().places()) {
-    m_pages->addTab(new PanelPage(place.container, m_pages), place.name);
+    if (place.hasContent) m_pages->addTab(new PanelPage(place.container, m_pages), place.name);
   }
 }
 

@@ -8,7 +8,7 @@
 #include "host/jobs/DocumentInfo.h"
 #include "host/session/PrintSession.h"
 
-class QLayout;
+class QBoxLayout;
 class QTabWidget;
 class QVBoxLayout;
 
@@ -27,17 +27,25 @@ class SessionView final : public QWidget {
 
   void setDocument(const DocumentInfo &document);
 
+  /// Of a narrow window's.
+  QSize minimumSizeHint() const override;
+
+  /// What it shows fits any height that it is given.
+  bool hasHeightForWidth() const override { return false; }
+
  Q_SIGNALS:
   /// Another page is on show.
   void pageTurned();
 
  protected:
   void paintEvent(QPaintEvent *event) override;
+  void resizeEvent(QResizeEvent *event) override;
 
  private:
   void addPages();
   void addPanelPages();
-  QLayout *buildAside();
+  QBoxLayout *buildAside();
+  void turn(bool isNarrow);
   void followSession();
   void learnDefaults();
   void addPreview();
@@ -47,6 +55,8 @@ class SessionView final : public QWidget {
   /// The document.
   QString m_path;
   QTabWidget *m_pages;
+  /// Pages beside preview and summary, or above them.
+  QBoxLayout *m_sides = nullptr;
   SummaryView *m_summary;
   QVBoxLayout *m_aside = nullptr;
   /// Stands above the summary.

@@ -8,14 +8,15 @@
 #include <QStyledItemDelegate>
 
 #include "platform/ui/PlainText.h"
+#include "platform/ui/TextScale.h"
 
 namespace orvek {
 namespace {
 
 constexpr int preferredWidth = 316;
 constexpr int preferredHeight = 236;
-constexpr int leastWidth = 240;
-constexpr int leastHeight = 120;
+constexpr int leastWidth = 136;
+constexpr int leastHeight = 76;
 constexpr int rowPadding = 2;
 constexpr int cellMargin = 3;
 constexpr double titleShare = 0.56;
@@ -103,11 +104,11 @@ void SummaryView::show(const QList<SummaryLine> &lines) {
 }
 
 QSize SummaryView::sizeHint() const {
-  return {preferredWidth, preferredHeight};
+  return {scaledToText(preferredWidth), scaledToText(preferredHeight)};
 }
 
 QSize SummaryView::minimumSizeHint() const {
-  return {leastWidth, leastHeight};
+  return {scaledToText(leastWidth), scaledToText(leastHeight)};
 }
 
 void SummaryView::resizeEvent(QResizeEvent *event) {

@@ -1,24 +1,28 @@
 // SPDX-License-Identifier: Apache-2.0
-// Tells the user's size from the window's own.
+// Asks the layout what it would like, and the screen what there is.
 
 #include "host/dialog/WindowRoom.h"
 
 #include <QLayout>
+#include <QScreen>
 #include <QWidget>
 
 namespace orvek {
+namespace {
 
-void WindowRoom::make() {
-  m_window.layout()->activate();
-  const QSize least = m_window.minimumSizeHint();
-  const QSize wanted = m_window.sizeHint().expandedTo(least);
-  const QSize size = m_window.size();
-  // The layout itself has the window grow to its minimum.
-  const bool isUsersSize = m_ownSize.isValid() && size != m_ownSize &&
-                           size != m_ownSize.expandedTo(m_window.minimumSize());
-  const QSize next = isUsersSize ? size.expandedTo(least) : wanted;
-  if (size != next) m_window.resize(next);
-  if (!isUsersSize) m_ownSize = next;
+// Pixels of the screen that window managers take for a window's frame. They tell how many only once
+// the window is there.
+constexpr int frameWidth = 8;
+constexpr int frameHeight = 40;
+
+}  // namespace
+
+void makeRoom(QWidget &window) {
+  window.layout()->activate();
+  const QSize wish = window.sizeHint();
+  const QSize there = window.screen()->availableGeometry().size() - QSize(frameWidth, frameHeight);
+  // A picture of a window may be larger than any screen.
+  window.resize(window.testAttribute(Qt::WA_DontShowOnScreen) ? wish : wish.boundedTo(there));
 }
 
 }  // namespace orvek

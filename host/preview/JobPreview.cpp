@@ -19,11 +19,14 @@
 #include "host/preview/SpokenSide.h"
 #include "platform/plugin/FinishingKeywords.h"
 #include "platform/ui/PlainText.h"
+#include "platform/ui/TextScale.h"
 
 namespace orvek {
 namespace {
 
 constexpr int gap = 4;
+constexpr int usualWidth = 316;
+constexpr int usualHeight = 272;
 constexpr int samplePages = 8;
 constexpr int fewPages = 2000;  // laid out at once; more of them in the background
 
@@ -118,6 +121,8 @@ QWidget *JobPreview::buildBar() {
   m_place = new PlainLabel(bar);
   m_place->setObjectName(QStringLiteral("previewPlace"));
   m_place->setAlignment(Qt::AlignCenter);
+  m_place->setWordWrap(true);
+  m_place->setText(QStringLiteral(" "));
   m_several = new QToolButton(bar);
   m_several->setObjectName(QStringLiteral("previewSeveral"));
   m_several->setIcon(severalIcon(palette()));
@@ -142,6 +147,10 @@ QWidget *JobPreview::buildBar() {
 
 const std::vector<imposition::PrintedSide> &JobPreview::sides() const {
   return m_view->sides();
+}
+
+QSize JobPreview::sizeHint() const {
+  return {scaledToText(usualWidth), scaledToText(usualHeight)};
 }
 
 bool JobPreview::isComplete() const {

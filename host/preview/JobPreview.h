@@ -34,6 +34,9 @@ class JobPreview final : public QWidget {
 
   const std::vector<imposition::PrintedSide> &sides() const;
 
+  /// Of its own height, and as wide as whoever shows it.
+  QSize sizeHint() const override;
+
  protected:
   void paintEvent(QPaintEvent *event) override;
 

@@ -24,7 +24,7 @@ constexpr int pickedFrame = 2;
 constexpr double leastZoom = 0.5;
 constexpr double mostZoom = 6;
 constexpr QSize usualSize(250, 240);
-constexpr QSize leastSize(120, 120);
+constexpr QSize leastSize(120, 80);
 
 QSizeF largestOf(const std::vector<PrintedSide> &sides) {
   QSizeF largest(1, 1);

@@ -36,7 +36,7 @@ int lineHeight(const QList<QWidget *> &line, const QList<int> &widths) {
 
 FlowRow::FlowRow(int gap, int lineGap, QWidget *parent)
     : QWidget(parent), m_gap(gap), m_lineGap(lineGap) {
-  QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
   policy.setHeightForWidth(true);
   setSizePolicy(policy);
 }
@@ -107,13 +107,15 @@ void FlowRow::arrange() {
   int y = 0;
   for (const Line &line : linesFor(width())) {
     const QList<int> widths = widthsOf(line, width());
+    const int height = lineHeight(line, widths);
     int x = 0;
     for (int i = 0; i < line.size(); ++i) {
-      const QRect place(x, y, widths[i], heightOf(line[i], widths[i]));
+      const bool isFixed = line[i]->sizePolicy().verticalPolicy() == QSizePolicy::Fixed;
+      const QRect place(x, y, widths[i], isFixed ? heightOf(line[i], widths[i]) : height);
       line[i]->setGeometry(QStyle::visualRect(layoutDirection(), rect(), place));
       x += widths[i] + m_gap;
     }
-    y += lineHeight(line, widths) + m_lineGap;
+    y += height + m_lineGap;
   }
 }
 

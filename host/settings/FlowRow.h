@@ -9,7 +9,8 @@ namespace orvek {
 
 /// Has its parts stand in one line where it can, in several where the window is narrow: first come,
 /// first placed, from the side where reading begins. A part whose horizontal policy is Expanding
-/// takes what its line leaves, up to its maximum. Hidden parts take no room. Belongs to its parent,
+/// takes what its line leaves, up to its maximum. Parts are as high as their line, but for those
+/// whose vertical policy is Fixed. Hidden parts take no room. Belongs to its parent,
 /// owns its parts, and lives on the interface's thread. Nothing fails.
 class FlowRow : public QWidget {
   Q_OBJECT

@@ -17,6 +17,7 @@
 #include "host/settings/JobChange.h"
 #include "host/settings/Mnemonics.h"
 #include "platform/ui/PlainText.h"
+#include "platform/ui/TextScale.h"
 
 namespace orvek {
 namespace {
@@ -49,7 +50,7 @@ GeneralPage::GeneralPage(PrintSession &session, QWidget *parent)
   addGap();
   addQualityRows();
   auto *body = new QWidget(this);
-  body->setMaximumWidth(widestForm);
+  body->setMaximumWidth(scaledToText(widestForm));
   body->setLayout(m_form);
   auto *column = new QVBoxLayout(this);
   column->setContentsMargins(margin, margin, margin, margin);

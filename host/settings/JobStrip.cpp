@@ -15,6 +15,7 @@
 #include "host/settings/Mnemonics.h"
 #include "host/settings/PagesRow.h"
 #include "platform/ui/PlainText.h"
+#include "platform/ui/TextScale.h"
 
 namespace orvek {
 namespace {
@@ -39,7 +40,7 @@ JobStrip::JobStrip(PrintSession &session, QWidget *parent)
   m_sides->setMinimumContentsLength(sidesLetters);
   addGroup(tr("Copies"), m_copies);
   QWidget *pages = addGroup(tr("Pages"), m_pages)->parentWidget();
-  pages->setMaximumWidth(std::max(widestPages, pages->sizeHint().width()));
+  pages->setMaximumWidth(std::max(scaledToText(widestPages), pages->sizeHint().width()));
   pages->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   m_sidesLabel = addGroup(tr("Two-sided"), m_sides);
   connectControls();

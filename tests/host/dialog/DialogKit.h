@@ -69,6 +69,7 @@ class DialogTest : public ::testing::Test {
     dialogSetup.jobRequest = [this](PrintSession &now) { return requestFor(now); };
     if (prepare) prepare(dialogSetup);
     dialog = std::make_unique<PrintDialog>(*session, std::move(dialogSetup));
+    if (screen != nullptr) dialog->setScreen(screen);
     dialog->show();
     dialog->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog.get()));
@@ -129,6 +130,8 @@ class DialogTest : public ::testing::Test {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
   }
 
+  /// Where the window is shown; null: where the toolkit shows it.
+  QScreen *screen = nullptr;
   QTemporaryDir folder;
   /// What a test adds to the window's setup.
   std::function<void(DialogSetup &)> prepare;
