@@ -40,7 +40,7 @@ if(ORVEK_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets UiTools)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets UiTools DBus)
 find_package(Cups REQUIRED)
 # Where the print server keeps its programs, filters among them.
 execute_process(COMMAND cups-config --serverbin OUTPUT_VARIABLE ORVEK_CUPS_SERVERBIN

@@ -32,6 +32,10 @@ void ChooserRow::addGroup(QWidget *chooser, QWidget *menu, const QString &text) 
   auto *group = new QWidget(this);
   auto *label = new PlainLabel(text, group);
   label->setBuddy(menu);
+  // Screen readers look for labels where the menu itself stands.
+  auto *spoken = new PlainLabel(label->text().remove(QLatin1Char('&')), menu->parentWidget());
+  spoken->setBuddy(menu);
+  spoken->hide();
   label->setFixedHeight(menu->sizeHint().height());
   auto *row = new QHBoxLayout(group);
   row->setContentsMargins(0, 0, 0, 0);

@@ -26,6 +26,7 @@ DocumentHeader::DocumentHeader(QWidget *parent)
       m_name(new ElidedLabel(Qt::ElideMiddle, this)),
       m_detail(new PlainLabel(this)),
       m_action(new QPushButton(this)) {
+  m_picture->setAccessibleName(tr("Document"));
   m_picture->hide();
   m_name->setMinimumWidth(leastNameWidth);
   m_action->setObjectName(QStringLiteral("documentAction"));

@@ -5,10 +5,12 @@
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
+#include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
 
 #include "host/dialog/ElidedLabel.h"
+#include "platform/ui/FocusMark.h"
 #include "platform/ui/PlainText.h"
 
 namespace orvek {
@@ -17,6 +19,19 @@ namespace {
 constexpr int progressWidth = 200;
 constexpr int leastWordsWidth = 260;
 constexpr int wholeJob = 100;
+
+// The default button looks as if it had the keyboard, so that it needs another mark where it has.
+class DefaultButton final : public QPushButton {
+ public:
+  using QPushButton::QPushButton;
+
+ protected:
+  void paintEvent(QPaintEvent *event) override {
+    QPushButton::paintEvent(event);
+    QPainter painter(this);
+    paintFocusMark(painter, *this);
+  }
+};
 
 }  // namespace
 
@@ -27,7 +42,8 @@ JobBar::JobBar(QWidget *parent)
   m_words->setObjectName(QStringLiteral("jobWords"));
   m_words->setMinimumWidth(leastWordsWidth);
   auto *buttons = new QDialogButtonBox(this);
-  m_print = buttons->addButton(tr("&Print"), QDialogButtonBox::AcceptRole);
+  m_print = new DefaultButton(tr("&Print"), buttons);
+  buttons->addButton(m_print, QDialogButtonBox::AcceptRole);
   m_print->setObjectName(QStringLiteral("printButton"));
   m_print->setDefault(true);
   m_cancel = buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);

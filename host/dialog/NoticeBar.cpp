@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
-// Icon, words, Undo and a way to send the bar away.
+// Icon, words, Undo, a way to the other notices, and one to send this one away.
 
 #include "host/dialog/NoticeBar.h"
 
-#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyle>
 #include <QToolButton>
 
+#include "host/settings/Announcement.h"
 #include "platform/ui/PlainText.h"
 
 namespace orvek {
@@ -29,6 +30,12 @@ QColor mixed(const QColor &background, const QColor &colour, qreal share) {
                           float(part(background.blueF(), colour.blueF())));
 }
 
+// A frame is passed over by whoever listens; a notification is read when it shows.
+QAccessibleInterface *speechOf(const QString &, QObject *object) {
+  auto *bar = qobject_cast<NoticeBar *>(object);
+  return bar == nullptr ? nullptr : new QAccessibleWidget(bar, QAccessible::Notification);
+}
+
 }  // namespace
 
 NoticeBar::NoticeBar(QWidget *parent)
@@ -36,44 +43,93 @@ NoticeBar::NoticeBar(QWidget *parent)
       m_icon(new PlainLabel(this)),
       m_text(new PlainLabel(this)),
       m_undo(new QPushButton(tr("&Undo"), this)),
+      m_earlier(addTurn("noticeEarlier", Qt::LeftArrow, -1, tr("Earlier notice"))),
+      m_place(new PlainLabel(this)),
+      m_later(addTurn("noticeLater", Qt::RightArrow, 1, tr("Later notice"))),
       m_close(new QToolButton(this)) {
+  nameParts();
+  auto *row = new QHBoxLayout(this);
+  row->setContentsMargins(margin, margin / 2, margin / 2, margin / 2);
+  row->addWidget(m_icon);
+  row->addWidget(m_text, 1);
+  row->addWidget(m_undo);
+  row->addWidget(m_earlier);
+  row->addWidget(m_place);
+  row->addWidget(m_later);
+  row->addWidget(m_close);
+  connect(m_undo, &QPushButton::clicked, this, &NoticeBar::undoAsked);
+  connect(m_close, &QToolButton::clicked, this, &NoticeBar::dismissed);
+  hide();
+}
+
+void NoticeBar::nameParts() {
+  static const bool speaks = [] {
+    QAccessible::installFactory(speechOf);
+    return true;
+  }();
+  static_cast<void>(speaks);
   setObjectName(QStringLiteral("noticeBar"));
-  setAccessibleName(tr("Notice"));
   m_text->setObjectName(QStringLiteral("noticeText"));
   m_text->setWordWrap(true);
   m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
   m_undo->setObjectName(QStringLiteral("undoButton"));
   m_undo->setAutoDefault(false);
-  m_undo->setAccessibleName(tr("Undo"));
-  m_undo->setAccessibleDescription(tr("Takes back the last choice with all that it changed"));
+  m_place->setObjectName(QStringLiteral("noticePlace"));
   m_close->setObjectName(QStringLiteral("noticeCloseButton"));
   m_close->setAutoRaise(true);
   m_close->setFocusPolicy(Qt::StrongFocus);
   m_close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
   m_close->setAccessibleName(tr("Close the notice"));
   m_close->setToolTip(tr("Close the notice"));
-  auto *row = new QHBoxLayout(this);
-  row->setContentsMargins(margin, margin / 2, margin / 2, margin / 2);
-  row->addWidget(m_icon);
-  row->addWidget(m_text, 1);
-  row->addWidget(m_undo);
-  row->addWidget(m_close);
-  connect(m_undo, &QPushButton::clicked, this, &NoticeBar::undoAsked);
-  connect(m_close, &QToolButton::clicked, this, &NoticeBar::fallSilent);
-  hide();
 }
 
-void NoticeBar::say(Kind kind, const QStringList &sentences, bool canUndo) {
-  m_kind = kind;
-  m_sentences = sentences;
-  m_text->setText(sentences.join(QLatin1Char('\n')));
+QToolButton *NoticeBar::addTurn(const char *name, Qt::ArrowType arrow, int places,
+                                const QString &text) {
+  auto *button = new QToolButton(this);
+  button->setObjectName(QLatin1String(name));
+  button->setArrowType(arrow);
+  button->setAutoRaise(true);
+  button->setFocusPolicy(Qt::StrongFocus);
+  button->setAccessibleName(text);
+  button->setToolTip(plainToolTip(text));
+  connect(button, &QToolButton::clicked, this, [this, places] { Q_EMIT turned(places); });
+  return button;
+}
+
+void NoticeBar::say(const Notice &notice, bool isNew) {
+  m_kind = notice.kind;
+  m_sentences = notice.sentences;
+  m_text->setText(m_sentences.join(QLatin1Char('\n')));
   m_text->setAccessibleName(m_text->text());
-  m_undo->setVisible(canUndo);
   showKind();
+  showUndo(notice.takesBack);
+  showPlace(notice.place, notice.count);
+  setAccessibleName(m_icon->accessibleName() + QStringLiteral(": ") +
+                    m_sentences.join(QStringLiteral(". ")));
   show();
   update();
-  QAccessibleEvent alert(m_text, QAccessible::Alert);
-  QAccessible::updateAccessibility(&alert);
+  if (isNew) announce(*this, accessibleName());
+}
+
+void NoticeBar::showUndo(const QStringList &takesBack) {
+  const int acts = static_cast<int>(takesBack.size());
+  m_undo->setVisible(acts > 0);
+  m_undo->setText(acts > 1 ? tr("&Undo %n steps", nullptr, acts) : tr("&Undo"));
+  m_undo->setAccessibleName(m_undo->text().remove(QLatin1Char('&')));
+  const QString words = takesBack.join(QLatin1Char('\n'));
+  m_undo->setToolTip(plainToolTip(words));
+  m_undo->setAccessibleDescription(
+      tr("Takes back the choice with all that it changed, and what came after it"));
+}
+
+void NoticeBar::showPlace(int place, int count) {
+  m_place->setText(tr("%1 of %2", "a notice's place").arg(place).arg(count));
+  m_earlier->setEnabled(place > 1);
+  m_later->setEnabled(place < count);
+  for (QWidget *part : {static_cast<QWidget *>(m_earlier), static_cast<QWidget *>(m_place),
+                        static_cast<QWidget *>(m_later)}) {
+    part->setVisible(count > 1);
+  }
 }
 
 void NoticeBar::fallSilent() {

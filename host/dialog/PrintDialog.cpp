@@ -4,12 +4,14 @@
 #include "host/dialog/PrintDialog.h"
 
 #include <QFrame>
+#include <QHBoxLayout>
 #include <QShortcut>
 #include <QVBoxLayout>
 #include <utility>
 
 #include "host/dialog/ChooserRow.h"
 #include "host/dialog/DocumentHeader.h"
+#include "host/dialog/HistoryKeys.h"
 #include "host/dialog/JobBar.h"
 #include "host/dialog/JobDocuments.h"
 #include "host/dialog/NoticeKeeper.h"
@@ -17,6 +19,8 @@
 #include "host/dialog/PrinterChooser.h"
 #include "host/dialog/ScrollingBody.h"
 #include "host/dialog/SessionView.h"
+#include "host/dialog/TabOrder.h"
+#include "host/dialog/WheelGuard.h"
 #include "host/dialog/WindowRoom.h"
 #include "host/jobs/BackgroundJob.h"
 #include "host/session/JobWarnings.h"
@@ -129,9 +133,13 @@ void PrintDialog::connectParts() {
   connect(m_job, &BackgroundJob::progressed, this, &PrintDialog::showProgress);
   connect(m_job, &BackgroundJob::finished, this, &PrintDialog::end);
   connect(m_job, &BackgroundJob::failed, this, &PrintDialog::showFailure);
-  auto *undo = new QShortcut(QKeySequence::Undo, this);
-  connect(undo, &QShortcut::activated, this, [this] {
-    if (m_session->canUndo()) m_session->undo();
+  new WheelGuard(*this);
+  auto *keys = new HistoryKeys(*this);
+  connect(keys, &HistoryKeys::undoAsked, this, [this] {
+    if (!m_job->isRunning()) m_session->undo();
+  });
+  connect(keys, &HistoryKeys::redoAsked, this, [this] {
+    if (!m_job->isRunning()) m_session->redo();
   });
 }
 
@@ -203,6 +211,10 @@ void PrintDialog::lookAround() {
 
 void PrintDialog::showProblem(const Failure &failure) {
   m_notices->say(NoticeBar::Kind::Problem, {failureText(failure)});
+}
+
+bool PrintDialog::focusNextPrevChild(bool next) {
+  return moveFocus(*this, next);
 }
 
 // Whoever made the window may have chosen its screen or its size since.

@@ -12,7 +12,7 @@
 //
 //   Helpers: JobDocuments, what is printed; NoticeKeeper, what the bar says; NoticePlace, its room;
 //   PrinterSwitch, the way to another printer; ScrollingBody, all above the notices; WindowRoom, the
-//   window's size
+//   window's size; HistoryKeys, Undo and Redo; WheelGuard, what scrolling changes
 #pragma once
 
 #include <QDialog>
@@ -82,6 +82,9 @@ class PrintDialog final : public QDialog {
  Q_SIGNALS:
   /// The printer that the window was made for did not come, and why. It has been said by then.
   void firstFailed(const orvek::Failure &failure);
+
+ protected:
+  bool focusNextPrevChild(bool next) override;
 
  private:
   // Parts and what they show

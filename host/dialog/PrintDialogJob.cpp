@@ -2,6 +2,7 @@
 // A job's way: gathered, warned of, sent, watched, ended.
 
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QPushButton>
 
 #include "host/dialog/JobBar.h"
@@ -16,6 +17,7 @@
 #include "host/jobs/QueueJob.h"
 #include "host/printers/Queue.h"
 #include "host/session/JobWarnings.h"
+#include "host/settings/Announcement.h"
 #include "host/translations/FailureText.h"
 #include "platform/ui/PlainText.h"
 
@@ -23,7 +25,7 @@ namespace orvek {
 
 JobRequest PrintDialog::gatherRequest() {
   {
-    const ActionScope action(*m_session);
+    const ActionScope action(*m_session, ActionOf::Host);
     m_session->panels().save();
   }
   JobRequest request = m_setup.jobRequest ? m_setup.jobRequest(*m_session) : JobRequest();
@@ -83,7 +85,7 @@ void PrintDialog::print() {
 }
 
 void PrintDialog::start() {
-  m_notices->fallSilent();
+  m_notices->forgetOthers();
   m_isCancelling = false;
   m_job->start(m_request, m_request.queue.isNull() ? printThroughFilters : submitToQueue);
   showProgress({});
@@ -115,6 +117,9 @@ void PrintDialog::end(const JobOutcome &outcome) {
     return;
   }
   m_outcome = outcome;
+  announce(*this, m_request.queue.isNull()
+                      ? tr("Printed into %1").arg(QFileInfo(m_request.outputFile).fileName())
+                      : tr("Sent to %1, job %2").arg(m_request.queue).arg(outcome.jobId));
   if (m_setup.presets && !m_request.queue.isNull()) {
     // The job went; that it can't be remembered is no reason to stay.
     static_cast<void>(m_setup.presets->saveLastUsed(m_setup.destination, presetOf(*m_session, {})));

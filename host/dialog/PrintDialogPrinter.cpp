@@ -72,8 +72,12 @@ void PrintDialog::moveTo(PrinterSwitch::Session opened, const QString &destinati
   const JobSettings settings = m_session->job().settings();
   const JobSettings began = m_session->job().firstSettings();
   takeSession(opened.take(), destination);
-  const QList<PresetMisfit> misfits = applyPreset(*m_session, entered);
-  m_session->job().setSettings(carriedOver(settings, began, m_session->job().settings()));
+  QList<PresetMisfit> misfits;
+  {
+    const ActionScope action(*m_session);
+    misfits = applyPreset(*m_session, entered);
+    m_session->job().setSettings(carriedOver(settings, began, m_session->job().settings()));
+  }
   showMisfits(tr("Not everything fits this printer:"), misfits);
 }
 
@@ -87,7 +91,6 @@ void PrintDialog::takeFirst(std::unique_ptr<PrintSession> session, const QString
 
 void PrintDialog::takeSession(std::unique_ptr<PrintSession> session, const QString &destination) {
   m_session->disconnect(this);
-  m_notices->fallSilent();
   // The old ones give back what they borrowed before the old session goes.
   auto *strip = new JobStrip(*session, this);
   auto *view = new SessionView(*session, m_documents->only(), this);

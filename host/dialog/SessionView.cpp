@@ -4,18 +4,22 @@
 
 #include "host/dialog/SessionView.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
+#include <QShortcut>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <utility>
 
+#include "host/dialog/HistoryButtons.h"
 #include "host/dialog/LazyPage.h"
 #include "host/dialog/PanelPage.h"
 #include "host/dialog/SummaryView.h"
 #include "host/preview/JobPreview.h"
 #include "host/settings/GeneralPage.h"
+#include "host/settings/Mnemonics.h"
 #include "host/settings/OptionsPage.h"
 #include "platform/ui/PlainText.h"
 #include "platform/ui/TextScale.h"
@@ -65,6 +69,7 @@ SessionView::SessionView(PrintSession &session, const DocumentInfo &document, QW
   m_pages->setAccessibleName(tr("Settings"));
   m_pages->setDocumentMode(true);
   addPages();
+  addPageKeys();
   m_sides = new QHBoxLayout(this);
   m_sides->setContentsMargins(0, 0, 0, 0);
   m_sides->setSpacing(gap);
@@ -82,7 +87,12 @@ QBoxLayout *SessionView::buildAside() {
   title->setFixedHeight(m_pages->tabBar()->sizeHint().height() - 1);
   m_aside = new QVBoxLayout;
   m_aside->setSpacing(0);
-  m_aside->addWidget(title);
+  auto *heading = new QHBoxLayout;
+  heading->addWidget(title, 1);
+  auto *history = new HistoryButtons(m_session, this);
+  history->setFixedHeight(title->height());
+  heading->addWidget(history);
+  m_aside->addLayout(heading);
   // It scrolls; what it would like to have is the preview's.
   m_summary->setSizePolicy(m_summary->sizePolicy().horizontalPolicy(), QSizePolicy::Ignored);
   m_summary->setMinimumHeight(m_summary->minimumSizeHint().height());
@@ -137,6 +147,30 @@ void SessionView::addPanelPages() {
   for (const PanelPlace &place : m_session.panels().places()) {
     if (place.hasContent) m_pages->addTab(new PanelPage(place.container, m_pages), place.name);
   }
+}
+
+// The tabs' own keys work from their pages only.
+void SessionView::addPageKeys() {
+  const QList<std::pair<QKeySequence::StandardKey, int>> ways{{QKeySequence::NextChild, 1},
+                                                              {QKeySequence::PreviousChild, -1}};
+  for (const auto &[keys, pages] : ways) {
+    auto *shortcut = new QShortcut(this);
+    shortcut->setKeys(QKeySequence::keyBindings(keys));
+    connect(shortcut, &QShortcut::activated, this, [this, pages = pages] { turnPage(pages); });
+  }
+}
+
+// The keyboard stays where it is, unless that page goes.
+void SessionView::turnPage(int pages) {
+  const int count = m_pages->count();
+  const bool isInside = m_pages->currentWidget()->isAncestorOf(QApplication::focusWidget());
+  if (isInside) m_pages->tabBar()->setFocus(Qt::TabFocusReason);
+  m_pages->setCurrentIndex((m_pages->currentIndex() + pages + count) % count);
+}
+
+void SessionView::showEvent(QShowEvent *event) {
+  QWidget::showEvent(event);
+  assignTabMnemonics(window(), nullptr);
 }
 
 void SessionView::setDocument(const DocumentInfo &document) {

@@ -38,12 +38,15 @@ class SessionView final : public QWidget {
   void pageTurned();
 
  protected:
+  void showEvent(QShowEvent *event) override;
   void paintEvent(QPaintEvent *event) override;
   void resizeEvent(QResizeEvent *event) override;
 
  private:
   void addPages();
   void addPanelPages();
+  void addPageKeys();
+  void turnPage(int pages);
   QBoxLayout *buildAside();
   void turn(bool isNarrow);
   void followSession();

@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QStyledItemDelegate>
 
+#include "platform/ui/FocusMark.h"
 #include "platform/ui/PlainText.h"
 #include "platform/ui/TextScale.h"
 
@@ -80,6 +81,7 @@ QTreeWidgetItem *itemFor(const SummaryLine &line, const QFont &plain) {
 }  // namespace
 
 SummaryView::SummaryView(QWidget *parent) : QTreeWidget(parent) {
+  setObjectName(QStringLiteral("summary"));
   setAccessibleName(tr("Summary"));
   setAccessibleDescription(tr("All settings of the job; those that were changed come first"));
   setItemDelegate(new RowDelegate(this));
@@ -109,6 +111,12 @@ QSize SummaryView::sizeHint() const {
 
 QSize SummaryView::minimumSizeHint() const {
   return {scaledToText(leastWidth), scaledToText(leastHeight)};
+}
+
+void SummaryView::paintEvent(QPaintEvent *event) {
+  QTreeWidget::paintEvent(event);
+  QPainter painter(viewport());
+  paintFocusMark(painter, *viewport());
 }
 
 void SummaryView::resizeEvent(QResizeEvent *event) {

@@ -23,6 +23,7 @@ class SummaryView final : public QTreeWidget {
   QSize minimumSizeHint() const override;
 
  protected:
+  void paintEvent(QPaintEvent *event) override;
   void resizeEvent(QResizeEvent *event) override;
 
  private:

@@ -4,11 +4,13 @@
 
 #include "host/preview/SheetsView.h"
 
-#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
 #include <cmath>
+
+#include "platform/ui/FocusMark.h"
 
 namespace orvek {
 namespace {
@@ -34,10 +36,21 @@ QSizeF largestOf(const std::vector<PrintedSide> &sides) {
   return largest;
 }
 
+// A picture, not something that others stand in.
+QAccessibleInterface *speechOf(const QString &, QObject *object) {
+  auto *view = qobject_cast<SheetsView *>(object);
+  return view == nullptr ? nullptr : new QAccessibleWidget(view, QAccessible::Graphic);
+}
+
 }  // namespace
 
 SheetsView::SheetsView(PagePictures &pictures, QWidget *parent)
     : QAbstractScrollArea(parent), m_pictures(pictures) {
+  static const bool speaks = [] {
+    QAccessible::installFactory(speechOf);
+    return true;
+  }();
+  static_cast<void>(speaks);
   setFocusPolicy(Qt::StrongFocus);
   setFrameShape(QFrame::NoFrame);
   viewport()->setBackgroundRole(QPalette::Window);
@@ -215,6 +228,17 @@ void SheetsView::paintEvent(QPaintEvent *) {
   painter.setFont(font());
   const auto [first, last] = visibleSides();
   for (int side = first; side <= last; ++side) paintCell(&painter, side);
+  paintFocusMark(painter, *viewport());
+}
+
+void SheetsView::focusInEvent(QFocusEvent *event) {
+  QAbstractScrollArea::focusInEvent(event);
+  viewport()->update();
+}
+
+void SheetsView::focusOutEvent(QFocusEvent *event) {
+  QAbstractScrollArea::focusOutEvent(event);
+  viewport()->update();
 }
 
 void SheetsView::addWishes(int side, QList<PageWish> *wishes) const {

@@ -47,6 +47,8 @@ class SheetsView final : public QAbstractScrollArea {
 
  protected:
   void paintEvent(QPaintEvent *event) override;
+  void focusInEvent(QFocusEvent *event) override;
+  void focusOutEvent(QFocusEvent *event) override;
   void resizeEvent(QResizeEvent *event) override;
   void scrollContentsBy(int dx, int dy) override;
   void wheelEvent(QWheelEvent *event) override;

@@ -9,11 +9,11 @@ namespace orvek {
 
 ActionOwner::~ActionOwner() = default;
 
-void RunningAction::begin() {
+void RunningAction::begin(ActionOf whose) {
   if (m_depth == 0) {
     // An act of the window that still waits for its end is over by now.
     if (m_endIsPending) conclude();
-    m_owner.actionBegins();
+    m_whose = whose;
   }
   ++m_depth;
 }
@@ -25,7 +25,7 @@ void RunningAction::end() {
 void RunningAction::noteChange() {
   if (m_depth > 0 || m_endIsPending) return;
   m_endIsPending = true;
-  m_owner.actionBegins();
+  m_whose = ActionOf::User;
   QMetaObject::invokeMethod(
       this,
       [this] {
@@ -39,11 +39,11 @@ void RunningAction::conclude() {
   m_owner.actionSettles();
   --m_depth;
   m_endIsPending = false;
-  m_owner.actionEnded();
+  m_owner.actionEnded(m_whose);
 }
 
-ActionScope::ActionScope(PrintSession &session) : m_session(session) {
-  m_session.m_action.begin();
+ActionScope::ActionScope(PrintSession &session, ActionOf whose) : m_session(session) {
+  m_session.m_action.begin(whose);
 }
 
 ActionScope::~ActionScope() {

@@ -9,20 +9,20 @@ namespace orvek {
 
 class PrintSession;
 
-/// Who is told of actions. Implemented by the session. Is borrowed and owns nothing by it; its
-/// calls come on the interface's thread and do not fail.
+/// Whose an action is: only what users do can be taken back.
+enum class ActionOf { User, Host };
+
+/// Who is told of an action's end. Implemented by the session. Is borrowed and owns nothing by it;
+/// its calls come on the interface's thread and do not fail.
 class ActionOwner {
  public:
   virtual ~ActionOwner();
 
-  /// The outermost action begins.
-  virtual void actionBegins() = 0;
-
-  /// It is about to end; what happens now still belongs to it.
+  /// The running action is about to end; what happens now still belongs to it.
   virtual void actionSettles() = 0;
 
   /// It has ended; another one may begin.
-  virtual void actionEnded() = 0;
+  virtual void actionEnded(ActionOf whose) = 0;
 };
 
 /// Knows whether an action runs. Borrows its owner, which must outlive it; belongs to the
@@ -31,8 +31,8 @@ class RunningAction final : public QObject {
  public:
   explicit RunningAction(ActionOwner &owner) : m_owner(owner) {}
 
-  /// Actions within one another are one.
-  void begin();
+  /// Actions within one another are one, and the outermost says whose.
+  void begin(ActionOf whose);
   void end();
 
   /// Something changed. Where no action runs, a user's act on a control of the window has begun
@@ -43,6 +43,7 @@ class RunningAction final : public QObject {
   void conclude();
 
   ActionOwner &m_owner;
+  ActionOf m_whose = ActionOf::User;
   int m_depth = 0;
   bool m_endIsPending = false;
 };
@@ -52,7 +53,7 @@ class RunningAction final : public QObject {
 /// the session, which must outlive it. On the interface's thread; nothing fails.
 class ActionScope {
  public:
-  explicit ActionScope(PrintSession &session);
+  explicit ActionScope(PrintSession &session, ActionOf whose = ActionOf::User);
   ~ActionScope();
   ActionScope(const ActionScope &) = delete;
   ActionScope &operator=(const ActionScope &) = delete;

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
-// Picks with all that they bring: marks, constraints, the ticket's record, and the step back.
+// Picks with all that they bring: marks, constraints, and the ticket's record.
 // Where a choice that is picked gets marked and recorded; a session's first marks are FirstMarks'.
 #pragma once
 
-#include <QMap>
 #include <QString>
-#include <QStringList>
-#include <QVariant>
 #include <memory>
 #include <optional>
 
@@ -32,31 +29,12 @@ class Picks {
   /// Nothing where the choice is empty or the PPD lacks it: nothing is marked or recorded then.
   std::optional<Resolution> pick(const QString &option, const QString &choice);
 
-  /// What is picked from here on belongs to another step.
-  void beginStep();
-
-  /// Whether the last step that changed something can be taken back.
-  bool canUndo() const { return m_step.has_value(); }
-
-  /// Takes the last step back, marks and ticket: the options concerned. Empty: nothing to take
-  /// back.
-  QStringList undo();
-
  private:
-  struct Step {
-    MarksSnapshot marks;
-    // Values before; invalid: the key was absent.
-    QMap<QString, QVariant> ticket;
-  };
-
-  void record(const OptionChoice &choice, Step *step);
-  void giveUp(const OptionChoice &choice, Step *step);
-  void keep(Step step);
+  void record(const OptionChoice &choice);
+  void giveUp(const OptionChoice &choice);
 
   Marks m_marks;
   std::shared_ptr<Ticket> m_ticket;
-  std::optional<Step> m_step;
-  bool m_stepIsOpen = false;
 };
 
 }  // namespace orvek

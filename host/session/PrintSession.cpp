@@ -43,6 +43,7 @@ PrintSession::PrintSession(const SessionSetup &setup)
       m_ticket(std::make_shared<Ticket>()),
       m_picks(m_origin.printer ? *m_origin.printer : PrinterDescription::none(), m_ticket),
       m_job(*this),
+      m_history(*this),
       m_action(*this),
       m_panels(*this, {marks().printer().lend(), &m_handle, m_ticket}, setup.panelsMayResize) {
   beginTicket(*m_ticket, setup, marks().printer());
@@ -62,6 +63,7 @@ Status PrintSession::markFirst() {
   // itself finds it by the PPD's name.
   m_origin.queueOptions = withMeanings(m_picks.marks(), m_origin.queueOptions);
   m_job.beginAsSaved();
+  m_history.begin();
   m_ticket->setChangeListener([this](const QString &) { m_action.noteChange(); });
   return {};
 }
@@ -69,7 +71,7 @@ Status PrintSession::markFirst() {
 void PrintSession::openPanels(PluginList plugins) {
   const bool isUntouched = !hasOtherTicketKeys();
   {
-    const ActionScope action(*this);
+    const ActionScope action(*this, ActionOf::Host);
     m_panels.open(std::move(plugins));
   }
   if (isUntouched) m_defaultSummary.know(m_panels.summary());
@@ -95,9 +97,23 @@ bool PrintSession::pick(const QString &option, const QString &choice) {
   return marked;
 }
 
-void PrintSession::undo() {
-  const ActionScope action(*this);
-  m_changedOptions << m_picks.undo();
+void PrintSession::undo(int acts) {
+  const ActionScope action(*this, ActionOf::Host);
+  for (int act = 0; act < acts; ++act) show(m_history.undo());
+}
+
+void PrintSession::redo(int acts) {
+  const ActionScope action(*this, ActionOf::Host);
+  for (int act = 0; act < acts; ++act) show(m_history.redo());
+}
+
+// Nobody knows which panel reads which of the ticket's own keys.
+void PrintSession::show(const QStringList &changedKeys) {
+  m_changedOptions << changedKeys;
+  const bool hasOthers =
+      std::any_of(changedKeys.begin(), changedKeys.end(),
+                  [this](const QString &key) { return !marks().printer().has(key); });
+  m_allMustRestore = m_allMustRestore || hasOthers;
 }
 
 bool PrintSession::choiceAnnounced(const QString &option, const QString &choice) {
@@ -112,6 +128,7 @@ void PrintSession::panelResized() {
 
 bool PrintSession::apply(const QString &option, const QString &choice) {
   m_action.noteChange();
+  m_history.notePick(option);
   const std::optional<Resolution> resolution = m_picks.pick(option, choice);
   if (!resolution) return false;
   // Undone, the pick of a choice that was marked before has changed nothing.
@@ -132,20 +149,25 @@ void PrintSession::notice(const Resolution &resolution) {
   Q_EMIT noticed(words);
 }
 
-void PrintSession::actionBegins() {
-  m_picks.beginStep();
-}
-
 void PrintSession::actionSettles() {
   const QStringList changedOptions = std::exchange(m_changedOptions, {});
   if (changedOptions.isEmpty()) return;
-  m_panels.restoreClaiming(changedOptions);
+  if (std::exchange(m_allMustRestore, false)) {
+    m_panels.restore();
+  } else {
+    m_panels.restoreClaiming(changedOptions);
+  }
   // Once is enough: a panel that was told twice would be told for ever.
   m_changedOptions.clear();
 }
 
-void PrintSession::actionEnded() {
+void PrintSession::actionEnded(ActionOf whose) {
   m_actionNotices.clear();
+  if (whose == ActionOf::User) {
+    m_history.noteAct();
+  } else {
+    m_history.absorb();
+  }
   Q_EMIT changed();
 }
 

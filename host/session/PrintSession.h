@@ -4,10 +4,12 @@
 // own.
 //
 //   1. Setting up           begin, openPanels
-//   2. What the user does   pick, setTicketValue, undo; several things as one: ActionScope
+//   2. What the user does   pick, setTicketValue, undo, redo; several things as one:
+//                           ActionScope
 //   3. Parts                origin, marks, ticket, panels
 //                           job      what the job says          SessionJob
 //                           record   what was heard and said    SessionRecord
+//                           history  what can be taken back     History
 //   4. What can be told     defaultSummary
 #pragma once
 
@@ -19,6 +21,7 @@
 #include "host/panels/DefaultSummary.h"
 #include "host/panels/PanelSet.h"
 #include "host/session/ActionScope.h"
+#include "host/session/History.h"
 #include "host/session/Picks.h"
 #include "host/session/SessionJob.h"
 #include "host/session/SessionRecord.h"
@@ -50,9 +53,12 @@ class PrintSession final : public QObject, private PanelListener, private Action
   /// the key.
   void setTicketValue(const QString &key, const QVariant &value) { m_ticket->setValue(key, value); }
 
-  /// Takes back the last step that changed something, and has the panels show it.
-  void undo();
-  bool canUndo() const { return m_picks.canUndo(); }
+  /// Takes back what the user did last, or does again what was taken back last, as many acts as are
+  /// asked for and there, and has the panels show it.
+  void undo(int acts = 1);
+  void redo(int acts = 1);
+  bool canUndo() const { return !m_history.done().isEmpty(); }
+  const History &history() const { return m_history; }
 
   /// What the session began with. Among the queue's options also stands, under the PPD's keywords,
   /// what their words stand for.
@@ -93,12 +99,12 @@ class PrintSession final : public QObject, private PanelListener, private Action
 
   bool choiceAnnounced(const QString &option, const QString &choice) override;
   void panelResized() override;
-  void actionBegins() override;
   void actionSettles() override;
-  void actionEnded() override;
+  void actionEnded(ActionOf whose) override;
 
   Status markFirst();
   bool hasOtherTicketKeys() const;
+  void show(const QStringList &changedKeys);
   bool apply(const QString &option, const QString &choice);
   void notice(const Resolution &resolution);
 
@@ -108,10 +114,13 @@ class PrintSession final : public QObject, private PanelListener, private Action
   PrintSessionHandle m_handle;
   Picks m_picks;
   SessionJob m_job;
+  History m_history;
   SessionRecord m_record;
   QStringList m_actionNotices;
   /// By constraints, since the running action began.
   QStringList m_changedOptions;
+  /// All panels, as the ticket has other keys than theirs alone.
+  bool m_allMustRestore = false;
   DefaultSummary m_defaultSummary;
   RunningAction m_action;
   PanelSet m_panels;

@@ -63,6 +63,7 @@ Result<bool> SessionJob::take(const QString &name, const QString &value) {
   if (!taken || !taken.value() || !m_session.marksToTry().meaningOf({{name, value}}).isEmpty()) {
     return taken ? Result<bool>(false) : taken;
   }
+  const ActionScope action(m_session, ActionOf::Host);
   m_asked = asked;
   m_settings = asked.settings;
   return true;

@@ -27,6 +27,9 @@ class SessionJob {
   JobSettings settings() const;
   void setSettings(const JobSettings &settings);
 
+  /// Puts back what settings() gave at another time; marks are not touched.
+  void restore(const JobSettings &settings) { m_settings = settings; }
+
   /// For the session's beginning: settings as its queue's options have them.
   void beginAsSaved();
 

@@ -4,7 +4,6 @@
 #include "host/settings/ChoiceBox.h"
 
 #include <QSignalBlocker>
-#include <QWheelEvent>
 
 #include "platform/ui/PlainText.h"
 
@@ -39,15 +38,6 @@ void ChoiceBox::setChoice(const QString &keyword) {
   setCurrentIndex(m_choices->rowOf(keyword));
   const QModelIndex current = m_choices->index(currentIndex());
   setToolTip(plainToolTip(m_choices->data(current, Qt::AccessibleDescriptionRole).toString()));
-}
-
-// Scrolling over a page must not change a setting on the way.
-void ChoiceBox::wheelEvent(QWheelEvent *event) {
-  if (hasFocus()) {
-    QComboBox::wheelEvent(event);
-  } else {
-    event->ignore();
-  }
 }
 
 }  // namespace orvek

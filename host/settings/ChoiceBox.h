@@ -29,9 +29,6 @@ class ChoiceBox final : public QComboBox {
   /// The user picked another choice.
   void choicePicked(const QString &keyword);
 
- protected:
-  void wheelEvent(QWheelEvent *event) override;
-
  private:
   ChoiceModel *m_choices;
 };

@@ -9,6 +9,7 @@
 #include <QSignalBlocker>
 #include <algorithm>
 
+#include "host/settings/Announcement.h"
 #include "host/settings/Mnemonics.h"
 #include "platform/ui/PlainText.h"
 
@@ -82,6 +83,7 @@ void CustomValueForm::startTyping() {
 void CustomValueForm::offer() {
   m_problem->setText(problem());
   m_problem->setVisible(!m_problem->text().isEmpty());
+  announce(*m_problem, m_problem->text());
   if (!m_problem->text().isEmpty()) return;
   QList<CustomParameter> parameters;
   for (const Field &field : m_fields) parameters << field.parameter;

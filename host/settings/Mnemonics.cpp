@@ -11,6 +11,7 @@
 #include <QSet>
 #include <QTabBar>
 #include <QWidget>
+#include <algorithm>
 #include <utility>
 
 namespace orvek {
@@ -23,6 +24,7 @@ struct Carrier {
   QLabel *label = nullptr;
   QAbstractButton *button = nullptr;
 
+  QWidget *widget() const { return label != nullptr ? static_cast<QWidget *>(label) : button; }
   QString text() const { return label != nullptr ? label->text() : button->text(); }
   void setText(const QString &text) const {
     label != nullptr ? label->setText(text) : button->setText(text);
@@ -47,10 +49,10 @@ QString plainText(const QString &text) {
   return added ? plain.left(size - 3).trimmed() : plain;
 }
 
-QList<Carrier> carriersIn(QWidget *widget) {
+QList<Carrier> carriersIn(QWidget *widget, bool alsoHidden = false) {
   QList<Carrier> carriers;
   for (QWidget *child : widget->findChildren<QWidget *>()) {
-    if (!child->isVisibleTo(widget)) continue;
+    if (!alsoHidden && !child->isVisibleTo(widget)) continue;
     auto *label = qobject_cast<QLabel *>(child);
     if (label != nullptr && label->buddy() != nullptr) carriers.append({label, nullptr});
     auto *button = qobject_cast<QAbstractButton *>(child);
@@ -63,9 +65,7 @@ QSet<QChar> lettersAround(QWidget *page) {
   QSet<QChar> letters;
   QWidget *window = page->window();
   for (const Carrier &carrier : carriersIn(window)) {
-    QWidget *widget = carrier.label != nullptr ? static_cast<QWidget *>(carrier.label)
-                                               : static_cast<QWidget *>(carrier.button);
-    if (!page->isAncestorOf(widget)) letters.insert(mnemonicOf(carrier.text()));
+    if (!page->isAncestorOf(carrier.widget())) letters.insert(mnemonicOf(carrier.text()));
   }
   for (const QTabBar *tabs : window->findChildren<QTabBar *>()) {
     for (int tab = 0; tab < tabs->count(); ++tab) letters.insert(mnemonicOf(tabs->tabText(tab)));
@@ -159,7 +159,28 @@ QString withoutMnemonic(const QString &text) {
   return QString(text).replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
+void assignTabMnemonics(QWidget *window, const QWidget *page) {
+  QSet<QChar> taken;
+  for (const Carrier &carrier : carriersIn(window, true)) {
+    const bool isOfPage = page != nullptr && page->isAncestorOf(carrier.widget());
+    if (!isOfPage) taken.insert(mnemonicOf(carrier.text()));
+  }
+  for (QTabBar *tabs : window->findChildren<QTabBar *>()) {
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+      const QString plain = plainText(tabs->tabText(tab));
+      if (mnemonicOf(tabs->tabText(tab)).isNull()) {
+        const QList<QChar> letters = lettersFor(plain);
+        const auto free = std::find_if(letters.begin(), letters.end(),
+                                       [&](QChar letter) { return !taken.contains(letter); });
+        if (free != letters.end()) tabs->setTabText(tab, withLetter(plain, *free));
+      }
+      taken.insert(mnemonicOf(tabs->tabText(tab)));
+    }
+  }
+}
+
 void assignMnemonics(QWidget *page) {
+  assignTabMnemonics(page->window(), page);
   const QList<Carrier> carriers = carriersIn(page);
   LetterTable letters(lettersAround(page));
   QList<int> without;

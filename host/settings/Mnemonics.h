@@ -19,4 +19,8 @@ QString withoutMnemonic(const QString &text);
 /// none. Safe to call again.
 void assignMnemonics(QWidget *page);
 
+/// Gives each tab of the window a letter that nothing else in it has, shown or not; but for what is
+/// on `page` (null: none), which is still to get letters of its own. A tab that has one keeps it.
+void assignTabMnemonics(QWidget *window, const QWidget *page);
+
 }  // namespace orvek

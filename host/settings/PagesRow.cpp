@@ -3,13 +3,13 @@
 
 #include "host/settings/PagesRow.h"
 
-#include <QAccessible>
 #include <QEvent>
 #include <QGridLayout>
 #include <QLineEdit>
 #include <QRadioButton>
 
 #include "host/session/JobWarnings.h"
+#include "host/settings/Announcement.h"
 #include "host/ticket/PageRanges.h"
 #include "host/translations/FailureText.h"
 #include "platform/ui/PlainText.h"
@@ -131,8 +131,7 @@ void PagesRow::updateControls() {
   m_problem->setVisible(isWrong && !m_isTyping);
   m_ranges->setAccessibleDescription(problem);
   if (!isWrong || m_isTyping || !isNew) return;
-  QAccessibleEvent alert(m_problem, QAccessible::Alert);
-  QAccessible::updateAccessibility(&alert);
+  announce(*m_ranges, problem);
 }
 
 }  // namespace orvek

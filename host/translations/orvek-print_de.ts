@@ -108,6 +108,10 @@
             <numerusform>%n Seiten</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Document</source>
+        <translation>Dokument</translation>
+    </message>
 </context>
 <context>
     <name>orvek::DocumentInfo</name>
@@ -626,6 +630,127 @@
     </message>
 </context>
 <context>
+    <name>orvek::History</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>As the job</source>
+        <translation>Wie der Auftrag</translation>
+    </message>
+    <message>
+        <source>%1 pt</source>
+        <translation>%1 pt</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Broschüre</translation>
+    </message>
+    <message>
+        <source>Right to left</source>
+        <translation>Von rechts nach links</translation>
+    </message>
+    <message>
+        <source>Page borders</source>
+        <translation>Seitenrahmen</translation>
+    </message>
+    <message>
+        <source>Gutter</source>
+        <translation>Bundsteg</translation>
+    </message>
+    <message>
+        <source>Creep</source>
+        <translation>Bundzuwachs</translation>
+    </message>
+    <message>
+        <source>Target paper size</source>
+        <translation>Zielpapierformat</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>Hochformat, kopfüber</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>Querformat, kopfüber</translation>
+    </message>
+    <message>
+        <source>As in the document</source>
+        <translation>Wie im Dokument</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Exemplare</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>Sortieren</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Letzte Seite zuerst</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Pages per sheet</source>
+        <translation>Seiten pro Blatt</translation>
+    </message>
+    <message>
+        <source>Other settings</source>
+        <translation>Andere Einstellungen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>%n weitere</numerusform>
+            <numerusform>%n weitere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>orvek::HistoryButtons</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+</context>
+<context>
     <name>orvek::JobBar</name>
     <message>
         <source>&amp;Print</source>
@@ -809,18 +934,6 @@
         <translation>&amp;Rückgängig</translation>
     </message>
     <message>
-        <source>Notice</source>
-        <translation>Hinweis</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Rückgängig</translation>
-    </message>
-    <message>
-        <source>Takes back the last choice with all that it changed</source>
-        <translation>Nimmt die letzte Wahl mit allem, was sie änderte, zurück</translation>
-    </message>
-    <message>
         <source>Close the notice</source>
         <translation>Hinweis schließen</translation>
     </message>
@@ -831,6 +944,30 @@
     <message>
         <source>Information</source>
         <translation>Information</translation>
+    </message>
+    <message>
+        <source>Earlier notice</source>
+        <translation>Früherer Hinweis</translation>
+    </message>
+    <message>
+        <source>Later notice</source>
+        <translation>Späterer Hinweis</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo %n steps</source>
+        <translation>
+            <numerusform>%n Schritt &amp;rückgängig</numerusform>
+            <numerusform>%n Schritte &amp;rückgängig</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Takes back the choice with all that it changed, and what came after it</source>
+        <translation>Nimmt die Wahl mit allem zurück, was sie geändert hat, und was danach kam</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>a notice&apos;s place</comment>
+        <translation>%1 von %2</translation>
     </message>
 </context>
 <context>
@@ -1130,6 +1267,14 @@
     <message>
         <source>No document</source>
         <translation>Kein Dokument</translation>
+    </message>
+    <message>
+        <source>Printed into %1</source>
+        <translation>In %1 gedruckt</translation>
+    </message>
+    <message>
+        <source>Sent to %1, job %2</source>
+        <translation>An %1 gesendet, Auftrag %2</translation>
     </message>
 </context>
 <context>

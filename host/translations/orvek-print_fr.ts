@@ -108,6 +108,10 @@
             <numerusform>%n pages</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Document</source>
+        <translation>Document</translation>
+    </message>
 </context>
 <context>
     <name>orvek::DocumentInfo</name>
@@ -626,6 +630,127 @@
     </message>
 </context>
 <context>
+    <name>orvek::History</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>As the job</source>
+        <translation>Comme le travail</translation>
+    </message>
+    <message>
+        <source>%1 pt</source>
+        <translation>%1 pt</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Livret</translation>
+    </message>
+    <message>
+        <source>Right to left</source>
+        <translation>Pages de droite à gauche</translation>
+    </message>
+    <message>
+        <source>Page borders</source>
+        <translation>Cadre des pages</translation>
+    </message>
+    <message>
+        <source>Gutter</source>
+        <translation>Petit fond</translation>
+    </message>
+    <message>
+        <source>Creep</source>
+        <translation>Chasse</translation>
+    </message>
+    <message>
+        <source>Target paper size</source>
+        <translation>Format de sortie</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Portrait</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Paysage</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>Portrait, retourné</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>Paysage, retourné</translation>
+    </message>
+    <message>
+        <source>As in the document</source>
+        <translation>Comme dans le document</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Toutes</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copies</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>Assembler</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Dernière page en premier</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Orientation</translation>
+    </message>
+    <message>
+        <source>Pages per sheet</source>
+        <translation>Pages par feuille</translation>
+    </message>
+    <message>
+        <source>Other settings</source>
+        <translation>Autres réglages</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>%n autre</numerusform>
+            <numerusform>%n autres</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>orvek::HistoryButtons</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+</context>
+<context>
     <name>orvek::JobBar</name>
     <message>
         <source>&amp;Print</source>
@@ -809,18 +934,6 @@
         <translation>Ann&amp;uler la modification</translation>
     </message>
     <message>
-        <source>Notice</source>
-        <translation>Message</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Annuler la modification</translation>
-    </message>
-    <message>
-        <source>Takes back the last choice with all that it changed</source>
-        <translation>Annule le dernier choix et tout ce qu’il a modifié</translation>
-    </message>
-    <message>
         <source>Close the notice</source>
         <translation>Fermer le message</translation>
     </message>
@@ -831,6 +944,30 @@
     <message>
         <source>Information</source>
         <translation>Information</translation>
+    </message>
+    <message>
+        <source>Earlier notice</source>
+        <translation>Avis précédent</translation>
+    </message>
+    <message>
+        <source>Later notice</source>
+        <translation>Avis suivant</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo %n steps</source>
+        <translation>
+            <numerusform>Ann&amp;uler %n étape</numerusform>
+            <numerusform>Ann&amp;uler %n étapes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Takes back the choice with all that it changed, and what came after it</source>
+        <translation>Annule le choix avec tout ce qu’il a modifié et ce qui a suivi</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>a notice&apos;s place</comment>
+        <translation>%1 sur %2</translation>
     </message>
 </context>
 <context>
@@ -1130,6 +1267,14 @@
     <message>
         <source>No document</source>
         <translation>Aucun document</translation>
+    </message>
+    <message>
+        <source>Printed into %1</source>
+        <translation>Imprimé dans %1</translation>
+    </message>
+    <message>
+        <source>Sent to %1, job %2</source>
+        <translation>Envoyé à %1, travail %2</translation>
     </message>
 </context>
 <context>

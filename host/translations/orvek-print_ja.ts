@@ -107,6 +107,10 @@
             <numerusform>%n ページ</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Document</source>
+        <translation>文書</translation>
+    </message>
 </context>
 <context>
     <name>orvek::DocumentInfo</name>
@@ -625,6 +629,126 @@
     </message>
 </context>
 <context>
+    <name>orvek::History</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>As the job</source>
+        <translation>ジョブと同じ</translation>
+    </message>
+    <message>
+        <source>%1 pt</source>
+        <translation>%1 pt</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>小冊子</translation>
+    </message>
+    <message>
+        <source>Right to left</source>
+        <translation>右とじ</translation>
+    </message>
+    <message>
+        <source>Page borders</source>
+        <translation>ページ枠</translation>
+    </message>
+    <message>
+        <source>Gutter</source>
+        <translation>とじしろ</translation>
+    </message>
+    <message>
+        <source>Creep</source>
+        <translation>クリープ補正</translation>
+    </message>
+    <message>
+        <source>Target paper size</source>
+        <translation>出力用紙サイズ</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>縦</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>縦 (上下逆)</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>横 (上下逆)</translation>
+    </message>
+    <message>
+        <source>As in the document</source>
+        <translation>文書のとおり</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>部数</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>部単位で印刷</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>最後のページから</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>印刷の向き</translation>
+    </message>
+    <message>
+        <source>Pages per sheet</source>
+        <translation>1 枚あたりのページ数</translation>
+    </message>
+    <message>
+        <source>Other settings</source>
+        <translation>その他の設定</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>他 %n 件</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>orvek::HistoryButtons</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
+    </message>
+</context>
+<context>
     <name>orvek::JobBar</name>
     <message>
         <source>&amp;Print</source>
@@ -806,18 +930,6 @@
         <translation>元に戻す(&amp;U)</translation>
     </message>
     <message>
-        <source>Notice</source>
-        <translation>お知らせ</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>元に戻す</translation>
-    </message>
-    <message>
-        <source>Takes back the last choice with all that it changed</source>
-        <translation>直前の選択と、それによる変更をすべて元に戻します</translation>
-    </message>
-    <message>
         <source>Close the notice</source>
         <translation>お知らせを閉じる</translation>
     </message>
@@ -828,6 +940,29 @@
     <message>
         <source>Information</source>
         <translation>情報</translation>
+    </message>
+    <message>
+        <source>Earlier notice</source>
+        <translation>前の通知</translation>
+    </message>
+    <message>
+        <source>Later notice</source>
+        <translation>次の通知</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo %n steps</source>
+        <translation>
+            <numerusform>%n 件を元に戻す(&amp;U)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Takes back the choice with all that it changed, and what came after it</source>
+        <translation>その選択による変更と、その後の変更をすべて取り消します</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>a notice&apos;s place</comment>
+        <translation>%1 / %2</translation>
     </message>
 </context>
 <context>
@@ -1126,6 +1261,14 @@
     <message>
         <source>No document</source>
         <translation>文書なし</translation>
+    </message>
+    <message>
+        <source>Printed into %1</source>
+        <translation>%1 に出力しました</translation>
+    </message>
+    <message>
+        <source>Sent to %1, job %2</source>
+        <translation>%1 に送信しました（ジョブ %2）</translation>
     </message>
 </context>
 <context>

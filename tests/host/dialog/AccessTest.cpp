@@ -139,12 +139,92 @@ TEST_F(Access, TabReachesEveryControlOfThePanel) {
                      QStringLiteral("gutterSlider"),  QStringLiteral("gutterTxtBox"),
                      QStringLiteral("printButton"),   QStringLiteral("cancelButton"),
                      QStringLiteral("printerMenu"),   QStringLiteral("presetMenu")};
+  QStringList reached;
   for (int steps = 0; steps < 80 && !wanted.isEmpty(); ++steps) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     if (QApplication::focusWidget() == nullptr) break;
-    wanted.removeAll(QApplication::focusWidget()->objectName());
+    reached << QApplication::focusWidget()->objectName();
+    wanted.removeAll(reached.constLast());
   }
-  EXPECT_EQ(wanted.join(QStringLiteral(", ")), QString());
+  EXPECT_EQ(wanted.join(QStringLiteral(", ")), QString()) << reached.join(u' ').toStdString();
+}
+
+TEST_F(Access, TabGoesFromThePageToThePreviewTheSummaryAndPrint) {
+  open();
+  auto *pages = find<QTabWidget>("pages");
+  // Made when it is first shown, after all else in the window.
+  pages->setCurrentIndex(0);
+  QCoreApplication::processEvents();
+  const QStringList stops{QStringLiteral("printerMenu"),    QStringLiteral("copies"),
+                          QStringLiteral("quality"),        QStringLiteral("previewSheets"),
+                          QStringLiteral("previewSeveral"), QStringLiteral("historyUndo"),
+                          QStringLiteral("summary"),        QStringLiteral("printButton")};
+  session->pick(QStringLiteral("OVKFolding"), QStringLiteral("Saddle"));
+  find<QWidget>("printerMenu")->setFocus();
+  QStringList reached{QStringLiteral("printerMenu")};
+  for (int steps = 0; steps < 60 && reached.size() < stops.size(); ++steps) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    const QString name = QApplication::focusWidget()->objectName();
+    if (stops.contains(name)) reached << name;
+  }
+  EXPECT_EQ(reached.join(u' '), stops.join(u' '));
+}
+
+TEST_F(Access, EveryStopOfTheTabKeyShowsThatItHasTheKeyboard) {
+  QApplication::setCursorFlashTime(0);
+  open();
+  click("bookletChckBox");
+  clickItem("foldingPopup", QStringLiteral("Saddle fold"));
+  const auto look = [this](const QWidget *widget) {
+    const QRect place(widget->mapTo(dialog.get(), QPoint()), widget->size());
+    return dialog->grab(place.adjusted(-3, -3, 3, 3)).toImage();
+  };
+  auto *pages = find<QTabWidget>("pages");
+  for (int page = 0; page < pages->count(); ++page) {
+    pages->setCurrentIndex(page);
+    QCoreApplication::processEvents();
+    // Focus that did not come by a key may go without a mark.
+    find<QWidget>("printerMenu")->setFocus();
+    QTest::keyClick(find<QWidget>("printerMenu"), Qt::Key_Tab);
+    QSet<QWidget *> seen;
+    for (QWidget *stop = QApplication::focusWidget(); !seen.contains(stop);
+         stop = QApplication::focusWidget()) {
+      seen.insert(stop);
+      const QImage with = look(stop);
+      QTest::keyClick(stop, Qt::Key_Tab);
+      EXPECT_NE(with, look(stop)) << page << ' ' << stop->metaObject()->className() << ' '
+                                  << stop->objectName().toStdString();
+    }
+    EXPECT_GT(seen.size(), 12);
+  }
+}
+
+TEST_F(Access, ControlAndTabTurnThePageFromAnywhere) {
+  open();
+  auto *pages = find<QTabWidget>("pages");
+  const int first = pages->currentIndex();
+  for (const char *place : {"printButton", "printerMenu", "foldingPopup"}) {
+    pages->setCurrentIndex(first);
+    find<QWidget>(place)->setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(pages->currentIndex(), (first + 1) % pages->count()) << place;
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab,
+                    Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(pages->currentIndex(), first) << place;
+  }
+}
+
+TEST_P(AccessIn, EveryTabHasALetterThatShowsItsPage) {
+  open();
+  auto *pages = find<QTabWidget>("pages");
+  for (int page = pages->count() - 1; page >= 0; --page) {
+    const QKeySequence letter = QKeySequence::mnemonic(pages->tabText(page));
+    ASSERT_FALSE(letter.isEmpty()) << pages->tabText(page).toStdString();
+    find<QWidget>("printButton")->setFocus();
+    QTest::keyClick(dialog.get(), letter[0].key(), Qt::AltModifier);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(pages->currentIndex(), page);
+  }
 }
 
 TEST_F(Access, AWholeSessionWorksByKeysAlone) {

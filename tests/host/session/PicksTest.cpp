@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Picks: what is recorded in the ticket, and the step back.
+// Picks: what is recorded in the ticket.
 
 #include "host/session/Picks.h"
 
@@ -30,7 +30,6 @@ TEST_F(PicksTest, RecordNothingForAnEmptyOrUnknownChoice) {
   EXPECT_FALSE(picks.pick("OVKFolding", "Triple"));
   EXPECT_FALSE(picks.pick("Unknown", "Saddle"));
   EXPECT_EQ(ticket->values(), (TicketValues{{"OVKFolding", "kept"}}));
-  EXPECT_FALSE(picks.canUndo());
 }
 
 TEST_F(PicksTest, RecordANumberUnderAChoiceKeyAsItsText) {
@@ -50,41 +49,6 @@ TEST_F(PicksTest, LeaveTheTicketAsItWasWhenThePickIsUndone) {
   ticket->setValue("OVKStapling", "None");
   ASSERT_FALSE(picks.pick("OVKStapling", "Front")->marked);
   EXPECT_EQ(ticket->values(), (TicketValues{{"OVKStapling", "None"}}));
-}
-
-TEST_F(PicksTest, AreTakenBackInOneStepWithMarksAndTicket) {
-  picks.pick("OVKStapling", "Front");
-  picks.beginStep();
-  const MarksSnapshot before = picks.marks().snapshot();
-  const TicketValues ticketBefore = ticket->values();
-  picks.pick("OVKFolding", "Saddle");
-  picks.pick("OVKPunching", "2");
-  ASSERT_TRUE(picks.canUndo());
-  EXPECT_TRUE(picks.undo().contains("OVKStapling"));
-  EXPECT_EQ(picks.marks().snapshot(), before);
-  EXPECT_EQ(ticket->values(), ticketBefore);
-  EXPECT_FALSE(picks.canUndo());
-}
-
-TEST_F(PicksTest, ThatChangeNothingDoNotCostTheStepBack) {
-  picks.pick("OVKFolding", "Saddle");
-  picks.beginStep();
-  picks.pick("OVKFolding", "Saddle");
-  ASSERT_TRUE(picks.canUndo());
-  picks.undo();
-  EXPECT_EQ(picks.marks().marked("OVKFolding"), "None");
-}
-
-TEST_F(PicksTest, LeaveOtherTicketKeysAloneWhenTakenBack) {
-  picks.pick("OVKFolding", "Saddle");
-  ticket->setValue("OVKGutter", "30");
-  picks.undo();
-  EXPECT_EQ(ticket->values(), (TicketValues{{"OVKGutter", "30"}}));
-}
-
-TEST_F(PicksTest, HaveNothingToTakeBackAtFirst) {
-  EXPECT_FALSE(picks.canUndo());
-  EXPECT_TRUE(picks.undo().isEmpty());
 }
 
 }  // namespace

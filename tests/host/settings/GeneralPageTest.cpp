@@ -15,7 +15,6 @@
 #include <QSet>
 #include <QSpinBox>
 #include <QVBoxLayout>
-#include <QWheelEvent>
 
 #include "host/settings/ChoiceBox.h"
 #include "host/settings/JobStrip.h"
@@ -233,15 +232,6 @@ TEST_F(GeneralPageTest, OffersWhatAQueueWithoutPpdCanDo) {
   ASSERT_TRUE(pickText(box("output-bin"), "Upper"));
   EXPECT_EQ(session->job().options().value("output-bin"), "face-up");
   EXPECT_EQ(page->findChild<ChoiceBox *>("number-up"), nullptr);
-}
-
-TEST_F(GeneralPageTest, LeavesASettingAloneThatIsScrolledOver) {
-  ChoiceBox *size = box("paperSize");
-  find<QSpinBox>("copies")->setFocus();
-  QWheelEvent wheel(QPointF(5, 5), size->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
-                    Qt::NoModifier, Qt::NoScrollPhase, false);
-  QCoreApplication::sendEvent(size, &wheel);
-  EXPECT_EQ(marked("PageSize"), "A4");
 }
 
 TEST_F(GeneralPageTest, NamesEveryControl) {
