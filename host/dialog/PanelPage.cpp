@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "host/dialog/ScrollingBody.h"
+#include "host/dialog/UnderstoodNote.h"
 
 namespace orvek {
 namespace {
@@ -27,6 +28,7 @@ PanelPage::PanelPage(PanelContainer *container, QWidget *parent)
   auto *whole = new QVBoxLayout(this);
   whole->setContentsMargins(0, 0, 0, 0);
   whole->addWidget(new ScrollingBody(body, this));
+  new UnderstoodNote(*this);
 }
 
 PanelPage::~PanelPage() {

@@ -8,6 +8,7 @@
 #include <QSignalBlocker>
 #include <cmath>
 
+#include "host/settings/NumberField.h"
 #include "platform/ui/PlainText.h"
 
 namespace orvek {
@@ -44,7 +45,7 @@ CustomSizeRow::CustomSizeRow(QWidget *parent) : QWidget(parent), m_unit(PaperUni
 }
 
 QDoubleSpinBox *CustomSizeRow::addField(const QString &name, const QString &text) {
-  auto *field = new QDoubleSpinBox(this);
+  auto *field = new NumberField(m_unit.points, this);
   field->setObjectName(name);
   field->setAccessibleName(text);
   field->setToolTip(plainToolTip(text));

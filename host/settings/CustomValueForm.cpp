@@ -11,6 +11,7 @@
 
 #include "host/settings/Announcement.h"
 #include "host/settings/Mnemonics.h"
+#include "host/settings/NumberField.h"
 #include "platform/ui/PlainText.h"
 
 namespace orvek {
@@ -105,11 +106,13 @@ void CustomValueForm::makeFields(const QList<CustomParameter> &parameters) {
 }
 
 QWidget *CustomValueForm::makeNumber(const CustomParameter &parameter) {
-  auto *field = new QDoubleSpinBox(this);
+  const bool isLength = parameter.kind == CustomParameter::Kind::Length;
+  // In points, or in what else is typed behind it.
+  auto *field = new NumberField(isLength ? 1 : 0, this);
   field->setDecimals(parameter.kind == CustomParameter::Kind::Integer ? 0 : decimals);
   field->setRange(parameter.least, parameter.most);
   if (parameter.kind == CustomParameter::Kind::Real) field->setSingleStep(0.1);
-  if (parameter.kind == CustomParameter::Kind::Length) field->setSuffix(tr(" pt"));
+  if (isLength) field->setSuffix(tr(" pt"));
   field->setMinimumWidth(numberWidth);
   // Each digit on the way to a number would be a pick of its own.
   field->setKeyboardTracking(false);

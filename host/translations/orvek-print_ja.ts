@@ -2446,6 +2446,17 @@
     </message>
 </context>
 <context>
+    <name>orvek::UnderstoodNote</name>
+    <message>
+        <source>%1 still applies</source>
+        <translation>%1 のままです</translation>
+    </message>
+    <message>
+        <source>“%1” was read as %2</source>
+        <translation>「%1」は %2 と読み取られました</translation>
+    </message>
+</context>
+<context>
     <name>orvek::Wording</name>
     <message>
         <source>%1 was set to %2: it can&apos;t be combined with %3</source>

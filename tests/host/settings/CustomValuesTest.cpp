@@ -65,6 +65,16 @@ TEST_F(CustomValuesTest, KeepToTheirLimits) {
   EXPECT_EQ(marked("Gamma"), "Custom.1.80");
 }
 
+TEST_F(CustomValuesTest, TakeACommaAndALengthInAnotherUnit) {
+  pick("Gamma", "Custom…");
+  type("customValue", "1,8");
+  EXPECT_EQ(marked("Gamma"), "Custom.1.80");
+  pick("Watermark", "Custom…");
+  type("customText", "Draft");
+  type("customSize", "0.5in");
+  EXPECT_EQ(marked("Mark"), "{Text=\"Draft\" Angle=0 Size=36.00}");
+}
+
 TEST_F(CustomValuesTest, HideASecret) {
   pick("Locked print", "With a code…");
   EXPECT_EQ(find<QLineEdit>("customCode")->echoMode(), QLineEdit::Password);
