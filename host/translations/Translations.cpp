@@ -4,6 +4,7 @@
 #include "host/translations/Translations.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
@@ -17,13 +18,15 @@ static void useResources() {
 namespace orvek {
 namespace {
 
-void install(const QString &name, const QString &folder) {
+bool install(const QString &name, const QString &folder) {
   auto *translator = new QTranslator(QCoreApplication::instance());
-  if (translator->load(QLocale(), name, QStringLiteral("_"), folder)) {
+  const bool isThere = translator->load(QLocale(), name, QStringLiteral("_"), folder);
+  if (isThere) {
     QCoreApplication::installTranslator(translator);
   } else {
     delete translator;
   }
+  return isThere;
 }
 
 }  // namespace
@@ -31,7 +34,10 @@ void install(const QString &name, const QString &folder) {
 void installTranslations() {
   useResources();
   install(QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-  install(QStringLiteral("orvek-print"), QStringLiteral(":/translations"));
+  // The toolkit takes the direction from its own translations, which may not be installed.
+  if (install(QStringLiteral("orvek-print"), QStringLiteral(":/translations"))) {
+    QGuiApplication::setLayoutDirection(QLocale().textDirection());
+  }
 }
 
 }  // namespace orvek

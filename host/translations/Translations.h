@@ -5,7 +5,8 @@
 namespace orvek {
 
 /// From now on tr() gives texts in the user's language, as far as there are any; English else. The
-/// toolkit's own texts too, where its translations are installed. Needs the application object.
+/// toolkit's own texts too, where its translations are installed. Windows run from right to left
+/// where that language does. Needs the application object.
 void installTranslations();
 
 }  // namespace orvek

@@ -10,8 +10,13 @@
 
 namespace orvek::test {
 
-inline const QStringList bundleLanguages = {QStringLiteral("en"), QStringLiteral("de"),
-                                            QStringLiteral("fr"), QStringLiteral("ja")};
+inline const QStringList bundleLanguages =
+    QString::fromLatin1("en ar de es fr it ja ko pt zh-CN").split(u' ');
+
+/// A language in a test's name, which takes letters, numbers and underscores.
+inline const auto nameOfLanguage = [](const auto &language) {
+  return QString(language.param).replace(u'-', u'_').toStdString();
+};
 
 inline QString bundleFile(const QString &name) {
   return QStringLiteral(ORVEK_BUNDLE_DIR "/") + name;

@@ -24,7 +24,7 @@ QWidget *loadedView() {
 class EveryInterfaceLanguage : public ::testing::TestWithParam<QString> {};
 
 INSTANTIATE_TEST_SUITE_P(Bundle, EveryInterfaceLanguage, ::testing::ValuesIn(bundleLanguages),
-                         [](const auto &language) { return language.param.toStdString(); });
+                         nameOfLanguage);
 
 TEST_P(EveryInterfaceLanguage, ShowsToolTipsAndAccessibleNamesInTheUsersLanguage) {
   const auto bundle = Bundle::atPath(QStringLiteral(ORVEK_BUNDLE_DIR), {GetParam()});

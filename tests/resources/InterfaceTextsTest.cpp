@@ -65,7 +65,7 @@ class InterfaceTexts : public Interface, public ::testing::WithParamInterface<QS
 };
 
 INSTANTIATE_TEST_SUITE_P(Bundle, InterfaceTexts, ::testing::ValuesIn(bundleLanguages),
-                         [](const auto &language) { return language.param.toStdString(); });
+                         nameOfLanguage);
 
 TEST_P(InterfaceTexts, OfTheBundleFit) {
   const QJsonObject strings = bundleStrings(GetParam());

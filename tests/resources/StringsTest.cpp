@@ -28,7 +28,7 @@ class EveryLanguage : public ::testing::TestWithParam<QString> {
 };
 
 INSTANTIATE_TEST_SUITE_P(Bundle, EveryLanguage, ::testing::ValuesIn(bundleLanguages),
-                         [](const auto &language) { return language.param.toStdString(); });
+                         nameOfLanguage);
 
 TEST_P(EveryLanguage, HasATextForEveryKeyOfThePanel) {
   for (const char *key : panelKeys) {

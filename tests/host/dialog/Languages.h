@@ -11,8 +11,10 @@
 
 namespace orvek::test {
 
-inline const auto otherLanguages = ::testing::Values("de", "fr", "ja");
-inline const auto allLanguages = ::testing::Values("en", "de", "fr", "ja");
+inline const auto otherLanguages =
+    ::testing::Values("ar", "de", "es", "fr", "it", "ja", "ko", "pt", "zh_CN");
+inline const auto allLanguages =
+    ::testing::Values("en", "ar", "de", "es", "fr", "it", "ja", "ko", "pt", "zh_CN");
 
 /// The program in a language from now on, until this object goes. English is what it speaks by
 /// itself.

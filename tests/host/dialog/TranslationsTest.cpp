@@ -6,6 +6,8 @@
 
 #include <QDirIterator>
 #include <QFile>
+#include <QGuiApplication>
+#include <QLocale>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -100,6 +102,42 @@ TEST_P(Translations, KeepAKeyWhereTheTextHasOne) {
           << message.source.toStdString();
     }
   }
+}
+
+/// The program as it starts for a user of this locale.
+class SystemLanguage : public ::testing::Test {
+ protected:
+  static void startIn(const char *locale) {
+    QLocale::setDefault(QLocale(QLatin1String(locale)));
+    orvek::installTranslations();
+  }
+  void TearDown() override {
+    qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator *>());
+    QLocale::setDefault(QLocale::c());
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+  }
+
+  static QString spoken() { return QCoreApplication::translate("orvek::GeneralPage", "Two-sided"); }
+};
+
+TEST_F(SystemLanguage, IsSpokenInEveryCountryOfIt) {
+  startIn("pt_BR");
+  EXPECT_EQ(spoken(), u"Frente e verso"_s);
+  startIn("zh_CN");
+  EXPECT_EQ(spoken(), u"双面"_s);
+  startIn("es_MX");
+  EXPECT_EQ(spoken(), u"Doble cara"_s);
+  EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::LeftToRight);
+}
+
+TEST_F(SystemLanguage, IsNotTakenForAnotherOneOfTheSameName) {
+  startIn("zh_TW");
+  EXPECT_EQ(spoken(), u"Two-sided"_s);
+}
+
+TEST_F(SystemLanguage, TurnsTheWindowAroundWhereItIsReadFromTheRight) {
+  startIn("ar_EG");
+  EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::RightToLeft);
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, Translations, otherLanguages);
