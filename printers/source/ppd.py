@@ -5,8 +5,11 @@
 
 from dataclasses import dataclass, field, replace
 
+from source import texts
+
 BASE_LANGUAGE = "en"
-OTHER_LANGUAGES = ("de", "fr", "ja")
+WRITTEN_LANGUAGES = ("de", "fr", "ja")  # of each text, beside it
+OTHER_LANGUAGES = WRITTEN_LANGUAGES + texts.LANGUAGES
 MAXIMUM_TEXT_BYTES = 80  # PPD translation strings; readers keep fixed buffers of this size
 MAXIMUM_LINE_BYTES = 255
 
@@ -18,8 +21,19 @@ class Text:
     fr: str
     ja: str
 
+    def in_language(self, language):
+        if language in (BASE_LANGUAGE, *WRITTEN_LANGUAGES):
+            return getattr(self, language)
+        text = texts.translated(self.en, language)
+        if text:
+            return text
+        # Names like "A4" are the same everywhere.
+        if self.en == self.de == self.ja:
+            return self.en
+        raise ValueError(f"source/texts.py lacks {self.en!r}")
+
     def __post_init__(self):
-        for text in (self.en, self.de, self.fr, self.ja):
+        for text in map(self.in_language, (BASE_LANGUAGE, *OTHER_LANGUAGES)):
             if not text or len(text.encode()) > MAXIMUM_TEXT_BYTES:
                 raise ValueError(f"a PPD text has 1 to {MAXIMUM_TEXT_BYTES} bytes: {text!r}")
 
@@ -118,10 +132,10 @@ class Document:
 
     def translation(self, language, keyword, text):
         """A text that is not a choice's: `keyword` is an option's or a group's."""
-        self.add(f'*{language}.Translation {keyword}/{getattr(text, language)}: ""')
+        self.add(f'*{language}.Translation {keyword}/{text.in_language(language)}: ""')
 
     def choice_translation(self, language, option, choice, text):
-        self.add(f'*{language}.{option} {choice}/{getattr(text, language)}: ""')
+        self.add(f'*{language}.{option} {choice}/{text.in_language(language)}: ""')
 
     def text(self):
         return "\n".join(self.lines) + "\n"

@@ -18,7 +18,8 @@ struct ClosePPD {
 using PPD = std::unique_ptr<ppd_file_t, ClosePPD>;
 
 inline const std::vector<std::string> models = {"6180", "4150", "2120"};
-inline const std::vector<std::string> otherLanguages = {"de", "fr", "ja"};
+inline const std::vector<std::string> otherLanguages = {"de", "fr", "ja",    "es", "it",
+                                                        "pt", "ko", "zh_CN", "ar"};
 
 inline std::string ppdPath(const std::string &model) {
   return std::string(ORVEK_SOURCE_DIR "/printers/Orvek-") + model + ".ppd";

@@ -80,8 +80,9 @@ TEST_P(InterfaceTexts, OfTheBundleFit) {
 }
 
 TEST_P(InterfaceTexts, OfThePrintersFit) {
+  const std::string language = QString(GetParam()).replace(u'-', u'_').toStdString();
   for (const std::string &model : models) {
-    const PPD ppd = openPrinterIn(GetParam().toStdString(), model);
+    const PPD ppd = openPrinterIn(language, model);
     ASSERT_NE(ppd, nullptr);
     tryOption(ppd.get(), "OVKStapling", "stapling");
     tryOption(ppd.get(), "OVKFolding", "folding");

@@ -43,8 +43,9 @@ inline QList<Message> messagesIn(const QString &path) {
   while (!reader.atEnd()) {
     if (reader.readNext() != QXmlStreamReader::StartElement) continue;
     if (reader.name() == u"name") context = reader.readElementText();
-    if (reader.name() == u"message")
+    if (reader.name() == u"message") {
       isCounted = reader.attributes().hasAttribute(QStringLiteral("numerus"));
+    }
     if (reader.name() == u"source") {
       messages.append({reader.readElementText(), {}, true, isCounted, context});
     }

@@ -43,8 +43,9 @@ inline QStringList ownTexts(const QWidget &widget) {
     texts << number->prefix() << number->suffix() << number->specialValueText();
   }
   if (const auto *tabs = qobject_cast<const QTabWidget *>(&widget)) {
-    for (int tab = 0; tab < tabs->count(); ++tab)
+    for (int tab = 0; tab < tabs->count(); ++tab) {
       texts << tabs->tabText(tab) << tabs->tabToolTip(tab);
+    }
   }
   if (const auto *view = qobject_cast<const QAbstractItemView *>(&widget); view && view->model()) {
     texts << modelTexts(*view->model());
@@ -52,8 +53,9 @@ inline QStringList ownTexts(const QWidget &widget) {
       texts << view->model()->headerData(column, Qt::Horizontal).toString();
     }
   }
-  if (const auto *box = qobject_cast<const QComboBox *>(&widget))
+  if (const auto *box = qobject_cast<const QComboBox *>(&widget)) {
     texts << modelTexts(*box->model());
+  }
   return texts;
 }
 
