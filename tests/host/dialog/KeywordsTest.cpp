@@ -5,6 +5,7 @@
 #include <QTabWidget>
 
 #include "host/dialog/SummaryLines.h"
+#include "host/session/CommonSettings.h"
 #include "tests/host/dialog/DialogKit.h"
 #include "tests/host/dialog/Languages.h"
 #include "tests/host/dialog/VisibleTexts.h"
@@ -59,5 +60,47 @@ TEST_P(KeywordsIn, NoneIsSeen) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, KeywordsIn, allLanguages);
+
+// What a print server says of a printer without PPD, where libcups lacks the user's language.
+SessionSetup withoutPpd() {
+  SessionSetup setup;
+  setup.offers = {
+      {"sides", "Two-sided", {{"one-sided", "Off"}, {"two-sided-long-edge", "Long edge"}}, {}},
+      {"media", "Paper size", {{"na_letter_8.5x11in", "Letter"}, {"iso_a4_210x297mm", "A4"}}, {}},
+      {"output-bin", "Output tray", {{"face-up", "Face up"}, {"tray-2", "Tray 2"}}, {}},
+      {"vendor-oddity", "Oddity", {{"a", "One way"}, {"b", "Other way"}}, {}}};
+  return setup;
+}
+
+class OffersIn : public DialogTest, public ::testing::WithParamInterface<const char *> {
+ protected:
+  void SetUp() override {
+    speech = std::make_unique<SpokenLanguage>(GetParam());
+    session = beginSession(withoutPpd()).take();
+  }
+
+  std::unique_ptr<SpokenLanguage> speech;
+};
+
+TEST_P(OffersIn, AreSaidInTheUsersLanguage) {
+  const Setting sides = *commonSetting(*session, CommonSetting::Sides);
+  EXPECT_NE(sides.title, "Two-sided");
+  EXPECT_NE(sides.choices[0].text, "Off");
+  EXPECT_NE(sides.choices[1].text, "Long edge");
+  const Setting paper = *commonSetting(*session, CommonSetting::PaperSize);
+  EXPECT_NE(paper.choices[0].text, "Letter");
+  EXPECT_EQ(paper.choices[1].text, "A4");
+  const QList<Setting> further = furtherSettings(*session);
+  EXPECT_NE(further[0].title, "Output tray");
+  EXPECT_NE(further[0].choices[1].text, "Tray 2");
+}
+
+TEST_P(OffersIn, StayAsTheyWereGivenWhereTheyAreNoStandardOnes) {
+  const Setting oddity = furtherSettings(*session).last();
+  EXPECT_EQ(oddity.title, "Oddity");
+  EXPECT_EQ(oddity.choices[0].text, "One way");
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, OffersIn, otherLanguages);
 
 }  // namespace
