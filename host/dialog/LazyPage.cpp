@@ -18,6 +18,8 @@ void LazyPage::showEvent(QShowEvent *event) {
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(new ScrollingBody(maker(this), this));
+    // At once, so that bars which the page doesn't need are not seen for a moment.
+    column->activate();
   }
   QWidget::showEvent(event);
 }

@@ -40,7 +40,7 @@ TEST_F(WindowOverInput, ShowsItsPagesAndPrintsThem) {
   const QByteArray document = QByteArray::fromStdString(markedDocument(3));
   const StandardInput input(document);
   open();
-  EXPECT_EQ(caption(), "Reading the document…");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return caption() == "Reading the document…"; }));
   dialog->lookAround();
   ASSERT_TRUE(waitForPreview());
   EXPECT_EQ(sides(), 3U);
