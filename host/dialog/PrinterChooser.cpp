@@ -4,8 +4,10 @@
 #include "host/dialog/PrinterChooser.h"
 
 #include <QComboBox>
+#include <QHBoxLayout>
 #include <QSignalBlocker>
 #include <QStandardItemModel>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -16,7 +18,6 @@
 namespace orvek {
 namespace {
 
-constexpr int kindRole = Qt::UserRole + 1;  // true: the item that opens a description
 constexpr int usualCharacters = 28;
 constexpr int leastWidth = 120;
 constexpr int mostVisibleItems = 16;
@@ -44,6 +45,7 @@ PrinterChooser::PrinterChooser(ServerAccess access, QWidget *parent)
     : QWidget(parent),
       m_access(std::move(access)),
       m_menu(new QComboBox(this)),
+      m_open(new QToolButton(this)),
       m_detail(new ElidedLabel(Qt::ElideRight, this)) {
   m_menu->setObjectName(QStringLiteral("printerMenu"));
   m_menu->setAccessibleName(tr("Printer"));
@@ -52,22 +54,33 @@ PrinterChooser::PrinterChooser(ServerAccess access, QWidget *parent)
   m_menu->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   m_menu->setMaxVisibleItems(mostVisibleItems);
   m_detail->setObjectName(QStringLiteral("printerDetail"));
+  buildOpen();
+  auto *row = new QHBoxLayout;
+  row->addWidget(m_menu, 1);
+  row->addWidget(m_open);
   auto *column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(2);
-  column->addWidget(m_menu);
+  column->addLayout(row);
   column->addWidget(m_detail);
   setFocusProxy(m_menu);
   connect(m_menu, &QComboBox::activated, this, &PrinterChooser::pick);
   fill({});
 }
 
+// A way to a printer is none itself: keys and wheel go through the list, and must not end up in a
+// question.
+void PrinterChooser::buildOpen() {
+  m_open->setObjectName(QStringLiteral("openDescription"));
+  m_open->setText(QStringLiteral("…"));
+  m_open->setFixedHeight(m_menu->sizeHint().height());
+  m_open->setAccessibleName(tr("Open Printer Description…"));
+  m_open->setToolTip(tr("Open Printer Description…"));
+  m_open->setFocusPolicy(Qt::StrongFocus);
+  connect(m_open, &QToolButton::clicked, this, &PrinterChooser::descriptionAsked);
+}
+
 void PrinterChooser::pick() {
-  if (m_menu->currentData(kindRole).toBool()) {
-    fill(m_destination);  // a way to a printer is none itself
-    Q_EMIT descriptionAsked();
-    return;
-  }
   const QString destination = m_menu->currentData().toString();
   if (destination != m_destination || !m_asking.isNull()) Q_EMIT chosen(destination);
 }
@@ -134,9 +147,6 @@ void PrinterChooser::fill(const QString &destination) {
     m_menu->addItem(destination, destination);
   }
   if (!m_problem.isNull()) addNote(tr("No printers: %1").arg(m_problem));
-  m_menu->insertSeparator(m_menu->count());
-  m_menu->addItem(tr("Open Printer Description…"));
-  m_menu->setItemData(m_menu->count() - 1, true, kindRole);
   m_menu->setCurrentIndex(destination.isEmpty() ? 0 : m_menu->findData(destination));
   showDetail();
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// The pop-up of printers: every queue with its state in words, and a file. Asks the server in the
-// background; opens no queue itself.
+// The pop-up of printers: every queue with its state in words, and a file; beside it a button for a
+// printer that is a file itself. Asks the server in the background; opens no queue itself.
 #pragma once
 
 #include <QWidget>
@@ -9,6 +9,7 @@
 #include "host/printers/PrinterList.h"
 
 class QComboBox;
+class QToolButton;
 
 namespace orvek {
 
@@ -54,6 +55,7 @@ class PrinterChooser final : public QWidget {
  private:
   using Answer = Result<QList<Queue>>;
 
+  void buildOpen();
   void take(const Answer &answer);
   void fill(const QString &destination);
   void pick();
@@ -70,6 +72,7 @@ class PrinterChooser final : public QWidget {
   QString m_fileModel;
   bool m_fileIsPossible = true;
   QComboBox *m_menu;
+  QToolButton *m_open;
   ElidedLabel *m_detail;
   /// The last: it ends before what it reports to.
   BackgroundTask m_task;

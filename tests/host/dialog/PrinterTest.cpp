@@ -2,91 +2,17 @@
 // Choosing among the queues of a private print server, and what becomes of what was entered.
 
 #include <QElapsedTimer>
-#include <QFileDialog>
-#include <QLabel>
-#include <QLineEdit>
 #include <QStandardItemModel>
-#include <QTimer>
 
-#include "host/dialog/PrinterChooser.h"
-#include "host/session/QueueSetup.h"
 #include "platform/system/Log.h"
-#include "tests/host/dialog/DialogKit.h"
-#include "tests/support/HostileServer.h"
-#include "tests/support/PrivateCups.h"
+#include "tests/host/dialog/PrinterKit.h"
 
 using namespace orvek;
 using namespace orvek::test;
 
 namespace {
 
-const QString printers = QStringLiteral(ORVEK_SOURCE_DIR "/printers/");
-
-class PrinterChoice : public DialogTest {
- protected:
-  void SetUp() override {
-    if (const QString obstacle = PrivateCups::obstacle(); !obstacle.isEmpty()) {
-      GTEST_SKIP() << obstacle.toStdString();
-    }
-    server = std::make_unique<PrivateCups>();
-    server->addQueue(QStringLiteral("big"), printers + "Orvek-6180.ppd",
-                     {QStringLiteral("-L"), QStringLiteral("Second floor")});
-    server->addQueue(QStringLiteral("small"), printers + "Orvek-2120.ppd");
-    prepare = [this](DialogSetup &setup) {
-      setup.server.server = server->socket();
-      setup.askPrinter = [this](const QString &queue, const std::atomic<bool> &cancelled) {
-        return askServer(queue, cancelled);
-      };
-      setup.beginSession = [this](const SessionSetup &other) {
-        begun << other.destination;
-        return beginSession(other);
-      };
-      setup.readDescription = [](const QString &path, const std::atomic<bool> &) {
-        return setupFor(path);
-      };
-      setup.presets = std::make_shared<PresetStore>(folder.filePath(QStringLiteral("presets")));
-    };
-  }
-
-  // Runs on a thread of its own, as every question to a server does.
-  Result<SessionSetup> askServer(const QString &queue, const std::atomic<bool> &cancelled) const {
-    ServerAccess access;
-    access.server = queue == silentQueue ? silentServer.hostAndPort() : server->socket();
-    access.cancelled = &cancelled;
-    access.patience = patience;
-    SessionSetup setup;
-    if (Status asked = setUpForQueue(access, queue, &setup); !asked) return asked.failure();
-    return setup;
-  }
-
-  // A question to a server takes as long as the server does.
-  void pickPrinter(const QString &name) {
-    clickItem("printerMenu", name);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !isAsking(); }, jobTimeout));
-  }
-
-  bool canPrint() const { return find<QPushButton>("printButton")->isEnabled(); }
-  QString shownPrinter() const { return find<QComboBox>("printerMenu")->currentText(); }
-
-  bool isAsking() const { return detail().startsWith(QStringLiteral("Asking")); }
-
-  void list() {
-    auto *chooser = dialog->findChild<PrinterChooser *>();
-    QSignalSpy listed(chooser, &PrinterChooser::listed);
-    chooser->refresh();
-    ASSERT_TRUE(listed.count() > 0 || listed.wait(jobTimeout));
-  }
-
-  QString detail() const { return find<QLabel>("printerDetail")->accessibleName(); }
-
-  std::unique_ptr<PrivateCups> server;
-  const HostileServer silentServer{Hostility::Silence};
-  /// The one that it is asked for.
-  QString silentQueue;
-  /// The destinations of the sessions that the window asked for.
-  QStringList begun;
-  std::chrono::milliseconds patience = serverPatience();
-};
+class PrinterChoice : public QueuesTest {};
 
 TEST_F(PrinterChoice, ShowsStateAndLocationOfAQueue) {
   open();
@@ -185,7 +111,7 @@ TEST_F(PrinterChoice, SaysWhyThereAreNoPrinters) {
   server->stop();
   list();
   auto *menu = find<QComboBox>("printerMenu");
-  const int last = menu->count() - 3;  // a line, and what opens a printer description, are last
+  const int last = menu->count() - 1;
   EXPECT_TRUE(menu->itemText(last).startsWith(QStringLiteral("No printers")));
   EXPECT_FALSE(qobject_cast<QStandardItemModel *>(menu->model())->item(last)->isEnabled());
   EXPECT_TRUE(find<QPushButton>("printButton")->isEnabled());
@@ -279,22 +205,6 @@ TEST_F(PrinterChoice, MayBeClosedWhileAPrinterIsAsked) {
   dialog.reset();
   EXPECT_LT(clock.elapsed(), soon);
   EXPECT_TRUE(begun.isEmpty());
-}
-
-TEST_F(PrinterChoice, OpensAPrinterDescription) {
-  open();
-  QTimer answer;
-  QObject::connect(&answer, &QTimer::timeout, qApp, [&answer] {
-    auto *question = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-    if (question == nullptr) return;  // the menu is still open
-    answer.stop();
-    question->findChild<QLineEdit *>()->setText(printers + "Orvek-2120.ppd");
-    QTest::keyClick(question->findChild<QLineEdit *>(), Qt::Key_Return);
-  });
-  answer.start(50);
-  clickItem("printerMenu", QStringLiteral("Open Printer Description…"));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return &dialog->session() != session.get(); }, jobTimeout));
-  EXPECT_EQ(shownPrinter(), QStringLiteral("File (Orvek 2120 PostScript)"));
 }
 
 }  // namespace
