@@ -130,4 +130,10 @@ QStringList jobWarnings(const PrintSession &session, int pages) {
   return words;
 }
 
+QString thickBooklet(const PrintSession &session) {
+  const SessionJob &job = session.job();
+  return tooManySheets(session.marks(), session.ticket().values(), job.settings(),
+                       job.documentPages());
+}
+
 }  // namespace orvek

@@ -27,6 +27,10 @@ QStringList jobWarnings(const Marks &marks, const TicketValues &ticket, const Jo
 /// two sides a booklet is printed on.
 QStringList jobWarnings(const PrintSession &session, int pages);
 
+/// The one of them about a booklet of more sheets than the printer folds, for a session that knows
+/// how many pages its document has; null where there is nothing to say.
+QString thickBooklet(const PrintSession &session);
+
 /// Whether jobWarnings() needs to know the page count: where the printer folds sheets. Counting the
 /// pages of a PDF takes longer than sending it.
 bool warningsDependOnPages(const Marks &marks, const TicketValues &ticket);

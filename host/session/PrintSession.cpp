@@ -8,6 +8,7 @@
 
 #include "host/ppd/Wording.h"
 #include "host/session/FirstMarks.h"
+#include "host/session/JobWarnings.h"
 #include "host/session/TicketBounds.h"
 #include "host/ticket/BookletSettings.h"
 #include "host/ticket/JobOptions.h"
@@ -143,13 +144,23 @@ void PrintSession::notice(const Resolution &resolution) {
   QStringList words = wordsFor(marks().printer(), resolution);
   // A restore may run into the same refusal again; it was said.
   words.removeIf([this](const QString &sentence) { return m_actionNotices.contains(sentence); });
-  if (words.isEmpty()) return;
-  m_actionNotices << words;
-  m_record.noteNotices(words);
-  Q_EMIT noticed(words);
+  if (!words.isEmpty()) say(words);
+}
+
+void PrintSession::say(const QStringList &sentences) {
+  m_actionNotices << sentences;
+  m_record.noteNotices(sentences);
+  Q_EMIT noticed(sentences);
+}
+
+// Where it is made so thick, not as late as at the printer.
+void PrintSession::noticeThickBooklet() {
+  const QString words = thickBooklet(*this);
+  if (std::exchange(m_thickBooklet, words) != words && !words.isNull()) say({words});
 }
 
 void PrintSession::actionSettles() {
+  noticeThickBooklet();
   const QStringList changedOptions = std::exchange(m_changedOptions, {});
   if (changedOptions.isEmpty()) return;
   if (std::exchange(m_allMustRestore, false)) {

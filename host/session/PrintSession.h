@@ -53,6 +53,9 @@ class PrintSession final : public QObject, private PanelListener, private Action
   /// the key.
   void setTicketValue(const QString &key, const QVariant &value) { m_ticket->setValue(key, value); }
 
+  /// Has views say what an action changed beside what it was about, as constraints do.
+  void say(const QStringList &sentences);
+
   /// Takes back what the user did last, or does again what was taken back last, as many acts as are
   /// asked for and there, and has the panels show it.
   void undo(int acts = 1);
@@ -86,7 +89,7 @@ class PrintSession final : public QObject, private PanelListener, private Action
   void learnDefaultSummary();
 
  Q_SIGNALS:
-  /// Constraints changed or undid something; one sentence each.
+  /// Constraints, or say(), changed or undid something; one sentence each.
   void noticed(const QStringList &words);
 
   /// Marks, ticket or summary may be others now. Comes once the running action has ended.
@@ -107,6 +110,7 @@ class PrintSession final : public QObject, private PanelListener, private Action
   void show(const QStringList &changedKeys);
   bool apply(const QString &option, const QString &choice);
   void notice(const Resolution &resolution);
+  void noticeThickBooklet();
 
   // Panels borrow from all that stands before them here, and the PPD goes last.
   SessionSetup m_origin;
@@ -121,6 +125,8 @@ class PrintSession final : public QObject, private PanelListener, private Action
   QStringList m_changedOptions;
   /// All panels, as the ticket has other keys than theirs alone.
   bool m_allMustRestore = false;
+  /// What was said of a booklet that is too thick, and still holds.
+  QString m_thickBooklet;
   DefaultSummary m_defaultSummary;
   RunningAction m_action;
   PanelSet m_panels;

@@ -3,6 +3,8 @@
 
 #include "host/session/SessionJob.h"
 
+#include <QCoreApplication>
+
 #include "host/printers/Queue.h"
 #include "host/session/PrintSession.h"
 #include "host/ticket/BookletSettings.h"
@@ -13,6 +15,13 @@
 #include "platform/system/OptionMap.h"
 
 namespace orvek {
+namespace {
+
+struct Words {
+  Q_DECLARE_TR_FUNCTIONS(orvek::SessionJob)
+};
+
+}  // namespace
 
 bool SessionJob::printerCollates() const {
   return m_session.marks().printer().has(collateOption);
@@ -94,6 +103,18 @@ int SessionJob::pagesPerSheet() const {
 void SessionJob::setPagesPerSheet(int pages) {
   const ActionScope action(m_session);
   m_session.setTicketValue(layoutNUpKey, pages);
+}
+
+void SessionJob::pickPagesPerSheet(int pages) {
+  const ActionScope action(m_session);
+  const bool hadBooklet = bookletSettings(m_session.ticket().values()).enabled;
+  setPagesPerSheet(pages);
+  m_session.panels().willShow();
+  if (!hadBooklet || pages < 2) return;
+  // Where no panel has seen to it.
+  m_session.setTicketValue(enableBookletKey, QString(falseValue));
+  m_session.say(
+      {Words::tr("Booklet was set to Off: it can't be combined with several pages per sheet")});
 }
 
 QString SessionJob::sheetPaper() const {

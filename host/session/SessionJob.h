@@ -54,6 +54,10 @@ class SessionJob {
   int pagesPerSheet() const;
   void setPagesPerSheet(int pages);
 
+  /// The same by a user's hand: panels look at once. A booklet, which has a layout of its own, goes
+  /// off for several pages, and that is said.
+  void pickPagesPerSheet(int pages);
+
   /// The choice of PageSize that a booklet is to be made for; null: the job's own paper.
   QString sheetPaper() const;
 

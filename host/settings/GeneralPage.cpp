@@ -86,7 +86,7 @@ void GeneralPage::addLayoutRows() {
   });
   connect(m_pagesPerSheet, &QComboBox::activated, this, [this](int row) {
     const int pages = m_pagesPerSheet->itemData(row).toInt();
-    m_session.job().setPagesPerSheet(pages > 1 ? pages : 0);
+    m_session.job().pickPagesPerSheet(pages > 1 ? pages : 0);
   });
   connect(m_reverse, &QCheckBox::clicked, this, [this](bool reverse) {
     changeJob(m_session, [=](JobSettings *job) { job->reverse = reverse; });

@@ -1467,6 +1467,13 @@
     </message>
 </context>
 <context>
+    <name>orvek::SessionJob</name>
+    <message>
+        <source>Booklet was set to Off: it can&apos;t be combined with several pages per sheet</source>
+        <translation>Broschüre wurde auf „Aus“ gestellt: nicht vereinbar mit mehreren Seiten pro Blatt</translation>
+    </message>
+</context>
+<context>
     <name>orvek::SessionView</name>
     <message>
         <source>Settings</source>

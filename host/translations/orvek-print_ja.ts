@@ -1461,6 +1461,13 @@
     </message>
 </context>
 <context>
+    <name>orvek::SessionJob</name>
+    <message>
+        <source>Booklet was set to Off: it can&apos;t be combined with several pages per sheet</source>
+        <translation>小冊子を「オフ」に変更しました: 用紙ごとの複数ページとは併用できません</translation>
+    </message>
+</context>
+<context>
     <name>orvek::SessionView</name>
     <message>
         <source>Settings</source>

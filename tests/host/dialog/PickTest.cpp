@@ -3,6 +3,7 @@
 
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QTabWidget>
 
 #include "host/jobs/FilterChain.h"
 #include "tests/host/dialog/DialogKit.h"
@@ -52,6 +53,29 @@ TEST_F(Pick, OfAStapleWithTheKeyboardArrivesAsFeatureCodeInThePrintedFile) {
   waitForTheJob();
   const QByteArray feature = "%%BeginFeature: *OVKStapling " + picked.toLatin1();
   EXPECT_TRUE(printed().contains(feature));
+}
+
+TEST_F(Pick, OfSeveralPagesPerSheetTakesABookletOffAndSaysSo) {
+  open();
+  click("bookletChckBox");
+  ASSERT_TRUE(find<QCheckBox>("bookletChckBox")->isChecked());
+  auto *pages = find<QTabWidget>("pages");
+  pages->setCurrentIndex(0);
+  auto *layout = find<QComboBox>("pagesPerSheet");
+  ASSERT_NE(layout, nullptr);
+  layout->setFocus();
+  QTest::keyClicks(layout, QStringLiteral("4"));
+  EXPECT_EQ(session->job().pagesPerSheet(), 4);
+  EXPECT_EQ(session->ticket().value(QStringLiteral("OVKEnableBooklet")).toString(),
+            QStringLiteral("False"));
+  EXPECT_EQ(
+      notices().sentences(),
+      QStringList{"Booklet was set to Off: it can't be combined with several pages per sheet"});
+  EXPECT_TRUE(notices().isVisible());
+  EXPECT_FALSE(find<QCheckBox>("bookletChckBox")->isChecked());
+  EXPECT_FALSE(find<QCheckBox>("bookletChckBox")->isEnabled());
+  QTest::keyClick(layout, Qt::Key_Home);
+  EXPECT_TRUE(find<QCheckBox>("bookletChckBox")->isEnabled());
 }
 
 TEST_F(Pick, OfAGutterByTypingReachesTheTicket) {

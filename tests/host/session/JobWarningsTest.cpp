@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -92,6 +93,24 @@ TEST_F(JobWarnings, NameABookletOfMoreSheetsThanThePrinterFolds) {
   EXPECT_EQ(
       jobWarnings(*session, 61),
       QStringList{"A booklet of 16 sheets is more than the printer folds at once: at most 15"});
+}
+
+TEST_F(JobWarnings, SayWhereItIsSwitchedOnThatABookletIsTooThick) {
+  QStringList said;
+  QObject::connect(session.get(), &PrintSession::noticed, session.get(),
+                   [&said](const QStringList &words) { said << words; });
+  session->job().setDocumentPages(61);
+  session->pick("OVKFolding", "Saddle");
+  said.clear();
+  session->setTicketValue("OVKEnableBooklet", "True");
+  QCoreApplication::processEvents();
+  EXPECT_EQ(said, QStringList{
+                      "A booklet of 16 sheets is more than the printer folds at once: at most 15"});
+  setCopies(2, true);
+  EXPECT_EQ(said.size(), 1);
+  session->job().setDocumentPages(60);
+  session->job().setDocumentPages(65);
+  EXPECT_EQ(said.size(), 2);
 }
 
 TEST(JobWarningsOfAnotherMakersPrinter, NameABookletThatItsOwnWordsHaveFolded) {
