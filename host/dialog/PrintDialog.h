@@ -21,13 +21,13 @@
 
 #include "host/dialog/DialogSetup.h"
 #include "host/dialog/PrinterSwitch.h"
+#include "host/jobs/BackgroundJob.h"
 #include "host/presets/SessionPreset.h"
 
 class QVBoxLayout;
 
 namespace orvek {
 
-class BackgroundJob;
 class ChooserRow;
 class DocumentHeader;
 class JobBar;
@@ -113,6 +113,8 @@ class PrintDialog final : public QDialog {
   // A job's way
   JobRequest gatherRequest();
   bool completeRequest(JobRequest *request);
+  bool hasAskedForPlace() const;
+  BackgroundJob::Work workFor(const JobRequest &request) const;
   bool acceptsWarnings();
   void start();
   bool acceptsSheets(const JobOutcome &outcome);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // A job's way: gathered, warned of, sent, watched, ended.
 
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QPushButton>
 
@@ -11,10 +10,11 @@
 #include "host/dialog/PrintDialog.h"
 #include "host/dialog/PrinterChooser.h"
 #include "host/dialog/ProgressText.h"
-#include "host/jobs/BackgroundJob.h"
+#include "host/dialog/SavePlace.h"
 #include "host/jobs/BookletDriver.h"
 #include "host/jobs/FilterChain.h"
 #include "host/jobs/QueueJob.h"
+#include "host/jobs/SheetsPdf.h"
 #include "host/printers/Queue.h"
 #include "host/session/JobWarnings.h"
 #include "host/settings/Announcement.h"
@@ -40,7 +40,7 @@ JobRequest PrintDialog::gatherRequest() {
 
 bool PrintDialog::completeRequest(JobRequest *request) {
   if (!request->queue.isNull() || !request->outputFile.isNull()) return true;
-  request->outputFile = QFileDialog::getSaveFileName(this, tr("Print into a File"));
+  request->outputFile = askForPlace(this, proposedPlace(m_documents->files()));
   return !request->outputFile.isEmpty();
 }
 
@@ -84,10 +84,21 @@ void PrintDialog::print() {
   start();
 }
 
+bool PrintDialog::hasAskedForPlace() const {
+  return m_request.queue.isNull() && m_setup.outputFile.isNull();
+}
+
+// What the command line names is the printer's own language, whatever it is called.
+BackgroundJob::Work PrintDialog::workFor(const JobRequest &request) const {
+  if (!request.queue.isNull()) return submitToQueue;
+  const bool isPdf = hasAskedForPlace() && isPdfPlace(request.outputFile);
+  return isPdf ? printIntoPdf : printThroughFilters;
+}
+
 void PrintDialog::start() {
   m_notices->forgetOthers();
   m_isCancelling = false;
-  m_job->start(m_request, m_request.queue.isNull() ? printThroughFilters : submitToQueue);
+  m_job->start(m_request, workFor(m_request));
   showProgress({});
   updateControls();
 }
@@ -124,6 +135,7 @@ void PrintDialog::end(const JobOutcome &outcome) {
     // The job went; that it can't be remembered is no reason to stay.
     static_cast<void>(m_setup.presets->saveLastUsed(m_setup.destination, presetOf(*m_session, {})));
   }
+  if (hasAskedForPlace()) showPlace(this, m_request.outputFile);
   accept();
 }
 

@@ -34,15 +34,6 @@ Status checkPPDFile(const QString &path) {
   return {};
 }
 
-/// Filters make anything from nothing to a damaged file where there is nothing to print.
-Status checkPagesOf(const QString &file, const Phrase &name, const FilterRun &run,
-                    const JobRequest &request) {
-  const auto ranges = valueNamed(effectiveOptions(request), u"page-ranges");
-  const Status checked = checkContents({file}, ranges.value_or(QString()), run.control.cancelled);
-  if (checked) return {};
-  return Failure{checked.failure().kind, name, checked.failure().why};
-}
-
 Status checkOutput(const JobRequest &request) {
   const bool isStream = request.outputFile == QLatin1String("-");
   const auto output =
@@ -62,12 +53,6 @@ Status checkOutput(const JobRequest &request) {
   return {};
 }
 
-Status checkRequest(const JobRequest &request) {
-  if (Status ppd = checkPPDFile(request.ppdFile); !ppd) return ppd;
-  if (Status documents = checkAllDocuments(effectiveFiles(request)); !documents) return documents;
-  return checkOutput(request);
-}
-
 Status printAll(FilterRun &run, const JobRequest &request, const QString &tool,
                 const QString &ppd) {
   DocumentFiles copies;
@@ -76,7 +61,7 @@ Status printAll(FilterRun &run, const JobRequest &request, const QString &tool,
     if (!files) return files.failure();
     const QString file = files.value().constFirst();
     const Phrase name = documentName(document);
-    if (Status pages = checkPagesOf(file, name, run, request); !pages) return pages;
+    if (Status pages = checkPagesOf(file, name, request, run.control); !pages) return pages;
     const auto call = filterToolCall(request, tool, ppd, printerFormat, file);
     if (Status done = runFilters(run, call, name); !done) return done;
     ++run.progress.document;
@@ -85,6 +70,21 @@ Status printAll(FilterRun &run, const JobRequest &request, const QString &tool,
 }
 
 }  // namespace
+
+// Filters make anything from nothing to a damaged file where there is nothing to print.
+Status checkPagesOf(const QString &file, const Phrase &name, const JobRequest &request,
+                    const JobControl &control) {
+  const auto ranges = valueNamed(effectiveOptions(request), u"page-ranges");
+  const Status checked = checkContents({file}, ranges.value_or(QString()), control.cancelled);
+  if (checked) return {};
+  return Failure{checked.failure().kind, name, checked.failure().why};
+}
+
+Status checkIntoFile(const JobRequest &request) {
+  if (Status ppd = checkPPDFile(request.ppdFile); !ppd) return ppd;
+  if (Status documents = checkAllDocuments(effectiveFiles(request)); !documents) return documents;
+  return checkOutput(request);
+}
 
 QString findFilterTool(const QString &searchPath) {
   QStringList folders = searchPath.split(u':', Qt::SkipEmptyParts);
@@ -103,7 +103,7 @@ Result<QString> requiredFilterTool() {
 }
 
 Result<JobOutcome> printThroughFilters(const JobRequest &request, JobControl &control) {
-  if (Status checked = checkRequest(request); !checked) return checked.failure();
+  if (Status checked = checkIntoFile(request); !checked) return checked.failure();
   const auto tool = requiredFilterTool();
   if (!tool) return tool.failure();
   const auto ppd =

@@ -17,6 +17,15 @@ namespace orvek {
 /// itself; a filter failed (its own last words); the disk is full; cancelled.
 Result<JobOutcome> printThroughFilters(const JobRequest &request, JobControl &control);
 
+/// What is looked at before a job into a file begins: its PPD, its documents, and that it is not
+/// written over one of them.
+Status checkIntoFile(const JobRequest &request);
+
+/// Whether `file`, which stands for the document of this name, can be printed and has any of the
+/// pages asked for.
+Status checkPagesOf(const QString &file, const Phrase &name, const JobRequest &request,
+                    const JobControl &control);
+
 /// The filter tool's path, or a null string where it is not installed. `searchPath` as in PATH; the
 /// administrator's folders are searched as well, as a user's PATH often lacks them.
 QString findFilterTool(const QString &searchPath);

@@ -7,16 +7,12 @@
 #include <QFileInfo>
 #include <algorithm>
 
-#include "host/jobs/BookletDriver.h"
 #include "host/jobs/Document.h"
 #include "host/jobs/FilterChain.h"
-#include "host/jobs/FilterRun.h"
 #include "host/jobs/InputSpool.h"
-#include "host/jobs/OptionText.h"
-#include "host/jobs/OutputTarget.h"
 #include "host/jobs/ReadJob.h"
 #include "host/jobs/ScratchFile.h"
-#include "host/printers/Queue.h"
+#include "host/jobs/SheetsPdf.h"
 #include "imposition/SheetOptions.h"
 #include "platform/system/OptionMap.h"
 
@@ -33,27 +29,6 @@ const QString noBanner = QStringLiteral("none");
 template <typename Names>
 void removeAll(Options *options, const Names &names) {
   for (const char *name : names) removeNamed(options, name);
-}
-
-void removeDescriptions(Options *options) {
-  options->removeIf([](const auto &option) {
-    return describesQueue(option.key()) || option.key() == bannersOption;
-  });
-}
-
-/// The job as the filters here get it.
-JobRequest filtered(const JobRequest &request) {
-  JobRequest job = request;
-  job.saved.clear();
-  removeDescriptions(&job.options);
-  removeNamed(&job.options, formatOption);
-  return job;
-}
-
-/// Sheets are as many as the copies that the server makes of them.
-JobRequest withoutCopies(JobRequest request) {
-  removeNamed(&request.options, copiesOption);
-  return request;
 }
 
 void askForSheets(JobRequest *job, const QString &paper) {
@@ -89,59 +64,6 @@ JobRequest finished(const JobRequest &request, ServerDriver driver) {
   }
   job.files.clear();
   return job;
-}
-
-QString textOf(const Options &options) {
-  QStringList texts;
-  for (auto option = options.cbegin(); option != options.cend(); ++option) {
-    texts << optionText(option.key(), option.value());
-  }
-  return texts.join(u' ');
-}
-
-Status runInto(const QString &file, const FilterProgram &program, const Phrase &document,
-               const QString &ppd, JobControl &control) {
-  auto target = OutputTarget::open(file);
-  if (!target) return target.failure();
-  FilterRun run{ppd, control, *target.value()};
-  if (Status done = runFilters(run, program, document); !done) return done;
-  return target.value()->commit();
-}
-
-/// One document on its way.
-struct OneDocument {
-  QString document;
-  QString file;
-  QString output;
-
-  Phrase name() const { return documentName(document); }
-};
-
-Status imposeInto(const OneDocument &document, const JobRequest &request, JobControl &control) {
-  const DriverPlaces places = DriverPlaces::ofThisProgram();
-  const auto driver = requiredBookletDriver(places);
-  if (!driver) return driver.failure();
-  const auto tool = requiredFilterTool();
-  if (!tool) return tool.failure();
-  const auto ppd = ChainPPD::of(request.ppdFile, {}, places);
-  if (!ppd) return ppd.failure();
-  const QString path = ppd.value().path();
-  const QString pages = document.output + QStringLiteral(".pages");
-  const auto toPages = filterToolCall(request, tool.value(), path,
-                                      QStringLiteral("application/vnd.cups-pdf"), document.file);
-  if (Status made = runInto(pages, toPages, document.name(), request.ppdFile, control); !made) {
-    return made;
-  }
-  const QString anything = QStringLiteral("1");
-  const FilterProgram toSheets{
-      driver.value(),
-      {QStringLiteral("--sheets"), anything, request.user, effectiveTitle(request), anything,
-       textOf(effectiveOptions(request)), pages},
-      {{QStringLiteral("PPD"), path}}};
-  const Status imposed =
-      runInto(document.output, toSheets, document.name(), request.ppdFile, control);
-  QFile::remove(pages);
-  return imposed;
 }
 
 Status printInto(const OneDocument &document, JobRequest request, JobControl &control) {
@@ -182,7 +104,7 @@ Result<std::unique_ptr<FinishedSheets>> FinishedSheets::of(const JobRequest &req
   if (!scratch) return scratch.failure();
   std::unique_ptr<FinishedSheets> sheets(
       new FinishedSheets(finished(request, driver), scratch.value()));
-  const JobRequest job = filtered(areForDevice ? request : withoutCopies(request));
+  const JobRequest job = areForDevice ? jobForFilters(request) : jobForSheets(request);
   DocumentFiles copies;
   for (const QString &document : effectiveFiles(request)) {
     const auto files = copies.of({document}, control, beginOfStandardInput);
@@ -191,7 +113,7 @@ Result<std::unique_ptr<FinishedSheets>> FinishedSheets::of(const JobRequest &req
         sheets->placeFor(document, areForDevice ? QStringLiteral(".ps") : QStringLiteral(".pdf"));
     if (!place) return place.failure();
     const OneDocument one{document, files.value().constFirst(), place.value()};
-    const Status made = areForDevice ? printInto(one, job, control) : imposeInto(one, job, control);
+    const Status made = areForDevice ? printInto(one, job, control) : makeSheets(one, job, control);
     if (!made) return made.failure();
     sheets->m_request.files << one.output;
   }

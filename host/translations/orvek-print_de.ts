@@ -573,6 +573,10 @@
         <source>a copy that the filters can open can&apos;t be written; make room for temporary files</source>
         <translation>eine Kopie, die die Filter öffnen können, kann nicht geschrieben werden; schaffen Sie Platz für temporäre Dateien</translation>
     </message>
+    <message>
+        <source>the sheets of several documents can&apos;t be put into one PDF; print them one by one</source>
+        <translation>die Blätter mehrerer Dokumente können nicht zu einem PDF zusammengefügt werden; drucken Sie sie einzeln</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -1193,10 +1197,6 @@
         <translation>Dokument</translation>
     </message>
     <message>
-        <source>Print into a File</source>
-        <translation>In eine Datei drucken</translation>
-    </message>
-    <message>
         <source>Print all the same?</source>
         <translation>Trotzdem drucken?</translation>
     </message>
@@ -1464,6 +1464,41 @@
     <message>
         <source>, takes no jobs</source>
         <translation>, nimmt keine Aufträge an</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SavePlace</name>
+    <message>
+        <source>Printed</source>
+        <translation>Gedruckt</translation>
+    </message>
+    <message>
+        <source>Print into a File</source>
+        <translation>In eine Datei drucken</translation>
+    </message>
+    <message>
+        <source>PDF of the sheets (*.pdf)</source>
+        <translation>PDF der Blätter (*.pdf)</translation>
+    </message>
+    <message>
+        <source>As the printer takes it (*.ps *.prn)</source>
+        <translation>In der Sprache des Druckers (*.ps *.prn)</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Printed into %1.</source>
+        <translation>In %1 gedruckt.</translation>
+    </message>
+    <message>
+        <source>&amp;Show in Folder</source>
+        <translation>Im &amp;Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>

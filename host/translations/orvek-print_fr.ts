@@ -573,6 +573,10 @@
         <source>a copy that the filters can open can&apos;t be written; make room for temporary files</source>
         <translation>impossible d’écrire une copie que les filtres peuvent ouvrir ; libérez de la place pour les fichiers temporaires</translation>
     </message>
+    <message>
+        <source>the sheets of several documents can&apos;t be put into one PDF; print them one by one</source>
+        <translation>les feuilles de plusieurs documents ne peuvent être réunies en un seul PDF ; imprimez-les un par un</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -1193,10 +1197,6 @@
         <translation>Document</translation>
     </message>
     <message>
-        <source>Print into a File</source>
-        <translation>Imprimer dans un fichier</translation>
-    </message>
-    <message>
         <source>Print all the same?</source>
         <translation>Imprimer quand même ?</translation>
     </message>
@@ -1464,6 +1464,41 @@
     <message>
         <source>, takes no jobs</source>
         <translation>, n’accepte pas de travaux</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SavePlace</name>
+    <message>
+        <source>Printed</source>
+        <translation>Imprimé</translation>
+    </message>
+    <message>
+        <source>Print into a File</source>
+        <translation>Imprimer dans un fichier</translation>
+    </message>
+    <message>
+        <source>PDF of the sheets (*.pdf)</source>
+        <translation>PDF des feuilles (*.pdf)</translation>
+    </message>
+    <message>
+        <source>As the printer takes it (*.ps *.prn)</source>
+        <translation>Dans le langage de l’imprimante (*.ps *.prn)</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimer</translation>
+    </message>
+    <message>
+        <source>Printed into %1.</source>
+        <translation>Imprimé dans %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Show in Folder</source>
+        <translation>&amp;Afficher dans le dossier</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>

@@ -572,6 +572,10 @@
         <source>a copy that the filters can open can&apos;t be written; make room for temporary files</source>
         <translation>フィルターが開けるコピーを書き込めません。一時ファイル用の空き容量を確保してください</translation>
     </message>
+    <message>
+        <source>the sheets of several documents can&apos;t be put into one PDF; print them one by one</source>
+        <translation>複数の文書の用紙を1つの PDF にまとめられません。1つずつ印刷してください</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -1187,10 +1191,6 @@
         <translation>文書</translation>
     </message>
     <message>
-        <source>Print into a File</source>
-        <translation>ファイルに印刷</translation>
-    </message>
-    <message>
         <source>Print all the same?</source>
         <translation>このまま印刷しますか？</translation>
     </message>
@@ -1458,6 +1458,41 @@
     <message>
         <source>, takes no jobs</source>
         <translation>、ジョブを受け付けません</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SavePlace</name>
+    <message>
+        <source>Printed</source>
+        <translation>印刷済み</translation>
+    </message>
+    <message>
+        <source>Print into a File</source>
+        <translation>ファイルに印刷</translation>
+    </message>
+    <message>
+        <source>PDF of the sheets (*.pdf)</source>
+        <translation>用紙の PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>As the printer takes it (*.ps *.prn)</source>
+        <translation>プリンターの言語 (*.ps *.prn)</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>印刷</translation>
+    </message>
+    <message>
+        <source>Printed into %1.</source>
+        <translation>%1 に印刷しました。</translation>
+    </message>
+    <message>
+        <source>&amp;Show in Folder</source>
+        <translation>フォルダーに表示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
     </message>
 </context>
 <context>

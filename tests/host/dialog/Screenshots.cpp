@@ -54,6 +54,7 @@ class Shot {
                 const QString &server = {}, const QString &output = {})
       : m_session(openSession(source + '/' + printer + ".ppd")) {
     DialogSetup setup;
+    setup.files = {source + "/samples/Finishing-Sample.pdf"};
     setup.documentName = QStringLiteral("Finishing-Sample.pdf");
     setup.document = documentInfo(source + "/samples/Finishing-Sample.pdf");
     setup.presets = std::make_shared<PresetStore>(m_folder.path());
