@@ -75,6 +75,8 @@ int start(const CommandLine &line, char **argv) {
   char *toolkitArgv[] = {argv[0], nullptr};
   QApplication application(toolkitArgc, toolkitArgv);
   QApplication::setApplicationName(QLatin1String(programName));
+  // Whose windows these are, for desktops that go by the menu entry: its icon is theirs.
+  QApplication::setDesktopFileName(QLatin1String(programName));
   installTranslations();
   setMainBundleInfo(
       QJsonObject{{QLatin1String(kCFBundleExecutableKey), QLatin1String(programName)}});

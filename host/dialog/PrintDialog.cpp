@@ -17,6 +17,7 @@
 #include "host/dialog/NoticeKeeper.h"
 #include "host/dialog/NoticePlace.h"
 #include "host/dialog/PrinterChooser.h"
+#include "host/dialog/ProgramIcon.h"
 #include "host/dialog/ScrollingBody.h"
 #include "host/dialog/SessionView.h"
 #include "host/dialog/TabOrder.h"
@@ -53,7 +54,7 @@ PrintDialog::PrintDialog(PrintSession &session, DialogSetup setup, QWidget *pare
                }) {
   setObjectName(QStringLiteral("printDialog"));
   setWindowTitle(tr("Print"));
-  setWindowIcon(QIcon::fromTheme(QStringLiteral("orvek-print")));
+  setWindowIcon(programIcon());
   build();
   connectParts();
   followSession();

@@ -13,6 +13,12 @@ namespace {
 
 class Window : public DialogTest {};
 
+TEST_F(Window, HasTheProgramsIconWhereverThatIsInstalled) {
+  open();
+  EXPECT_FALSE(dialog->windowIcon().isNull());
+  EXPECT_FALSE(dialog->windowIcon().pixmap(48).isNull());
+}
+
 TEST_F(Window, KeepsTheSizeThatTheUserChose) {
   open();
   const QSize chosen = dialog->size() + QSize(120, 200);
