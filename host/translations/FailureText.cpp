@@ -3,6 +3,7 @@
 
 #include "host/translations/FailureText.h"
 
+#include <QByteArray>
 #include <QCoreApplication>
 #include <array>
 
@@ -35,6 +36,28 @@ constexpr const char *context = "orvek::Failure";
     QT_TRANSLATE_NOOP("orvek::Failure", "Too many open files"),
 };
 
+struct Advice {
+  const char *atTheCommandLine;
+  const char *inTheWindow;
+};
+
+// What to do is another thing where nobody writes options.
+constexpr std::array advices{
+    Advice{"no such printer on %1; \"orvek-print --list-printers\" lists them",
+           QT_TRANSLATE_NOOP("orvek::Failure", "no such printer on %1; choose another one")},
+    Advice{"there is no default printer; name one with -d",
+           QT_TRANSLATE_NOOP("orvek::Failure", "there is no default printer; choose one")},
+    Advice{"there is none of that name; \"orvek-print --list-presets\" lists them",
+           QT_TRANSLATE_NOOP("orvek::Failure", "there is none of that name; choose another one")},
+};
+
+QByteArray sentenceForTheWindow(const QByteArray &sentence) {
+  for (const auto &[atTheCommandLine, inTheWindow] : advices) {
+    if (sentence == atTheCommandLine) return inTheWindow;
+  }
+  return sentence;
+}
+
 }  // namespace
 
 QString translated(const Phrase &phrase) {
@@ -42,7 +65,8 @@ QString translated(const Phrase &phrase) {
   std::vector<QString> parts;
   parts.reserve(phrase.parts().size());
   for (const Phrase &part : phrase.parts()) parts.push_back(translated(part));
-  return Phrase::filled(QCoreApplication::translate(context, phrase.sentence().constData()), parts);
+  const QByteArray sentence = sentenceForTheWindow(phrase.sentence());
+  return Phrase::filled(QCoreApplication::translate(context, sentence.constData()), parts);
 }
 
 QString failureText(const Failure &failure) {

@@ -577,6 +577,18 @@
         <source>the sheets of several documents can&apos;t be put into one PDF; print them one by one</source>
         <translation>die Blätter mehrerer Dokumente können nicht zu einem PDF zusammengefügt werden; drucken Sie sie einzeln</translation>
     </message>
+    <message>
+        <source>no such printer on %1; choose another one</source>
+        <translation>auf %1 gibt es keinen solchen Drucker; wählen Sie einen anderen</translation>
+    </message>
+    <message>
+        <source>there is no default printer; choose one</source>
+        <translation>es gibt keinen Standarddrucker; wählen Sie einen Drucker aus</translation>
+    </message>
+    <message>
+        <source>there is none of that name; choose another one</source>
+        <translation>es gibt keine dieses Namens; wählen Sie eine andere</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>

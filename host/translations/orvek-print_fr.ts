@@ -577,6 +577,18 @@
         <source>the sheets of several documents can&apos;t be put into one PDF; print them one by one</source>
         <translation>les feuilles de plusieurs documents ne peuvent être réunies en un seul PDF ; imprimez-les un par un</translation>
     </message>
+    <message>
+        <source>no such printer on %1; choose another one</source>
+        <translation>aucune imprimante de ce nom sur %1 ; choisissez-en une autre</translation>
+    </message>
+    <message>
+        <source>there is no default printer; choose one</source>
+        <translation>il n’y a pas d’imprimante par défaut ; choisissez-en une</translation>
+    </message>
+    <message>
+        <source>there is none of that name; choose another one</source>
+        <translation>il n’en existe pas de ce nom ; choisissez-en un autre</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>

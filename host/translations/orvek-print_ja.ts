@@ -576,6 +576,18 @@
         <source>the sheets of several documents can&apos;t be put into one PDF; print them one by one</source>
         <translation>複数の文書の用紙を1つの PDF にまとめられません。1つずつ印刷してください</translation>
     </message>
+    <message>
+        <source>no such printer on %1; choose another one</source>
+        <translation>%1 にそのようなプリンターはありません。別のものを選択してください</translation>
+    </message>
+    <message>
+        <source>there is no default printer; choose one</source>
+        <translation>既定のプリンターがありません。プリンターを選択してください</translation>
+    </message>
+    <message>
+        <source>there is none of that name; choose another one</source>
+        <translation>その名前のものはありません。別のものを選択してください</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
