@@ -6,6 +6,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <QFile>
+#include <QProcess>
 #include <QTimer>
 #include <optional>
 #include <utility>
@@ -20,6 +22,7 @@
 #include "host/dialog/PrintDialog.h"
 #include "host/jobs/Document.h"
 #include "host/jobs/QueueJob.h"
+#include "platform/system/SocketProgram.h"
 
 namespace orvek {
 namespace {
@@ -28,6 +31,22 @@ namespace {
 Status tellOutcome(const CommandLine &line, const PrintDialog &dialog) {
   if (line.silent || !dialog.outcome() || dialog.outcome()->jobId == 0) return {};
   return writeLines({requestIdLine(dialog.request(), *dialog.outcome())});
+}
+
+// In a process of its own: this one ends with its window, and what the desktop shows outlasts that.
+void tellDesktop(const CommandLine &line, const PrintDialog &dialog) {
+  const bool isSent = dialog.outcome() && dialog.outcome()->jobId > 0;
+  if (line.silent || !isSent || !qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS")) return;
+  const JobOutcome &sent = *dialog.outcome();
+  const JobRequest &request = dialog.request();
+  QProcess notice;
+  notice.setProgram(QFile::decodeName(helperProgram("orvek-job-notice").c_str()));
+  notice.setArguments({sent.queue, QString::number(sent.jobId), request.server, request.user});
+  // Whoever waits for the end of what this program writes is not to wait for the notice.
+  notice.setStandardInputFile(QProcess::nullDevice());
+  notice.setStandardOutputFile(QProcess::nullDevice());
+  notice.setStandardErrorFile(QProcess::nullDevice());
+  static_cast<void>(notice.startDetached());
 }
 
 // For a session on a printer chosen in the window: what was entered there goes along by itself.
@@ -117,6 +136,7 @@ void followAwaited(const CommandLine &line, Awaited &awaited, PrintDialog &dialo
 
 Status tellAll(const CommandLine &line, const PrintDialog &dialog) {
   if (Status told = tellOutcome(line, dialog); !told) return told;
+  tellDesktop(line, dialog);
   SeenDocuments documents{dialog.files(), dialog.outcome().has_value()};
   const QString only = dialog.document().path;
   if (dialog.files().size() < 2 && !only.isEmpty()) documents.files = {only};

@@ -853,6 +853,21 @@
     </message>
 </context>
 <context>
+    <name>orvek::JobNotice</name>
+    <message>
+        <source>Job %1 on %2 was cancelled</source>
+        <translation>Auftrag %1 auf %2 wurde abgebrochen</translation>
+    </message>
+    <message>
+        <source>Sent to %1, job %2</source>
+        <translation>An %1 gesendet, Auftrag %2</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Auftrag abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>orvek::JobPreview</name>
     <message>
         <source>Preview</source>

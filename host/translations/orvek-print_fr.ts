@@ -853,6 +853,21 @@
     </message>
 </context>
 <context>
+    <name>orvek::JobNotice</name>
+    <message>
+        <source>Job %1 on %2 was cancelled</source>
+        <translation>La tâche %1 sur %2 a été annulée</translation>
+    </message>
+    <message>
+        <source>Sent to %1, job %2</source>
+        <translation>Envoyé à %1, tâche %2</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Annuler la tâche</translation>
+    </message>
+</context>
+<context>
     <name>orvek::JobPreview</name>
     <message>
         <source>Preview</source>

@@ -851,6 +851,21 @@
     </message>
 </context>
 <context>
+    <name>orvek::JobNotice</name>
+    <message>
+        <source>Job %1 on %2 was cancelled</source>
+        <translation>%2 のジョブ %1 をキャンセルしました</translation>
+    </message>
+    <message>
+        <source>Sent to %1, job %2</source>
+        <translation>%1 に送信しました（ジョブ %2）</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>ジョブをキャンセル</translation>
+    </message>
+</context>
+<context>
     <name>orvek::JobPreview</name>
     <message>
         <source>Preview</source>

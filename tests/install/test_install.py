@@ -67,7 +67,7 @@ class Installation(unittest.TestCase):
         files = files_in(self.runtime)
         for path in ["bin/orvek-print", "bin/orvek-device", "libexec/orvek-print-server",
                      f"{LIBDIR}/orvek-print/orvek-print.so", "libexec/orvek-filter-guard",
-                     "libexec/orvek-pdf-opener",
+                     "libexec/orvek-pdf-opener", "libexec/orvek-job-notice",
                      "share/man/man1/orvek-print.1"]:
             self.assertIn(path, files)
         for name in LIBRARIES:
