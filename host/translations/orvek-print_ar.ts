@@ -112,6 +112,10 @@
             <numerusform>%n صفحة</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Document</source>
+        <translation>المستند</translation>
+    </message>
 </context>
 <context>
     <name>orvek::DocumentInfo</name>
@@ -630,6 +634,131 @@
     </message>
 </context>
 <context>
+    <name>orvek::History</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>إيقاف</translation>
+    </message>
+    <message>
+        <source>As the job</source>
+        <translation>كما في المهمة</translation>
+    </message>
+    <message>
+        <source>%1 pt</source>
+        <translation>%1 نقطة</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>كتيب</translation>
+    </message>
+    <message>
+        <source>Right to left</source>
+        <translation>من اليمين إلى اليسار</translation>
+    </message>
+    <message>
+        <source>Page borders</source>
+        <translation>حدود الصفحات</translation>
+    </message>
+    <message>
+        <source>Gutter</source>
+        <translation>هامش التجليد</translation>
+    </message>
+    <message>
+        <source>Creep</source>
+        <translation>الإزاحة الداخلية</translation>
+    </message>
+    <message>
+        <source>Target paper size</source>
+        <translation>حجم ورق الوجهة</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>عمودي</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>أفقي</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>عمودي، مقلوب</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>أفقي، مقلوب</translation>
+    </message>
+    <message>
+        <source>As in the document</source>
+        <translation>كما في المستند</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>الكل</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>النسخ</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>ترتيب النسخ</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>الصفحات</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>الصفحة الأخيرة أولاً</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>الاتجاه</translation>
+    </message>
+    <message>
+        <source>Pages per sheet</source>
+        <translation>صفحات لكل ورقة</translation>
+    </message>
+    <message>
+        <source>Other settings</source>
+        <translation>إعدادات أخرى</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>%n أخرى</numerusform>
+            <numerusform>واحد آخر</numerusform>
+            <numerusform>اثنان آخران</numerusform>
+            <numerusform>%n أخرى</numerusform>
+            <numerusform>%n أخرى</numerusform>
+            <numerusform>%n أخرى</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>orvek::HistoryButtons</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>تراجع</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>إعادة</translation>
+    </message>
+</context>
+<context>
     <name>orvek::JobBar</name>
     <message>
         <source>&amp;Print</source>
@@ -821,18 +950,6 @@
         <translation>تراجع (&amp;U)</translation>
     </message>
     <message>
-        <source>Notice</source>
-        <translation>إشعار</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>تراجع</translation>
-    </message>
-    <message>
-        <source>Takes back the last choice with all that it changed</source>
-        <translation>يتراجع عن آخر اختيار وكل ما غيّره</translation>
-    </message>
-    <message>
         <source>Close the notice</source>
         <translation>إغلاق الإشعار</translation>
     </message>
@@ -843,6 +960,34 @@
     <message>
         <source>Information</source>
         <translation>معلومات</translation>
+    </message>
+    <message>
+        <source>Earlier notice</source>
+        <translation>الإشعار السابق</translation>
+    </message>
+    <message>
+        <source>Later notice</source>
+        <translation>الإشعار التالي</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo %n steps</source>
+        <translation>
+            <numerusform>تراجع %n خطوة (&amp;U)</numerusform>
+            <numerusform>تراجع خطوة واحدة (&amp;U)</numerusform>
+            <numerusform>تراجع خطوتين (&amp;U)</numerusform>
+            <numerusform>تراجع %n خطوات (&amp;U)</numerusform>
+            <numerusform>تراجع %n خطوة (&amp;U)</numerusform>
+            <numerusform>تراجع %n خطوة (&amp;U)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Takes back the choice with all that it changed, and what came after it</source>
+        <translation>يتراجع عن الاختيار وكل ما غيّره وما جاء بعده</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>a notice&apos;s place</comment>
+        <translation>%1 من %2</translation>
     </message>
 </context>
 <context>
@@ -1146,6 +1291,14 @@
     <message>
         <source>No document</source>
         <translation>لا يوجد مستند</translation>
+    </message>
+    <message>
+        <source>Printed into %1</source>
+        <translation>طُبع إلى %1</translation>
+    </message>
+    <message>
+        <source>Sent to %1, job %2</source>
+        <translation>أُرسل إلى %1، المهمة %2</translation>
     </message>
 </context>
 <context>
@@ -2330,6 +2483,17 @@
     <message>
         <source>Copies was set to %1: no job makes more</source>
         <translation>ضُبط عدد النسخ على %1: لا تُنتج أي مهمة أكثر من ذلك</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::UnderstoodNote</name>
+    <message>
+        <source>%1 still applies</source>
+        <translation>ما زال %1 ساريًا</translation>
+    </message>
+    <message>
+        <source>“%1” was read as %2</source>
+        <translation>قُرئ «%1» على أنه %2</translation>
     </message>
 </context>
 <context>

@@ -108,6 +108,10 @@
             <numerusform>%n páginas</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Document</source>
+        <translation>Documento</translation>
+    </message>
 </context>
 <context>
     <name>orvek::DocumentInfo</name>
@@ -626,6 +630,127 @@
     </message>
 </context>
 <context>
+    <name>orvek::History</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activado</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desactivado</translation>
+    </message>
+    <message>
+        <source>As the job</source>
+        <translation>Como el trabajo</translation>
+    </message>
+    <message>
+        <source>%1 pt</source>
+        <translation>%1 pt</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Folleto</translation>
+    </message>
+    <message>
+        <source>Right to left</source>
+        <translation>De derecha a izquierda</translation>
+    </message>
+    <message>
+        <source>Page borders</source>
+        <translation>Bordes de página</translation>
+    </message>
+    <message>
+        <source>Gutter</source>
+        <translation>Medianil</translation>
+    </message>
+    <message>
+        <source>Creep</source>
+        <translation>Compensación</translation>
+    </message>
+    <message>
+        <source>Target paper size</source>
+        <translation>Papel de destino</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>Vertical, invertido</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>Horizontal, invertido</translation>
+    </message>
+    <message>
+        <source>As in the document</source>
+        <translation>Como en el documento</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todas</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copias</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>Intercalar</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Última página primero</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Orientación</translation>
+    </message>
+    <message>
+        <source>Pages per sheet</source>
+        <translation>Páginas por hoja</translation>
+    </message>
+    <message>
+        <source>Other settings</source>
+        <translation>Otros ajustes</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>%n más</numerusform>
+            <numerusform>%n más</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>orvek::HistoryButtons</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+</context>
+<context>
     <name>orvek::JobBar</name>
     <message>
         <source>&amp;Print</source>
@@ -809,18 +934,6 @@
         <translation>&amp;Deshacer</translation>
     </message>
     <message>
-        <source>Notice</source>
-        <translation>Aviso</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Deshacer</translation>
-    </message>
-    <message>
-        <source>Takes back the last choice with all that it changed</source>
-        <translation>Deshace la última elección con todo lo que cambió</translation>
-    </message>
-    <message>
         <source>Close the notice</source>
         <translation>Cerrar el aviso</translation>
     </message>
@@ -831,6 +944,30 @@
     <message>
         <source>Information</source>
         <translation>Información</translation>
+    </message>
+    <message>
+        <source>Earlier notice</source>
+        <translation>Aviso anterior</translation>
+    </message>
+    <message>
+        <source>Later notice</source>
+        <translation>Aviso siguiente</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo %n steps</source>
+        <translation>
+            <numerusform>&amp;Deshacer %n paso</numerusform>
+            <numerusform>&amp;Deshacer %n pasos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Takes back the choice with all that it changed, and what came after it</source>
+        <translation>Deshace la elección con todo lo que cambió y lo que vino después</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>a notice&apos;s place</comment>
+        <translation>%1 de %2</translation>
     </message>
 </context>
 <context>
@@ -1130,6 +1267,14 @@
     <message>
         <source>No document</source>
         <translation>Ningún documento</translation>
+    </message>
+    <message>
+        <source>Printed into %1</source>
+        <translation>Impreso en %1</translation>
+    </message>
+    <message>
+        <source>Sent to %1, job %2</source>
+        <translation>Enviado a %1, trabajo %2</translation>
     </message>
 </context>
 <context>
@@ -2306,6 +2451,17 @@
     <message>
         <source>Copies was set to %1: no job makes more</source>
         <translation>Las copias se fijaron en %1: ningún trabajo hace más</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::UnderstoodNote</name>
+    <message>
+        <source>%1 still applies</source>
+        <translation>%1 sigue vigente</translation>
+    </message>
+    <message>
+        <source>“%1” was read as %2</source>
+        <translation>«%1» se leyó como %2</translation>
     </message>
 </context>
 <context>

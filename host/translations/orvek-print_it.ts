@@ -108,6 +108,10 @@
             <numerusform>%n pagine</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Document</source>
+        <translation>Documento</translation>
+    </message>
 </context>
 <context>
     <name>orvek::DocumentInfo</name>
@@ -626,6 +630,127 @@
     </message>
 </context>
 <context>
+    <name>orvek::History</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Attivato</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Disattivato</translation>
+    </message>
+    <message>
+        <source>As the job</source>
+        <translation>Come il lavoro</translation>
+    </message>
+    <message>
+        <source>%1 pt</source>
+        <translation>%1 pt</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Opuscolo</translation>
+    </message>
+    <message>
+        <source>Right to left</source>
+        <translation>Da destra a sinistra</translation>
+    </message>
+    <message>
+        <source>Page borders</source>
+        <translation>Bordi delle pagine</translation>
+    </message>
+    <message>
+        <source>Gutter</source>
+        <translation>Margine interno</translation>
+    </message>
+    <message>
+        <source>Creep</source>
+        <translation>Compensazione</translation>
+    </message>
+    <message>
+        <source>Target paper size</source>
+        <translation>Carta finale</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Verticale</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Orizzontale</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>Verticale, capovolto</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>Orizzontale, capovolto</translation>
+    </message>
+    <message>
+        <source>As in the document</source>
+        <translation>Come nel documento</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tutte</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Copie</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>Fascicola</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pagine</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Ultima pagina per prima</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Orientamento</translation>
+    </message>
+    <message>
+        <source>Pages per sheet</source>
+        <translation>Pagine per foglio</translation>
+    </message>
+    <message>
+        <source>Other settings</source>
+        <translation>Altre impostazioni</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>un altro</numerusform>
+            <numerusform>altri %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>orvek::HistoryButtons</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annulla modifica</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Ripeti modifica</translation>
+    </message>
+</context>
+<context>
     <name>orvek::JobBar</name>
     <message>
         <source>&amp;Print</source>
@@ -809,18 +934,6 @@
         <translation>Annu&amp;lla modifica</translation>
     </message>
     <message>
-        <source>Notice</source>
-        <translation>Avviso</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Annulla modifica</translation>
-    </message>
-    <message>
-        <source>Takes back the last choice with all that it changed</source>
-        <translation>Annulla l’ultima scelta con tutto ciò che ha cambiato</translation>
-    </message>
-    <message>
         <source>Close the notice</source>
         <translation>Chiudi l’avviso</translation>
     </message>
@@ -831,6 +944,30 @@
     <message>
         <source>Information</source>
         <translation>Informazione</translation>
+    </message>
+    <message>
+        <source>Earlier notice</source>
+        <translation>Avviso precedente</translation>
+    </message>
+    <message>
+        <source>Later notice</source>
+        <translation>Avviso successivo</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo %n steps</source>
+        <translation>
+            <numerusform>Annu&amp;lla %n modifica</numerusform>
+            <numerusform>Annu&amp;lla %n modifiche</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Takes back the choice with all that it changed, and what came after it</source>
+        <translation>Annulla la scelta con tutto ciò che ha cambiato e quanto è seguito</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>a notice&apos;s place</comment>
+        <translation>%1 di %2</translation>
     </message>
 </context>
 <context>
@@ -1130,6 +1267,14 @@
     <message>
         <source>No document</source>
         <translation>Nessun documento</translation>
+    </message>
+    <message>
+        <source>Printed into %1</source>
+        <translation>Stampato in %1</translation>
+    </message>
+    <message>
+        <source>Sent to %1, job %2</source>
+        <translation>Inviato a %1, lavoro %2</translation>
     </message>
 </context>
 <context>
@@ -2306,6 +2451,17 @@
     <message>
         <source>Copies was set to %1: no job makes more</source>
         <translation>Le copie sono state impostate su %1: nessun lavoro ne fa di più</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::UnderstoodNote</name>
+    <message>
+        <source>%1 still applies</source>
+        <translation>%1 resta valido</translation>
+    </message>
+    <message>
+        <source>“%1” was read as %2</source>
+        <translation>«%1» è stato letto come %2</translation>
     </message>
 </context>
 <context>

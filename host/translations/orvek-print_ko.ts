@@ -107,6 +107,10 @@
             <numerusform>%n페이지</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Document</source>
+        <translation>문서</translation>
+    </message>
 </context>
 <context>
     <name>orvek::DocumentInfo</name>
@@ -625,6 +629,126 @@
     </message>
 </context>
 <context>
+    <name>orvek::History</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>켬</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>끔</translation>
+    </message>
+    <message>
+        <source>As the job</source>
+        <translation>작업과 같음</translation>
+    </message>
+    <message>
+        <source>%1 pt</source>
+        <translation>%1 pt</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>소책자</translation>
+    </message>
+    <message>
+        <source>Right to left</source>
+        <translation>오른쪽에서 왼쪽</translation>
+    </message>
+    <message>
+        <source>Page borders</source>
+        <translation>페이지 테두리</translation>
+    </message>
+    <message>
+        <source>Gutter</source>
+        <translation>제본 여백</translation>
+    </message>
+    <message>
+        <source>Creep</source>
+        <translation>크리프 보정</translation>
+    </message>
+    <message>
+        <source>Target paper size</source>
+        <translation>대상 용지 크기</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>세로</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>가로</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>세로, 뒤집힘</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>가로, 뒤집힘</translation>
+    </message>
+    <message>
+        <source>As in the document</source>
+        <translation>문서와 같음</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>모두</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>매수</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>한 부씩 인쇄</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>페이지</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>마지막 페이지부터</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>방향</translation>
+    </message>
+    <message>
+        <source>Pages per sheet</source>
+        <translation>장당 페이지 수</translation>
+    </message>
+    <message>
+        <source>Other settings</source>
+        <translation>기타 설정</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>%n개 더</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>orvek::HistoryButtons</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>실행 취소</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>다시 실행</translation>
+    </message>
+</context>
+<context>
     <name>orvek::JobBar</name>
     <message>
         <source>&amp;Print</source>
@@ -806,18 +930,6 @@
         <translation>실행 취소(&amp;U)</translation>
     </message>
     <message>
-        <source>Notice</source>
-        <translation>알림</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>실행 취소</translation>
-    </message>
-    <message>
-        <source>Takes back the last choice with all that it changed</source>
-        <translation>마지막 선택과 그로 인한 모든 변경을 되돌립니다</translation>
-    </message>
-    <message>
         <source>Close the notice</source>
         <translation>알림 닫기</translation>
     </message>
@@ -828,6 +940,29 @@
     <message>
         <source>Information</source>
         <translation>정보</translation>
+    </message>
+    <message>
+        <source>Earlier notice</source>
+        <translation>이전 알림</translation>
+    </message>
+    <message>
+        <source>Later notice</source>
+        <translation>다음 알림</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo %n steps</source>
+        <translation>
+            <numerusform>%n단계 실행 취소(&amp;U)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Takes back the choice with all that it changed, and what came after it</source>
+        <translation>선택과 그로 인한 모든 변경, 그 뒤의 변경까지 되돌립니다</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>a notice&apos;s place</comment>
+        <translation>%1/%2</translation>
     </message>
 </context>
 <context>
@@ -1126,6 +1261,14 @@
     <message>
         <source>No document</source>
         <translation>문서 없음</translation>
+    </message>
+    <message>
+        <source>Printed into %1</source>
+        <translation>%1에 인쇄했습니다</translation>
+    </message>
+    <message>
+        <source>Sent to %1, job %2</source>
+        <translation>%1(으)로 보냄, 작업 %2</translation>
     </message>
 </context>
 <context>
@@ -2300,6 +2443,17 @@
     <message>
         <source>Copies was set to %1: no job makes more</source>
         <translation>매수를 %1(으)로 맞췄습니다. 한 작업에서 더 많이 만들 수 없습니다</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::UnderstoodNote</name>
+    <message>
+        <source>%1 still applies</source>
+        <translation>%1이(가) 계속 적용됩니다</translation>
+    </message>
+    <message>
+        <source>“%1” was read as %2</source>
+        <translation>“%1”을(를) %2(으)로 읽었습니다</translation>
     </message>
 </context>
 <context>

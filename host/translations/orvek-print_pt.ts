@@ -108,6 +108,10 @@
             <numerusform>%n páginas</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Document</source>
+        <translation>Documento</translation>
+    </message>
 </context>
 <context>
     <name>orvek::DocumentInfo</name>
@@ -626,6 +630,127 @@
     </message>
 </context>
 <context>
+    <name>orvek::History</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ativado</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desativado</translation>
+    </message>
+    <message>
+        <source>As the job</source>
+        <translation>Como o trabalho</translation>
+    </message>
+    <message>
+        <source>%1 pt</source>
+        <translation>%1 pt</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Livreto</translation>
+    </message>
+    <message>
+        <source>Right to left</source>
+        <translation>Da direita para a esquerda</translation>
+    </message>
+    <message>
+        <source>Page borders</source>
+        <translation>Bordas das páginas</translation>
+    </message>
+    <message>
+        <source>Gutter</source>
+        <translation>Medianiz</translation>
+    </message>
+    <message>
+        <source>Creep</source>
+        <translation>Compensação</translation>
+    </message>
+    <message>
+        <source>Target paper size</source>
+        <translation>Papel de destino</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Retrato</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Paisagem</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>Retrato, invertido</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>Paisagem, invertida</translation>
+    </message>
+    <message>
+        <source>As in the document</source>
+        <translation>Como no documento</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todas</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>Cópias</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>Agrupar</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>Última página primeiro</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Orientação</translation>
+    </message>
+    <message>
+        <source>Pages per sheet</source>
+        <translation>Páginas por folha</translation>
+    </message>
+    <message>
+        <source>Other settings</source>
+        <translation>Outras configurações</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>mais %n</numerusform>
+            <numerusform>mais %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>orvek::HistoryButtons</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Desfazer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Refazer</translation>
+    </message>
+</context>
+<context>
     <name>orvek::JobBar</name>
     <message>
         <source>&amp;Print</source>
@@ -809,18 +934,6 @@
         <translation>&amp;Desfazer</translation>
     </message>
     <message>
-        <source>Notice</source>
-        <translation>Aviso</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Desfazer</translation>
-    </message>
-    <message>
-        <source>Takes back the last choice with all that it changed</source>
-        <translation>Desfaz a última escolha com tudo o que ela alterou</translation>
-    </message>
-    <message>
         <source>Close the notice</source>
         <translation>Fechar o aviso</translation>
     </message>
@@ -831,6 +944,30 @@
     <message>
         <source>Information</source>
         <translation>Informação</translation>
+    </message>
+    <message>
+        <source>Earlier notice</source>
+        <translation>Aviso anterior</translation>
+    </message>
+    <message>
+        <source>Later notice</source>
+        <translation>Próximo aviso</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo %n steps</source>
+        <translation>
+            <numerusform>&amp;Desfazer %n passo</numerusform>
+            <numerusform>&amp;Desfazer %n passos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Takes back the choice with all that it changed, and what came after it</source>
+        <translation>Desfaz a escolha com tudo o que ela alterou e o que veio depois</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>a notice&apos;s place</comment>
+        <translation>%1 de %2</translation>
     </message>
 </context>
 <context>
@@ -1130,6 +1267,14 @@
     <message>
         <source>No document</source>
         <translation>Nenhum documento</translation>
+    </message>
+    <message>
+        <source>Printed into %1</source>
+        <translation>Impresso em %1</translation>
+    </message>
+    <message>
+        <source>Sent to %1, job %2</source>
+        <translation>Enviado para %1, trabalho %2</translation>
     </message>
 </context>
 <context>
@@ -2306,6 +2451,17 @@
     <message>
         <source>Copies was set to %1: no job makes more</source>
         <translation>As cópias foram definidas como %1: nenhum trabalho faz mais</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::UnderstoodNote</name>
+    <message>
+        <source>%1 still applies</source>
+        <translation>%1 continua valendo</translation>
+    </message>
+    <message>
+        <source>“%1” was read as %2</source>
+        <translation>“%1” foi lido como %2</translation>
     </message>
 </context>
 <context>

@@ -107,6 +107,10 @@
             <numerusform>%n 页</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Document</source>
+        <translation>文档</translation>
+    </message>
 </context>
 <context>
     <name>orvek::DocumentInfo</name>
@@ -625,6 +629,126 @@
     </message>
 </context>
 <context>
+    <name>orvek::History</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关</translation>
+    </message>
+    <message>
+        <source>As the job</source>
+        <translation>与作业相同</translation>
+    </message>
+    <message>
+        <source>%1 pt</source>
+        <translation>%1 磅</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>小册子</translation>
+    </message>
+    <message>
+        <source>Right to left</source>
+        <translation>从右到左</translation>
+    </message>
+    <message>
+        <source>Page borders</source>
+        <translation>页面边框</translation>
+    </message>
+    <message>
+        <source>Gutter</source>
+        <translation>装订线</translation>
+    </message>
+    <message>
+        <source>Creep</source>
+        <translation>爬移</translation>
+    </message>
+    <message>
+        <source>Target paper size</source>
+        <translation>目标纸张尺寸</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>纵向</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横向</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>纵向，倒置</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>横向，倒置</translation>
+    </message>
+    <message>
+        <source>As in the document</source>
+        <translation>与文档相同</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>份数</translation>
+    </message>
+    <message>
+        <source>Collate</source>
+        <translation>逐份打印</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>页面</translation>
+    </message>
+    <message>
+        <source>Last page first</source>
+        <translation>从末页开始</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>Pages per sheet</source>
+        <translation>每张页数</translation>
+    </message>
+    <message>
+        <source>Other settings</source>
+        <translation>其他设置</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>另外 %n 项</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>orvek::HistoryButtons</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+</context>
+<context>
     <name>orvek::JobBar</name>
     <message>
         <source>&amp;Print</source>
@@ -806,18 +930,6 @@
         <translation>撤销(&amp;U)</translation>
     </message>
     <message>
-        <source>Notice</source>
-        <translation>通知</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>撤销</translation>
-    </message>
-    <message>
-        <source>Takes back the last choice with all that it changed</source>
-        <translation>撤销上一次选择及其引起的所有更改</translation>
-    </message>
-    <message>
         <source>Close the notice</source>
         <translation>关闭通知</translation>
     </message>
@@ -828,6 +940,29 @@
     <message>
         <source>Information</source>
         <translation>信息</translation>
+    </message>
+    <message>
+        <source>Earlier notice</source>
+        <translation>上一条通知</translation>
+    </message>
+    <message>
+        <source>Later notice</source>
+        <translation>下一条通知</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Undo %n steps</source>
+        <translation>
+            <numerusform>撤销 %n 步(&amp;U)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Takes back the choice with all that it changed, and what came after it</source>
+        <translation>撤销该选择及其引起的所有更改和之后的操作</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>a notice&apos;s place</comment>
+        <translation>%1 / %2</translation>
     </message>
 </context>
 <context>
@@ -1126,6 +1261,14 @@
     <message>
         <source>No document</source>
         <translation>没有文档</translation>
+    </message>
+    <message>
+        <source>Printed into %1</source>
+        <translation>已打印到 %1</translation>
+    </message>
+    <message>
+        <source>Sent to %1, job %2</source>
+        <translation>已发送到 %1，作业 %2</translation>
     </message>
 </context>
 <context>
@@ -2300,6 +2443,17 @@
     <message>
         <source>Copies was set to %1: no job makes more</source>
         <translation>份数已设为 %1：作业最多只能这么多</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::UnderstoodNote</name>
+    <message>
+        <source>%1 still applies</source>
+        <translation>%1 仍然有效</translation>
+    </message>
+    <message>
+        <source>“%1” was read as %2</source>
+        <translation>“%1”读作 %2</translation>
     </message>
 </context>
 <context>

@@ -9,7 +9,7 @@ class QWidget;
 namespace orvek::test {
 
 /// One line for each control of the window that is shown now and cuts its text off, or covers
-/// another one's. Lists and fields scroll, and labels that elide say so by a dot; neither counts.
+/// another one's. What has scrolled out of sight covers nothing.
 QStringList clippedTexts(const QWidget &window);
 
 }  // namespace orvek::test

@@ -55,6 +55,7 @@ std::unique_ptr<PrintSession> openSession() {
 
 DialogSetup setUp(const QTemporaryDir &folder) {
   DialogSetup setup;
+  setup.files = QStringList{source + "/samples/Finishing-Sample.pdf"};
   setup.documentName = QStringLiteral("Finishing-Sample.pdf");
   setup.document = documentInfo(source + "/samples/Finishing-Sample.pdf");
   setup.presets = std::make_shared<PresetStore>(folder.path());
