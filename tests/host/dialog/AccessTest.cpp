@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QTabWidget>
 
+#include "host/jobs/FilterChain.h"
 #include "tests/host/dialog/DialogKit.h"
 #include "tests/host/dialog/Languages.h"
 
@@ -229,14 +230,7 @@ TEST_P(AccessIn, EveryTabHasALetterThatShowsItsPage) {
 
 TEST_F(Access, AWholeSessionWorksByKeysAlone) {
   open();
-  const auto press = [](Qt::Key key, Qt::KeyboardModifiers with = {}) {
-    QTest::keyClick(QApplication::focusWidget(), key, with);
-    QCoreApplication::processEvents();
-  };
-  for (int steps = 0; steps < 40; ++steps) {
-    if (QApplication::focusWidget()->objectName() == QLatin1String("punchPopup")) break;
-    press(Qt::Key_Tab);
-  }
+  tabTo("punchPopup");
   press(Qt::Key_Down);
   ASSERT_NE(session->marks().marked(QStringLiteral("OVKPunching")), QStringLiteral("None"));
   press(Qt::Key_Backtab);
@@ -250,6 +244,31 @@ TEST_F(Access, AWholeSessionWorksByKeysAlone) {
   press(Qt::Key_Escape);
   EXPECT_FALSE(dialog->isVisible());
   EXPECT_FALSE(dialog->outcome());
+}
+
+TEST_F(Access, APresetAConflictAndAFileWorkByKeysAlone) {
+  if (findFilterTool(qEnvironmentVariable("PATH")).isNull()) {
+    GTEST_SKIP() << "the filter tool of CUPS is not installed";
+  }
+  Preset preset;
+  preset.name = QStringLiteral("Folded");
+  preset.options.insert(QStringLiteral("OVKFolding"), QStringLiteral("Saddle"));
+  ASSERT_TRUE(PresetStore(folder.filePath(QStringLiteral("data"))).save(preset));
+  open();
+  tabTo("presetMenu");
+  press(Qt::Key_Down);
+  ASSERT_EQ(session->marks().marked(QStringLiteral("OVKFolding")), QStringLiteral("Saddle"));
+  tabTo("staplingPopup");
+  press(Qt::Key_Down);
+  ASSERT_EQ(session->marks().marked(QStringLiteral("OVKFolding")), QStringLiteral("None"));
+  tabTo("undoButton");
+  press(Qt::Key_Space);
+  EXPECT_FALSE(notices().isVisible());
+  tabTo("printButton");
+  QSignalSpy finished(dialog.get(), &QDialog::finished);
+  press(Qt::Key_Space);
+  ASSERT_TRUE(finished.count() > 0 || finished.wait(jobTimeout));
+  EXPECT_TRUE(printed().contains("%%BeginFeature: *OVKFolding Saddle"));
 }
 
 }  // namespace

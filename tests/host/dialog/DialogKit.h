@@ -106,6 +106,22 @@ class DialogTest : public ::testing::Test {
     QCoreApplication::processEvents();
   }
 
+  /// A key, to whatever has the keyboard.
+  static void press(Qt::Key key, Qt::KeyboardModifiers with = {}) {
+    QTest::keyClick(QApplication::focusWidget(), key, with);
+    QCoreApplication::processEvents();
+  }
+
+  /// Presses Tab until the control of this name has the keyboard.
+  static void tabTo(const char *name) {
+    constexpr int mostStops = 60;
+    for (int stops = 0; stops < mostStops; ++stops) {
+      if (QApplication::focusWidget()->objectName() == QLatin1String(name)) return;
+      press(Qt::Key_Tab);
+    }
+    FAIL() << name << " can't be reached";
+  }
+
   void click(const char *button) {
     auto *found = find<QAbstractButton>(button);
     ASSERT_NE(found, nullptr) << button;

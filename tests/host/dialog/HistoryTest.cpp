@@ -19,10 +19,6 @@ class WindowHistory : public DialogTest {
  protected:
   void SetUp() override { open(); }
 
-  static void press(Qt::Key key, Qt::KeyboardModifiers with = {}) {
-    QTest::keyClick(QApplication::focusWidget(), key, with);
-    QCoreApplication::processEvents();
-  }
   static void undo() { press(Qt::Key_Z, Qt::ControlModifier); }
   static void redo() { press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier); }
 

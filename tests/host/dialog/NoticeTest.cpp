@@ -14,7 +14,7 @@ class Notices : public DialogTest {
  protected:
   void SetUp() override { open(); }
 
-  void press(const char *popUp, Qt::Key key) const {
+  void pressIn(const char *popUp, Qt::Key key) const {
     auto *menu = find<QComboBox>(popUp);
     menu->setFocus();
     QTest::keyClick(menu, key);
@@ -23,8 +23,8 @@ class Notices : public DialogTest {
 
   /// A saddle fold, then a staple, which turns it off.
   void unfoldByAStaple() const {
-    press("foldingPopup", Qt::Key_End);
-    press("staplingPopup", Qt::Key_Down);
+    pressIn("foldingPopup", Qt::Key_End);
+    pressIn("staplingPopup", Qt::Key_Down);
   }
 
   QString folding() const { return session->marks().marked(QStringLiteral("OVKFolding")); }
@@ -38,7 +38,7 @@ TEST_F(Notices, StandWhenTheNextChoiceIsMade) {
   ASSERT_TRUE(notices().isVisible());
   ASSERT_EQ(folding(), "None");
   const QString first = said();
-  press("staplingPopup", Qt::Key_Down);
+  pressIn("staplingPopup", Qt::Key_Down);
   EXPECT_TRUE(notices().isVisible());
   EXPECT_EQ(said(), first);
   EXPECT_EQ(undoText(), "&Undo 2 steps");
@@ -51,7 +51,7 @@ TEST_F(Notices, StandWhenTheNextChoiceIsMade) {
 TEST_F(Notices, KeepTheirUndoWhenAnotherOneComes) {
   unfoldByAStaple();
   const QString first = said();
-  press("foldingPopup", Qt::Key_End);
+  pressIn("foldingPopup", Qt::Key_End);
   ASSERT_EQ(stapling(), "None");
   EXPECT_NE(said(), first);
   EXPECT_EQ(find<QLabel>("noticePlace")->text(), "2 of 2");
@@ -67,7 +67,7 @@ TEST_F(Notices, KeepTheirUndoWhenAnotherOneComes) {
 TEST_F(Notices, GiveWayToTheOneBeforeWhenDismissed) {
   unfoldByAStaple();
   const QString first = said();
-  press("foldingPopup", Qt::Key_End);
+  pressIn("foldingPopup", Qt::Key_End);
   click("noticeCloseButton");
   EXPECT_EQ(said(), first);
   EXPECT_FALSE(find<QLabel>("noticePlace")->isVisible());

@@ -207,4 +207,27 @@ TEST_F(PrinterChoice, MayBeClosedWhileAPrinterIsAsked) {
   EXPECT_TRUE(begun.isEmpty());
 }
 
+TEST_F(PrinterChoice, AndAFoldedBookletWorkByKeysAlone) {
+  open();
+  list();
+  tabTo("printerMenu");
+  press(Qt::Key_B);
+  ASSERT_TRUE(
+      QTest::qWaitFor([&] { return dialog->session().origin().destination == "big"; }, jobTimeout));
+  tabTo("foldingPopup");
+  press(Qt::Key_End);
+  tabTo("bookletChckBox");
+  press(Qt::Key_Space);
+  const auto options = dialog->session().job().options();
+  EXPECT_EQ(options.value(QStringLiteral("OVKFolding")), "Saddle");
+  EXPECT_EQ(options.value(QStringLiteral("OVKEnableBooklet")), "True");
+  tabTo("printButton");
+  QSignalSpy finished(dialog.get(), &QDialog::finished);
+  press(Qt::Key_Space);
+  ASSERT_TRUE(finished.count() > 0 || finished.wait(jobTimeout));
+  ASSERT_TRUE(dialog->outcome());
+  EXPECT_GT(dialog->outcome()->jobId, 0);
+  EXPECT_EQ(dialog->request().queue, "big");
+}
+
 }  // namespace
