@@ -12,10 +12,10 @@
 #include "host/cli/OutputCheck.h"
 #include "host/cli/Presets.h"
 #include "host/cli/PrinterListing.h"
+#include "host/cli/SessionStart.h"
 #include "host/cli/ToolkitMessages.h"
 #include "host/cli/Window.h"
 #include "host/printers/HelperProcess.h"
-#include "host/printers/PrinterList.h"
 #include "host/translations/Translations.h"
 #include "platform/system/FileSizeLimit.h"
 #include "platform/system/MainBundle.h"
@@ -56,18 +56,16 @@ Status checkDisplay() {
                  QStringLiteral("there is no display (DISPLAY is not set), use --headless")};
 }
 
-// The toolkit takes longer to get ready than a print server to answer.
-void askAhead(const CommandLine &line) {
-  const bool asksForPrinter =
-      line.ppd.isNull() && !line.listPrinters && !line.listPresets && line.deletePreset.isNull();
-  if (asksForPrinter) findPrinterAhead(serverAccess(line, {}), line.destination);
+bool hasSession(const CommandLine &line) {
+  return !line.listPrinters && !line.listPresets && line.deletePreset.isNull();
 }
 
 int start(const CommandLine &line, char **argv) {
   if (!needsNoWindow(line)) {
     if (const Status checked = checkDisplay(); !checked) return report(checked.failure());
   }
-  askAhead(line);
+  // The toolkit takes longer to get ready than a print server to answer.
+  if (hasSession(line)) askAhead(line);
   if (needsNoWindow(line)) qputenv("QT_QPA_PLATFORM", platformWithoutDisplay(line));
   shapeToolkitMessages();
   // The options are the program's own; the toolkit must not look for its among them.

@@ -9,7 +9,7 @@
 #include "host/cli/Presets.h"
 #include "host/cli/PrinterListing.h"
 #include "host/jobs/QueueJob.h"
-#include "host/panels/PluginLoader.h"
+#include "host/printers/PrinterList.h"
 #include "host/printers/Queue.h"
 #include "host/session/QueueSetup.h"
 #include "host/ticket/BookletSettings.h"
@@ -130,24 +130,6 @@ Result<PluginHarvest> pluginsFor(const CommandLine &line) {
   return harvest;
 }
 
-Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line,
-                                                   const SessionSetup &setup,
-                                                   const Result<PluginHarvest> &plugins) {
-  SessionSetup wished = setup;
-  if (const Status added = addWishes(line, &wished); !added) return added.failure();
-  Result<std::unique_ptr<PrintSession>> begun = PrintSession::begin(wished);
-  if (!begun) return begun;
-  std::unique_ptr<PrintSession> session = begun.take();
-  if (const Status applied = applyPresetAsAsked(line, *session); !applied) return applied.failure();
-  if (const Status applied = applyJobOptions(line, *session); !applied) return applied.failure();
-  if (const Status applied = applyOptions(line, *session); !applied) return applied.failure();
-  if (!plugins) return plugins.failure();
-  Result<PluginList> good = reported(plugins.value(), line);
-  if (!good) return good.failure();
-  session->openPanels(good.take());
-  return session;
-}
-
 }  // namespace
 
 Result<SessionSetup> gatherSetup(const CommandLine &line,
@@ -160,18 +142,49 @@ Result<SessionSetup> gatherSetup(const CommandLine &line,
   return setup;
 }
 
-Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line,
-                                                   const SessionSetup &setup) {
-  return startSession(line, setup, pluginsFor(line));
+PanelsAhead::PanelsAhead(const CommandLine &line) : m_plugins(pluginsFor(line)) {
+  if (!m_plugins) return;
+  for (const auto &plugin : m_plugins.value().plugins) {
+    m_interfaces.emplace_back(*plugin->info.bundle);
+  }
 }
 
-// A print server takes its time, in which plug-ins can be loaded.
+Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line,
+                                                   const SessionSetup &setup,
+                                                   const PanelsAhead &panels) {
+  SessionSetup wished = setup;
+  if (const Status added = addWishes(line, &wished); !added) return added.failure();
+  Result<std::unique_ptr<PrintSession>> begun = PrintSession::begin(wished);
+  if (!begun) return begun;
+  std::unique_ptr<PrintSession> session = begun.take();
+  if (const Status applied = applyPresetAsAsked(line, *session); !applied) return applied.failure();
+  if (const Status applied = applyJobOptions(line, *session); !applied) return applied.failure();
+  if (const Status applied = applyOptions(line, *session); !applied) return applied.failure();
+  if (!panels.plugins()) return panels.plugins().failure();
+  Result<PluginList> good = reported(panels.plugins().value(), line);
+  if (!good) return good.failure();
+  session->openPanels(good.take());
+  return session;
+}
+
+Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line,
+                                                   const SessionSetup &setup) {
+  return startSession(line, setup, PanelsAhead(line));
+}
+
+void askAhead(const CommandLine &line) {
+  if (line.ppd.isNull()) findPrinterAhead(serverAccess(line, {}), line.destination);
+}
+
+// A print server takes its time, as does reading a large description; plug-ins and their controls
+// can be loaded meanwhile. The helper is started on this thread, with which it ends.
 Result<std::unique_ptr<PrintSession>> startSession(
     const CommandLine &line, const std::shared_ptr<PasswordSource> &passwords) {
-  auto loading = std::async(std::launch::async, [&line] { return pluginsFor(line); });
-  const Result<SessionSetup> setup = gatherSetup(line, passwords);
-  const Result<PluginHarvest> plugins = loading.get();
-  return setup ? startSession(line, setup.value(), plugins)
+  askAhead(line);
+  auto gathering = std::async(std::launch::async, [&] { return gatherSetup(line, passwords); });
+  const PanelsAhead panels(line);
+  const Result<SessionSetup> setup = gathering.get();
+  return setup ? startSession(line, setup.value(), panels)
                : Result<std::unique_ptr<PrintSession>>(setup.failure());
 }
 

@@ -78,9 +78,9 @@ Result<Opened> openEmpty(const std::optional<Failure> &problem) {
   return Opened{empty.take(), problem};
 }
 
-Result<std::unique_ptr<PrintSession>> startFirst(const CommandLine &line,
-                                                 const SessionSetup &setup) {
-  Result<std::unique_ptr<PrintSession>> started = startSession(line, setup);
+Result<std::unique_ptr<PrintSession>> startFirst(const CommandLine &line, const SessionSetup &setup,
+                                                 const PanelsAhead &panels) {
+  Result<std::unique_ptr<PrintSession>> started = startSession(line, setup, panels);
   if (!started) return started;
   if (Status done = runActions(line, *started.value()); !done) return done.failure();
   return started;
@@ -91,9 +91,10 @@ bool canBeMended(const CommandLine &line, const Failure &failure) {
   return line.ppd.isNull() && failure.kind == FailureKind::Io;
 }
 
-Result<Opened> openSession(const CommandLine &line, const Result<SessionSetup> &setup) {
+Result<Opened> openSession(const CommandLine &line, const Result<SessionSetup> &setup,
+                           const PanelsAhead &panels) {
   const auto started = [&] {
-    return setup ? startFirst(line, setup.value())
+    return setup ? startFirst(line, setup.value(), panels)
                  : Result<std::unique_ptr<PrintSession>>(setup.failure());
   };
   Result<std::unique_ptr<PrintSession>> session = started();
@@ -105,6 +106,7 @@ Result<Opened> openSession(const CommandLine &line, const Result<SessionSetup> &
 /// A window's first printer, where the window did not wait for it. Lives as long as the window.
 struct Awaited {
   FirstPrinter &printer;
+  const PanelsAhead &panels;
   bool isOver = false;
   /// Why the window had to go.
   std::optional<Failure> failure = {};
@@ -120,7 +122,7 @@ void awaitFirst(const CommandLine &line, Awaited &awaited, DialogSetup *setup) {
   setup->beginSession = [&line, &awaited,
                          later = setup->beginSession](const SessionSetup &gathered) {
     if (std::exchange(awaited.isOver, true)) return later(gathered);
-    return startFirst(line, gathered);
+    return startFirst(line, gathered, awaited.panels);
   };
 }
 
@@ -196,12 +198,14 @@ Status runWindow(const CommandLine &line) {
         return passwordWindow.ask(question, cancelled);
       });
   FirstPrinter first(line, passwords);
+  // While the server is asked.
+  const PanelsAhead panels(line);
   const auto answer = first.within(line.ppd.isNull() ? moment : forEver);
-  Result<Opened> opened = answer ? openSession(line, *answer) : openEmpty({});
+  Result<Opened> opened = answer ? openSession(line, *answer, panels) : openEmpty({});
   if (!opened) return opened.failure();
   PrintSession &session = *opened.value().session;
   DialogSetup setup = dialogSetupFor(line, session, passwords);
-  Awaited awaited{first};
+  Awaited awaited{first, panels};
   if (!answer) awaitFirst(line, awaited, &setup);
   PrintDialog dialog(session, std::move(setup));
   followAwaited(line, awaited, dialog);

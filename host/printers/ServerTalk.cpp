@@ -6,6 +6,7 @@
 #include <poll.h>
 #include <sys/socket.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <mutex>
@@ -105,13 +106,17 @@ Result<std::unique_ptr<ServerTalk>> ServerTalk::open(const ServerAccess &access)
 }
 
 void ServerTalk::openAhead(const ServerAccess &access, ServerTask task, const QCborMap &fields) {
-  ServerAccess kept = access;
-  kept.staysOpen = true;
-  auto talk = withHelper(kept);
-  if (!talk) return;
-  talk.value()->askAhead(ServerTask::Open, openFields(access));
-  talk.value()->askAhead(task, fields);
-  close(talk.take());
+  ServerAccess lasting = access;
+  lasting.staysOpen = true;
+  std::unique_ptr<ServerTalk> talk = takeKept(lasting);
+  if (!talk) {
+    auto begun = withHelper(lasting);
+    if (!begun) return;
+    talk = begun.take();
+    talk->askAhead(ServerTask::Open, openFields(access));
+  }
+  talk->askAhead(task, fields);
+  close(std::move(talk));
 }
 
 void ServerTalk::leave(const ServerAccess &access, const QString &serverName, ServerTask task,
@@ -129,6 +134,7 @@ void ServerTalk::leave(const ServerAccess &access, const QString &serverName, Se
 
 void ServerTalk::askAhead(ServerTask task, const QCborMap &fields) {
   const Message asked = question(task, fields);
+  if (std::find(m_ahead.begin(), m_ahead.end(), asked.bytes) != m_ahead.end()) return;
   m_ahead.push_back(asked.bytes);
   send(asked);
 }

@@ -99,6 +99,18 @@ QString Bundle::pathForResource(const QString &name, const QString &type) const 
   return {};
 }
 
+QString Bundle::pathForOnlyResource(const QString &type) const {
+  QStringList names;
+  for (const QString &folder : m_folders) {
+    for (const QFileInfo &file :
+         QDir(folder).entryInfoList({QStringLiteral("*.") + type}, QDir::Files)) {
+      names << file.completeBaseName();
+    }
+  }
+  names.removeDuplicates();
+  return names.size() == 1 ? pathForResource(names.constFirst(), type) : QString();
+}
+
 QString localizedString(const Bundle *bundle, const QString &key) {
   return bundle == nullptr ? QString() : bundle->localizedString(key);
 }

@@ -38,6 +38,10 @@ class Bundle : public std::enable_shared_from_this<Bundle> {
   /// first that exists. Without a type `name` is the whole file name. Null: none.
   QString pathForResource(const QString &name, const QString &type) const;
 
+  /// The only file of that type among all that pathForResource() looks through, each name counted
+  /// once; null where there is none, or a choice.
+  QString pathForOnlyResource(const QString &type) const;
+
  private:
   Bundle(QString path, const QStringList &languages);
   void readInfo();

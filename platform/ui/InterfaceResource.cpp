@@ -10,6 +10,7 @@
 #include <QUiLoader>
 #include <QVariant>
 #include <QWidget>
+#include <map>
 #include <memory>
 
 #include "platform/system/Log.h"
@@ -47,6 +48,30 @@ QUiLoader &loader() {
   return *instance;
 }
 
+/// A resource's controls, nobody's so far; null where it does not load, and why.
+struct MadeTree {
+  QWidget *root = nullptr;
+  QString problem = {};
+};
+
+MadeTree makeTree(const QString &path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return {nullptr, file.errorString()};
+  QByteArray bytes = file.readAll();
+  if (const QString problem = lengthProblem(bytes); !problem.isNull()) return {nullptr, problem};
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::ReadOnly);
+  QWidget *root = loader().load(&buffer, nullptr);
+  adoptDesign(root);
+  return {root, root == nullptr ? loader().errorString() : QString()};
+}
+
+/// By their resources' paths.
+std::map<QString, MadeTree> &madeAhead() {
+  static std::map<QString, MadeTree> trees;
+  return trees;
+}
+
 void localize(QWidget *widget, const Bundle &bundle) {
   widget->setToolTip(plainToolTip(bundle.localizedString(widget->toolTip())));
   widget->setAccessibleName(bundle.localizedString(widget->accessibleName()));
@@ -75,27 +100,26 @@ bool loadInterface(const Bundle *bundle, const QString &name, QObject *owner) {
     logLine(QStringLiteral("%1: no interface resource \"%2\"").arg(bundle->path(), name));
     return false;
   }
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) {
-    logLine(QStringLiteral("%1: %2").arg(path, file.errorString()));
+  const auto ahead = madeAhead().extract(path);
+  const MadeTree tree = ahead.empty() ? makeTree(path) : ahead.mapped();
+  if (tree.root == nullptr) {
+    logLine(QStringLiteral("%1: %2").arg(path, tree.problem));
     return false;
   }
-  QByteArray bytes = file.readAll();
-  if (const QString problem = lengthProblem(bytes); !problem.isNull()) {
-    logLine(QStringLiteral("%1: %2").arg(path, problem));
-    return false;
-  }
-  QBuffer buffer(&bytes);
-  buffer.open(QIODevice::ReadOnly);
-  QWidget *root = loader().load(&buffer, nullptr);
-  if (root == nullptr) {
-    logLine(QStringLiteral("%1: %2").arg(file.fileName(), loader().errorString()));
-    return false;
-  }
-  new LoadedTree(root, owner);
-  adoptDesign(root);
-  connectTree(root, owner, *bundle);
+  new LoadedTree(tree.root, owner);
+  connectTree(tree.root, owner, *bundle);
   return true;
+}
+
+InterfaceAhead::InterfaceAhead(const Bundle &bundle)
+    : m_path(bundle.pathForOnlyResource(QStringLiteral("ui"))) {
+  if (!m_path.isNull() && !madeAhead().contains(m_path)) {
+    madeAhead().emplace(m_path, makeTree(m_path));
+  }
+}
+
+InterfaceAhead::~InterfaceAhead() {
+  if (const auto left = madeAhead().extract(m_path)) delete left.mapped().root;
 }
 
 }  // namespace orvek

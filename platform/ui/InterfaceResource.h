@@ -21,4 +21,20 @@ class Bundle;
 /// log unless the bundle is absent. The owner's properties are left alone then.
 bool loadInterface(const Bundle *bundle, const QString &name, QObject *owner);
 
+/// Makes the controls of a bundle's interface resource before anybody loads it, while there is
+/// nothing else to do: as long as this lives, loadInterface() gives that tree to the first owner
+/// who asks. A bundle that has several is left alone: nobody knows which of them will be wanted.
+/// What is wrong with one is told by loadInterface(). Owns the tree until then. For the interface's
+/// thread; one at a time for each bundle.
+class InterfaceAhead {
+ public:
+  explicit InterfaceAhead(const Bundle &bundle);
+  ~InterfaceAhead();
+  InterfaceAhead(const InterfaceAhead &) = delete;
+  InterfaceAhead &operator=(const InterfaceAhead &) = delete;
+
+ private:
+  QString m_path;
+};
+
 }  // namespace orvek

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QLabel>
 #include <QPointer>
 #include <QStringEncoder>
@@ -211,6 +212,59 @@ TEST_F(InterfaceResourceTest, GivesTwoOwnersTreesOfTheirOwn) {
   const auto bundle = Bundle::atPath(disk.path(), {"en"});
   ASSERT_TRUE(loadInterface(bundle.get(), QStringLiteral("Finishing"), &other));
   EXPECT_NE(owner->pdeView, other.pdeView);
+}
+
+TEST_F(InterfaceResourceTest, GivesTheTreeMadeAheadToTheFirstOwner) {
+  writeInterface(widget("QLineEdit", "gutterTxtBox"));
+  const auto bundle = Bundle::atPath(disk.path(), {"en"});
+  const InterfaceAhead ahead(*bundle);
+  disk.write(QStringLiteral("en.lproj/Finishing.ui"), "damaged since");
+  ASSERT_TRUE(load());
+  ASSERT_NE(owner->pdeView, nullptr);
+  EXPECT_EQ(owner->gutterTxtBox, owner->pdeView->findChild<QLineEdit *>("gutterTxtBox"));
+  const LogCapture log;
+  RecordingOwner second;
+  EXPECT_FALSE(loadInterface(bundle.get(), QStringLiteral("Finishing"), &second));
+  EXPECT_EQ(second.pdeView, nullptr);
+}
+
+TEST_F(InterfaceResourceTest, DropsATreeMadeAheadThatNobodyWanted) {
+  writeInterface(widget("QLineEdit", "gutterTxtBox"));
+  const auto bundle = Bundle::atPath(disk.path(), {"en"});
+  const qsizetype before = QApplication::allWidgets().size();
+  {
+    const InterfaceAhead ahead(*bundle);
+    EXPECT_GT(QApplication::allWidgets().size(), before);
+  }
+  EXPECT_EQ(QApplication::allWidgets().size(), before);
+  disk.write(QStringLiteral("en.lproj/Finishing.ui"), "damaged since");
+  const LogCapture log;
+  EXPECT_FALSE(load());
+}
+
+TEST_F(InterfaceResourceTest, MakesNothingAheadWhereNobodyKnowsWhatIsWanted) {
+  writeInterface({});
+  disk.write(QStringLiteral("de.lproj/Finishing.ui"), "<ui version=\"4.0\"/>");
+  const QStringList languages{QStringLiteral("de")};
+  const auto isAlone = [&] {
+    return !Bundle::atPath(disk.path(), languages)->pathForOnlyResource("ui").isNull();
+  };
+  EXPECT_TRUE(isAlone()) << "one resource in two languages";
+  disk.write(QStringLiteral("en.lproj/Another.ui"), "<ui version=\"4.0\"/>");
+  EXPECT_FALSE(isAlone());
+  const qsizetype before = QApplication::allWidgets().size();
+  const InterfaceAhead ahead(*Bundle::atPath(disk.path(), languages));
+  EXPECT_EQ(QApplication::allWidgets().size(), before);
+}
+
+TEST_F(InterfaceResourceTest, IsSaidToBeDamagedOnceAndToWhoeverLoadsIt) {
+  writeInterface(sized("minimumSize", "16777000"));
+  const auto bundle = Bundle::atPath(disk.path(), {"en"});
+  const LogCapture log;
+  const InterfaceAhead ahead(*bundle);
+  EXPECT_TRUE(log.lines().isEmpty());
+  EXPECT_FALSE(load());
+  EXPECT_EQ(log.lines().size(), 1);
 }
 
 TEST_F(InterfaceResourceTest, PrefersTheResourceOfTheUsersLanguage) {
