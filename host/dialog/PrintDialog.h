@@ -11,8 +11,8 @@
 //   JobBar            progress, Cancel, Print
 //
 //   Helpers: JobDocuments, what is printed; NoticeKeeper, what the bar says; NoticePlace, its room;
-//   PrinterSwitch, the way to another printer; ScrollingBody, all above the notices; WindowRoom, the
-//   window's size; HistoryKeys, Undo and Redo; WheelGuard, what scrolling changes
+//   PrinterSwitch, the way to another printer; ScrollingBody, all above the notices; WindowRoom,
+//   the window's size; HistoryKeys, Undo and Redo; WheelGuard, what scrolling changes
 #pragma once
 
 #include <QDialog>
