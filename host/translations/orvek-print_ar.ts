@@ -577,6 +577,22 @@
         <source>a copy that the filters can open can&apos;t be written; make room for temporary files</source>
         <translation>تعذرت كتابة نسخة يمكن للمرشحات فتحها؛ وفّر مساحة للملفات المؤقتة</translation>
     </message>
+    <message>
+        <source>the sheets of several documents can&apos;t be put into one PDF; print them one by one</source>
+        <translation>لا يمكن جمع أوراق عدة مستندات في ملف PDF واحد؛ اطبعها واحدًا تلو الآخر</translation>
+    </message>
+    <message>
+        <source>no such printer on %1; choose another one</source>
+        <translation>لا توجد طابعة كهذه على %1؛ اختر غيرها</translation>
+    </message>
+    <message>
+        <source>there is no default printer; choose one</source>
+        <translation>لا توجد طابعة افتراضية؛ اختر واحدة</translation>
+    </message>
+    <message>
+        <source>there is none of that name; choose another one</source>
+        <translation>لا يوجد إعداد بهذا الاسم؛ اختر غيره</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -842,6 +858,21 @@
     <message>
         <source>Choose Documents</source>
         <translation>اختيار المستندات</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::JobNotice</name>
+    <message>
+        <source>Job %1 on %2 was cancelled</source>
+        <translation>أُلغيت المهمة %1 على %2</translation>
+    </message>
+    <message>
+        <source>Sent to %1, job %2</source>
+        <translation>أُرسل إلى %1، المهمة %2</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>إلغاء المهمة</translation>
     </message>
 </context>
 <context>
@@ -1221,10 +1252,6 @@
         <translation>المستند</translation>
     </message>
     <message>
-        <source>Print into a File</source>
-        <translation>الطباعة إلى ملف</translation>
-    </message>
-    <message>
         <source>Print all the same?</source>
         <translation>هل تريد الطباعة رغم ذلك؟</translation>
     </message>
@@ -1488,6 +1515,48 @@
     <message>
         <source>, takes no jobs</source>
         <translation>، لا تقبل مهامّ</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SavePlace</name>
+    <message>
+        <source>Printed</source>
+        <translation>طُبع</translation>
+    </message>
+    <message>
+        <source>Print into a File</source>
+        <translation>الطباعة إلى ملف</translation>
+    </message>
+    <message>
+        <source>PDF of the sheets (*.pdf)</source>
+        <translation>ملف PDF للأوراق (*.pdf)</translation>
+    </message>
+    <message>
+        <source>As the printer takes it (*.ps *.prn)</source>
+        <translation>بلغة الطابعة (*.ps *.prn)</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>طباعة</translation>
+    </message>
+    <message>
+        <source>Printed into %1.</source>
+        <translation>طُبع إلى %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Show in Folder</source>
+        <translation>عرض في المجلد (&amp;S)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>إغلاق</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SessionJob</name>
+    <message>
+        <source>Booklet was set to Off: it can&apos;t be combined with several pages per sheet</source>
+        <translation>ضُبط الكتيب على «إيقاف»: لا يمكن الجمع بينه وبين عدة صفحات لكل ورقة</translation>
     </message>
 </context>
 <context>

@@ -573,6 +573,22 @@
         <source>a copy that the filters can open can&apos;t be written; make room for temporary files</source>
         <translation>no se puede escribir una copia que los filtros puedan abrir; libere espacio para archivos temporales</translation>
     </message>
+    <message>
+        <source>the sheets of several documents can&apos;t be put into one PDF; print them one by one</source>
+        <translation>las hojas de varios documentos no se pueden reunir en un PDF; imprímalos uno por uno</translation>
+    </message>
+    <message>
+        <source>no such printer on %1; choose another one</source>
+        <translation>no existe esa impresora en %1; elija otra</translation>
+    </message>
+    <message>
+        <source>there is no default printer; choose one</source>
+        <translation>no hay impresora predeterminada; elija una</translation>
+    </message>
+    <message>
+        <source>there is none of that name; choose another one</source>
+        <translation>no hay ninguno con ese nombre; elija otro</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -834,6 +850,21 @@
     <message>
         <source>Choose Documents</source>
         <translation>Elegir documentos</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::JobNotice</name>
+    <message>
+        <source>Job %1 on %2 was cancelled</source>
+        <translation>Se canceló el trabajo %1 en %2</translation>
+    </message>
+    <message>
+        <source>Sent to %1, job %2</source>
+        <translation>Enviado a %1, trabajo %2</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Cancelar trabajo</translation>
     </message>
 </context>
 <context>
@@ -1197,10 +1228,6 @@
         <translation>Documento</translation>
     </message>
     <message>
-        <source>Print into a File</source>
-        <translation>Imprimir en un archivo</translation>
-    </message>
-    <message>
         <source>Print all the same?</source>
         <translation>¿Imprimir de todos modos?</translation>
     </message>
@@ -1464,6 +1491,48 @@
     <message>
         <source>, takes no jobs</source>
         <translation>, no acepta trabajos</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SavePlace</name>
+    <message>
+        <source>Printed</source>
+        <translation>Impreso</translation>
+    </message>
+    <message>
+        <source>Print into a File</source>
+        <translation>Imprimir en un archivo</translation>
+    </message>
+    <message>
+        <source>PDF of the sheets (*.pdf)</source>
+        <translation>PDF de las hojas (*.pdf)</translation>
+    </message>
+    <message>
+        <source>As the printer takes it (*.ps *.prn)</source>
+        <translation>En el lenguaje de la impresora (*.ps *.prn)</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimir</translation>
+    </message>
+    <message>
+        <source>Printed into %1.</source>
+        <translation>Impreso en %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Show in Folder</source>
+        <translation>&amp;Mostrar en la carpeta</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SessionJob</name>
+    <message>
+        <source>Booklet was set to Off: it can&apos;t be combined with several pages per sheet</source>
+        <translation>Folleto se cambió a «Desactivado»: no se puede combinar con varias páginas por hoja</translation>
     </message>
 </context>
 <context>

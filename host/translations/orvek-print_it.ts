@@ -573,6 +573,22 @@
         <source>a copy that the filters can open can&apos;t be written; make room for temporary files</source>
         <translation>impossibile scrivere una copia che i filtri possano aprire; liberare spazio per i file temporanei</translation>
     </message>
+    <message>
+        <source>the sheets of several documents can&apos;t be put into one PDF; print them one by one</source>
+        <translation>i fogli di più documenti non possono essere riuniti in un solo PDF; stamparli uno alla volta</translation>
+    </message>
+    <message>
+        <source>no such printer on %1; choose another one</source>
+        <translation>nessuna stampante simile su %1; sceglierne un’altra</translation>
+    </message>
+    <message>
+        <source>there is no default printer; choose one</source>
+        <translation>non c’è una stampante predefinita; sceglierne una</translation>
+    </message>
+    <message>
+        <source>there is none of that name; choose another one</source>
+        <translation>non ne esiste una con questo nome; sceglierne un’altra</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -834,6 +850,21 @@
     <message>
         <source>Choose Documents</source>
         <translation>Scegli documenti</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::JobNotice</name>
+    <message>
+        <source>Job %1 on %2 was cancelled</source>
+        <translation>Il lavoro %1 su %2 è stato annullato</translation>
+    </message>
+    <message>
+        <source>Sent to %1, job %2</source>
+        <translation>Inviato a %1, lavoro %2</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Annulla lavoro</translation>
     </message>
 </context>
 <context>
@@ -1197,10 +1228,6 @@
         <translation>Documento</translation>
     </message>
     <message>
-        <source>Print into a File</source>
-        <translation>Stampa su file</translation>
-    </message>
-    <message>
         <source>Print all the same?</source>
         <translation>Stampare comunque?</translation>
     </message>
@@ -1464,6 +1491,48 @@
     <message>
         <source>, takes no jobs</source>
         <translation>, non accetta lavori</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SavePlace</name>
+    <message>
+        <source>Printed</source>
+        <translation>Stampato</translation>
+    </message>
+    <message>
+        <source>Print into a File</source>
+        <translation>Stampa su file</translation>
+    </message>
+    <message>
+        <source>PDF of the sheets (*.pdf)</source>
+        <translation>PDF dei fogli (*.pdf)</translation>
+    </message>
+    <message>
+        <source>As the printer takes it (*.ps *.prn)</source>
+        <translation>Nel linguaggio della stampante (*.ps *.prn)</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Stampa</translation>
+    </message>
+    <message>
+        <source>Printed into %1.</source>
+        <translation>Stampato in %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Show in Folder</source>
+        <translation>&amp;Mostra nella cartella</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SessionJob</name>
+    <message>
+        <source>Booklet was set to Off: it can&apos;t be combined with several pages per sheet</source>
+        <translation>Opuscolo è stato impostato su «Disattivato»: non si può combinare con più pagine per foglio</translation>
     </message>
 </context>
 <context>

@@ -572,6 +572,22 @@
         <source>a copy that the filters can open can&apos;t be written; make room for temporary files</source>
         <translation>필터가 열 수 있는 사본을 쓸 수 없습니다. 임시 파일을 위한 공간을 확보하세요</translation>
     </message>
+    <message>
+        <source>the sheets of several documents can&apos;t be put into one PDF; print them one by one</source>
+        <translation>여러 문서의 용지를 하나의 PDF에 넣을 수 없습니다. 하나씩 인쇄하세요</translation>
+    </message>
+    <message>
+        <source>no such printer on %1; choose another one</source>
+        <translation>%1에 그런 프린터가 없습니다. 다른 프린터를 선택하세요</translation>
+    </message>
+    <message>
+        <source>there is no default printer; choose one</source>
+        <translation>기본 프린터가 없습니다. 프린터를 선택하세요</translation>
+    </message>
+    <message>
+        <source>there is none of that name; choose another one</source>
+        <translation>그런 이름이 없습니다. 다른 것을 선택하세요</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -832,6 +848,21 @@
     <message>
         <source>Choose Documents</source>
         <translation>문서 선택</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::JobNotice</name>
+    <message>
+        <source>Job %1 on %2 was cancelled</source>
+        <translation>%2의 작업 %1이(가) 취소되었습니다</translation>
+    </message>
+    <message>
+        <source>Sent to %1, job %2</source>
+        <translation>%1(으)로 보냄, 작업 %2</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>작업 취소</translation>
     </message>
 </context>
 <context>
@@ -1191,10 +1222,6 @@
         <translation>문서</translation>
     </message>
     <message>
-        <source>Print into a File</source>
-        <translation>파일로 인쇄</translation>
-    </message>
-    <message>
         <source>Print all the same?</source>
         <translation>그래도 인쇄할까요?</translation>
     </message>
@@ -1458,6 +1485,48 @@
     <message>
         <source>, takes no jobs</source>
         <translation>, 작업을 받지 않음</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SavePlace</name>
+    <message>
+        <source>Printed</source>
+        <translation>인쇄됨</translation>
+    </message>
+    <message>
+        <source>Print into a File</source>
+        <translation>파일로 인쇄</translation>
+    </message>
+    <message>
+        <source>PDF of the sheets (*.pdf)</source>
+        <translation>용지의 PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>As the printer takes it (*.ps *.prn)</source>
+        <translation>프린터가 받는 형식 (*.ps *.prn)</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>인쇄</translation>
+    </message>
+    <message>
+        <source>Printed into %1.</source>
+        <translation>%1에 인쇄했습니다.</translation>
+    </message>
+    <message>
+        <source>&amp;Show in Folder</source>
+        <translation>폴더에서 보기(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SessionJob</name>
+    <message>
+        <source>Booklet was set to Off: it can&apos;t be combined with several pages per sheet</source>
+        <translation>소책자가 “끔”(으)로 바뀌었습니다. 장당 여러 페이지와 함께 쓸 수 없습니다</translation>
     </message>
 </context>
 <context>

@@ -573,6 +573,22 @@
         <source>a copy that the filters can open can&apos;t be written; make room for temporary files</source>
         <translation>não é possível gravar uma cópia que os filtros possam abrir; libere espaço para arquivos temporários</translation>
     </message>
+    <message>
+        <source>the sheets of several documents can&apos;t be put into one PDF; print them one by one</source>
+        <translation>as folhas de vários documentos não podem ser reunidas em um só PDF; imprima-os um por um</translation>
+    </message>
+    <message>
+        <source>no such printer on %1; choose another one</source>
+        <translation>não existe essa impressora em %1; escolha outra</translation>
+    </message>
+    <message>
+        <source>there is no default printer; choose one</source>
+        <translation>não há impressora padrão; escolha uma</translation>
+    </message>
+    <message>
+        <source>there is none of that name; choose another one</source>
+        <translation>não há nenhuma com esse nome; escolha outra</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -834,6 +850,21 @@
     <message>
         <source>Choose Documents</source>
         <translation>Escolher documentos</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::JobNotice</name>
+    <message>
+        <source>Job %1 on %2 was cancelled</source>
+        <translation>O trabalho %1 em %2 foi cancelado</translation>
+    </message>
+    <message>
+        <source>Sent to %1, job %2</source>
+        <translation>Enviado para %1, trabalho %2</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>Cancelar trabalho</translation>
     </message>
 </context>
 <context>
@@ -1197,10 +1228,6 @@
         <translation>Documento</translation>
     </message>
     <message>
-        <source>Print into a File</source>
-        <translation>Imprimir em arquivo</translation>
-    </message>
-    <message>
         <source>Print all the same?</source>
         <translation>Imprimir mesmo assim?</translation>
     </message>
@@ -1464,6 +1491,48 @@
     <message>
         <source>, takes no jobs</source>
         <translation>, não aceita trabalhos</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SavePlace</name>
+    <message>
+        <source>Printed</source>
+        <translation>Impresso</translation>
+    </message>
+    <message>
+        <source>Print into a File</source>
+        <translation>Imprimir em arquivo</translation>
+    </message>
+    <message>
+        <source>PDF of the sheets (*.pdf)</source>
+        <translation>PDF das folhas (*.pdf)</translation>
+    </message>
+    <message>
+        <source>As the printer takes it (*.ps *.prn)</source>
+        <translation>Na linguagem da impressora (*.ps *.prn)</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimir</translation>
+    </message>
+    <message>
+        <source>Printed into %1.</source>
+        <translation>Impresso em %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Show in Folder</source>
+        <translation>&amp;Mostrar na pasta</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SessionJob</name>
+    <message>
+        <source>Booklet was set to Off: it can&apos;t be combined with several pages per sheet</source>
+        <translation>Livreto foi definido como “Desativado”: não pode ser combinado com várias páginas por folha</translation>
     </message>
 </context>
 <context>

@@ -572,6 +572,22 @@
         <source>a copy that the filters can open can&apos;t be written; make room for temporary files</source>
         <translation>无法写入过滤器可打开的副本；请为临时文件腾出空间</translation>
     </message>
+    <message>
+        <source>the sheets of several documents can&apos;t be put into one PDF; print them one by one</source>
+        <translation>无法将多个文档的纸张合并到一个 PDF 中；请逐个打印</translation>
+    </message>
+    <message>
+        <source>no such printer on %1; choose another one</source>
+        <translation>%1 上没有该打印机；请选择其他打印机</translation>
+    </message>
+    <message>
+        <source>there is no default printer; choose one</source>
+        <translation>没有默认打印机；请选择一台</translation>
+    </message>
+    <message>
+        <source>there is none of that name; choose another one</source>
+        <translation>没有该名称的预设；请选择其他预设</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -832,6 +848,21 @@
     <message>
         <source>Choose Documents</source>
         <translation>选择文档</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::JobNotice</name>
+    <message>
+        <source>Job %1 on %2 was cancelled</source>
+        <translation>%2 上的作业 %1 已取消</translation>
+    </message>
+    <message>
+        <source>Sent to %1, job %2</source>
+        <translation>已发送到 %1，作业 %2</translation>
+    </message>
+    <message>
+        <source>Cancel Job</source>
+        <translation>取消作业</translation>
     </message>
 </context>
 <context>
@@ -1191,10 +1222,6 @@
         <translation>文档</translation>
     </message>
     <message>
-        <source>Print into a File</source>
-        <translation>打印到文件</translation>
-    </message>
-    <message>
         <source>Print all the same?</source>
         <translation>仍要打印吗？</translation>
     </message>
@@ -1458,6 +1485,48 @@
     <message>
         <source>, takes no jobs</source>
         <translation>，不接受作业</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SavePlace</name>
+    <message>
+        <source>Printed</source>
+        <translation>已打印</translation>
+    </message>
+    <message>
+        <source>Print into a File</source>
+        <translation>打印到文件</translation>
+    </message>
+    <message>
+        <source>PDF of the sheets (*.pdf)</source>
+        <translation>纸张的 PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>As the printer takes it (*.ps *.prn)</source>
+        <translation>打印机所用的格式 (*.ps *.prn)</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>打印</translation>
+    </message>
+    <message>
+        <source>Printed into %1.</source>
+        <translation>已打印到 %1。</translation>
+    </message>
+    <message>
+        <source>&amp;Show in Folder</source>
+        <translation>在文件夹中显示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::SessionJob</name>
+    <message>
+        <source>Booklet was set to Off: it can&apos;t be combined with several pages per sheet</source>
+        <translation>小册子已设为“关”：不能与每张多页同用</translation>
     </message>
 </context>
 <context>
