@@ -30,7 +30,7 @@ namespace {
 const QString source = QStringLiteral(ORVEK_SOURCE_DIR);
 constexpr int settleTime = 60;  // milliseconds
 constexpr int gap = 12;         // pixels between pictures
-constexpr int sides = 20000;    // milliseconds that a preview may take
+constexpr int sides = 1500;     // milliseconds that a preview may take; one without room never ends
 constexpr int percent = 100;
 
 /// How the window is shown. Plain data.

@@ -117,7 +117,9 @@ class SystemLanguage : public ::testing::Test {
     QGuiApplication::setLayoutDirection(Qt::LeftToRight);
   }
 
-  static QString spoken() { return QCoreApplication::translate("orvek::GeneralPage", "Two-sided"); }
+  static QString spoken() {
+    return QCoreApplication::translate("orvek::StandardNames", "Two-sided");
+  }
 };
 
 TEST_F(SystemLanguage, IsSpokenInEveryCountryOfIt) {
