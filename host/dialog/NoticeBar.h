@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// A bar above the pages that says what happened, with a way back where there is one. Shows words,
-// knows no session.
+// A bar beside the buttons that says what happened, with a way back where there is one. Shows
+// words, knows no session.
 #pragma once
 
 #include <QFrame>

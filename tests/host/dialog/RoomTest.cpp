@@ -82,7 +82,9 @@ TEST_F(Room, HasANoticeBesideTheButtonsWhereNothingMovesForIt) {
   const QRect pages = placeOf("pages");
   const QRect preview = placeOf("previewSheets");
   const QRect print = placeOf("printButton");
-  notices().say(NoticeBar::Kind::Information, {QStringLiteral("Folding was set to Off")}, true);
+  notices().say({.sentences = {QStringLiteral("Folding was set to Off")},
+                 .takesBack = {QStringLiteral("Folding: Saddle fold")}},
+                true);
   ASSERT_TRUE(QTest::qWaitFor([&] { return notices().isVisible(); }));
   settle();
   EXPECT_EQ(dialog->size(), before);
@@ -99,7 +101,7 @@ TEST_F(Room, LeavesTheButtonsOnTheScreenHoweverLongANoticeIs) {
   const QSize before = dialog->size();
   QStringList sentences;
   for (int i = 0; i < 30; ++i) sentences << QStringLiteral("This option is not what it was");
-  notices().say(NoticeBar::Kind::Information, sentences, true);
+  notices().say({.sentences = sentences}, true);
   settle();
   EXPECT_EQ(dialog->size(), before);
   EXPECT_TRUE(isWhole("printButton"));
