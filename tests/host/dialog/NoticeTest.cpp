@@ -97,6 +97,7 @@ TEST_F(Notices, OfARefusalOfferNothingToTakeBack) {
 
 TEST_F(Notices, AboutAJobGoWithTheNextOne) {
   files = {folder.filePath(QStringLiteral("missing.pdf"))};
+  open();
   unfoldByAStaple();
   const QString conflict = said();
   click("printButton");

@@ -27,7 +27,9 @@ class Pages : public DialogTest {
 
   QStringList titles() const {
     QStringList all;
-    for (int page = 0; page < pages().count(); ++page) all << pages().tabText(page);
+    for (int page = 0; page < pages().count(); ++page) {
+      all << pages().tabText(page).remove(u'&');
+    }
     return all;
   }
 };
