@@ -96,7 +96,8 @@ TEST_F(Notices, OfARefusalOfferNothingToTakeBack) {
 }
 
 TEST_F(Notices, AboutAJobGoWithTheNextOne) {
-  files = {folder.filePath(QStringLiteral("missing.pdf"))};
+  dialog.reset();
+  outputFile = folder.filePath(QStringLiteral("missing/out.ps"));
   open();
   unfoldByAStaple();
   const QString conflict = said();
