@@ -5,7 +5,8 @@
 
 #include <QHBoxLayout>
 #include <QMenu>
-#include <QStyle>
+#include <QPainter>
+#include <QPainterPath>
 #include <QToolButton>
 
 #include "host/session/PrintSession.h"
@@ -20,6 +21,30 @@ constexpr int mostListed = 15;
 
 QString firstWords(const QList<HistoryEntry> &entries) {
   return entries.isEmpty() ? QString() : entries.constFirst().words;
+}
+
+// For a desktop whose icons lack it: an arrow that turns back, or its mirror image.
+QIcon arrow(const QPalette &palette, bool isForward) {
+  constexpr int size = 16;
+  constexpr int density = 2;
+  constexpr qreal penWidth = 1.6;
+  QPixmap picture(size * density, size * density);
+  picture.setDevicePixelRatio(density);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  if (isForward) painter.setTransform(QTransform(-1, 0, 0, 1, size, 0));
+  QPainterPath path(QPointF(3, 6));
+  path.lineTo(10, 6);
+  path.cubicTo(QPointF(15, 6), QPointF(15, 13), QPointF(10, 13));
+  path.lineTo(7, 13);
+  path.moveTo(6.5, 2.5);
+  path.lineTo(3, 6);
+  path.lineTo(6.5, 9.5);
+  const QColor colour = palette.color(QPalette::ButtonText);
+  painter.setPen(QPen(colour, penWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPath(path);
+  return QIcon(picture);
 }
 
 void name(QToolButton *button, const QString &title, const QString &words) {
@@ -39,12 +64,10 @@ HistoryButtons::HistoryButtons(PrintSession &session, QWidget *parent)
   row->setSpacing(0);
   m_undo = addButton(Direction::Back);
   m_undo->setObjectName(QStringLiteral("historyUndo"));
-  m_undo->setIcon(
-      QIcon::fromTheme(QStringLiteral("edit-undo"), style()->standardIcon(QStyle::SP_ArrowBack)));
+  m_undo->setIcon(QIcon::fromTheme(QStringLiteral("edit-undo"), arrow(palette(), false)));
   m_redo = addButton(Direction::Forward);
   m_redo->setObjectName(QStringLiteral("historyRedo"));
-  m_redo->setIcon(QIcon::fromTheme(QStringLiteral("edit-redo"),
-                                   style()->standardIcon(QStyle::SP_ArrowForward)));
+  m_redo->setIcon(QIcon::fromTheme(QStringLiteral("edit-redo"), arrow(palette(), true)));
   connect(&session, &PrintSession::changed, this, &HistoryButtons::follow);
   follow();
 }
