@@ -4,17 +4,26 @@
 #include "host/dialog/TabOrder.h"
 
 #include <QLayout>
+#include <QScrollArea>
 #include <QWidget>
 #include <algorithm>
 
 namespace orvek {
 namespace {
 
+// What scrolls lays out what is in it.
+const QLayout *layoutIn(QLayoutItem *item) {
+  const QWidget *widget = item->widget();
+  if (widget == nullptr) return item->layout();
+  const auto *area = qobject_cast<const QScrollArea *>(widget);
+  const bool holds = area != nullptr && area->widget() != nullptr;
+  return holds ? area->widget()->layout() : widget->layout();
+}
+
 void collect(const QLayout &layout, QList<QWidget *> *parts) {
   for (int place = 0; place < layout.count(); ++place) {
     QLayoutItem *item = layout.itemAt(place);
-    const QLayout *inner = item->widget() != nullptr ? item->widget()->layout() : item->layout();
-    if (inner != nullptr) {
+    if (const QLayout *inner = layoutIn(item)) {
       collect(*inner, parts);
     } else if (item->widget() != nullptr) {
       *parts << item->widget();

@@ -23,10 +23,19 @@ const QString alphabet = QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789");
 struct Carrier {
   QLabel *label = nullptr;
   QAbstractButton *button = nullptr;
+  QTabBar *tabs = nullptr;
+  int tab = 0;
 
-  QWidget *widget() const { return label != nullptr ? static_cast<QWidget *>(label) : button; }
-  QString text() const { return label != nullptr ? label->text() : button->text(); }
+  QWidget *widget() const {
+    if (tabs != nullptr) return tabs;
+    return label != nullptr ? static_cast<QWidget *>(label) : button;
+  }
+  QString text() const {
+    if (tabs != nullptr) return tabs->tabText(tab);
+    return label != nullptr ? label->text() : button->text();
+  }
   void setText(const QString &text) const {
+    if (tabs != nullptr) return tabs->setTabText(tab, text);
     label != nullptr ? label->setText(text) : button->setText(text);
   }
 };
@@ -54,7 +63,7 @@ QList<Carrier> carriersIn(QWidget *widget, bool alsoHidden = false) {
   for (QWidget *child : widget->findChildren<QWidget *>()) {
     if (!alsoHidden && !child->isVisibleTo(widget)) continue;
     auto *label = qobject_cast<QLabel *>(child);
-    if (label != nullptr && label->buddy() != nullptr) carriers.append({label, nullptr});
+    if (label != nullptr && label->buddy() != nullptr) carriers.append({label});
     auto *button = qobject_cast<QAbstractButton *>(child);
     if (button != nullptr && !button->text().isEmpty()) carriers.append({nullptr, button});
   }
@@ -67,10 +76,25 @@ QSet<QChar> lettersAround(QWidget *page) {
   for (const Carrier &carrier : carriersIn(window)) {
     if (!page->isAncestorOf(carrier.widget())) letters.insert(mnemonicOf(carrier.text()));
   }
-  for (const QTabBar *tabs : window->findChildren<QTabBar *>()) {
-    for (int tab = 0; tab < tabs->count(); ++tab) letters.insert(mnemonicOf(tabs->tabText(tab)));
+  return letters;
+}
+
+// Of all but the page and the tabs, shown or not.
+QSet<QChar> lettersElsewhere(QWidget *window, const QWidget *page) {
+  QSet<QChar> letters;
+  for (const Carrier &carrier : carriersIn(window, true)) {
+    const bool isOfPage = page != nullptr && page->isAncestorOf(carrier.widget());
+    if (!isOfPage) letters.insert(mnemonicOf(carrier.text()));
   }
   return letters;
+}
+
+QList<Carrier> tabsIn(QWidget *window) {
+  QList<Carrier> carriers;
+  for (QTabBar *tabs : window->findChildren<QTabBar *>()) {
+    for (int tab = 0; tab < tabs->count(); ++tab) carriers.append({nullptr, nullptr, tabs, tab});
+  }
+  return carriers;
 }
 
 bool isLatin(QChar letter) {
@@ -114,8 +138,9 @@ class LetterTable {
  public:
   explicit LetterTable(QSet<QChar> taken) : m_taken(std::move(taken)) {}
 
-  int add(const QString &plain) {
+  int add(const QString &plain, const QSet<QChar> &without) {
     m_letters << lettersFor(plain);
+    m_letters.last().removeIf([&](QChar letter) { return without.contains(letter); });
     return static_cast<int>(m_letters.size()) - 1;
   }
 
@@ -160,11 +185,7 @@ QString withoutMnemonic(const QString &text) {
 }
 
 void assignTabMnemonics(QWidget *window, const QWidget *page) {
-  QSet<QChar> taken;
-  for (const Carrier &carrier : carriersIn(window, true)) {
-    const bool isOfPage = page != nullptr && page->isAncestorOf(carrier.widget());
-    if (!isOfPage) taken.insert(mnemonicOf(carrier.text()));
-  }
+  QSet<QChar> taken = lettersElsewhere(window, page);
   for (QTabBar *tabs : window->findChildren<QTabBar *>()) {
     for (int tab = 0; tab < tabs->count(); ++tab) {
       const QString plain = plainText(tabs->tabText(tab));
@@ -181,11 +202,14 @@ void assignTabMnemonics(QWidget *window, const QWidget *page) {
 
 void assignMnemonics(QWidget *page) {
   assignTabMnemonics(page->window(), page);
-  const QList<Carrier> carriers = carriersIn(page);
+  // A tab moves on where the page needs its letter, but to none that another page has.
+  const QSet<QChar> elsewhere = lettersElsewhere(page->window(), page);
+  const QList<Carrier> carriers = tabsIn(page->window()) + carriersIn(page);
   LetterTable letters(lettersAround(page));
   QList<int> without;
   for (const Carrier &carrier : carriers) {
-    const int text = letters.add(plainText(carrier.text()));
+    const bool isTab = carrier.tabs != nullptr;
+    const int text = letters.add(plainText(carrier.text()), isTab ? elsewhere : QSet<QChar>());
     if (!letters.give(text, mnemonicOf(carrier.text()))) without << text;
   }
   for (const int text : without) letters.find(text);
