@@ -17,6 +17,9 @@
 namespace orvek {
 namespace {
 
+// On what got its letter here: it may get another one where somebody else needs it.
+constexpr const char *givenProperty = "letterIsGiven";
+
 const QString alphabet = QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789");
 
 // One text with a mnemonic that can be replaced.
@@ -74,9 +77,22 @@ QSet<QChar> lettersAround(QWidget *page) {
   QSet<QChar> letters;
   QWidget *window = page->window();
   for (const Carrier &carrier : carriersIn(window)) {
-    if (!page->isAncestorOf(carrier.widget())) letters.insert(mnemonicOf(carrier.text()));
+    const bool mayMove = carrier.widget()->property(givenProperty).toBool();
+    if (!mayMove && !page->isAncestorOf(carrier.widget())) {
+      letters.insert(mnemonicOf(carrier.text()));
+    }
   }
   return letters;
+}
+
+// Shown beside the page, with letters that were given here.
+QList<Carrier> movableAround(QWidget *page) {
+  QList<Carrier> carriers = carriersIn(page->window());
+  carriers.removeIf([page](const Carrier &carrier) {
+    const bool mayMove = carrier.widget()->property(givenProperty).toBool();
+    return !mayMove || page->isAncestorOf(carrier.widget());
+  });
+  return carriers;
 }
 
 // Of all but the page and the tabs, shown or not.
@@ -204,7 +220,7 @@ void assignMnemonics(QWidget *page) {
   assignTabMnemonics(page->window(), page);
   // A tab moves on where the page needs its letter, but to none that another page has.
   const QSet<QChar> elsewhere = lettersElsewhere(page->window(), page);
-  const QList<Carrier> carriers = tabsIn(page->window()) + carriersIn(page);
+  const QList<Carrier> carriers = tabsIn(page->window()) + movableAround(page) + carriersIn(page);
   LetterTable letters(lettersAround(page));
   QList<int> without;
   for (const Carrier &carrier : carriers) {
@@ -215,6 +231,7 @@ void assignMnemonics(QWidget *page) {
   for (const int text : without) letters.find(text);
   for (int text = 0; text < carriers.size(); ++text) {
     const Carrier &carrier = carriers[text];
+    if (carrier.tabs == nullptr) carrier.widget()->setProperty(givenProperty, true);
     if (mnemonicOf(carrier.text()) == letters.letterOf(text)) continue;
     carrier.setText(withLetter(plainText(carrier.text()), letters.letterOf(text)));
   }
