@@ -8,6 +8,7 @@
 #include "host/cli/Console.h"
 #include "host/cli/Presets.h"
 #include "host/cli/PrinterListing.h"
+#include "host/jobs/DocumentInfo.h"
 #include "host/jobs/QueueJob.h"
 #include "host/printers/PrinterList.h"
 #include "host/printers/Queue.h"
@@ -174,6 +175,8 @@ Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line,
 
 void askAhead(const CommandLine &line) {
   if (line.ppd.isNull()) findPrinterAhead(serverAccess(line, {}), line.destination);
+  const bool isSent = line.headless && line.print && line.output.isNull();
+  if (isSent && line.files.size() == 1) lookAhead(line.files.constFirst());
 }
 
 // A print server takes its time, as does reading a large description; plug-ins and their controls

@@ -10,6 +10,12 @@
 #include <QImageReader>
 #include <QRegularExpression>
 #include <algorithm>
+#include <chrono>
+#include <future>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <utility>
 
 #include "host/jobs/Document.h"
 #include "host/jobs/PdfReport.h"
@@ -76,9 +82,7 @@ void readContent(DocumentInfo *info, const std::atomic<bool> &cancelled) {
   }
 }
 
-}  // namespace
-
-DocumentInfo documentInfo(const QString &path, const std::atomic<bool> &cancelled) {
+DocumentInfo look(const QString &path, const std::atomic<bool> &cancelled) {
   DocumentInfo info;
   info.path = path.isEmpty() ? standardInput() : path;
   if (isStandardInput(info.path)) {
@@ -89,6 +93,64 @@ DocumentInfo documentInfo(const QString &path, const std::atomic<bool> &cancelle
   readContent(&info, cancelled);
   if (info.pages > mostPages) info.pages = 0;
   return info;
+}
+
+/// A look that was begun ahead. Waits for its end where nobody took what came of it.
+class LookAhead {
+ public:
+  explicit LookAhead(const QString &path)
+      : m_info(std::async(std::launch::async, [this, path] { return look(path, m_isCancelled); })) {
+  }
+  ~LookAhead() { m_isCancelled = true; }
+  LookAhead(const LookAhead &) = delete;
+  LookAhead &operator=(const LookAhead &) = delete;
+
+  DocumentInfo wait(const std::atomic<bool> &cancelled) {
+    using namespace std::chrono_literals;
+    while (!cancelled && m_info.wait_for(20ms) != std::future_status::ready) continue;
+    m_isCancelled = cancelled.load();
+    return m_info.get();
+  }
+
+ private:
+  std::atomic<bool> m_isCancelled = false;
+  /// Behind what its thread uses, so that it goes, and waits for the thread, first.
+  std::future<DocumentInfo> m_info;
+};
+
+class LooksAhead {
+ public:
+  void begin(const QString &path) {
+    const std::lock_guard guard(m_lock);
+    m_looks.insert_or_assign(path, std::make_unique<LookAhead>(path));
+  }
+
+  /// Once: a document may change from then on.
+  std::unique_ptr<LookAhead> take(const QString &path) {
+    const std::lock_guard guard(m_lock);
+    auto taken = m_looks.extract(path);
+    return taken ? std::move(taken.mapped()) : nullptr;
+  }
+
+ private:
+  std::mutex m_lock;
+  std::map<QString, std::unique_ptr<LookAhead>> m_looks;
+};
+
+LooksAhead &looksAhead() {
+  static LooksAhead looks;
+  return looks;
+}
+
+}  // namespace
+
+void lookAhead(const QString &path) {
+  looksAhead().begin(path);
+}
+
+DocumentInfo documentInfo(const QString &path, const std::atomic<bool> &cancelled) {
+  const std::unique_ptr<LookAhead> ahead = looksAhead().take(path);
+  return ahead ? ahead->wait(cancelled) : look(path, cancelled);
 }
 
 DocumentInfo documentInfo(const QString &path) {

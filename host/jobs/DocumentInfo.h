@@ -30,6 +30,11 @@ struct DocumentInfo {
 DocumentInfo documentInfo(const QString &path);
 DocumentInfo documentInfo(const QString &path, const std::atomic<bool> &cancelled);
 
+/// Has a document looked at while the program has other things to do: the next documentInfo() of
+/// the same path waits for what comes of it. Nobody has to ask; the end of the program does not
+/// wait for it longer than for a process to be ended. Any thread.
+void lookAhead(const QString &path);
+
 /// The failure of a job with such a document; success where it is usable.
 Status usable(const QString &path, DocumentState state);
 

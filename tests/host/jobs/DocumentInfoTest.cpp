@@ -50,6 +50,22 @@ TEST_F(DocumentInfoTest, ReadsTheCommentsOfPostScript) {
   EXPECT_EQ(documentInfo(path).pages, 12);
 }
 
+TEST_F(DocumentInfoTest, TakesALookThatWasBegunAheadOnceAndLooksAnewThen) {
+  const QString path = write("a.ps", "%!PS-Adobe-3.0\n%%Pages: 12\n");
+  lookAhead(path);
+  EXPECT_EQ(documentInfo(path).pages, 12);
+  write("a.ps", "%!PS-Adobe-3.0\n%%Pages: 5\n");
+  EXPECT_EQ(documentInfo(path).pages, 5);
+}
+
+TEST_F(DocumentInfoTest, EndsALookThatWasBegunAheadWithTheQuestion) {
+  const QString path = write("a.ps", "%!PS-Adobe-3.0\n%%Pages: 12\n");
+  lookAhead(path);
+  lookAhead(path);
+  const std::atomic<bool> cancelled = true;
+  EXPECT_EQ(documentInfo(path, cancelled).name, "a.ps");
+}
+
 TEST_F(DocumentInfoTest, ReadsACountThatStandsAtTheEndOfALongFile) {
   const QByteArray body(200000, '\n');
   const QString path =
