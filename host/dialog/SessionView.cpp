@@ -11,8 +11,10 @@
 #include <QTabWidget>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
+#include "host/dialog/ElidedLabel.h"
 #include "host/dialog/HistoryButtons.h"
 #include "host/dialog/LazyPage.h"
 #include "host/dialog/PanelPage.h"
@@ -82,7 +84,8 @@ SessionView::SessionView(PrintSession &session, const DocumentInfo &document, QW
 }
 
 QBoxLayout *SessionView::buildAside() {
-  auto *title = new PlainLabel(tr("Summary"), this);
+  auto *title = new ElidedLabel(Qt::ElideRight, this);
+  title->setWholeText(tr("Summary"));
   // As high as a tab, so that both sides of the window have the same headings.
   title->setFixedHeight(m_pages->tabBar()->sizeHint().height() - 1);
   m_aside = new QVBoxLayout;
@@ -116,7 +119,8 @@ QSize SessionView::minimumSizeHint() const {
 
 void SessionView::resizeEvent(QResizeEvent *event) {
   QWidget::resizeEvent(event);
-  const bool isNarrow = width() < scaledPageRoom().width() + gap + scaledToText(leastAsideWidth);
+  const int aside = std::max(scaledToText(leastAsideWidth), m_aside->minimumSize().width());
+  const bool isNarrow = width() < scaledPageRoom().width() + gap + aside;
   if (isNarrow != (m_sides->direction() == QBoxLayout::TopToBottom)) turn(isNarrow);
 }
 
