@@ -24,8 +24,13 @@ constexpr int groupGap = 20;
 constexpr int lineGap = 4;
 constexpr int labelGap = 8;
 constexpr int sidesLetters = 14;
-// A range needs no more, and what is left stays together.
-constexpr int widestPages = 380;
+// Neither a range nor a choice needs more, and what is left stays together.
+constexpr int widestGroup = 340;
+
+void letGrow(QWidget *group) {
+  group->setMaximumWidth(std::max(scaledToText(widestGroup), group->sizeHint().width()));
+  group->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
 
 }  // namespace
 
@@ -39,10 +44,9 @@ JobStrip::JobStrip(PrintSession &session, QWidget *parent)
   m_sides->setObjectName(QStringLiteral("sides"));
   m_sides->setMinimumContentsLength(sidesLetters);
   addGroup(tr("Copies"), m_copies);
-  QWidget *pages = addGroup(tr("Pages"), m_pages)->parentWidget();
-  pages->setMaximumWidth(std::max(scaledToText(widestPages), pages->sizeHint().width()));
-  pages->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  letGrow(addGroup(tr("Pages"), m_pages)->parentWidget());
   m_sidesLabel = addGroup(tr("Two-sided"), m_sides);
+  letGrow(m_sidesLabel->parentWidget());
   connectControls();
   connect(&session, &PrintSession::changed, this, &JobStrip::showState);
   showState();
