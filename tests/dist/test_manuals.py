@@ -69,11 +69,11 @@ class Manuals(unittest.TestCase):
 
 class Icons(unittest.TestCase):
     def test_each_icon_has_the_size_of_its_folder(self):
-        folder = os.path.join(DIST, "icons")
+        folder = os.path.join(BUILD, os.environ["ORVEK_DATA_FOLDER"], "icons", "hicolor")
         sizes = [name for name in os.listdir(folder) if "x" in name]
         self.assertGreater(len(sizes), 0)
         for size in sizes:
-            with open(os.path.join(folder, size, "orvek-print.png"), "rb") as file:
+            with open(os.path.join(folder, size, "apps", "orvek-print.png"), "rb") as file:
                 width, height = struct.unpack(">II", file.read(24)[16:])
             self.assertEqual(f"{width}x{height}", size)
 

@@ -11,6 +11,8 @@
 #include <QSpinBox>
 #include <QTabWidget>
 
+#include "host/dialog/ElidedLabel.h"
+
 namespace orvek::test {
 
 /// A text and where it stands. Plain data.
@@ -35,7 +37,11 @@ inline QStringList modelTexts(const QAbstractItemModel &model, const QModelIndex
 inline QStringList ownTexts(const QWidget &widget) {
   QStringList texts{widget.toolTip(), widget.accessibleName(), widget.accessibleDescription()};
   if (widget.isWindow()) texts << widget.windowTitle();
-  if (const auto *label = qobject_cast<const QLabel *>(&widget)) texts << label->text();
+  if (const auto *elided = qobject_cast<const ElidedLabel *>(&widget)) {
+    texts << elided->wholeText();
+  } else if (const auto *label = qobject_cast<const QLabel *>(&widget)) {
+    texts << label->text();
+  }
   if (const auto *button = qobject_cast<const QAbstractButton *>(&widget)) texts << button->text();
   if (const auto *group = qobject_cast<const QGroupBox *>(&widget)) texts << group->title();
   if (const auto *line = qobject_cast<const QLineEdit *>(&widget)) texts << line->placeholderText();
