@@ -35,9 +35,9 @@ LocalTexts::LocalTexts(ppd_file_s *ppd, const QByteArray &language) : m_ppd(ppd)
       language.size() < languageLetters ? QByteArray("en") : language.left(languageLetters);
   m_names << language << letters;
   if (letters == "ja") m_names << "jp";
-  if (letters == "nb" || letters == "no")
-    m_names << "nb"
-            << "no";
+  if (letters == "nb" || letters == "no") {
+    m_names.append({"nb", "no"});
+  }
   m_isEnglish = letters == "en";
   m_isOwn = ppd != nullptr && ownLanguage(ppd) == letters;
 }

@@ -123,13 +123,7 @@ QWidget *JobPreview::buildBar() {
   m_place->setAlignment(Qt::AlignCenter);
   m_place->setWordWrap(true);
   m_place->setText(QStringLiteral(" "));
-  m_several = new QToolButton(bar);
-  m_several->setObjectName(QStringLiteral("previewSeveral"));
-  m_several->setIcon(severalIcon(palette()));
-  m_several->setCheckable(true);
-  m_several->setAutoRaise(true);
-  m_several->setToolTip(tr("Several sheets at once (Ctrl and wheel: zoom)"));
-  m_several->setAccessibleName(tr("Several sheets at once"));
+  m_several = severalButton(bar);
   auto *row = new QHBoxLayout(bar);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(gap);
@@ -141,8 +135,19 @@ QWidget *JobPreview::buildBar() {
           [this] { m_view->setCurrent(m_view->current() - 1); });
   connect(m_forward, &QToolButton::clicked, this,
           [this] { m_view->setCurrent(m_view->current() + 1); });
-  connect(m_several, &QToolButton::toggled, m_view, &SheetsView::setShowsSeveral);
   return bar;
+}
+
+QToolButton *JobPreview::severalButton(QWidget *bar) {
+  auto *several = new QToolButton(bar);
+  several->setObjectName(QStringLiteral("previewSeveral"));
+  several->setIcon(severalIcon(palette()));
+  several->setCheckable(true);
+  several->setAutoRaise(true);
+  several->setToolTip(tr("Several sheets at once (Ctrl and wheel: zoom)"));
+  several->setAccessibleName(tr("Several sheets at once"));
+  connect(several, &QToolButton::toggled, m_view, &SheetsView::setShowsSeveral);
+  return several;
 }
 
 const std::vector<imposition::PrintedSide> &JobPreview::sides() const {

@@ -44,6 +44,7 @@ class JobPreview final : public QWidget {
   void build();
   void begin();
   QWidget *buildBar();
+  QToolButton *severalButton(QWidget *bar);
   void followSession();
   void read();
   void takeDocument(int generation, const Result<DocumentPages> &document);

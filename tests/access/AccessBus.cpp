@@ -185,7 +185,8 @@ void AccessBus::press(const QString &key) const {
 QString AccessBus::tree(const AccessNode &node, int depth) const {
   QString lines;
   if (isShowing(node)) {
-    lines = QString(2 * depth, u' ') + role(node) + QStringLiteral(" \"") + name(node) + u'"';
+    lines = QString(qsizetype{2} * depth, u' ') + role(node) + QStringLiteral(" \"") + name(node) +
+            u'"';
     const QString by = label(node);
     if (!by.isNull()) lines += QStringLiteral(" by \"") + by + u'"';
     const QString more = description(node);
