@@ -295,10 +295,14 @@ bool isSelected(int side, const SideSelection &sides) {
   });
 }
 
-int filteredSides(int pages, const FilterJob &job) {
+int madeSides(int pages, const FilterJob &job) {
   if (pages <= 0) return 0;
   const int places = static_cast<int>(pageSequence(pages, job).size());
-  const int all = (places + cellsOf(job) - 1) / cellsOf(job);
+  return (places + cellsOf(job) - 1) / cellsOf(job);
+}
+
+int filteredSides(int pages, const FilterJob &job) {
+  const int all = madeSides(pages, job);
   int selected = 0;
   for (int side = 1; side <= all; ++side) selected += isSelected(side, job.sides) ? 1 : 0;
   return selected + (needsBlankSide(static_cast<std::size_t>(selected), job.sides) ? 1 : 0);

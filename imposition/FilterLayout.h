@@ -121,7 +121,10 @@ std::vector<FilteredSide> layOutAsFiltered(std::span<const Size> pages, const Fi
 /// Whether the filters print this side, counted from 1.
 bool isSelected(int side, const SideSelection &sides);
 
-/// How many sides that are for so many pages, blank ones counted.
+/// How many sides the filters make of so many pages before they choose among them.
+int madeSides(int pages, const FilterJob &job);
+
+/// How many sides are printed of so many pages, blank ones counted.
 int filteredSides(int pages, const FilterJob &job);
 
 }  // namespace orvek::imposition

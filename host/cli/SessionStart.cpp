@@ -180,10 +180,9 @@ void askAhead(const CommandLine &line) {
 }
 
 // A print server takes its time, as does reading a large description; plug-ins and their controls
-// can be loaded meanwhile. The helper is started on this thread, with which it ends.
+// can be loaded meanwhile.
 Result<std::unique_ptr<PrintSession>> startSession(
     const CommandLine &line, const std::shared_ptr<PasswordSource> &passwords) {
-  askAhead(line);
   auto gathering = std::async(std::launch::async, [&] { return gatherSetup(line, passwords); });
   const PanelsAhead panels(line);
   const Result<SessionSetup> setup = gathering.get();

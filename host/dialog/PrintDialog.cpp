@@ -156,7 +156,7 @@ QString PrintDialog::obstacle() const {
   const bool isForFile = m_setup.destination.isEmpty();
   if (isForFile && m_session->origin().printer == nullptr) return tr("No printer is chosen");
   if (const QString problem = m_documents->problem(); !problem.isNull()) return problem;
-  return pagesProblem(m_session->job().settings(), m_documents->only().pages);
+  return pagesProblem(m_session->job().settings(), documentSides(*m_session));
 }
 
 void PrintDialog::updateControls() {

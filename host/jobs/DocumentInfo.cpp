@@ -17,6 +17,7 @@
 #include <mutex>
 #include <utility>
 
+#include "host/jobs/AskedSides.h"
 #include "host/jobs/Document.h"
 #include "host/jobs/PdfReport.h"
 
@@ -122,7 +123,8 @@ class LooksAhead {
  public:
   void begin(const QString &path) {
     const std::lock_guard guard(m_lock);
-    m_looks.insert_or_assign(path, std::make_unique<LookAhead>(path));
+    std::unique_ptr<LookAhead> &look = m_looks[path];
+    if (!look) look = std::make_unique<LookAhead>(path);
   }
 
   /// Once: a document may change from then on.
@@ -182,26 +184,14 @@ Status usable(const QString &path, DocumentState state) {
   return {};
 }
 
-// Ranges are ascending, or make no sense, which filters say better.
-bool beginsWithin(const QString &pageRanges, int pages) {
-  const QStringList ranges = pageRanges.split(u',');
-  return std::any_of(ranges.begin(), ranges.end(), [pages](const QString &range) {
-    return range.section(u'-', 0, 0).toDouble() <= pages;
-  });
-}
-
-Status checkContents(const QStringList &files, const QString &pageRanges,
+Status checkContents(const QStringList &files, const QMap<QString, QString> &options,
                      const std::atomic<bool> &cancelled) {
   for (const QString &file : files) {
     if (comesOnce(file)) continue;
     const DocumentInfo info = documentInfo(file, cancelled);
     if (Status checked = usable(file, info.state); !checked) return checked;
-    const bool isJudged = files.size() == 1 && info.pages > 0 && !pageRanges.isEmpty();
-    if (!isJudged || beginsWithin(pageRanges, info.pages)) continue;
-    return Failure{
-        FailureKind::Io, documentName(file),
-        Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "has no page %1: the number of its pages is %2"),
-               {pageRanges, QString::number(info.pages)})};
+    if (files.size() > 1) continue;
+    if (Status sides = checkAskedSides(file, info.pages, options); !sides) return sides;
   }
   return {};
 }

@@ -3,6 +3,7 @@
 // and only for a bounded time.
 #pragma once
 
+#include <QMap>
 #include <QString>
 #include <QStringList>
 #include <atomic>
@@ -31,21 +32,19 @@ DocumentInfo documentInfo(const QString &path);
 DocumentInfo documentInfo(const QString &path, const std::atomic<bool> &cancelled);
 
 /// Has a document looked at while the program has other things to do: the next documentInfo() of
-/// the same path waits for what comes of it. Nobody has to ask; the end of the program does not
-/// wait for it longer than for a process to be ended. Any thread.
+/// the same path waits for what comes of it. Asked again before that, it goes on looking. Nobody
+/// has to ask; the end of the program does not wait for it longer than for a process to be ended.
+/// Any thread.
 void lookAhead(const QString &path);
 
 /// The failure of a job with such a document; success where it is usable.
 Status usable(const QString &path, DocumentState state);
 
 /// Whether these documents, of which those that come once are not looked at, can be printed, and
-/// whether an only one has any of the pages asked for (null: all of them). Blocks, within bounds,
-/// and ends soon after `cancelled` was set.
-Status checkContents(const QStringList &files, const QString &pageRanges,
+/// whether the print system's filters would print any side of an only one, as the job's options
+/// choose among them ("page-ranges", RFC 8011, counts sides: pages for most jobs). Blocks, within
+/// bounds, and ends soon after `cancelled` was set.
+Status checkContents(const QStringList &files, const QMap<QString, QString> &options,
                      const std::atomic<bool> &cancelled);
-
-/// Whether page ranges as CUPS takes them begin within so many pages. Ranges that make no sense
-/// are whoever prints them to refuse.
-bool beginsWithin(const QString &pageRanges, int pages);
 
 }  // namespace orvek

@@ -74,8 +74,7 @@ Status printAll(FilterRun &run, const JobRequest &request, const QString &tool,
 // Filters make anything from nothing to a damaged file where there is nothing to print.
 Status checkPagesOf(const QString &file, const Phrase &name, const JobRequest &request,
                     const JobControl &control) {
-  const auto ranges = valueNamed(effectiveOptions(request), u"page-ranges");
-  const Status checked = checkContents({file}, ranges.value_or(QString()), control.cancelled);
+  const Status checked = checkContents({file}, effectiveOptions(request), control.cancelled);
   if (checked) return {};
   return Failure{checked.failure().kind, name, checked.failure().why};
 }

@@ -46,8 +46,7 @@ Status checkedContents(const JobRequest &request, const JobControl &control) {
   for (const QStringView sentAsIs : {u"raw", u"document-format"}) {
     if (valueNamed(options, sentAsIs)) return {};
   }
-  const QString ranges = valueNamed(options, u"page-ranges").value_or(QString());
-  return checkContents(effectiveFiles(request), ranges, control.cancelled);
+  return checkContents(effectiveFiles(request), options, control.cancelled);
 }
 
 ServerAccess accessOf(const JobRequest &request, const std::atomic<bool> *cancelled) {

@@ -12,7 +12,7 @@
 #include "host/ticket/AskedOptions.h"
 #include "host/ticket/JobOptionNames.h"
 #include "host/ticket/PageRanges.h"
-#include "imposition/StandardOptions.h"
+#include "imposition/SideOptions.h"
 #include "platform/system/OptionMap.h"
 // clang-format off
 #include <cups/cups.h>
@@ -36,7 +36,7 @@ QString word(const Options &options, const char *name) {
 }
 
 bool isOn(const QString &value) {
-  return isAnyOf(value, {"true", "on", "yes"});
+  return imposition::isOn(value.toStdString());
 }
 
 Options allOptions(PrintSession &session) {
@@ -150,31 +150,19 @@ void readOrder(const Marks &marks, const Options &options, SheetJob *job) {
   job->isTurnedForTray = stacksReversed(marks.printer(), marks.marked(QStringLiteral("OutputBin")));
 }
 
-void readSelection(const Options &options, FilterJob *job) {
-  job->sides.ranges = pageRangesIn(settingsIn(options).pageRanges);
-  const QString set = word(options, "page-set");
-  if (sameKeyword(set, "odd")) job->sides.parity = Parity::Odd;
-  if (sameKeyword(set, "even")) job->sides.parity = Parity::Even;
-}
-
 // The filter of PostScript knows fewer words for it, and no other spelling of a boolean.
 bool fitsScripts(const Options &options) {
   const auto isTrue = [&](const char *name) { return sameKeyword(word(options, name), "true"); };
   return isTrue("fit-to-page") || isTrue("ipp-attribute-fidelity");
 }
 
-// What the standard filters do beside choosing and scaling pages.
+// What the standard filters do beside scaling pages.
 void readPlaces(const Marks &marks, const Options &options, FilterJob *job) {
-  job->pagesPerSide = std::max(1, leadingInteger(word(options, numberUpOption).toStdString()));
-  job->order = lowerCase(word(options, "number-up-layout").toStdString());
-  job->position = readPosition(word(options, "position").toStdString());
+  readSideOptions(said(options), job);
+  job->sides.ranges = pageRangesIn(settingsIn(options).pageRanges);
   job->isMirrored =
       isOn(word(options, "mirror")) || isOn(marks.marked(QStringLiteral("MirrorPrint")));
   job->fitsScripts = fitsScripts(options);
-  const QString booklet = word(options, "booklet");
-  if (isOn(booklet)) job->booklet = OwnBooklet::Sides;
-  if (sameKeyword(booklet, "shuffle-only")) job->booklet = OwnBooklet::Order;
-  job->signature = leadingInteger(word(options, "booklet-signature").toStdString());
 }
 
 void readSides(const Marks &marks, const Options &options, SheetJob *job) {
@@ -199,7 +187,6 @@ SheetJob sheetJobOf(const PrintSession &session, const Options &options) {
   job.filters.landscapeTurnsRight = turnsRight(marks.printer());
   job.filters.turning = turningIn(options, job.filters.landscapeTurnsRight);
   job.filters.scaling = scalingOf(options);
-  readSelection(options, &job.filters);
   readPlaces(marks, options, &job.filters);
   readSides(marks, options, &job);
   readBooklet(marks, options, &job);

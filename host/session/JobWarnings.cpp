@@ -15,9 +15,10 @@
 #include "host/ticket/PageRanges.h"
 #include "imposition/Finishing.h"
 #include "imposition/JobSheets.h"
-#include "imposition/StandardOptions.h"
+#include "imposition/SideOptions.h"
 #include "platform/plugin/FinishingKeywords.h"
 #include "platform/printing/PrintSettings.h"
+#include "platform/system/OptionMap.h"
 
 namespace orvek {
 namespace {
@@ -96,13 +97,34 @@ QString notOnBothSides(const PrintSession &session) {
 
 }  // namespace
 
-QString pagesProblem(const JobSettings &settings, int pages) {
+DocumentSides documentSides(PrintSession &session) {
+  DocumentSides document{session.job().documentPages(), {}};
+  if (document.pages <= 0) return document;
+  QMap<QString, QString> options = session.job().options();
+  options.insert(session.job().savedOptions(options));
+  imposition::readSideOptions(
+      [&options](const char *option) -> std::optional<std::string> {
+        const auto value = valueNamed(options, QLatin1String(option));
+        return value ? std::optional(value->toStdString()) : std::nullopt;
+      },
+      &document.filters);
+  return document;
+}
+
+QString pagesProblem(const JobSettings &settings, const DocumentSides &document) {
   if (!settings.pageRangesProblem.isNull()) return settings.pageRangesProblem;
-  const bool isKnown = pages > 0 && !settings.pageRanges.isEmpty();
-  if (!isKnown || !pagesInRanges(settings.pageRanges, pages).isEmpty()) return {};
+  imposition::FilterJob job = document.filters;
+  job.sides.ranges = pageRangesIn(settings.pageRanges);
+  const int made = imposition::madeSides(document.pages, job);
+  if (made == 0 || imposition::filteredSides(document.pages, job) > 0) return {};
+  const bool countsPages = made == document.pages && job.sides.parity == imposition::Parity::All;
+  if (!countsPages) {
+    return Words::tr("None of the sides that are asked for exists: the number of sides is %1")
+        .arg(made);
+  }
   return Words::tr("The document has no page %1: the number of its pages is %2")
       .arg(settings.pageRanges)
-      .arg(pages);
+      .arg(document.pages);
 }
 
 int maximumBookletSheets(const PrinterDescription &printer) {

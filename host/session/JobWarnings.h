@@ -8,18 +8,32 @@
 #include "host/ppd/Marks.h"
 #include "host/ticket/JobSettings.h"
 #include "host/ticket/TicketFile.h"
+#include "imposition/FilterLayout.h"
 
 namespace orvek {
 
 class PrintSession;
 
+/// A document as page ranges meet it, which count the sides that the print system's filters make of
+/// its pages. A value.
+struct DocumentSides {
+  /// 0: unknown.
+  int pages = 0;
+  /// What the job says of sides, but for its page ranges.
+  imposition::FilterJob filters;
+};
+
+/// That of a session's document as its job stands now.
+DocumentSides documentSides(PrintSession &session);
+
 /// Why nothing can be printed with these settings, in one sentence without a full stop; null where
-/// something can: page ranges that can't be read, or that the document has no page of. `pages` is
-/// the document's page count (0: unknown, and then the latter is not judged).
-QString pagesProblem(const JobSettings &settings, int pages);
+/// something can: page ranges that can't be read, or that the document has no page or side of
+/// (which is not judged where its pages are not known).
+QString pagesProblem(const JobSettings &settings, const DocumentSides &document);
 
 /// One sentence, without a full stop, for each of: staples in copies that are not collated; a
-/// booklet that the printer is to fold, of more sheets than it folds. `pages` as above.
+/// booklet that the printer is to fold, of more sheets than it folds. `pages` is the document's
+/// page count; 0: unknown.
 QStringList jobWarnings(const Marks &marks, const TicketValues &ticket, const JobSettings &settings,
                         int pages);
 

@@ -92,7 +92,7 @@ void JobStrip::connectControls() {
 void JobStrip::showState() {
   const JobSettings job = m_session.job().settings();
   m_copies->setSettings(job);
-  m_pages->setSettings(job, m_session.job().documentPages());
+  m_pages->setSettings(job, documentSides(m_session));
   const auto sides = commonSetting(m_session, CommonSetting::Sides);
   m_sidesLabel->parentWidget()->setVisible(sides.has_value());
   if (!sides) return;

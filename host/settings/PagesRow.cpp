@@ -93,8 +93,8 @@ void PagesRow::pick() {
   updateControls();
 }
 
-void PagesRow::setSettings(const JobSettings &settings, int documentPages) {
-  m_documentPages = documentPages;
+void PagesRow::setSettings(const JobSettings &settings, const DocumentSides &document) {
+  m_document = document;
   const Result<QString> typed = normalizedPageRanges(m_ranges->text());
   const bool hasRanges = !settings.pageRanges.isNull();
   if (hasRanges && (!typed || typed.value() != settings.pageRanges)) {
@@ -120,7 +120,7 @@ QString PagesRow::problem() const {
   if (const QString typing = typingProblem(); !typing.isNull()) return typing;
   JobSettings asked;
   asked.pageRanges = normalizedPageRanges(m_ranges->text()).value();
-  return pagesProblem(asked, m_documentPages);
+  return pagesProblem(asked, m_document);
 }
 
 void PagesRow::updateControls() {

@@ -4,6 +4,7 @@
 
 #include <QWidget>
 
+#include "host/session/JobWarnings.h"
 #include "host/ticket/JobSettings.h"
 
 class QLabel;
@@ -21,9 +22,9 @@ class PagesRow final : public QWidget {
  public:
   explicit PagesRow(QWidget *parent = nullptr);
 
-  /// Leaves a text alone that means the same, so that it can be typed in peace. `documentPages`
-  /// (0: unknown) is what ranges are held against.
-  void setSettings(const JobSettings &settings, int documentPages);
+  /// Leaves a text alone that means the same, so that it can be typed in peace. Ranges are held
+  /// against the document.
+  void setSettings(const JobSettings &settings, const DocumentSides &document);
 
   bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -45,7 +46,7 @@ class PagesRow final : public QWidget {
   QLabel *m_problem;
   /// A half-typed text is not wrong yet.
   bool m_isTyping = false;
-  int m_documentPages = 0;
+  DocumentSides m_document;
 };
 
 }  // namespace orvek

@@ -593,6 +593,10 @@
         <source>there is none of that name; choose another one</source>
         <translation>لا يوجد إعداد بهذا الاسم؛ اختر غيره</translation>
     </message>
+    <message>
+        <source>has no side that %1 asks for: the number of its sides is %2</source>
+        <translation>ليس فيه وجه مما يطلبه %1: عدد أوجهه %2</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -972,6 +976,10 @@
     <message>
         <source>The document has no page %1: the number of its pages is %2</source>
         <translation>لا توجد الصفحة %1 في المستند: عدد صفحاته %2</translation>
+    </message>
+    <message>
+        <source>None of the sides that are asked for exists: the number of sides is %1</source>
+        <translation>لا يوجد أي من الأوجه المطلوبة: عدد الأوجه %1</translation>
     </message>
 </context>
 <context>

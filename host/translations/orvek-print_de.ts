@@ -589,6 +589,10 @@
         <source>there is none of that name; choose another one</source>
         <translation>es gibt keine dieses Namens; wählen Sie eine andere</translation>
     </message>
+    <message>
+        <source>has no side that %1 asks for: the number of its sides is %2</source>
+        <translation>hat keine Seite, die %1 meint: die Zahl der bedruckten Seiten ist %2</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -956,6 +960,10 @@
     <message>
         <source>The document has no page %1: the number of its pages is %2</source>
         <translation>Das Dokument hat keine Seite %1: die Zahl seiner Seiten ist %2</translation>
+    </message>
+    <message>
+        <source>None of the sides that are asked for exists: the number of sides is %1</source>
+        <translation>Keine der gewünschten Seiten gibt es: die Zahl der bedruckten Seiten ist %1</translation>
     </message>
 </context>
 <context>

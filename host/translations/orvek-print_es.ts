@@ -589,6 +589,10 @@
         <source>there is none of that name; choose another one</source>
         <translation>no hay ninguno con ese nombre; elija otro</translation>
     </message>
+    <message>
+        <source>has no side that %1 asks for: the number of its sides is %2</source>
+        <translation>no tiene ninguna cara de las que pide %1: su número de caras es %2</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -956,6 +960,10 @@
     <message>
         <source>The document has no page %1: the number of its pages is %2</source>
         <translation>El documento no tiene la página %1: su número de páginas es %2</translation>
+    </message>
+    <message>
+        <source>None of the sides that are asked for exists: the number of sides is %1</source>
+        <translation>No existe ninguna de las caras pedidas: el número de caras es %1</translation>
     </message>
 </context>
 <context>

@@ -589,6 +589,10 @@
         <source>there is none of that name; choose another one</source>
         <translation>il n’en existe pas de ce nom ; choisissez-en un autre</translation>
     </message>
+    <message>
+        <source>has no side that %1 asks for: the number of its sides is %2</source>
+        <translation>n’a aucune face que demande %1 : le nombre de ses faces est %2</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -956,6 +960,10 @@
     <message>
         <source>The document has no page %1: the number of its pages is %2</source>
         <translation>Le document n’a pas de page %1 : le nombre de ses pages est %2</translation>
+    </message>
+    <message>
+        <source>None of the sides that are asked for exists: the number of sides is %1</source>
+        <translation>Aucune des faces demandées n’existe : le nombre de faces est %1</translation>
     </message>
 </context>
 <context>

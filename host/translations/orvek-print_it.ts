@@ -589,6 +589,10 @@
         <source>there is none of that name; choose another one</source>
         <translation>non ne esiste una con questo nome; sceglierne un’altra</translation>
     </message>
+    <message>
+        <source>has no side that %1 asks for: the number of its sides is %2</source>
+        <translation>non ha nessuna facciata richiesta da %1: il numero delle sue facciate è %2</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -956,6 +960,10 @@
     <message>
         <source>The document has no page %1: the number of its pages is %2</source>
         <translation>Il documento non ha la pagina %1: il numero delle sue pagine è %2</translation>
+    </message>
+    <message>
+        <source>None of the sides that are asked for exists: the number of sides is %1</source>
+        <translation>Nessuna delle facciate richieste esiste: il numero delle facciate è %1</translation>
     </message>
 </context>
 <context>

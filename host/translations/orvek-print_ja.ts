@@ -588,6 +588,10 @@
         <source>there is none of that name; choose another one</source>
         <translation>その名前のものはありません。別のものを選択してください</translation>
     </message>
+    <message>
+        <source>has no side that %1 asks for: the number of its sides is %2</source>
+        <translation>%1 で指定された面がありません（面の数は %2）</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -952,6 +956,10 @@
     <message>
         <source>The document has no page %1: the number of its pages is %2</source>
         <translation>文書にページ %1 がありません（ページ数は %2）</translation>
+    </message>
+    <message>
+        <source>None of the sides that are asked for exists: the number of sides is %1</source>
+        <translation>指定された面がありません（面の数は %1）</translation>
     </message>
 </context>
 <context>

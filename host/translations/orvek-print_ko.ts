@@ -588,6 +588,10 @@
         <source>there is none of that name; choose another one</source>
         <translation>그런 이름이 없습니다. 다른 것을 선택하세요</translation>
     </message>
+    <message>
+        <source>has no side that %1 asks for: the number of its sides is %2</source>
+        <translation>%1(으)로 지정한 면이 없습니다. 전체 면 수는 %2입니다</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -952,6 +956,10 @@
     <message>
         <source>The document has no page %1: the number of its pages is %2</source>
         <translation>문서에 %1페이지가 없습니다. 전체 페이지 수는 %2입니다</translation>
+    </message>
+    <message>
+        <source>None of the sides that are asked for exists: the number of sides is %1</source>
+        <translation>지정한 면이 없습니다. 전체 면 수는 %1입니다</translation>
     </message>
 </context>
 <context>

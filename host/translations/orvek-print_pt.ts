@@ -589,6 +589,10 @@
         <source>there is none of that name; choose another one</source>
         <translation>não há nenhuma com esse nome; escolha outra</translation>
     </message>
+    <message>
+        <source>has no side that %1 asks for: the number of its sides is %2</source>
+        <translation>não tem nenhuma face pedida por %1: o número de faces é %2</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -956,6 +960,10 @@
     <message>
         <source>The document has no page %1: the number of its pages is %2</source>
         <translation>O documento não tem a página %1: o número de páginas é %2</translation>
+    </message>
+    <message>
+        <source>None of the sides that are asked for exists: the number of sides is %1</source>
+        <translation>Nenhuma das faces pedidas existe: o número de faces é %1</translation>
     </message>
 </context>
 <context>

@@ -588,6 +588,10 @@
         <source>there is none of that name; choose another one</source>
         <translation>没有该名称的预设；请选择其他预设</translation>
     </message>
+    <message>
+        <source>has no side that %1 asks for: the number of its sides is %2</source>
+        <translation>没有 %1 所要求的面：总面数为 %2</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -952,6 +956,10 @@
     <message>
         <source>The document has no page %1: the number of its pages is %2</source>
         <translation>文档没有第 %1 页：总页数为 %2</translation>
+    </message>
+    <message>
+        <source>None of the sides that are asked for exists: the number of sides is %1</source>
+        <translation>没有所要求的面：总面数为 %1</translation>
     </message>
 </context>
 <context>

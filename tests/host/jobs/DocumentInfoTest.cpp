@@ -11,8 +11,10 @@
 #include <QImage>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include "tests/support/OddDocuments.h"
+#include "tests/support/OwnTool.h"
 #include "tests/support/Printers.h"
 
 namespace orvek::test {
@@ -28,6 +30,16 @@ class DocumentInfoTest : public testing::Test {
   }
 
   QTemporaryDir folder;
+};
+
+/// Takes the place of pdfinfo, and takes its time.
+class SlowPdfTool : public OwnTool {
+ public:
+  explicit SlowPdfTool(const QByteArray &seconds)
+      : OwnTool(QStringLiteral("pdfinfo"), "echo called >>calls\nexec sleep " + seconds + '\n') {}
+
+  /// How often it was called since that was asked last.
+  qsizetype calls() { return takeLines(QStringLiteral("calls")).size(); }
 };
 
 QString sample(const QString &name) {
@@ -58,12 +70,26 @@ TEST_F(DocumentInfoTest, TakesALookThatWasBegunAheadOnceAndLooksAnewThen) {
   EXPECT_EQ(documentInfo(path).pages, 5);
 }
 
+// A tool that would sleep for a minute stands for a document that takes long to look at.
 TEST_F(DocumentInfoTest, EndsALookThatWasBegunAheadWithTheQuestion) {
-  const QString path = write("a.ps", "%!PS-Adobe-3.0\n%%Pages: 12\n");
-  lookAhead(path);
+  const SlowPdfTool tool("60");
+  const QString path = write("a.pdf", "%PDF-1.4\n");
   lookAhead(path);
   const std::atomic<bool> cancelled = true;
-  EXPECT_EQ(documentInfo(path, cancelled).name, "a.ps");
+  QElapsedTimer timer;
+  timer.start();
+  EXPECT_EQ(documentInfo(path, cancelled).name, "a.pdf");
+  EXPECT_LT(timer.elapsed(), 1900);
+}
+
+TEST_F(DocumentInfoTest, LooksOnceHoweverOftenItIsBegunAhead) {
+  SlowPdfTool tool("0.2");
+  const QString path = write("a.pdf", "%PDF-1.4\n");
+  lookAhead(path);
+  ASSERT_TRUE(QTest::qWaitFor([&tool] { return tool.calls() == 1; }));
+  lookAhead(path);
+  EXPECT_EQ(documentInfo(path).name, "a.pdf");
+  EXPECT_EQ(tool.calls(), 0);
 }
 
 TEST_F(DocumentInfoTest, ReadsACountThatStandsAtTheEndOfALongFile) {

@@ -7,11 +7,11 @@
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
-#include <QFile>
-#include <QTemporaryDir>
 #include <QTest>
 #include <algorithm>
 #include <cstdlib>
+
+#include "tests/support/OwnTool.h"
 
 namespace orvek {
 namespace {
@@ -19,36 +19,16 @@ namespace {
 constexpr int patience = 20000;
 
 /// While it lives these lines of a shell are run in the renderer's place.
-class OwnRenderer {
+class OwnRenderer : public test::OwnTool {
  public:
-  explicit OwnRenderer(const QByteArray &lines) {
-    const QString path = m_folder.filePath(QStringLiteral("pdftoppm"));
-    QFile program(path);
-    EXPECT_TRUE(program.open(QIODevice::WriteOnly));
-    program.write("#!/bin/sh\ncd '" + m_folder.path().toUtf8() + "'\n" + lines);
-    program.close();
-    QFile::setPermissions(path, QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner);
-    qputenv("PATH", m_folder.path().toUtf8() + ':' + m_path);
-  }
-  OwnRenderer(const OwnRenderer &) = delete;
-  OwnRenderer &operator=(const OwnRenderer &) = delete;
-  ~OwnRenderer() { qputenv("PATH", m_path); }
+  explicit OwnRenderer(const QByteArray &lines) : OwnTool(QStringLiteral("pdftoppm"), lines) {}
 
   /// The numbers written to "pages" since it was asked last.
   QList<int> takePages() {
-    QFile file(m_folder.filePath(QStringLiteral("pages")));
     QList<int> pages;
-    if (!file.open(QIODevice::ReadOnly)) return pages;
-    for (const QByteArray &line : file.readAll().split('\n')) {
-      if (!line.isEmpty()) pages << line.toInt();
-    }
-    file.remove();
+    for (const QByteArray &line : takeLines(QStringLiteral("pages"))) pages << line.toInt();
     return pages;
   }
-
- private:
-  QTemporaryDir m_folder;
-  QByteArray m_path = qgetenv("PATH");
 };
 
 DocumentPages documentOf(int pages) {
@@ -98,8 +78,9 @@ class SheetsViewTest : public testing::Test {
     return QTest::qWaitFor([this] { return pictures.isIdle(); }, patience);
   }
 
-  // Fails at once: a page that can't be shown is not asked for again.
-  OwnRenderer renderer{"echo \"$3\" >>pages\n"};
+  // Fails: a page that can't be shown is not asked for again. Two are at work at once; each lasts
+  // long enough for a late start not to be overtaken by many.
+  OwnRenderer renderer{"echo \"$3\" >>pages\nsleep 0.1\n"};
   PagePictures pictures;
   SheetsView view{pictures};
 };

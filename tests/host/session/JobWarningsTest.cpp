@@ -171,8 +171,8 @@ TEST_F(JobWarnings, DoNotJudgeADocumentOfUnknownLength) {
 TEST(PagesProblem, IsWhatIsWrongWithRangesThatCanNotBeRead) {
   JobSettings settings;
   settings.pageRangesProblem = QStringLiteral("3-x: not a page range");
-  EXPECT_EQ(pagesProblem(settings, 8), "3-x: not a page range");
-  EXPECT_EQ(pagesProblem(settings, 0), "3-x: not a page range");
+  EXPECT_EQ(pagesProblem(settings, {8, {}}), "3-x: not a page range");
+  EXPECT_EQ(pagesProblem(settings, {}), "3-x: not a page range");
 }
 
 TEST(MaximumBookletSheets, AreThePrintersOrWhatIsUsual) {
@@ -201,10 +201,36 @@ TEST(JobWarningsWithoutPpd, KnowNoStaples) {
 TEST(PagesProblem, NamesPagesThatTheDocumentLacks) {
   JobSettings settings;
   settings.pageRanges = "9-12,99";
-  EXPECT_EQ(pagesProblem(settings, 8),
+  EXPECT_EQ(pagesProblem(settings, {8, {}}),
             "The document has no page 9-12,99: the number of its pages is 8");
-  EXPECT_TRUE(pagesProblem(settings, 9).isNull());
-  EXPECT_TRUE(pagesProblem(settings, 0).isNull());
+  EXPECT_TRUE(pagesProblem(settings, {9, {}}).isNull());
+  EXPECT_TRUE(pagesProblem(settings, {}).isNull());
+}
+
+TEST(PagesProblem, CountsSidesWhereTheFiltersDo) {
+  JobSettings settings;
+  settings.pageRanges = "3-";
+  DocumentSides document{8, {}};
+  document.filters.pagesPerSide = 4;
+  EXPECT_EQ(pagesProblem(settings, document),
+            "None of the sides that are asked for exists: the number of sides is 2");
+  document.pages = 9;
+  EXPECT_TRUE(pagesProblem(settings, document).isNull());
+}
+
+TEST(PagesProblem, CountsTheEmptyPlacesOfTheFiltersBooklet) {
+  JobSettings settings;
+  settings.pageRanges = "6";
+  DocumentSides document{5, {}};
+  document.filters.booklet = imposition::OwnBooklet::Order;
+  EXPECT_TRUE(pagesProblem(settings, document).isNull());
+}
+
+TEST(PagesProblem, KnowsThatOnePageHasNoEvenSide) {
+  DocumentSides document{1, {}};
+  document.filters.sides.parity = imposition::Parity::Even;
+  EXPECT_EQ(pagesProblem({}, document),
+            "None of the sides that are asked for exists: the number of sides is 1");
 }
 
 }  // namespace
