@@ -27,20 +27,31 @@ class WindowIntoFile : public DialogTest {
     open();
   }
 
-  // Takes what the chooser proposes, or writes another name.
+  // Takes what the chooser proposes, or writes another name. A list of names that opens meanwhile
+  // takes the first Return for itself.
   void choose(const QString &name = {}) {
-    QTimer::singleShot(100, dialog.get(), [this, name] {
+    auto *answer = new QTimer(dialog.get());
+    proposed = QString();
+    QObject::connect(answer, &QTimer::timeout, answer, [this, name, answer] {
       auto *chooser = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-      ASSERT_NE(chooser, nullptr);
-      auto *field = chooser->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-      proposed = chooser->directory().filePath(field->text());
-      field->setFocus();
-      if (!name.isNull()) {
-        field->selectAll();
-        QTest::keyClicks(field, name);
+      if (chooser == nullptr) {
+        if (!proposed.isNull()) answer->deleteLater();
+        return;
       }
+      auto *field = chooser->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+      if (proposed.isNull()) proposed = write(field, *chooser, name);
       QTest::keyClick(field, Qt::Key_Return);
     });
+    answer->start(50);
+  }
+
+  static QString write(QLineEdit *field, const QFileDialog &chooser, const QString &name) {
+    QString proposal = chooser.directory().filePath(field->text());
+    field->setFocus();
+    if (name.isNull()) return proposal;
+    field->selectAll();
+    QTest::keyClicks(field, name);
+    return proposal;
   }
 
   static QMessageBox *said() {
