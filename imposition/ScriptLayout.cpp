@@ -221,4 +221,10 @@ std::vector<FilteredSide> layOutAsScript(std::span<const Size> pages, const Filt
   return sides;
 }
 
+FilterJob knownToScripts(FilterJob job) {
+  job.pagesPerSide = scriptGrid(job.pagesPerSide).cells();
+  job.booklet = OwnBooklet::Off;
+  return job;
+}
+
 }  // namespace orvek::imposition

@@ -16,4 +16,8 @@ namespace orvek::imposition {
 /// where the paper has it. Nothing for no pages, or for paper without a size.
 std::vector<FilteredSide> layOutAsScript(std::span<const Size> pages, const FilterJob &job);
 
+/// The job as far as that filter knows it: of the sides that are made of a number of pages, and of
+/// which of them are printed, madeSides() and filteredSides() then tell as they do for PDF.
+FilterJob knownToScripts(FilterJob job);
+
 }  // namespace orvek::imposition

@@ -147,7 +147,7 @@ void PrintDialog::connectParts() {
 void PrintDialog::followSession() {
   m_notices->follow(*m_session);
   connect(m_session, &PrintSession::changed, this, &PrintDialog::updateControls);
-  m_session->job().setDocumentPages(m_documents->only().pages);
+  m_session->job().setDocumentPages(m_documents->only().pages, m_documents->only().isScript);
 }
 
 // Where it is the interface that is busy, that is said elsewhere.
@@ -181,7 +181,7 @@ void PrintDialog::followDocuments() {
   m_header->setTexts(m_documents->files().isEmpty() ? tr("No document") : m_documents->name(),
                      m_documents->detail());
   m_header->setAction(m_documents->remedy());
-  m_session->job().setDocumentPages(only.pages);
+  m_session->job().setDocumentPages(only.pages, only.isScript);
   m_view->setDocument(only);
   updateControls();
 }

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "host/jobs/Document.h"
+#include "imposition/ScriptLayout.h"
 #include "imposition/SideOptions.h"
 #include "platform/system/OptionMap.h"
 
@@ -56,8 +57,10 @@ QString choiceAmongSides(const QMap<QString, QString> &options) {
 
 }  // namespace
 
-Status checkAskedSides(const QString &path, int pages, const QMap<QString, QString> &options) {
-  const FilterJob job = filterJobOf(options);
+Status checkAskedSides(const QString &path, int pages, bool isScript,
+                       const QMap<QString, QString> &options) {
+  FilterJob job = filterJobOf(options);
+  if (isScript) job = imposition::knownToScripts(job);
   const int made = imposition::madeSides(pages, job);
   if (made == 0 || imposition::filteredSides(pages, job) > 0) return {};
   const auto failure = [&path](const Phrase &why) {

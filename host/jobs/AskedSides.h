@@ -10,9 +10,11 @@
 namespace orvek {
 
 /// Fails where the print system's filters would print none of the sides they make of a document
-/// with so many pages (0: unknown, and then not judged). They choose by "page-ranges" (RFC 8011)
+/// with so many pages (0: unknown, and then not judged), by the rules for PostScript or those for
+/// everything else. They choose by "page-ranges" (RFC 8011)
 /// and "page-set", which count sides: pages for most jobs, and fewer with "number-up". `path` names
 /// the document in what is said.
-Status checkAskedSides(const QString &path, int pages, const QMap<QString, QString> &options);
+Status checkAskedSides(const QString &path, int pages, bool isScript,
+                       const QMap<QString, QString> &options);
 
 }  // namespace orvek

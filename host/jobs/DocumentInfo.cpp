@@ -63,6 +63,7 @@ void readPostScript(DocumentInfo *info, QFile &file, const QString &start) {
     comments += QLatin1Char('\n') + QString::fromLatin1(file.read(commentBytes));
   }
   comments.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+  info->isScript = true;
   info->pages = numberIn(comments, QStringLiteral("^%%Pages:\\s*(\\d+)"));
 }
 
@@ -191,7 +192,8 @@ Status checkContents(const QStringList &files, const QMap<QString, QString> &opt
     const DocumentInfo info = documentInfo(file, cancelled);
     if (Status checked = usable(file, info.state); !checked) return checked;
     if (files.size() > 1) continue;
-    if (Status sides = checkAskedSides(file, info.pages, options); !sides) return sides;
+    if (Status sides = checkAskedSides(file, info.pages, info.isScript, options); !sides)
+      return sides;
   }
   return {};
 }

@@ -22,6 +22,8 @@ struct DocumentInfo {
   QString path;
   /// 0: unknown.
   int pages = 0;
+  /// PostScript, whose pages go by rules of their own on their way through the filters.
+  bool isScript = false;
   DocumentState state = DocumentState::Usable;
 };
 

@@ -15,6 +15,7 @@
 #include "host/ticket/PageRanges.h"
 #include "imposition/Finishing.h"
 #include "imposition/JobSheets.h"
+#include "imposition/ScriptLayout.h"
 #include "imposition/SideOptions.h"
 #include "platform/plugin/FinishingKeywords.h"
 #include "platform/printing/PrintSettings.h"
@@ -108,6 +109,9 @@ DocumentSides documentSides(PrintSession &session) {
         return value ? std::optional(value->toStdString()) : std::nullopt;
       },
       &document.filters);
+  if (session.job().documentIsScript()) {
+    document.filters = imposition::knownToScripts(document.filters);
+  }
   return document;
 }
 

@@ -43,10 +43,11 @@ void SessionJob::setSettings(const JobSettings &newSettings) {
                  newSettings.collate ? QStringLiteral("True") : QStringLiteral("False"));
 }
 
-void SessionJob::setDocumentPages(int pages) {
-  if (pages == m_documentPages) return;
+void SessionJob::setDocumentPages(int pages, bool isScript) {
+  if (pages == m_documentPages && isScript == m_documentIsScript) return;
   const ActionScope action(m_session);
   m_documentPages = pages;
+  m_documentIsScript = isScript;
 }
 
 // What makes no sense to a reader goes along as it was saved.

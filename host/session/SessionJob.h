@@ -39,7 +39,9 @@ class SessionJob {
   /// How many pages the document has; 0: unknown. No part of the job: what is said of it depends on
   /// it.
   int documentPages() const { return m_documentPages; }
-  void setDocumentPages(int pages);
+  /// Whether these are PostScript's, which the print system's filters treat by other rules.
+  bool documentIsScript() const { return m_documentIsScript; }
+  void setDocumentPages(int pages, bool isScript = false);
 
   /// Reads an option of the command line that is about job settings: false where it is none, or the
   /// PPD has an option for it; a Usage failure where its value makes no sense.
@@ -91,6 +93,7 @@ class SessionJob {
   AskedOptions m_saved;
   JobSettings m_first;
   int m_documentPages = 0;
+  bool m_documentIsScript = false;
 };
 
 }  // namespace orvek

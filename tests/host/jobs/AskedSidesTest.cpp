@@ -10,8 +10,8 @@
 namespace orvek::test {
 namespace {
 
-std::string said(int pages, const QMap<QString, QString> &options) {
-  const Status checked = checkAskedSides(QStringLiteral("a.pdf"), pages, options);
+std::string said(int pages, const QMap<QString, QString> &options, bool isScript = false) {
+  const Status checked = checkAskedSides(QStringLiteral("a.pdf"), pages, isScript, options);
   return checked ? std::string() : checked.failure().why.toStdString();
 }
 
@@ -34,6 +34,16 @@ TEST(AskedSides, AreFewerWithSeveralPagesOnEach) {
 
 TEST(AskedSides, AreMoreWhereTheFiltersFillABookletUp) {
   EXPECT_EQ(said(5, {{"page-ranges", "6"}, {"booklet", "shuffle-only"}}), "");
+}
+
+TEST(AskedSides, AreThoseThatTheFilterOfPostScriptMakes) {
+  const QMap<QString, QString> tenOnEach{{"page-ranges", "2-"}, {"number-up", "10"}};
+  EXPECT_NE(said(8, tenOnEach), "");
+  EXPECT_EQ(said(8, tenOnEach, true), "");
+  const QMap<QString, QString> fourOnEach{{"page-ranges", "3-"}, {"number-up", "4"}};
+  EXPECT_NE(said(8, fourOnEach, true), "");
+  const QMap<QString, QString> filledUp{{"page-ranges", "6"}, {"booklet", "shuffle-only"}};
+  EXPECT_EQ(said(5, filledUp, true), "has no page 6: the number of its pages is 5");
 }
 
 TEST(AskedSides, AreNotEvenOfASinglePage) {

@@ -218,6 +218,17 @@ TEST(PagesProblem, CountsSidesWhereTheFiltersDo) {
   EXPECT_TRUE(pagesProblem(settings, document).isNull());
 }
 
+TEST(PagesProblem, GoesByTheRulesForPostScriptWhereThatIsTheDocument) {
+  const auto session = PrintSession::begin({}).take();
+  session->job().setPagesPerSheet(10);
+  JobSettings settings;
+  settings.pageRanges = "2-";
+  session->job().setDocumentPages(8);
+  EXPECT_FALSE(pagesProblem(settings, documentSides(*session)).isNull());
+  session->job().setDocumentPages(8, true);
+  EXPECT_TRUE(pagesProblem(settings, documentSides(*session)).isNull());
+}
+
 TEST(PagesProblem, CountsTheEmptyPlacesOfTheFiltersBooklet) {
   JobSettings settings;
   settings.pageRanges = "6";
