@@ -76,19 +76,23 @@ void PrintDialog::build() {
   m_printers = m_choosers->printers();
   m_noticeBar = new NoticeBar(this);
   m_notices = new NoticeKeeper(*m_noticeBar, this);
-  m_strip = new JobStrip(*m_session, this);
-  m_view = new SessionView(*m_session, m_setup.document, this);
-  connect(m_view, &SessionView::pageTurned, m_strip, &JobStrip::assignLetters);
-  m_jobBar = new JobBar(this);
   m_job = new BackgroundJob(this);
   m_documents = new JobDocuments(m_job->files(), this);
   m_documents->begin(m_setup.files, m_setup.documentName, m_setup.document);
+  buildViews(*m_session);
+  m_jobBar = new JobBar(this);
   auto *column = new QVBoxLayout(this);
   column->setContentsMargins(margin, margin, margin, margin);
   column->setSpacing(spacing);
   column->addWidget(new ScrollingBody(buildBody(), this), 1);
   column->addWidget(separator(this));
   column->addWidget(buildFoot());
+}
+
+void PrintDialog::buildViews(PrintSession &session) {
+  m_strip = new JobStrip(session, this);
+  m_view = new SessionView(session, m_documents->only(), this);
+  connect(m_view, &SessionView::pageTurned, m_strip, &JobStrip::assignLetters);
 }
 
 QWidget *PrintDialog::buildHeader() {
@@ -201,7 +205,6 @@ void PrintDialog::showHeader() {
   m_printers->setFileIsPossible(m_session->origin().printer != nullptr);
   m_printers->show(m_setup.destination);
   if (PresetChooser *presets = m_choosers->presets()) presets->reload(m_setup.destination);
-  updateControls();
 }
 
 void PrintDialog::lookAround() {

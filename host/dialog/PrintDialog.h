@@ -89,6 +89,7 @@ class PrintDialog final : public QDialog {
  private:
   // Parts and what they show
   void build();
+  void buildViews(PrintSession &session);
   QWidget *buildHeader();
   QWidget *buildBody();
   QWidget *buildFoot();

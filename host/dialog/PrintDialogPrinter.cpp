@@ -92,13 +92,13 @@ void PrintDialog::takeFirst(std::unique_ptr<PrintSession> session, const QString
 void PrintDialog::takeSession(std::unique_ptr<PrintSession> session, const QString &destination) {
   m_session->disconnect(this);
   // The old ones give back what they borrowed before the old session goes.
-  auto *strip = new JobStrip(*session, this);
-  auto *view = new SessionView(*session, m_documents->only(), this);
-  delete m_body->replaceWidget(m_strip, strip);
-  delete m_body->replaceWidget(m_view, view);
-  delete std::exchange(m_strip, strip);
-  delete std::exchange(m_view, view);
-  connect(m_view, &SessionView::pageTurned, m_strip, &JobStrip::assignLetters);
+  JobStrip *oldStrip = m_strip;
+  SessionView *oldView = m_view;
+  buildViews(*session);
+  delete m_body->replaceWidget(oldStrip, m_strip);
+  delete m_body->replaceWidget(oldView, m_view);
+  delete oldStrip;
+  delete oldView;
   const std::unique_ptr<PrintSession> old = std::exchange(m_ownSession, std::move(session));
   m_session = m_ownSession.get();
   m_setup.destination = destination;

@@ -16,12 +16,8 @@ constexpr int mostSteps = 200;
 
 }  // namespace
 
-bool SessionState::operator==(const SessionState &other) const {
-  return job == other.job && ticket == other.ticket && marks == other.marks;
-}
-
 SessionState History::state() const {
-  return {m_session.marks().snapshot(), m_session.ticket().values(), m_session.job().settings()};
+  return {m_session.job().settings(), m_session.ticket().values(), m_session.marks().snapshot()};
 }
 
 void History::begin() {
@@ -62,15 +58,9 @@ bool History::joinsLast(const QString &typed) const {
   return m_isFresh && !typed.isNull() && !m_done.isEmpty() && m_done.constLast().typed == typed;
 }
 
-QList<HistoryEntry> History::done() const {
+QList<HistoryEntry> History::newestFirst(const QList<Step> &steps) {
   QList<HistoryEntry> entries;
-  for (auto step = m_done.crbegin(); step != m_done.crend(); ++step) entries << step->entry;
-  return entries;
-}
-
-QList<HistoryEntry> History::undone() const {
-  QList<HistoryEntry> entries;
-  for (auto step = m_undone.crbegin(); step != m_undone.crend(); ++step) entries << step->entry;
+  for (auto step = steps.crbegin(); step != steps.crend(); ++step) entries << step->entry;
   return entries;
 }
 

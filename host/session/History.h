@@ -17,11 +17,12 @@ class PrintSession;
 
 /// All that can be set in a session, at one moment. Belongs to the session's PPD, as its marks do.
 struct SessionState {
-  MarksSnapshot marks;
-  TicketValues ticket;
+  // What is compared at least expense stands first.
   JobSettings job;
+  TicketValues ticket;
+  MarksSnapshot marks;
 
-  bool operator==(const SessionState &other) const;
+  bool operator==(const SessionState &) const = default;
 };
 
 /// One act for those who show it. Plain data.
@@ -55,10 +56,10 @@ class History {
   int lastStep() const { return m_done.isEmpty() ? 0 : m_done.constLast().entry.step; }
 
   /// Newest first, as it can be taken back.
-  QList<HistoryEntry> done() const;
+  QList<HistoryEntry> done() const { return newestFirst(m_done); }
 
   /// In the order in which it can be done again.
-  QList<HistoryEntry> undone() const;
+  QList<HistoryEntry> undone() const { return newestFirst(m_undone); }
 
   /// Takes the last act back, or does again what was taken back last: the keywords of options and
   /// the ticket's keys that are others now. Nothing without one.
@@ -74,6 +75,7 @@ class History {
     SessionState after;
   };
 
+  static QList<HistoryEntry> newestFirst(const QList<Step> &steps);
   SessionState state() const;
   bool joinsLast(const QString &typed) const;
   QStringList go(const SessionState &from, const SessionState &to);
