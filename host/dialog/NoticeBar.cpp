@@ -3,7 +3,6 @@
 
 #include "host/dialog/NoticeBar.h"
 
-#include <QAccessibleWidget>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QPushButton>
@@ -12,6 +11,7 @@
 
 #include "host/settings/Announcement.h"
 #include "platform/ui/PlainText.h"
+#include "platform/ui/SpokenRole.h"
 
 namespace orvek {
 namespace {
@@ -28,12 +28,6 @@ QColor mixed(const QColor &background, const QColor &colour, qreal share) {
   return QColor::fromRgbF(float(part(background.redF(), colour.redF())),
                           float(part(background.greenF(), colour.greenF())),
                           float(part(background.blueF(), colour.blueF())));
-}
-
-// A frame is passed over by whoever listens; a notification is read when it shows.
-QAccessibleInterface *speechOf(const QString &, QObject *object) {
-  auto *bar = qobject_cast<NoticeBar *>(object);
-  return bar == nullptr ? nullptr : new QAccessibleWidget(bar, QAccessible::Notification);
 }
 
 }  // namespace
@@ -63,11 +57,8 @@ NoticeBar::NoticeBar(QWidget *parent)
 }
 
 void NoticeBar::nameParts() {
-  static const bool speaks = [] {
-    QAccessible::installFactory(speechOf);
-    return true;
-  }();
-  static_cast<void>(speaks);
+  // A frame is passed over by whoever listens; a notification is read when it shows.
+  speakAs<NoticeBar, QAccessible::Notification>();
   setObjectName(QStringLiteral("noticeBar"));
   m_text->setObjectName(QStringLiteral("noticeText"));
   m_text->setWordWrap(true);

@@ -3,24 +3,13 @@
 
 #include "host/panels/HostedPanel.h"
 
-#include <QFrame>
-#include <QGroupBox>
 #include <algorithm>
 #include <utility>
 
 #include "host/panels/PanelContainer.h"
+#include "platform/ui/Frames.h"
 
 namespace orvek {
-namespace {
-
-// Of no use but to hold others; a class of a plug-in's own may paint anything.
-bool isFrame(const QWidget *widget) {
-  const QMetaObject *type = widget->metaObject();
-  return type == &QWidget::staticMetaObject || type == &QFrame::staticMetaObject ||
-         type == &QGroupBox::staticMetaObject;
-}
-
-}  // namespace
 
 HostedPanel::HostedPanel(std::shared_ptr<PDEPanel> panel)
     : m_panel(std::move(panel)), m_container(new PanelContainer) {}
@@ -55,10 +44,10 @@ QWidget *HostedPanel::view() const {
 
 bool HostedPanel::hasContent() const {
   if (!m_view) return false;
-  if (!isFrame(m_view)) return true;
+  if (!onlyHoldsViews(m_view)) return true;
   const QList<QWidget *> parts = m_view->findChildren<QWidget *>();
   return std::any_of(parts.begin(), parts.end(), [this](const QWidget *part) {
-    return !isFrame(part) && part->isVisibleTo(m_view);
+    return !onlyHoldsViews(part) && part->isVisibleTo(m_view);
   });
 }
 

@@ -4,13 +4,13 @@
 
 #include "host/preview/SheetsView.h"
 
-#include <QAccessibleWidget>
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
 #include <cmath>
 
 #include "platform/ui/FocusMark.h"
+#include "platform/ui/SpokenRole.h"
 
 namespace orvek {
 namespace {
@@ -36,21 +36,12 @@ QSizeF largestOf(const std::vector<PrintedSide> &sides) {
   return largest;
 }
 
-// A picture, not something that others stand in.
-QAccessibleInterface *speechOf(const QString &, QObject *object) {
-  auto *view = qobject_cast<SheetsView *>(object);
-  return view == nullptr ? nullptr : new QAccessibleWidget(view, QAccessible::Graphic);
-}
-
 }  // namespace
 
 SheetsView::SheetsView(PagePictures &pictures, QWidget *parent)
     : QAbstractScrollArea(parent), m_pictures(pictures) {
-  static const bool speaks = [] {
-    QAccessible::installFactory(speechOf);
-    return true;
-  }();
-  static_cast<void>(speaks);
+  // A picture, not something that others stand in.
+  speakAs<SheetsView, QAccessible::Graphic>();
   setFocusPolicy(Qt::StrongFocus);
   setFrameShape(QFrame::NoFrame);
   viewport()->setBackgroundRole(QPalette::Window);

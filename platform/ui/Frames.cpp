@@ -65,16 +65,9 @@ void keepSubviewsPinned(QWidget *view, QSize before) {
   }
 }
 
-// Of no use but to hold others: what stands in any other view is its own business.
-bool holdsViews(const QWidget *view) {
-  const QMetaObject *type = view->metaObject();
-  return view->layout() == nullptr &&
-         (type == &QWidget::staticMetaObject || type == &QFrame::staticMetaObject ||
-          type == &QGroupBox::staticMetaObject);
-}
-
+// What stands in any other view is its own business.
 void adoptSubviews(QWidget *view, double scale) {
-  if (!holdsViews(view)) return;
+  if (!onlyHoldsViews(view) || view->layout() != nullptr) return;
   for (QWidget *subview : subviewsOf(view)) {
     const QRect designed = subview->geometry();
     if (scale > 1) subview->setProperty(scaleProperty, scale);
@@ -85,6 +78,13 @@ void adoptSubviews(QWidget *view, double scale) {
 }
 
 }  // namespace
+
+bool onlyHoldsViews(const QWidget *view) {
+  if (view == nullptr) return false;
+  const QMetaObject *type = view->metaObject();
+  return type == &QWidget::staticMetaObject || type == &QFrame::staticMetaObject ||
+         type == &QGroupBox::staticMetaObject;
+}
 
 void adoptDesign(QWidget *root) {
   if (root == nullptr) return;

@@ -19,6 +19,10 @@ enum class PinnedEdge { Top, Bottom };
 /// "bottom".
 inline constexpr const char *pinnedProperty = "pinned";
 
+/// Whether a view is of no use but to hold others, by its class: one of a plug-in's own may paint
+/// anything. False for an absent view.
+bool onlyHoldsViews(const QWidget *view);
+
 /// Has a tree of views that was designed for text of the usual size, read from the left, stand as
 /// the application is now: grown with its text, and mirrored where it is read from the right. Its
 /// frames are as designed from then on. To be called once, before anything is moved. Nothing for an

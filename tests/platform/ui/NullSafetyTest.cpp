@@ -23,6 +23,7 @@ namespace {
 const QString text = QStringLiteral("text");
 
 TEST(AnAbsentView, HasNoFrameAndTakesNone) {
+  EXPECT_FALSE(onlyHoldsViews(nullptr));
   setFrame(nullptr, QRectF(1, 2, 3, 4));
   setFrameSize(nullptr, QSizeF(3, 4));
   EXPECT_EQ(frame(nullptr), QRectF());
