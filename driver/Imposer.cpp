@@ -169,6 +169,10 @@ int countMissing(const Pages &pages) {
 Result<ImposedSheets> impose(QPDF &document, Pipeline *sheets, const BookletRequest &request) {
   auto pages = pagesOf(document);
   if (!pages) return pages.failure();
+  if (pages.value().empty()) {
+    return Failure{FailureKind::Io, QStringLiteral("the document"),
+                   QStringLiteral("it has no pages")};
+  }
   const int missing = countMissing(pages.value());
   if (request.mayBeginWithFiller) dropFiller(pages.value());
   if (request.isTurnedForTray) std::reverse(pages.value().begin(), pages.value().end());

@@ -52,9 +52,7 @@ Result<std::vector<QPDFPageObjectHelper>> pagesOf(QPDF &document) {
   if (Status checked = checkTree(document.getRoot().getKey("/Pages")); !checked) {
     return checked.failure();
   }
-  auto pages = QPDFPageDocumentHelper(document).getAllPages();
-  if (pages.empty()) return malformed(noPagesReason);
-  return pages;
+  return QPDFPageDocumentHelper(document).getAllPages();
 }
 
 void replacePages(QPDF &document, const std::vector<QPDFObjectHandle> &pages) {

@@ -9,11 +9,8 @@
 
 namespace orvek::driver {
 
-/// Why pagesOf() fails for a document without pages.
-inline constexpr const char *noPagesReason = "it has no pages";
-
-/// All pages in their order. Fails for a tree that runs in circles or is nested beyond all reason:
-/// libqpdf descends into it by recursion.
+/// All pages in their order; a document may have none. Fails for a tree that runs in circles or is
+/// nested beyond all reason: libqpdf descends into it by recursion.
 Result<std::vector<QPDFPageObjectHelper>> pagesOf(QPDF &document);
 
 /// Puts these pages in place of all others, and leaves out of the catalog what speaks of those.

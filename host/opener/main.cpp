@@ -2,8 +2,7 @@
 // orvek-pdf-opener: says whether a PDF can be printed, as the filters would read and repair it, and
 // writes a copy of a protected one that they can open.
 
-#include <sys/resource.h>
-
+#include <cstdint>
 #include <cstdio>
 #include <exception>
 #include <fstream>
@@ -19,6 +18,7 @@
 #include <qpdf/QUtil.hh>
 
 #include "host/jobs/OpenerCall.h"
+#include "platform/system/MemoryLimit.h"
 
 namespace {
 
@@ -27,14 +27,7 @@ using namespace orvek;
 constexpr int misused = 2;
 constexpr int callForLook = 2;
 constexpr int callForCopy = 4;
-
-void limitMemory() {
-#if !defined(__SANITIZE_ADDRESS__)
-  constexpr rlim_t mostMemory = rlim_t{2} << 30;
-  const rlimit memory{mostMemory, mostMemory};
-  ::setrlimit(RLIMIT_AS, &memory);
-#endif
-}
+constexpr std::uint64_t mostMemory = std::uint64_t{2} << 30;
 
 int answer(const char *word) {
   std::puts(word);
@@ -80,11 +73,9 @@ int look(QPDF &document, const char *copy) {
   // Without a root there is no tree to walk.
   if (!document.getRoot().getKey("/Pages").isDictionary()) return answer(opener::damagedWord);
   const auto pages = driver::pagesOf(document);
-  if (!pages) {
-    const bool isEmpty = pages.failure().why == QLatin1String(driver::noPagesReason);
-    return answer(isEmpty ? opener::noPagesWord : opener::damagedWord);
-  }
+  if (!pages) return answer(opener::damagedWord);
   const std::size_t count = pages.value().size();
+  if (count == 0) return answer(opener::noPagesWord);
   if (copy != nullptr && !writeCopy(document, copy)) return answer(opener::unwrittenWord);
   std::printf("%s %zu\n", opener::pagesWord, count);
   return 0;
@@ -107,7 +98,7 @@ int main(int count, char **words) {
     std::fputs("orvek-pdf-opener: is started by orvek-print, with the document to open\n", stderr);
     return misused;
   }
-  limitMemory();
+  limitMemory(mostMemory);
   try {
     return open({words, static_cast<std::size_t>(count)});
   } catch (const std::exception &) {

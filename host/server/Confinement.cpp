@@ -9,24 +9,22 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <cstdint>
 #include <thread>
+
+#include "platform/system/MemoryLimit.h"
 
 namespace orvek {
 namespace {
 
-#if !defined(__SANITIZE_ADDRESS__)
-constexpr rlim_t mostMemory = rlim_t{512} << 20;
-#endif
+constexpr std::uint64_t mostMemory = std::uint64_t{512} << 20;
 constexpr unsigned leftSeconds = 5;
 constexpr int endedWithProgram = 1;
 
 }  // namespace
 
-void limitMemory() {
-#if !defined(__SANITIZE_ADDRESS__)
-  const rlimit memory{mostMemory, mostMemory};
-  ::setrlimit(RLIMIT_AS, &memory);
-#endif
+void stayWithinBounds() {
+  limitMemory(mostMemory);
   const rlimit none{0, 0};
   ::setrlimit(RLIMIT_CORE, &none);
 }

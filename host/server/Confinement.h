@@ -5,7 +5,7 @@
 namespace orvek {
 
 /// Little memory, and no image of it on the disk. To be called before anything else.
-void limitMemory();
+void stayWithinBounds();
 
 /// Ends the process once the other end of `socket` is closed, which takes no more than the end of
 /// the program that has it.

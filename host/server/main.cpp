@@ -70,7 +70,7 @@ void answerAll(const CupsConnection &connection, ProgramLink &link, bool isLeft)
 }  // namespace
 
 int main() {
-  limitMemory();
+  stayWithinBounds();
   outliveFileSizeLimits();
   std::setlocale(LC_ALL, "");
   ProgramLink link(STDIN_FILENO);
