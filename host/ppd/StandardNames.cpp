@@ -27,9 +27,16 @@ QString named(const char *name) {
   return name == nullptr ? QString() : QCoreApplication::translate(standardNamesContext, name);
 }
 
+bool isAmong(const char *keywords, const QString &keyword) {
+  for (const QLatin1String each : QLatin1String(keywords).tokenize(u' ')) {
+    if (each == keyword) return true;
+  }
+  return false;
+}
+
 const char *find(StandardWords words, const QString &keyword) {
   const auto found = std::find_if(words.begin(), words.end(), [&](const StandardWord &word) {
-    return keyword == QLatin1String(word.keyword);
+    return isAmong(word.keywords, keyword);
   });
   return found == words.end() ? nullptr : found->name;
 }
@@ -72,7 +79,7 @@ QString numbered(StandardWords words, const QString &choice) {
 QString placed(StandardWords words, const QString &choice) {
   if (words.empty()) return {};
   for (const StandardWord &place : placesOfTheSheet()) {
-    const QLatin1String keyword(place.keyword);
+    const QLatin1String keyword(place.keywords);
     if (!choice.endsWith(keyword)) continue;
     const char *kind = find(words, choice.chopped(keyword.size()));
     return kind == nullptr ? QString() : Text::tr("%1, %2").arg(named(kind), named(place.name));
@@ -124,7 +131,7 @@ QString standardPaperName(const QString &keyword) {
       media != nullptr && media->ppd != nullptr ? QString::fromLatin1(media->ppd) : keyword;
   if (const QString name = paperWithoutSuffix(size); !name.isNull()) return name;
   for (const StandardWord &suffix : paperSuffixes()) {
-    const QLatin1String end(suffix.keyword);
+    const QLatin1String end(suffix.keywords);
     if (!size.endsWith(end, Qt::CaseInsensitive)) continue;
     QString base = size.chopped(end.size());
     if (base.endsWith(u'.') || base.endsWith(u'_')) base.chop(1);

@@ -8,9 +8,10 @@
 
 namespace orvek {
 
-/// A keyword, or a part of one, in small letters without hyphens; what it is called. Plain data.
+/// Keywords, or parts of them, that mean the same, and what that is called. Plain data.
 struct StandardWord {
-  const char *keyword;
+  /// In small letters without hyphens, with spaces between; one only in tables whose order matters.
+  const char *keywords;
   const char *name;
 };
 
@@ -18,16 +19,16 @@ using StandardWords = std::span<const StandardWord>;
 
 /// Options that mean the same and share the names of their choices. Plain data.
 struct StandardOption {
-  /// In small letters without hyphens, with spaces between; one at either end, too.
+  /// In small letters without hyphens, with spaces between.
   const char *keywords;
   const char *name;
-  StandardWords choices;
+  StandardWords choices = {};
   /// More of them, which other options have, too.
-  StandardWords shared;
+  StandardWords shared = {};
   /// Beginnings of choices that end with a number: "tray" of "Tray2" is "Tray %1".
-  StandardWords numbered;
+  StandardWords numbered = {};
   /// Beginnings of choices that end with a place of the sheet, as "stapletopleft" does.
-  StandardWords placed;
+  StandardWords placed = {};
 };
 
 /// Every standard option but those that choose a size of paper.

@@ -125,11 +125,26 @@ TEST(StandardNames, KnowTheWordsOfPrintServers) {
 TEST(StandardNames, AreLookedUpByPlainKeywords) {
   static const QRegularExpression plain(QStringLiteral("^[a-z0-9]*$"));
   for (const StandardOption &option : standardOptions()) {
-    const QString keywords = QString::fromLatin1(option.keywords).trimmed();
-    EXPECT_EQ(standardOptionName(keywords.section(u' ', 0, 0)), QLatin1String(option.name));
+    const QString keyword = QString::fromLatin1(option.keywords).section(u' ', 0, 0);
+    EXPECT_EQ(standardOptionName(keyword), QLatin1String(option.name));
     for (const StandardWords &words : {option.choices, option.numbered, option.placed}) {
       for (const StandardWord &word : words) {
-        EXPECT_TRUE(plain.match(QLatin1String(word.keyword)).hasMatch()) << word.keyword;
+        for (const QString &each : QString::fromLatin1(word.keywords).split(u' ')) {
+          EXPECT_TRUE(plain.match(each).hasMatch()) << word.keywords;
+        }
+      }
+    }
+  }
+}
+
+TEST(StandardNames, AreTheSameByEachOfTheirKeywords) {
+  for (const StandardOption &option : standardOptions()) {
+    for (const QString &keyword : QString::fromLatin1(option.keywords).split(u' ')) {
+      EXPECT_EQ(standardOptionName(keyword), QLatin1String(option.name));
+      for (const StandardWord &word : option.choices) {
+        for (const QString &choice : QString::fromLatin1(word.keywords).split(u' ')) {
+          EXPECT_EQ(standardChoiceName(keyword, choice), QLatin1String(word.name));
+        }
       }
     }
   }
