@@ -26,9 +26,9 @@ class BackgroundJob : public QObject {
   explicit BackgroundJob(QObject *parent = nullptr);
   ~BackgroundJob() override;
 
-  /// Starts; does nothing while a job runs. Where a document comes once only, or was
-  /// replaced in files(), `work` is given a file in its place; what it says of that file is said of
-  /// the document.
+  /// Starts; does nothing while a job runs. Where a document comes once only, or was replaced in
+  /// files(), `work` is given a file in its place; what it says of that file is said of the
+  /// document.
   void start(const JobRequest &request, Work work);
 
   /// Asks the job to end. `failed` follows, of the kind Cancelled; at once where possible.

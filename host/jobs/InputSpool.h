@@ -45,9 +45,9 @@ class InputSpool {
 /// that.
 class DocumentFiles {
  public:
-  /// For every document a file with its bytes: its own, a copy where it comes once only, or
-  /// what has replaced it.  /// `beginOfStandardInput` has been read of that already. Fails as
-  /// InputSpool does; as cancelled also where that was waited for.
+  /// For every document a file with its bytes: its own, a copy where it comes once only, or what
+  /// has replaced it. `beginOfStandardInput` has been read of that already. Fails as InputSpool
+  /// does; as cancelled also where that was waited for.
   Result<QStringList> of(const QStringList &documents, const std::atomic<bool> &cancelled,
                          const QByteArray &beginOfStandardInput = {});
   Result<QStringList> of(const QStringList &documents, const JobControl &control,

@@ -30,7 +30,15 @@ class Notices : public DialogTest {
   QString folding() const { return session->marks().marked(QStringLiteral("OVKFolding")); }
   QString stapling() const { return session->marks().marked(QStringLiteral("OVKStapling")); }
   QString said() const { return notices().sentences().join(u'\n'); }
-  QString undoText() const { return find<QPushButton>("undoButton")->text(); }
+
+  /// The fold, and with it what came after that.
+  void expectThatUndoBringsTheFoldBack() {
+    EXPECT_EQ(find<QPushButton>("undoButton")->text(), "&Undo 2 steps");
+    click("undoButton");
+    EXPECT_EQ(folding(), "Saddle");
+    EXPECT_EQ(stapling(), "None");
+    EXPECT_FALSE(notices().isVisible());
+  }
 };
 
 TEST_F(Notices, StandWhenTheNextChoiceIsMade) {
@@ -41,11 +49,7 @@ TEST_F(Notices, StandWhenTheNextChoiceIsMade) {
   pressIn("staplingPopup", Qt::Key_Down);
   EXPECT_TRUE(notices().isVisible());
   EXPECT_EQ(said(), first);
-  EXPECT_EQ(undoText(), "&Undo 2 steps");
-  click("undoButton");
-  EXPECT_EQ(folding(), "Saddle");
-  EXPECT_EQ(stapling(), "None");
-  EXPECT_FALSE(notices().isVisible());
+  expectThatUndoBringsTheFoldBack();
 }
 
 TEST_F(Notices, KeepTheirUndoWhenAnotherOneComes) {
@@ -57,11 +61,7 @@ TEST_F(Notices, KeepTheirUndoWhenAnotherOneComes) {
   EXPECT_EQ(find<QLabel>("noticePlace")->text(), "2 of 2");
   click("noticeEarlier");
   EXPECT_EQ(said(), first);
-  EXPECT_EQ(undoText(), "&Undo 2 steps");
-  click("undoButton");
-  EXPECT_EQ(folding(), "Saddle");
-  EXPECT_EQ(stapling(), "None");
-  EXPECT_FALSE(notices().isVisible());
+  expectThatUndoBringsTheFoldBack();
 }
 
 TEST_F(Notices, GiveWayToTheOneBeforeWhenDismissed) {
