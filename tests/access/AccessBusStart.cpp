@@ -9,6 +9,7 @@
 #include <QTest>
 
 #include "tests/access/AccessBus.h"
+#include "tests/support/EndsWithTest.h"
 
 namespace orvek::test {
 namespace {
@@ -35,7 +36,9 @@ void end(QProcess &process) {
 
 }  // namespace
 
-AccessBus::AccessBus() = default;
+AccessBus::AccessBus() {
+  for (QProcess *process : {&m_screen, &m_session, &m_launcher}) endWithTest(*process);
+}
 
 AccessBus::~AccessBus() {
   for (const char *name : {"access-a11y", "access-session"}) {

@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "tests/access/AccessBus.h"
+#include "tests/support/EndsWithTest.h"
 
 namespace orvek::test {
 
@@ -38,6 +39,7 @@ class AccessTest : public testing::Test {
     for (auto each = surroundings.begin(); each != surroundings.end(); ++each) {
       environment.insert(each.key(), each.value());
     }
+    endWithTest(program);
     program.setProcessEnvironment(environment);
     program.setProcessChannelMode(QProcess::MergedChannels);
     program.start(QStringLiteral(ORVEK_BINARY_DIR "/bin/orvek-print"),
