@@ -2,25 +2,17 @@
 // Asks for the password of a protected document.
 #pragma once
 
-#include <QDialog>
-
-class QLineEdit;
+#include "host/dialog/PasswordForm.h"
 
 namespace orvek {
 
-/// The window; the password is not shown. Belongs to its parent, owns its child controls, and lives
-/// on the interface's thread. Nothing fails: whoever cancels gave no password.
-class DocumentPassword final : public QDialog {
+/// The window, a form like others.
+class DocumentPassword final : public PasswordForm {
   Q_OBJECT
 
  public:
   /// `isRepeated`: the one before did not open it.
   DocumentPassword(const QString &document, bool isRepeated, QWidget *parent);
-
-  QString password() const;
-
- private:
-  QLineEdit *m_password;
 };
 
 }  // namespace orvek

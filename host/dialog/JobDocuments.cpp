@@ -12,7 +12,6 @@
 
 #include "host/dialog/DocumentHeader.h"
 #include "host/dialog/DocumentPassword.h"
-#include "host/dialog/PrintDialog.h"
 #include "host/jobs/Document.h"
 #include "host/translations/FailureText.h"
 
@@ -26,7 +25,7 @@ DocumentInfo knownOf(const QString &document, DocumentFiles &copies,
   const auto files = copies.of({document}, cancelled);
   if (files) {
     known = documentInfo(files.value().constFirst(), cancelled);
-  } else if (files.failure().why == emptyDocument(document).why) {
+  } else if (isEmptyDocument(files.failure())) {
     known.state = DocumentState::Empty;
   }
   known.name = documentsInWords({document});
@@ -58,7 +57,7 @@ QString documentsInWords(const QStringList &files) {
   const QString name =
       isStandardInput(first) ? translated(documentName(first)) : QFileInfo(first).fileName();
   if (files.size() < 2) return name;
-  return PrintDialog::tr("%1 and %2 more").arg(name).arg(files.size() - 1);
+  return JobDocuments::tr("%1 and %2 more").arg(name).arg(files.size() - 1);
 }
 
 JobDocuments::JobDocuments(std::shared_ptr<DocumentFiles> copies, QWidget *window)
@@ -99,23 +98,23 @@ void JobDocuments::takeKnown(const QList<DocumentInfo> &known) {
   askPassword(false);
 }
 
-const DocumentInfo *JobDocuments::faulty() const {
+DocumentInfo JobDocuments::faulty() const {
   const auto found = std::find_if(m_known.begin(), m_known.end(), [](const DocumentInfo &known) {
     return known.state != DocumentState::Usable;
   });
-  return found == m_known.end() ? nullptr : &*found;
+  return found == m_known.end() ? DocumentInfo() : *found;
 }
 
-qsizetype JobDocuments::locked() const {
-  const auto found = std::find_if(m_known.begin(), m_known.end(), [](const DocumentInfo &known) {
-    return known.state == DocumentState::Locked;
-  });
-  return found == m_known.end() ? -1 : found - m_known.begin();
+bool JobDocuments::needsPassword() const {
+  return faulty().state == DocumentState::Locked;
 }
 
 void JobDocuments::askPassword(bool isRepeated) {
-  const qsizetype place = locked();
-  if (place < 0) return;
+  const auto locked = std::find_if(m_known.begin(), m_known.end(), [](const DocumentInfo &known) {
+    return known.state == DocumentState::Locked;
+  });
+  if (locked == m_known.end()) return;
+  const qsizetype place = locked - m_known.begin();
   auto *question = new DocumentPassword(m_known[place].name, isRepeated, m_window);
   question->setAttribute(Qt::WA_DeleteOnClose);
   connect(question, &QDialog::accepted, this,
@@ -157,29 +156,26 @@ void JobDocuments::takeOpened(const Opening &opening) {
 QString JobDocuments::detail() const {
   if (m_files.isEmpty()) return tr("Choose a file, or drop one here");
   if (m_isOpening) return tr("Opening…");
-  const DocumentInfo *document = faulty();
-  if (document != nullptr && document->state == DocumentState::Locked) {
-    return tr("Protected by a password");
-  }
-  if (document != nullptr) return tr("Can't be printed");
+  if (needsPassword()) return tr("Protected by a password");
+  if (!problem().isNull()) return tr("Can't be printed");
   const QString pages = pagesInWords(m_only.pages);
-  return pages.isNull() ? PrintDialog::tr("Document") : pages;
+  return pages.isNull() ? tr("Document") : pages;
 }
 
 QString JobDocuments::problem() const {
   if (m_files.isEmpty()) return tr("There is no document yet");
-  const DocumentInfo *document = faulty();
-  switch (document == nullptr ? DocumentState::Usable : document->state) {
+  const DocumentInfo document = faulty();
+  switch (document.state) {
     case DocumentState::Locked:
-      return tr("%1 needs its password").arg(document->name);
+      return tr("%1 needs its password").arg(document.name);
     case DocumentState::Damaged:
-      return tr("%1 is damaged beyond repair").arg(document->name);
+      return tr("%1 is damaged beyond repair").arg(document.name);
     case DocumentState::NoPages:
-      return tr("%1 has no pages").arg(document->name);
+      return tr("%1 has no pages").arg(document.name);
     case DocumentState::Empty:
-      return tr("%1 is empty").arg(document->name);
+      return tr("%1 is empty").arg(document.name);
     case DocumentState::Unreadable:
-      return tr("%1 can't be read").arg(document->name);
+      return tr("%1 can't be read").arg(document.name);
     case DocumentState::Usable:
       break;
   }
@@ -188,15 +184,12 @@ QString JobDocuments::problem() const {
 
 QString JobDocuments::remedy() const {
   if (m_isOpening || problem().isNull()) return {};
-  const DocumentInfo *document = faulty();
-  const bool isLocked = document != nullptr && document->state == DocumentState::Locked;
-  return isLocked ? tr("Enter Password…") : tr("Choose File…");
+  return needsPassword() ? tr("Enter Password…") : tr("Choose File…");
 }
 
 void JobDocuments::applyRemedy() {
   if (remedy().isNull()) return;
-  const DocumentInfo *document = faulty();
-  if (document != nullptr && document->state == DocumentState::Locked) {
+  if (needsPassword()) {
     askPassword(false);
   } else {
     chooseFiles();

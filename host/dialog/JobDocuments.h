@@ -63,8 +63,9 @@ class JobDocuments final : public QObject {
 
   void take(const QStringList &files);
   void takeKnown(const QList<DocumentInfo> &known);
-  const DocumentInfo *faulty() const;
-  qsizetype locked() const;
+  /// The first that can't be printed; a usable one where all can.
+  DocumentInfo faulty() const;
+  bool needsPassword() const;
   void askPassword(bool isRepeated);
   void open(qsizetype place, const QString &password);
   void takeOpened(const Opening &opening);

@@ -5,16 +5,11 @@
 #include "host/dialog/PasswordDialog.h"
 
 #include <QApplication>
-#include <QDialogButtonBox>
-#include <QFormLayout>
+#include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QThread>
-#include <QVBoxLayout>
 #include <chrono>
 #include <condition_variable>
-
-#include "platform/ui/PlainText.h"
 
 namespace orvek {
 namespace {
@@ -38,35 +33,17 @@ QString wordsFor(const PasswordQuestion &question) {
 }  // namespace
 
 PasswordDialog::PasswordDialog(const PasswordQuestion &question, QWidget *parent)
-    : QDialog(parent), m_user(new QLineEdit(question.user, this)), m_password(new QLineEdit(this)) {
-  setWindowTitle(tr("Password"));
+    : PasswordForm(wordsFor(question), tr("&Sign In"), parent),
+      m_user(new QLineEdit(question.user, this)) {
   setObjectName(QStringLiteral("passwordDialog"));
-  auto *words = new PlainLabel(wordsFor(question), this);
-  words->setObjectName(QStringLiteral("passwordWords"));
+  words()->setObjectName(QStringLiteral("passwordWords"));
   m_user->setObjectName(QStringLiteral("userField"));
-  m_password->setObjectName(QStringLiteral("passwordField"));
-  m_password->setEchoMode(QLineEdit::Password);
-  auto *form = new QFormLayout;
-  form->addRow(tr("&Name:"), m_user);
-  form->addRow(tr("&Password:"), m_password);
-  auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-  QPushButton *ok = buttons->button(QDialogButtonBox::Ok);
-  ok->setText(tr("&Sign In"));
-  ok->setEnabled(false);
-  buttons->button(QDialogButtonBox::Cancel)->setText(tr("Cancel"));
-  connect(m_password, &QLineEdit::textChanged, ok,
-          [ok](const QString &text) { ok->setEnabled(!text.isEmpty()); });
-  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-  auto *column = new QVBoxLayout(this);
-  column->addWidget(words);
-  column->addLayout(form);
-  column->addWidget(buttons);
-  m_password->setFocus();
+  passwordField()->setObjectName(QStringLiteral("passwordField"));
+  addField(tr("&Name:"), m_user);
 }
 
 Credentials PasswordDialog::credentials() const {
-  return {m_user->text(), m_password->text()};
+  return {m_user->text(), password()};
 }
 
 /// Between the thread that waits and the one that shows the window.

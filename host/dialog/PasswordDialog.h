@@ -3,21 +3,17 @@
 // them.
 #pragma once
 
-#include <QDialog>
 #include <QObject>
 #include <QPointer>
 #include <memory>
 
+#include "host/dialog/PasswordForm.h"
 #include "host/printers/Passwords.h"
-
-class QLineEdit;
 
 namespace orvek {
 
-/// The window: the user's name is filled in, the password is not shown. Belongs to its parent, owns
-/// its child controls, and lives on the interface's thread. Nothing fails: whoever cancels gave no
-/// answer.
-class PasswordDialog final : public QDialog {
+/// The window, a form like others; the user's name is filled in.
+class PasswordDialog final : public PasswordForm {
   Q_OBJECT
 
  public:
@@ -27,7 +23,6 @@ class PasswordDialog final : public QDialog {
 
  private:
   QLineEdit *m_user;
-  QLineEdit *m_password;
 };
 
 /// Shows the window on the thread that this object lives on. It must outlive whoever may ask. It

@@ -9,6 +9,7 @@
 
 #include "host/ppd/Wording.h"
 #include "host/session/CommonSettings.h"
+#include "host/session/OrientationText.h"
 
 namespace orvek {
 namespace {
@@ -40,22 +41,6 @@ QMap<QString, SummaryLine> changedOptions(const PrintSession &session, QStringLi
 struct Text {
   Q_DECLARE_TR_FUNCTIONS(orvek::SummaryLines)
 };
-
-QString orientationText(Orientation orientation) {
-  switch (orientation) {
-    case Orientation::Portrait:
-      return Text::tr("Portrait");
-    case Orientation::Landscape:
-      return Text::tr("Landscape");
-    case Orientation::ReversePortrait:
-      return Text::tr("Portrait, upside down");
-    case Orientation::ReverseLandscape:
-      return Text::tr("Landscape, upside down");
-    case Orientation::Automatic:
-      break;
-  }
-  return Text::tr("Automatic");
-}
 
 // What the job settings and the layout say beside the printer's options.
 QList<SummaryLine> jobLines(const PrintSession &session) {

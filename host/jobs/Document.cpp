@@ -55,6 +55,10 @@ Failure emptyDocument(const QString &file) {
           Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "is empty, so there is nothing to print"))};
 }
 
+bool isEmptyDocument(const Failure &failure) {
+  return failure.why == emptyDocument({}).why;
+}
+
 Status checkAllDocuments(const QStringList &files) {
   if (files.count(standardInput()) > 1) {
     return Failure{

@@ -22,6 +22,9 @@ Phrase documentName(const QString &file);
 /// The failure of a job whose document has no bytes.
 Failure emptyDocument(const QString &file);
 
+/// Whether it is that failure, of whatever document.
+bool isEmptyDocument(const Failure &failure);
+
 /// Whether a document's bytes come once only: those of standard input, a pipe or a device.
 bool comesOnce(const QString &file);
 

@@ -12,6 +12,7 @@
 
 #include "host/presets/PresetName.h"
 #include "host/ticket/TicketFile.h"
+#include "host/translations/Advice.h"
 #include "platform/system/WholeFile.h"
 
 namespace orvek {
@@ -26,10 +27,7 @@ Failure ioFailure(const Phrase &what, const Phrase &why) {
 }
 
 Failure noSuchPreset(const QString &name) {
-  return ioFailure(whatOf(name),
-                   Phrase(QT_TRANSLATE_NOOP(
-                       "orvek::Failure",
-                       "there is none of that name; \"orvek-print --list-presets\" lists them")));
+  return ioFailure(whatOf(name), Phrase(noneOfThatName.atTheCommandLine));
 }
 
 /// A file that holds another name than its own was put there by hand; it is not the preset asked

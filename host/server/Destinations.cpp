@@ -8,6 +8,7 @@
 
 #include "host/printers/Queue.h"
 #include "host/server/Request.h"
+#include "host/translations/Advice.h"
 
 namespace orvek {
 namespace {
@@ -86,11 +87,8 @@ Status checkAnswers(const CupsConnection &connection) {
 }
 
 Failure noSuchPrinter(const CupsConnection &connection, const QString &destination) {
-  return {
-      FailureKind::Io, destination,
-      Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
-                               "no such printer on %1; \"orvek-print --list-printers\" lists them"),
-             {connection.serverName()})};
+  return {FailureKind::Io, destination,
+          Phrase(noSuchPrinterThere.atTheCommandLine, {connection.serverName()})};
 }
 
 Failure noDefault(const CupsConnection &connection) {
@@ -104,9 +102,7 @@ Failure noDefault(const CupsConnection &connection) {
                  {named})};
     }
   }
-  return {
-      FailureKind::Io, connection.serverName(),
-      Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "there is no default printer; name one with -d"))};
+  return {FailureKind::Io, connection.serverName(), Phrase(noDefaultPrinter.atTheCommandLine)};
 }
 
 QCborMap fieldsOf(const cups_dest_t &queue, const QString &message) {

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 
 #include "host/ppd/Wording.h"
+#include "host/session/OrientationText.h"
 #include "host/session/PrintSession.h"
 #include "host/ticket/BookletSettings.h"
 #include "host/ticket/JobOptionNames.h"
@@ -80,22 +81,6 @@ QStringList bookletWords(const PrintSession &session, const SessionState &before
   return words;
 }
 
-QString orientationWords(Orientation orientation) {
-  switch (orientation) {
-    case Orientation::Portrait:
-      return Text::tr("Portrait");
-    case Orientation::Landscape:
-      return Text::tr("Landscape");
-    case Orientation::ReversePortrait:
-      return Text::tr("Portrait, upside down");
-    case Orientation::ReverseLandscape:
-      return Text::tr("Landscape, upside down");
-    case Orientation::Automatic:
-      break;
-  }
-  return Text::tr("As in the document");
-}
-
 QString rangeWords(const JobSettings &job) {
   if (!job.pageRangesProblem.isNull()) return {};
   return job.pageRanges.isNull() ? Text::tr("All") : job.pageRanges;
@@ -117,7 +102,7 @@ QStringList jobWords(const PrintSession &session, const SessionState &before,
   add(rangesDiffer, Text::tr("Pages"), rangeWords(set));
   add(then.reverse != set.reverse, Text::tr("Last page first"), flag(set.reverse));
   add(then.orientation != set.orientation, Text::tr("Orientation"),
-      orientationWords(set.orientation));
+      orientationText(set.orientation));
   const int pages = session.job().pagesPerSheet();
   add(before.ticket.value(layoutNUpKey) != now.ticket.value(layoutNUpKey),
       Text::tr("Pages per sheet"), QString::number(pages > 1 ? pages : 1));

@@ -12,6 +12,7 @@
 
 #include "host/ppd/CustomChoice.h"
 #include "host/session/Availability.h"
+#include "host/session/OrientationText.h"
 #include "host/settings/ChoiceBox.h"
 #include "host/settings/CustomSizeRow.h"
 #include "host/settings/JobChange.h"
@@ -72,9 +73,9 @@ void GeneralPage::addPaperRows() {
 
 void GeneralPage::addLayoutRows() {
   m_orientation = addListRow(QStringLiteral("orientation"), tr("Orientation"));
-  // In the order of the enumeration.
-  m_orientation->addItems({tr("As in the document"), tr("Portrait"), tr("Landscape"),
-                           tr("Portrait, upside down"), tr("Landscape, upside down")});
+  for (const Orientation orientation : orientations) {
+    m_orientation->addItem(orientationText(orientation), static_cast<int>(orientation));
+  }
   m_pagesPerSheet = addListRow(QStringLiteral("pagesPerSheet"), tr("Pages per sheet"));
   for (const int pages : layouts) m_pagesPerSheet->addItem(QString::number(pages), pages);
   m_reverse = new QCheckBox(tr("Last page first"), this);
@@ -82,7 +83,7 @@ void GeneralPage::addLayoutRows() {
   m_form->addRow(QString(), m_reverse);
   connect(m_orientation, &QComboBox::activated, this, [this](int row) {
     changeJob(m_session,
-              [=](JobSettings *job) { job->orientation = static_cast<Orientation>(row); });
+              [=](JobSettings *job) { job->orientation = orientations.at(std::size_t(row)); });
   });
   connect(m_pagesPerSheet, &QComboBox::activated, this, [this](int row) {
     const int pages = m_pagesPerSheet->itemData(row).toInt();

@@ -7,6 +7,8 @@
 #include <QCoreApplication>
 #include <array>
 
+#include "host/translations/Advice.h"
+
 namespace orvek {
 namespace {
 
@@ -34,21 +36,6 @@ constexpr const char *context = "orvek::Failure";
     QT_TRANSLATE_NOOP("orvek::Failure", "Permission denied"),
     QT_TRANSLATE_NOOP("orvek::Failure", "Read-only file system"),
     QT_TRANSLATE_NOOP("orvek::Failure", "Too many open files"),
-};
-
-struct Advice {
-  const char *atTheCommandLine;
-  const char *inTheWindow;
-};
-
-// What to do is another thing where nobody writes options.
-constexpr std::array advices{
-    Advice{"no such printer on %1; \"orvek-print --list-printers\" lists them",
-           QT_TRANSLATE_NOOP("orvek::Failure", "no such printer on %1; choose another one")},
-    Advice{"there is no default printer; name one with -d",
-           QT_TRANSLATE_NOOP("orvek::Failure", "there is no default printer; choose one")},
-    Advice{"there is none of that name; \"orvek-print --list-presets\" lists them",
-           QT_TRANSLATE_NOOP("orvek::Failure", "there is none of that name; choose another one")},
 };
 
 QByteArray sentenceForTheWindow(const QByteArray &sentence) {

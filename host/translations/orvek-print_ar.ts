@@ -127,10 +127,6 @@
 <context>
     <name>orvek::DocumentPassword</name>
     <message>
-        <source>Password</source>
-        <translation>كلمة المرور</translation>
-    </message>
-    <message>
         <source>That password does not open %1.</source>
         <translation>كلمة المرور هذه لا تفتح %1.</translation>
     </message>
@@ -139,16 +135,8 @@
         <translation>‏%1 محمي بكلمة مرور.</translation>
     </message>
     <message>
-        <source>&amp;Password:</source>
-        <translation>كلمة المرور (&amp;P):</translation>
-    </message>
-    <message>
         <source>&amp;Open</source>
         <translation>فتح (&amp;O)</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>إلغاء</translation>
     </message>
 </context>
 <context>
@@ -358,10 +346,6 @@
         <translation>الإعداد المسبق «%1»</translation>
     </message>
     <message>
-        <source>there is none of that name; &quot;orvek-print --list-presets&quot; lists them</source>
-        <translation>لا يوجد إعداد بهذا الاسم؛ يعرضها الأمر «orvek-print --list-presets»</translation>
-    </message>
-    <message>
         <source>can&apos;t be made</source>
         <translation>تعذر إنشاؤه</translation>
     </message>
@@ -398,16 +382,8 @@
         <translation>لم يُنهِ خادم الطباعة إجابته؛ أعد المحاولة لاحقًا أو اسأل من يديره</translation>
     </message>
     <message>
-        <source>no such printer on %1; &quot;orvek-print --list-printers&quot; lists them</source>
-        <translation>لا توجد طابعة كهذه على %1؛ يعرضها الأمر «orvek-print --list-printers»</translation>
-    </message>
-    <message>
         <source>names a printer that does not exist: &quot;%1&quot;</source>
         <translation>يسمّي طابعة غير موجودة: «%1»</translation>
-    </message>
-    <message>
-        <source>there is no default printer; name one with -d</source>
-        <translation>لا توجد طابعة افتراضية؛ حدد واحدة باستخدام ‎-d</translation>
     </message>
     <message>
         <source>the print server does not give its printer description (%1)</source>
@@ -621,26 +597,6 @@
         <translation>الاتجاه</translation>
     </message>
     <message>
-        <source>As in the document</source>
-        <translation>كما في المستند</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>عمودي</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>أفقي</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>عمودي، مقلوب</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>أفقي، مقلوب</translation>
-    </message>
-    <message>
         <source>Pages per sheet</source>
         <translation>صفحات لكل ورقة</translation>
     </message>
@@ -698,26 +654,6 @@
     <message>
         <source>Target paper size</source>
         <translation>حجم ورق الوجهة</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>عمودي</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>أفقي</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>عمودي، مقلوب</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>أفقي، مقلوب</translation>
-    </message>
-    <message>
-        <source>As in the document</source>
-        <translation>كما في المستند</translation>
     </message>
     <message>
         <source>All</source>
@@ -862,6 +798,14 @@
     <message>
         <source>Choose Documents</source>
         <translation>اختيار المستندات</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 و%2 غيرها</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>المستند</translation>
     </message>
 </context>
 <context>
@@ -1102,6 +1046,29 @@
     </message>
 </context>
 <context>
+    <name>orvek::OrientationText</name>
+    <message>
+        <source>Portrait</source>
+        <translation>عمودي</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>أفقي</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>عمودي، مقلوب</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>أفقي، مقلوب</translation>
+    </message>
+    <message>
+        <source>As in the document</source>
+        <translation>كما في المستند</translation>
+    </message>
+</context>
+<context>
     <name>orvek::PagesRow</name>
     <message>
         <source>All</source>
@@ -1143,20 +1110,23 @@
         <translation>لم يقبل خادم الطباعة هذا الاسم وكلمة المرور.</translation>
     </message>
     <message>
-        <source>Password</source>
-        <translation>كلمة المرور</translation>
-    </message>
-    <message>
         <source>&amp;Name:</source>
         <translation>الاسم (&amp;N):</translation>
     </message>
     <message>
-        <source>&amp;Password:</source>
-        <translation>كلمة المرور (&amp;P):</translation>
-    </message>
-    <message>
         <source>&amp;Sign In</source>
         <translation>دخول (&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PasswordForm</name>
+    <message>
+        <source>Password</source>
+        <translation>كلمة المرور</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>كلمة المرور (&amp;P):</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1244,20 +1214,12 @@
 <context>
     <name>orvek::PrintDialog</name>
     <message>
-        <source>%1 and %2 more</source>
-        <translation>%1 و%2 غيرها</translation>
-    </message>
-    <message>
         <source>the default printer</source>
         <translation>الطابعة الافتراضية</translation>
     </message>
     <message>
         <source>Print</source>
         <translation>طباعة</translation>
-    </message>
-    <message>
-        <source>Document</source>
-        <translation>المستند</translation>
     </message>
     <message>
         <source>Print all the same?</source>
@@ -2475,26 +2437,6 @@
 </context>
 <context>
     <name>orvek::SummaryLines</name>
-    <message>
-        <source>Portrait</source>
-        <translation>عمودي</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>أفقي</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>عمودي، مقلوب</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>أفقي، مقلوب</translation>
-    </message>
-    <message>
-        <source>Automatic</source>
-        <translation>تلقائي</translation>
-    </message>
     <message>
         <source>Copies</source>
         <translation>النسخ</translation>

@@ -123,10 +123,6 @@
 <context>
     <name>orvek::DocumentPassword</name>
     <message>
-        <source>Password</source>
-        <translation>Passwort</translation>
-    </message>
-    <message>
         <source>That password does not open %1.</source>
         <translation>Dieses Passwort öffnet %1 nicht.</translation>
     </message>
@@ -135,16 +131,8 @@
         <translation>%1 ist mit einem Passwort geschützt.</translation>
     </message>
     <message>
-        <source>&amp;Password:</source>
-        <translation>&amp;Passwort:</translation>
-    </message>
-    <message>
         <source>&amp;Open</source>
         <translation>Ö&amp;ffnen</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -334,10 +322,6 @@
         <translation>Voreinstellung „%1“</translation>
     </message>
     <message>
-        <source>there is none of that name; &quot;orvek-print --list-presets&quot; lists them</source>
-        <translation>es gibt keine mit diesem Namen; „orvek-print --list-presets“ listet sie auf</translation>
-    </message>
-    <message>
         <source>can&apos;t be made</source>
         <translation>kann nicht angelegt werden</translation>
     </message>
@@ -378,16 +362,8 @@
         <translation>der Druckserver gibt die Druckerbeschreibung nicht heraus (%1)</translation>
     </message>
     <message>
-        <source>no such printer on %1; &quot;orvek-print --list-printers&quot; lists them</source>
-        <translation>kein solcher Drucker auf %1; „orvek-print --list-printers“ listet sie auf</translation>
-    </message>
-    <message>
         <source>names a printer that does not exist: &quot;%1&quot;</source>
         <translation>nennt einen Drucker, den es nicht gibt: „%1“</translation>
-    </message>
-    <message>
-        <source>there is no default printer; name one with -d</source>
-        <translation>es gibt keinen Standarddrucker; nennen Sie einen mit -d</translation>
     </message>
     <message>
         <source>the print server has no such queue or job</source>
@@ -617,26 +593,6 @@
         <translation>Ausrichtung</translation>
     </message>
     <message>
-        <source>As in the document</source>
-        <translation>Wie im Dokument</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>Hochformat</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>Querformat</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>Hochformat, kopfüber</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>Querformat, kopfüber</translation>
-    </message>
-    <message>
         <source>Pages per sheet</source>
         <translation>Seiten pro Blatt</translation>
     </message>
@@ -694,26 +650,6 @@
     <message>
         <source>Target paper size</source>
         <translation>Zielpapierformat</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>Hochformat</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>Querformat</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>Hochformat, kopfüber</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>Querformat, kopfüber</translation>
-    </message>
-    <message>
-        <source>As in the document</source>
-        <translation>Wie im Dokument</translation>
     </message>
     <message>
         <source>All</source>
@@ -854,6 +790,14 @@
     <message>
         <source>Choose Documents</source>
         <translation>Dokumente auswählen</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Dokument</translation>
     </message>
 </context>
 <context>
@@ -1078,6 +1022,29 @@
     </message>
 </context>
 <context>
+    <name>orvek::OrientationText</name>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>Hochformat, kopfüber</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>Querformat, kopfüber</translation>
+    </message>
+    <message>
+        <source>As in the document</source>
+        <translation>Wie im Dokument</translation>
+    </message>
+</context>
+<context>
     <name>orvek::PagesRow</name>
     <message>
         <source>All</source>
@@ -1119,20 +1086,23 @@
         <translation>Der Druckserver hat diesen Namen mit diesem Passwort nicht angenommen.</translation>
     </message>
     <message>
-        <source>Password</source>
-        <translation>Passwort</translation>
-    </message>
-    <message>
         <source>&amp;Name:</source>
         <translation>&amp;Name:</translation>
     </message>
     <message>
-        <source>&amp;Password:</source>
-        <translation>&amp;Passwort:</translation>
-    </message>
-    <message>
         <source>&amp;Sign In</source>
         <translation>&amp;Anmelden</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PasswordForm</name>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Passwort:</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1228,10 +1198,6 @@
         <translation>Drucken</translation>
     </message>
     <message>
-        <source>Document</source>
-        <translation>Dokument</translation>
-    </message>
-    <message>
         <source>Print all the same?</source>
         <translation>Trotzdem drucken?</translation>
     </message>
@@ -1254,10 +1220,6 @@
     <message>
         <source>Not all of the preset fits this printer:</source>
         <translation>Nicht die ganze Voreinstellung passt zu diesem Drucker:</translation>
-    </message>
-    <message>
-        <source>%1 and %2 more</source>
-        <translation>%1 und %2 weitere</translation>
     </message>
     <message>
         <source>Open a Printer Description</source>
@@ -2443,26 +2405,6 @@
 </context>
 <context>
     <name>orvek::SummaryLines</name>
-    <message>
-        <source>Portrait</source>
-        <translation>Hochformat</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>Querformat</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>Hochformat, kopfüber</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>Querformat, kopfüber</translation>
-    </message>
-    <message>
-        <source>Automatic</source>
-        <translation>Automatisch</translation>
-    </message>
     <message>
         <source>Copies</source>
         <translation>Exemplare</translation>

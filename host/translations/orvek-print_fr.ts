@@ -123,10 +123,6 @@
 <context>
     <name>orvek::DocumentPassword</name>
     <message>
-        <source>Password</source>
-        <translation>Mot de passe</translation>
-    </message>
-    <message>
         <source>That password does not open %1.</source>
         <translation>Ce mot de passe n’ouvre pas %1.</translation>
     </message>
@@ -135,16 +131,8 @@
         <translation>%1 est protégé par un mot de passe.</translation>
     </message>
     <message>
-        <source>&amp;Password:</source>
-        <translation>Mot de &amp;passe :</translation>
-    </message>
-    <message>
         <source>&amp;Open</source>
         <translation>&amp;Ouvrir</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annuler</translation>
     </message>
 </context>
 <context>
@@ -334,10 +322,6 @@
         <translation>préréglage « %1 »</translation>
     </message>
     <message>
-        <source>there is none of that name; &quot;orvek-print --list-presets&quot; lists them</source>
-        <translation>il n’y en a pas de ce nom ; « orvek-print --list-presets » les énumère</translation>
-    </message>
-    <message>
         <source>can&apos;t be made</source>
         <translation>ne peut pas être créé</translation>
     </message>
@@ -378,16 +362,8 @@
         <translation>le serveur d’impression ne donne pas la description de l’imprimante (%1)</translation>
     </message>
     <message>
-        <source>no such printer on %1; &quot;orvek-print --list-printers&quot; lists them</source>
-        <translation>pas d’imprimante de ce nom sur %1 ; « orvek-print --list-printers » les énumère</translation>
-    </message>
-    <message>
         <source>names a printer that does not exist: &quot;%1&quot;</source>
         <translation>désigne une imprimante qui n’existe pas : « %1 »</translation>
-    </message>
-    <message>
-        <source>there is no default printer; name one with -d</source>
-        <translation>il n’y a pas d’imprimante par défaut ; nommez-en une avec -d</translation>
     </message>
     <message>
         <source>the print server has no such queue or job</source>
@@ -617,26 +593,6 @@
         <translation>Orientation</translation>
     </message>
     <message>
-        <source>As in the document</source>
-        <translation>Comme dans le document</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>Portrait</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>Paysage</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>Portrait, retourné</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>Paysage, retourné</translation>
-    </message>
-    <message>
         <source>Pages per sheet</source>
         <translation>Pages par feuille</translation>
     </message>
@@ -694,26 +650,6 @@
     <message>
         <source>Target paper size</source>
         <translation>Format de sortie</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>Portrait</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>Paysage</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>Portrait, retourné</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>Paysage, retourné</translation>
-    </message>
-    <message>
-        <source>As in the document</source>
-        <translation>Comme dans le document</translation>
     </message>
     <message>
         <source>All</source>
@@ -854,6 +790,14 @@
     <message>
         <source>Choose Documents</source>
         <translation>Choisir des documents</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 et %2 autres</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Document</translation>
     </message>
 </context>
 <context>
@@ -1078,6 +1022,29 @@
     </message>
 </context>
 <context>
+    <name>orvek::OrientationText</name>
+    <message>
+        <source>Portrait</source>
+        <translation>Portrait</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Paysage</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>Portrait, retourné</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>Paysage, retourné</translation>
+    </message>
+    <message>
+        <source>As in the document</source>
+        <translation>Comme dans le document</translation>
+    </message>
+</context>
+<context>
     <name>orvek::PagesRow</name>
     <message>
         <source>All</source>
@@ -1119,20 +1086,23 @@
         <translation>Le serveur d’impression n’a pas accepté ce nom et ce mot de passe.</translation>
     </message>
     <message>
-        <source>Password</source>
-        <translation>Mot de passe</translation>
-    </message>
-    <message>
         <source>&amp;Name:</source>
         <translation>&amp;Nom :</translation>
     </message>
     <message>
-        <source>&amp;Password:</source>
-        <translation>&amp;Mot de passe :</translation>
-    </message>
-    <message>
         <source>&amp;Sign In</source>
         <translation>&amp;Se connecter</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PasswordForm</name>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Mot de passe :</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1228,10 +1198,6 @@
         <translation>Imprimer</translation>
     </message>
     <message>
-        <source>Document</source>
-        <translation>Document</translation>
-    </message>
-    <message>
         <source>Print all the same?</source>
         <translation>Imprimer quand même ?</translation>
     </message>
@@ -1254,10 +1220,6 @@
     <message>
         <source>Not all of the preset fits this printer:</source>
         <translation>Le préréglage ne convient pas entièrement à cette imprimante :</translation>
-    </message>
-    <message>
-        <source>%1 and %2 more</source>
-        <translation>%1 et %2 autres</translation>
     </message>
     <message>
         <source>Open a Printer Description</source>
@@ -2443,26 +2405,6 @@
 </context>
 <context>
     <name>orvek::SummaryLines</name>
-    <message>
-        <source>Portrait</source>
-        <translation>Portrait</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>Paysage</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>Portrait, retourné</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>Paysage, retourné</translation>
-    </message>
-    <message>
-        <source>Automatic</source>
-        <translation>Automatique</translation>
-    </message>
     <message>
         <source>Copies</source>
         <translation>Copies</translation>

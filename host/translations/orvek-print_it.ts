@@ -123,10 +123,6 @@
 <context>
     <name>orvek::DocumentPassword</name>
     <message>
-        <source>Password</source>
-        <translation>Password</translation>
-    </message>
-    <message>
         <source>That password does not open %1.</source>
         <translation>Quella password non apre %1.</translation>
     </message>
@@ -135,16 +131,8 @@
         <translation>%1 è protetto da una password.</translation>
     </message>
     <message>
-        <source>&amp;Password:</source>
-        <translation>&amp;Password:</translation>
-    </message>
-    <message>
         <source>&amp;Open</source>
         <translation>&amp;Apri</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annulla</translation>
     </message>
 </context>
 <context>
@@ -354,10 +342,6 @@
         <translation>preimpostazione «%1»</translation>
     </message>
     <message>
-        <source>there is none of that name; &quot;orvek-print --list-presets&quot; lists them</source>
-        <translation>non ne esiste una con questo nome; «orvek-print --list-presets» le elenca</translation>
-    </message>
-    <message>
         <source>can&apos;t be made</source>
         <translation>impossibile crearlo</translation>
     </message>
@@ -394,16 +378,8 @@
         <translation>il server di stampa non ha concluso la risposta; riprovare più tardi o chiedere a chi lo gestisce</translation>
     </message>
     <message>
-        <source>no such printer on %1; &quot;orvek-print --list-printers&quot; lists them</source>
-        <translation>nessuna stampante simile su %1; «orvek-print --list-printers» le elenca</translation>
-    </message>
-    <message>
         <source>names a printer that does not exist: &quot;%1&quot;</source>
         <translation>indica una stampante che non esiste: «%1»</translation>
-    </message>
-    <message>
-        <source>there is no default printer; name one with -d</source>
-        <translation>non c’è una stampante predefinita; indicarne una con -d</translation>
     </message>
     <message>
         <source>the print server does not give its printer description (%1)</source>
@@ -617,26 +593,6 @@
         <translation>Orientamento</translation>
     </message>
     <message>
-        <source>As in the document</source>
-        <translation>Come nel documento</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>Verticale</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>Orizzontale</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>Verticale, capovolto</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>Orizzontale, capovolto</translation>
-    </message>
-    <message>
         <source>Pages per sheet</source>
         <translation>Pagine per foglio</translation>
     </message>
@@ -694,26 +650,6 @@
     <message>
         <source>Target paper size</source>
         <translation>Carta finale</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>Verticale</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>Orizzontale</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>Verticale, capovolto</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>Orizzontale, capovolto</translation>
-    </message>
-    <message>
-        <source>As in the document</source>
-        <translation>Come nel documento</translation>
     </message>
     <message>
         <source>All</source>
@@ -854,6 +790,14 @@
     <message>
         <source>Choose Documents</source>
         <translation>Scegli documenti</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 e altri %2</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Documento</translation>
     </message>
 </context>
 <context>
@@ -1078,6 +1022,29 @@
     </message>
 </context>
 <context>
+    <name>orvek::OrientationText</name>
+    <message>
+        <source>Portrait</source>
+        <translation>Verticale</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Orizzontale</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>Verticale, capovolto</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>Orizzontale, capovolto</translation>
+    </message>
+    <message>
+        <source>As in the document</source>
+        <translation>Come nel documento</translation>
+    </message>
+</context>
+<context>
     <name>orvek::PagesRow</name>
     <message>
         <source>All</source>
@@ -1119,20 +1086,23 @@
         <translation>Il server di stampa non ha accettato quel nome e quella password.</translation>
     </message>
     <message>
-        <source>Password</source>
-        <translation>Password</translation>
-    </message>
-    <message>
         <source>&amp;Name:</source>
         <translation>&amp;Nome:</translation>
     </message>
     <message>
-        <source>&amp;Password:</source>
-        <translation>&amp;Password:</translation>
-    </message>
-    <message>
         <source>&amp;Sign In</source>
         <translation>A&amp;ccedi</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PasswordForm</name>
+    <message>
+        <source>Password</source>
+        <translation>Password</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Password:</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1220,20 +1190,12 @@
 <context>
     <name>orvek::PrintDialog</name>
     <message>
-        <source>%1 and %2 more</source>
-        <translation>%1 e altri %2</translation>
-    </message>
-    <message>
         <source>the default printer</source>
         <translation>la stampante predefinita</translation>
     </message>
     <message>
         <source>Print</source>
         <translation>Stampa</translation>
-    </message>
-    <message>
-        <source>Document</source>
-        <translation>Documento</translation>
     </message>
     <message>
         <source>Print all the same?</source>
@@ -2443,26 +2405,6 @@
 </context>
 <context>
     <name>orvek::SummaryLines</name>
-    <message>
-        <source>Portrait</source>
-        <translation>Verticale</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>Orizzontale</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>Verticale, capovolto</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>Orizzontale, capovolto</translation>
-    </message>
-    <message>
-        <source>Automatic</source>
-        <translation>Automatico</translation>
-    </message>
     <message>
         <source>Copies</source>
         <translation>Copie</translation>

@@ -122,10 +122,6 @@
 <context>
     <name>orvek::DocumentPassword</name>
     <message>
-        <source>Password</source>
-        <translation>パスワード</translation>
-    </message>
-    <message>
         <source>That password does not open %1.</source>
         <translation>このパスワードでは %1 を開けません。</translation>
     </message>
@@ -134,16 +130,8 @@
         <translation>%1 はパスワードで保護されています。</translation>
     </message>
     <message>
-        <source>&amp;Password:</source>
-        <translation>パスワード(&amp;P):</translation>
-    </message>
-    <message>
         <source>&amp;Open</source>
         <translation>開く(&amp;O)</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
@@ -333,10 +321,6 @@
         <translation>プリセット「%1」</translation>
     </message>
     <message>
-        <source>there is none of that name; &quot;orvek-print --list-presets&quot; lists them</source>
-        <translation>この名前のものはありません。「orvek-print --list-presets」で一覧できます</translation>
-    </message>
-    <message>
         <source>can&apos;t be made</source>
         <translation>作成できません</translation>
     </message>
@@ -377,16 +361,8 @@
         <translation>プリントサーバーからプリンター記述を取得できません (%1)</translation>
     </message>
     <message>
-        <source>no such printer on %1; &quot;orvek-print --list-printers&quot; lists them</source>
-        <translation>%1 にこのプリンターはありません。「orvek-print --list-printers」で一覧できます</translation>
-    </message>
-    <message>
         <source>names a printer that does not exist: &quot;%1&quot;</source>
         <translation>存在しないプリンターを指しています:「%1」</translation>
-    </message>
-    <message>
-        <source>there is no default printer; name one with -d</source>
-        <translation>既定のプリンターがありません。-d で指定してください</translation>
     </message>
     <message>
         <source>the print server has no such queue or job</source>
@@ -616,26 +592,6 @@
         <translation>印刷の向き</translation>
     </message>
     <message>
-        <source>As in the document</source>
-        <translation>文書のとおり</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>縦</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>横</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>縦 (上下逆)</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>横 (上下逆)</translation>
-    </message>
-    <message>
         <source>Pages per sheet</source>
         <translation>1 枚あたりのページ数</translation>
     </message>
@@ -693,26 +649,6 @@
     <message>
         <source>Target paper size</source>
         <translation>出力用紙サイズ</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>縦</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>横</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>縦 (上下逆)</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>横 (上下逆)</translation>
-    </message>
-    <message>
-        <source>As in the document</source>
-        <translation>文書のとおり</translation>
     </message>
     <message>
         <source>All</source>
@@ -852,6 +788,14 @@
     <message>
         <source>Choose Documents</source>
         <translation>文書の選択</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 ほか %2 件</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文書</translation>
     </message>
 </context>
 <context>
@@ -1072,6 +1016,29 @@
     </message>
 </context>
 <context>
+    <name>orvek::OrientationText</name>
+    <message>
+        <source>Portrait</source>
+        <translation>縦</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>縦 (上下逆)</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>横 (上下逆)</translation>
+    </message>
+    <message>
+        <source>As in the document</source>
+        <translation>文書のとおり</translation>
+    </message>
+</context>
+<context>
     <name>orvek::PagesRow</name>
     <message>
         <source>All</source>
@@ -1113,20 +1080,23 @@
         <translation>プリントサーバーはこの名前とパスワードを受け付けませんでした。</translation>
     </message>
     <message>
-        <source>Password</source>
-        <translation>パスワード</translation>
-    </message>
-    <message>
         <source>&amp;Name:</source>
         <translation>名前(&amp;N):</translation>
     </message>
     <message>
-        <source>&amp;Password:</source>
-        <translation>パスワード(&amp;P):</translation>
-    </message>
-    <message>
         <source>&amp;Sign In</source>
         <translation>サインイン(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PasswordForm</name>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>パスワード(&amp;P):</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1222,10 +1192,6 @@
         <translation>印刷</translation>
     </message>
     <message>
-        <source>Document</source>
-        <translation>文書</translation>
-    </message>
-    <message>
         <source>Print all the same?</source>
         <translation>このまま印刷しますか？</translation>
     </message>
@@ -1248,10 +1214,6 @@
     <message>
         <source>Not all of the preset fits this printer:</source>
         <translation>このプリンターで使えない設定がプリセットにあります:</translation>
-    </message>
-    <message>
-        <source>%1 and %2 more</source>
-        <translation>%1 ほか %2 件</translation>
     </message>
     <message>
         <source>Open a Printer Description</source>
@@ -2435,26 +2397,6 @@
 </context>
 <context>
     <name>orvek::SummaryLines</name>
-    <message>
-        <source>Portrait</source>
-        <translation>縦</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>横</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>縦 (上下逆)</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>横 (上下逆)</translation>
-    </message>
-    <message>
-        <source>Automatic</source>
-        <translation>自動</translation>
-    </message>
     <message>
         <source>Copies</source>
         <translation>部数</translation>

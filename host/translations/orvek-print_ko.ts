@@ -122,10 +122,6 @@
 <context>
     <name>orvek::DocumentPassword</name>
     <message>
-        <source>Password</source>
-        <translation>암호</translation>
-    </message>
-    <message>
         <source>That password does not open %1.</source>
         <translation>그 암호로는 %1을(를) 열 수 없습니다.</translation>
     </message>
@@ -134,16 +130,8 @@
         <translation>%1은(는) 암호로 보호되어 있습니다.</translation>
     </message>
     <message>
-        <source>&amp;Password:</source>
-        <translation>암호(&amp;P):</translation>
-    </message>
-    <message>
         <source>&amp;Open</source>
         <translation>열기(&amp;O)</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>취소</translation>
     </message>
 </context>
 <context>
@@ -353,10 +341,6 @@
         <translation>사전 설정 “%1”</translation>
     </message>
     <message>
-        <source>there is none of that name; &quot;orvek-print --list-presets&quot; lists them</source>
-        <translation>그런 이름이 없습니다. “orvek-print --list-presets”로 목록을 볼 수 있습니다</translation>
-    </message>
-    <message>
         <source>can&apos;t be made</source>
         <translation>만들 수 없습니다</translation>
     </message>
@@ -393,16 +377,8 @@
         <translation>프린트 서버가 응답을 끝내지 못했습니다. 나중에 다시 시도하거나 관리자에게 문의하세요</translation>
     </message>
     <message>
-        <source>no such printer on %1; &quot;orvek-print --list-printers&quot; lists them</source>
-        <translation>%1에 그런 프린터가 없습니다. “orvek-print --list-printers”로 목록을 볼 수 있습니다</translation>
-    </message>
-    <message>
         <source>names a printer that does not exist: &quot;%1&quot;</source>
         <translation>없는 프린터를 가리킵니다: “%1”</translation>
-    </message>
-    <message>
-        <source>there is no default printer; name one with -d</source>
-        <translation>기본 프린터가 없습니다. -d로 지정하세요</translation>
     </message>
     <message>
         <source>the print server does not give its printer description (%1)</source>
@@ -616,26 +592,6 @@
         <translation>방향</translation>
     </message>
     <message>
-        <source>As in the document</source>
-        <translation>문서와 같음</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>세로</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>가로</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>세로, 뒤집힘</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>가로, 뒤집힘</translation>
-    </message>
-    <message>
         <source>Pages per sheet</source>
         <translation>장당 페이지 수</translation>
     </message>
@@ -693,26 +649,6 @@
     <message>
         <source>Target paper size</source>
         <translation>대상 용지 크기</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>세로</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>가로</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>세로, 뒤집힘</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>가로, 뒤집힘</translation>
-    </message>
-    <message>
-        <source>As in the document</source>
-        <translation>문서와 같음</translation>
     </message>
     <message>
         <source>All</source>
@@ -852,6 +788,14 @@
     <message>
         <source>Choose Documents</source>
         <translation>문서 선택</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 외 %2개</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>문서</translation>
     </message>
 </context>
 <context>
@@ -1072,6 +1016,29 @@
     </message>
 </context>
 <context>
+    <name>orvek::OrientationText</name>
+    <message>
+        <source>Portrait</source>
+        <translation>세로</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>가로</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>세로, 뒤집힘</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>가로, 뒤집힘</translation>
+    </message>
+    <message>
+        <source>As in the document</source>
+        <translation>문서와 같음</translation>
+    </message>
+</context>
+<context>
     <name>orvek::PagesRow</name>
     <message>
         <source>All</source>
@@ -1113,20 +1080,23 @@
         <translation>프린트 서버가 그 이름과 암호를 받아들이지 않았습니다.</translation>
     </message>
     <message>
-        <source>Password</source>
-        <translation>암호</translation>
-    </message>
-    <message>
         <source>&amp;Name:</source>
         <translation>이름(&amp;N):</translation>
     </message>
     <message>
-        <source>&amp;Password:</source>
-        <translation>암호(&amp;P):</translation>
-    </message>
-    <message>
         <source>&amp;Sign In</source>
         <translation>로그인(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PasswordForm</name>
+    <message>
+        <source>Password</source>
+        <translation>암호</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>암호(&amp;P):</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1214,20 +1184,12 @@
 <context>
     <name>orvek::PrintDialog</name>
     <message>
-        <source>%1 and %2 more</source>
-        <translation>%1 외 %2개</translation>
-    </message>
-    <message>
         <source>the default printer</source>
         <translation>기본 프린터</translation>
     </message>
     <message>
         <source>Print</source>
         <translation>인쇄</translation>
-    </message>
-    <message>
-        <source>Document</source>
-        <translation>문서</translation>
     </message>
     <message>
         <source>Print all the same?</source>
@@ -2435,26 +2397,6 @@
 </context>
 <context>
     <name>orvek::SummaryLines</name>
-    <message>
-        <source>Portrait</source>
-        <translation>세로</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>가로</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>세로, 뒤집힘</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>가로, 뒤집힘</translation>
-    </message>
-    <message>
-        <source>Automatic</source>
-        <translation>자동</translation>
-    </message>
     <message>
         <source>Copies</source>
         <translation>매수</translation>

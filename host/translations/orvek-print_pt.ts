@@ -123,10 +123,6 @@
 <context>
     <name>orvek::DocumentPassword</name>
     <message>
-        <source>Password</source>
-        <translation>Senha</translation>
-    </message>
-    <message>
         <source>That password does not open %1.</source>
         <translation>Essa senha não abre %1.</translation>
     </message>
@@ -135,16 +131,8 @@
         <translation>%1 está protegido por uma senha.</translation>
     </message>
     <message>
-        <source>&amp;Password:</source>
-        <translation>&amp;Senha:</translation>
-    </message>
-    <message>
         <source>&amp;Open</source>
         <translation>&amp;Abrir</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
@@ -354,10 +342,6 @@
         <translation>predefinição “%1”</translation>
     </message>
     <message>
-        <source>there is none of that name; &quot;orvek-print --list-presets&quot; lists them</source>
-        <translation>não há nenhuma com esse nome; “orvek-print --list-presets” lista todas</translation>
-    </message>
-    <message>
         <source>can&apos;t be made</source>
         <translation>não pode ser criado</translation>
     </message>
@@ -394,16 +378,8 @@
         <translation>o servidor de impressão não concluiu a resposta; tente mais tarde ou pergunte a quem o administra</translation>
     </message>
     <message>
-        <source>no such printer on %1; &quot;orvek-print --list-printers&quot; lists them</source>
-        <translation>não existe essa impressora em %1; “orvek-print --list-printers” lista todas</translation>
-    </message>
-    <message>
         <source>names a printer that does not exist: &quot;%1&quot;</source>
         <translation>indica uma impressora que não existe: “%1”</translation>
-    </message>
-    <message>
-        <source>there is no default printer; name one with -d</source>
-        <translation>não há impressora padrão; indique uma com -d</translation>
     </message>
     <message>
         <source>the print server does not give its printer description (%1)</source>
@@ -617,26 +593,6 @@
         <translation>Orientação</translation>
     </message>
     <message>
-        <source>As in the document</source>
-        <translation>Como no documento</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>Retrato</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>Paisagem</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>Retrato, invertido</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>Paisagem, invertida</translation>
-    </message>
-    <message>
         <source>Pages per sheet</source>
         <translation>Páginas por folha</translation>
     </message>
@@ -694,26 +650,6 @@
     <message>
         <source>Target paper size</source>
         <translation>Papel de destino</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>Retrato</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>Paisagem</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>Retrato, invertido</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>Paisagem, invertida</translation>
-    </message>
-    <message>
-        <source>As in the document</source>
-        <translation>Como no documento</translation>
     </message>
     <message>
         <source>All</source>
@@ -854,6 +790,14 @@
     <message>
         <source>Choose Documents</source>
         <translation>Escolher documentos</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 e mais %2</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Documento</translation>
     </message>
 </context>
 <context>
@@ -1078,6 +1022,29 @@
     </message>
 </context>
 <context>
+    <name>orvek::OrientationText</name>
+    <message>
+        <source>Portrait</source>
+        <translation>Retrato</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Paisagem</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>Retrato, invertido</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>Paisagem, invertida</translation>
+    </message>
+    <message>
+        <source>As in the document</source>
+        <translation>Como no documento</translation>
+    </message>
+</context>
+<context>
     <name>orvek::PagesRow</name>
     <message>
         <source>All</source>
@@ -1119,20 +1086,23 @@
         <translation>O servidor de impressão não aceitou esse nome e essa senha.</translation>
     </message>
     <message>
-        <source>Password</source>
-        <translation>Senha</translation>
-    </message>
-    <message>
         <source>&amp;Name:</source>
         <translation>&amp;Nome:</translation>
     </message>
     <message>
-        <source>&amp;Password:</source>
-        <translation>&amp;Senha:</translation>
-    </message>
-    <message>
         <source>&amp;Sign In</source>
         <translation>&amp;Entrar</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PasswordForm</name>
+    <message>
+        <source>Password</source>
+        <translation>Senha</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Senha:</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1220,20 +1190,12 @@
 <context>
     <name>orvek::PrintDialog</name>
     <message>
-        <source>%1 and %2 more</source>
-        <translation>%1 e mais %2</translation>
-    </message>
-    <message>
         <source>the default printer</source>
         <translation>a impressora padrão</translation>
     </message>
     <message>
         <source>Print</source>
         <translation>Imprimir</translation>
-    </message>
-    <message>
-        <source>Document</source>
-        <translation>Documento</translation>
     </message>
     <message>
         <source>Print all the same?</source>
@@ -2443,26 +2405,6 @@
 </context>
 <context>
     <name>orvek::SummaryLines</name>
-    <message>
-        <source>Portrait</source>
-        <translation>Retrato</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>Paisagem</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>Retrato, invertido</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>Paisagem, invertida</translation>
-    </message>
-    <message>
-        <source>Automatic</source>
-        <translation>Automático</translation>
-    </message>
     <message>
         <source>Copies</source>
         <translation>Cópias</translation>

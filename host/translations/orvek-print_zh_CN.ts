@@ -122,10 +122,6 @@
 <context>
     <name>orvek::DocumentPassword</name>
     <message>
-        <source>Password</source>
-        <translation>密码</translation>
-    </message>
-    <message>
         <source>That password does not open %1.</source>
         <translation>该密码无法打开 %1。</translation>
     </message>
@@ -134,16 +130,8 @@
         <translation>%1 受密码保护。</translation>
     </message>
     <message>
-        <source>&amp;Password:</source>
-        <translation>密码(&amp;P)：</translation>
-    </message>
-    <message>
         <source>&amp;Open</source>
         <translation>打开(&amp;O)</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
     </message>
 </context>
 <context>
@@ -353,10 +341,6 @@
         <translation>预设“%1”</translation>
     </message>
     <message>
-        <source>there is none of that name; &quot;orvek-print --list-presets&quot; lists them</source>
-        <translation>没有该名称的预设；“orvek-print --list-presets”可列出所有预设</translation>
-    </message>
-    <message>
         <source>can&apos;t be made</source>
         <translation>无法创建</translation>
     </message>
@@ -393,16 +377,8 @@
         <translation>打印服务器没有完成应答；请稍后重试，或询问其管理者</translation>
     </message>
     <message>
-        <source>no such printer on %1; &quot;orvek-print --list-printers&quot; lists them</source>
-        <translation>%1 上没有该打印机；“orvek-print --list-printers”可列出所有打印机</translation>
-    </message>
-    <message>
         <source>names a printer that does not exist: &quot;%1&quot;</source>
         <translation>指定了不存在的打印机：“%1”</translation>
-    </message>
-    <message>
-        <source>there is no default printer; name one with -d</source>
-        <translation>没有默认打印机；请用 -d 指定</translation>
     </message>
     <message>
         <source>the print server does not give its printer description (%1)</source>
@@ -616,26 +592,6 @@
         <translation>方向</translation>
     </message>
     <message>
-        <source>As in the document</source>
-        <translation>与文档相同</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>纵向</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>横向</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>纵向，倒置</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>横向，倒置</translation>
-    </message>
-    <message>
         <source>Pages per sheet</source>
         <translation>每张页数</translation>
     </message>
@@ -693,26 +649,6 @@
     <message>
         <source>Target paper size</source>
         <translation>目标纸张尺寸</translation>
-    </message>
-    <message>
-        <source>Portrait</source>
-        <translation>纵向</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>横向</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>纵向，倒置</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>横向，倒置</translation>
-    </message>
-    <message>
-        <source>As in the document</source>
-        <translation>与文档相同</translation>
     </message>
     <message>
         <source>All</source>
@@ -852,6 +788,14 @@
     <message>
         <source>Choose Documents</source>
         <translation>选择文档</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 以及另外 %2 项</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>文档</translation>
     </message>
 </context>
 <context>
@@ -1072,6 +1016,29 @@
     </message>
 </context>
 <context>
+    <name>orvek::OrientationText</name>
+    <message>
+        <source>Portrait</source>
+        <translation>纵向</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横向</translation>
+    </message>
+    <message>
+        <source>Portrait, upside down</source>
+        <translation>纵向，倒置</translation>
+    </message>
+    <message>
+        <source>Landscape, upside down</source>
+        <translation>横向，倒置</translation>
+    </message>
+    <message>
+        <source>As in the document</source>
+        <translation>与文档相同</translation>
+    </message>
+</context>
+<context>
     <name>orvek::PagesRow</name>
     <message>
         <source>All</source>
@@ -1113,20 +1080,23 @@
         <translation>打印服务器未接受该用户名和密码。</translation>
     </message>
     <message>
-        <source>Password</source>
-        <translation>密码</translation>
-    </message>
-    <message>
         <source>&amp;Name:</source>
         <translation>名称(&amp;N)：</translation>
     </message>
     <message>
-        <source>&amp;Password:</source>
-        <translation>密码(&amp;P)：</translation>
-    </message>
-    <message>
         <source>&amp;Sign In</source>
         <translation>登录(&amp;S)</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PasswordForm</name>
+    <message>
+        <source>Password</source>
+        <translation>密码</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>密码(&amp;P)：</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1214,20 +1184,12 @@
 <context>
     <name>orvek::PrintDialog</name>
     <message>
-        <source>%1 and %2 more</source>
-        <translation>%1 以及另外 %2 项</translation>
-    </message>
-    <message>
         <source>the default printer</source>
         <translation>默认打印机</translation>
     </message>
     <message>
         <source>Print</source>
         <translation>打印</translation>
-    </message>
-    <message>
-        <source>Document</source>
-        <translation>文档</translation>
     </message>
     <message>
         <source>Print all the same?</source>
@@ -2435,26 +2397,6 @@
 </context>
 <context>
     <name>orvek::SummaryLines</name>
-    <message>
-        <source>Portrait</source>
-        <translation>纵向</translation>
-    </message>
-    <message>
-        <source>Landscape</source>
-        <translation>横向</translation>
-    </message>
-    <message>
-        <source>Portrait, upside down</source>
-        <translation>纵向，倒置</translation>
-    </message>
-    <message>
-        <source>Landscape, upside down</source>
-        <translation>横向，倒置</translation>
-    </message>
-    <message>
-        <source>Automatic</source>
-        <translation>自动</translation>
-    </message>
     <message>
         <source>Copies</source>
         <translation>份数</translation>

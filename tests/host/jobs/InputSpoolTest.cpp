@@ -74,6 +74,7 @@ TEST_F(Pipe, IsWaitedForUntilTheJobIsCancelled) {
   canceller.join();
   ASSERT_FALSE(named);
   EXPECT_EQ(named.failure().kind, FailureKind::Cancelled);
+  EXPECT_FALSE(isEmptyDocument(named.failure()));
 }
 
 TEST_F(Pipe, ThatGivesNothingIsNamed) {
@@ -83,6 +84,7 @@ TEST_F(Pipe, ThatGivesNothingIsNamed) {
   ASSERT_FALSE(named);
   EXPECT_EQ(named.failure().line(),
             name + QStringLiteral(": is empty, so there is nothing to print"));
+  EXPECT_TRUE(isEmptyDocument(named.failure()));
 }
 
 TEST_F(Pipe, PrintsIntoAFile) {
