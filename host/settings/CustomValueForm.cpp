@@ -10,7 +10,7 @@
 #include <algorithm>
 
 #include "host/settings/Announcement.h"
-#include "host/settings/Mnemonics.h"
+#include "host/settings/LabelText.h"
 #include "host/settings/NumberField.h"
 #include "platform/ui/PlainText.h"
 
@@ -98,7 +98,7 @@ void CustomValueForm::makeFields(const QList<CustomParameter> &parameters) {
     QWidget *field = parameter.isNumber() ? makeNumber(parameter) : makeText(parameter);
     field->setObjectName(QStringLiteral("custom") + parameter.name);
     field->setAccessibleName(parameter.text);
-    auto *label = new PlainLabel(withoutMnemonic(parameter.text) + QLatin1Char(':'), this);
+    auto *label = new PlainLabel(labelText(parameter.text), this);
     label->setBuddy(field);
     m_rows->insertRow(m_rows->rowCount() - 1, label, field);
     m_fields.append({parameter, field});

@@ -16,6 +16,7 @@
 #include "host/settings/ChoiceBox.h"
 #include "host/settings/CustomSizeRow.h"
 #include "host/settings/JobChange.h"
+#include "host/settings/LabelText.h"
 #include "host/settings/Mnemonics.h"
 #include "platform/ui/PlainText.h"
 #include "platform/ui/TextScale.h"
@@ -112,7 +113,7 @@ void GeneralPage::addGap() {
 }
 
 QLabel *GeneralPage::addRow(const QString &text, QWidget *field) {
-  auto *label = new PlainLabel(withoutMnemonic(text), this);
+  auto *label = new PlainLabel(labelText(text), this);
   label->setBuddy(field);
   m_form->addRow(label, field);
   return label;

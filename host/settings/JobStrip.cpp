@@ -12,6 +12,7 @@
 #include "host/settings/ChoiceBox.h"
 #include "host/settings/CopiesRow.h"
 #include "host/settings/JobChange.h"
+#include "host/settings/LabelText.h"
 #include "host/settings/Mnemonics.h"
 #include "host/settings/PagesRow.h"
 #include "platform/ui/PlainText.h"
@@ -27,9 +28,20 @@ constexpr int sidesLetters = 14;
 // Neither a range nor a choice needs more, and what is left stays together.
 constexpr int widestGroup = 340;
 
-void letGrow(QWidget *group) {
-  group->setMaximumWidth(std::max(scaledToText(widestGroup), group->sizeHint().width()));
+// `further`: what shows all of its field, beyond what the group asks for.
+void letGrow(QWidget *group, int further = 0) {
+  group->setMaximumWidth(std::max(scaledToText(widestGroup), group->sizeHint().width() + further));
   group->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+// How much wider the longest of a few choices is than the letters that their box asks room for.
+int beyondLetters(const QComboBox &box) {
+  const QFontMetrics letters = box.fontMetrics();
+  int widest = 0;
+  for (int row = 0; row < box.count(); ++row) {
+    widest = std::max(widest, letters.horizontalAdvance(box.itemText(row)));
+  }
+  return std::max(0, widest - box.minimumContentsLength() * letters.horizontalAdvance(u'X'));
 }
 
 }  // namespace
@@ -46,7 +58,6 @@ JobStrip::JobStrip(PrintSession &session, QWidget *parent)
   addGroup(tr("Copies"), m_copies);
   letGrow(addGroup(tr("Pages"), m_pages)->parentWidget());
   m_sidesLabel = addGroup(tr("Two-sided"), m_sides);
-  letGrow(m_sidesLabel->parentWidget());
   connectControls();
   connect(&session, &PrintSession::changed, this, &JobStrip::showState);
   showState();
@@ -55,7 +66,7 @@ JobStrip::JobStrip(PrintSession &session, QWidget *parent)
 // A line that appears below a field has no part in the height of its label.
 QLabel *JobStrip::addGroup(const QString &text, QWidget *field) {
   auto *group = new QWidget(this);
-  auto *label = new PlainLabel(withoutMnemonic(text), group);
+  auto *label = new PlainLabel(labelText(text), group);
   label->setBuddy(field);
   const int height = m_sides->sizeHint().height();
   label->setFixedHeight(height);
@@ -98,11 +109,12 @@ void JobStrip::showState() {
   if (!sides) return;
   // The PPD's own name is the one that notices use.
   if (!sides->title.isNull() && m_sides->accessibleName() != sides->title) {
-    m_sidesLabel->setText(withoutMnemonic(sides->title));
+    m_sidesLabel->setText(labelText(sides->title));
   }
   m_sides->setAccessibleName(sides->title.isNull() ? tr("Two-sided") : sides->title);
   m_sides->setChoices(sides->key, sides->choices);
   m_sides->setChoice(sides->current);
+  letGrow(m_sidesLabel->parentWidget(), beyondLetters(*m_sides));
 }
 
 void JobStrip::assignLetters() {

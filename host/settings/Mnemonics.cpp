@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "host/settings/LabelText.h"
+
 namespace orvek {
 namespace {
 
@@ -48,7 +50,9 @@ QChar mnemonicOf(const QString &text) {
   return sequence.isEmpty() ? QChar() : sequence.toString().back().toUpper();
 }
 
-QString plainText(const QString &text) {
+QString plainText(const QString &whole) {
+  const QString text = whole.left(endOfWords(whole));
+  const QString colon = whole.mid(text.size());
   QString plain;
   for (int i = 0; i < text.size(); ++i) {
     if (text[i] == QLatin1Char('&') && ++i == text.size()) break;
@@ -58,7 +62,7 @@ QString plainText(const QString &text) {
   const int size = static_cast<int>(plain.size());
   const bool added = text.endsWith(QLatin1Char(')')) && text.size() > 4 &&
                      text.mid(text.size() - 4, 2) == QLatin1String("(&");
-  return added ? plain.left(size - 3).trimmed() : plain;
+  return (added ? plain.left(size - 3).trimmed() : plain) + colon;
 }
 
 QList<Carrier> carriersIn(QWidget *widget, bool alsoHidden = false) {
@@ -144,7 +148,11 @@ int placeOf(QChar letter, const QString &plain) {
 QString withLetter(const QString &plain, QChar letter) {
   if (letter.isNull()) return withoutMnemonic(plain);
   const int place = placeOf(letter, plain);
-  if (place < 0) return withoutMnemonic(plain) + QStringLiteral(" (&") + letter + QLatin1Char(')');
+  if (place < 0) {
+    const qsizetype end = endOfWords(plain);
+    return withoutMnemonic(plain.left(end)) + QStringLiteral(" (&") + letter + QLatin1Char(')') +
+           plain.mid(end);
+  }
   return withoutMnemonic(plain.left(place)) + QLatin1Char('&') + withoutMnemonic(plain.mid(place));
 }
 

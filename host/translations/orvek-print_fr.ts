@@ -28,11 +28,11 @@
     <name>orvek::ChooserRow</name>
     <message>
         <source>P&amp;rinter:</source>
-        <translation>Imp&amp;rimante :</translation>
+        <translation>Imp&amp;rimante&#xa0;:</translation>
     </message>
     <message>
         <source>Pr&amp;eset:</source>
-        <translation>Préré&amp;glage :</translation>
+        <translation>Préré&amp;glage&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -69,19 +69,19 @@
     </message>
     <message>
         <source>%1: digits only</source>
-        <translation>%1 : chiffres uniquement</translation>
+        <translation>%1&#xa0;: chiffres uniquement</translation>
     </message>
     <message>
         <source>%1: %2 characters</source>
-        <translation>%1 : %2 caractères</translation>
+        <translation>%1&#xa0;: %2 caractères</translation>
     </message>
     <message>
         <source>%1: %2 to %3 characters</source>
-        <translation>%1 : %2 à %3 caractères</translation>
+        <translation>%1&#xa0;: %2 à %3 caractères</translation>
     </message>
     <message>
         <source>%1: %2 to %3</source>
-        <translation>%1 : %2 à %3</translation>
+        <translation>%1&#xa0;: %2 à %3</translation>
     </message>
 </context>
 <context>
@@ -155,7 +155,7 @@
     </message>
     <message>
         <source>can be printed once only, and &quot;-&quot; is given more than once</source>
-        <translation>ne peut être imprimée qu’une fois, et « - » est donné plusieurs fois</translation>
+        <translation>ne peut être imprimée qu’une fois, et «&#xa0;-&#xa0;» est donné plusieurs fois</translation>
     </message>
     <message>
         <source>standard output</source>
@@ -171,11 +171,11 @@
     </message>
     <message>
         <source>not found, so no booklet can be made; install this filter, too</source>
-        <translation>introuvable, donc pas de livret possible ; installez aussi ce filtre</translation>
+        <translation>introuvable, donc pas de livret possible&#xa0;; installez aussi ce filtre</translation>
     </message>
     <message>
         <source>not found; install the package &quot;cups&quot;</source>
-        <translation>introuvable ; installez le paquet « cups »</translation>
+        <translation>introuvable&#xa0;; installez le paquet «&#xa0;cups&#xa0;»</translation>
     </message>
     <message>
         <source>is empty, so there is nothing to print</source>
@@ -203,11 +203,11 @@
     </message>
     <message>
         <source>the filter %1 not available: %2</source>
-        <translation>le filtre %1 n’est pas disponible : %2</translation>
+        <translation>le filtre %1 n’est pas disponible&#xa0;: %2</translation>
     </message>
     <message>
         <source>its type is unknown; print a PDF, PostScript, text or image file</source>
-        <translation>type de fichier inconnu ; imprimez un fichier PDF, PostScript, texte ou image</translation>
+        <translation>type de fichier inconnu&#xa0;; imprimez un fichier PDF, PostScript, texte ou image</translation>
     </message>
     <message>
         <source>no filter prints the type %1</source>
@@ -295,31 +295,31 @@
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>not a preset: %1</source>
-        <translation>pas un préréglage : %1</translation>
+        <translation>pas un préréglage&#xa0;: %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; must be text</source>
-        <translation>« %1 » doit être un texte</translation>
+        <translation>«&#xa0;%1&#xa0;» doit être un texte</translation>
     </message>
     <message>
         <source>&quot;%1&quot; must be an object</source>
-        <translation>« %1 » doit être un objet</translation>
+        <translation>«&#xa0;%1&#xa0;» doit être un objet</translation>
     </message>
     <message>
         <source>option &quot;%1&quot; must have a choice as text</source>
-        <translation>l’option « %1 » doit avoir un choix sous forme de texte</translation>
+        <translation>l’option «&#xa0;%1&#xa0;» doit avoir un choix sous forme de texte</translation>
     </message>
     <message>
         <source>not a preset: one JSON object expected</source>
-        <translation>pas un préréglage : un objet JSON est attendu</translation>
+        <translation>pas un préréglage&#xa0;: un objet JSON est attendu</translation>
     </message>
     <message>
         <source>preset &quot;%1&quot;</source>
-        <translation>préréglage « %1 »</translation>
+        <translation>préréglage «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>can&apos;t be made</source>
@@ -327,11 +327,11 @@
     </message>
     <message>
         <source>the present one is damaged and left as it is (%1); delete it first</source>
-        <translation>celui qui existe est endommagé et reste tel quel (%1) ; supprimez-le d’abord</translation>
+        <translation>celui qui existe est endommagé et reste tel quel (%1)&#xa0;; supprimez-le d’abord</translation>
     </message>
     <message>
         <source>holds a preset of another name: &quot;%1&quot;</source>
-        <translation>contient un préréglage d’un autre nom : « %1 »</translation>
+        <translation>contient un préréglage d’un autre nom&#xa0;: «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>there is one of that name already</source>
@@ -343,7 +343,7 @@
     </message>
     <message>
         <source>is empty; give the preset a name</source>
-        <translation>est vide ; donnez un nom au préréglage</translation>
+        <translation>est vide&#xa0;; donnez un nom au préréglage</translation>
     </message>
     <message>
         <source>can&apos;t hold line breaks or control characters</source>
@@ -355,7 +355,7 @@
     </message>
     <message>
         <source>the print server did not accept the password of user &quot;%1&quot;, given %2 times</source>
-        <translation>le serveur d’impression n’a pas accepté le mot de passe de l’utilisateur « %1 », donné %2 fois</translation>
+        <translation>le serveur d’impression n’a pas accepté le mot de passe de l’utilisateur «&#xa0;%1&#xa0;», donné %2 fois</translation>
     </message>
     <message>
         <source>the print server does not give its printer description (%1)</source>
@@ -363,7 +363,7 @@
     </message>
     <message>
         <source>names a printer that does not exist: &quot;%1&quot;</source>
-        <translation>désigne une imprimante qui n’existe pas : « %1 »</translation>
+        <translation>désigne une imprimante qui n’existe pas&#xa0;: «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>the print server has no such queue or job</source>
@@ -371,7 +371,7 @@
     </message>
     <message>
         <source>the print server does not allow it for user &quot;%1&quot;</source>
-        <translation>le serveur d’impression ne le permet pas à l’utilisateur « %1 »</translation>
+        <translation>le serveur d’impression ne le permet pas à l’utilisateur «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>the queue takes no jobs at present</source>
@@ -387,7 +387,7 @@
     </message>
     <message>
         <source>the print server stopped answering; try again once it is up</source>
-        <translation>le serveur d’impression ne répond plus ; réessayez quand il fonctionnera</translation>
+        <translation>le serveur d’impression ne répond plus&#xa0;; réessayez quand il fonctionnera</translation>
     </message>
     <message>
         <source>the connection to the print server broke (%1)</source>
@@ -395,7 +395,7 @@
     </message>
     <message>
         <source>not a ticket: JSON expected (%1)</source>
-        <translation>pas un ticket : du JSON est attendu (%1)</translation>
+        <translation>pas un ticket&#xa0;: du JSON est attendu (%1)</translation>
     </message>
     <message>
         <source>true or false</source>
@@ -415,15 +415,15 @@
     </message>
     <message>
         <source>not a ticket: one JSON object expected</source>
-        <translation>pas un ticket : un objet JSON est attendu</translation>
+        <translation>pas un ticket&#xa0;: un objet JSON est attendu</translation>
     </message>
     <message>
         <source>key &quot;%1&quot; must be text or an integer, not %2</source>
-        <translation>la clé « %1 » doit être un texte ou un entier, pas %2</translation>
+        <translation>la clé «&#xa0;%1&#xa0;» doit être un texte ou un entier, pas %2</translation>
     </message>
     <message>
         <source>not a page range; write for example 1-3,7</source>
-        <translation>n’est pas une plage de pages ; exemple : 1-3,7</translation>
+        <translation>n’est pas une plage de pages&#xa0;; exemple&#xa0;: 1-3,7</translation>
     </message>
     <message>
         <source>not a valid PPD file (%1)</source>
@@ -431,19 +431,19 @@
     </message>
     <message>
         <source>&quot;PluginInterface&quot; must be a number</source>
-        <translation>« PluginInterface » doit être un nombre</translation>
+        <translation>«&#xa0;PluginInterface&#xa0;» doit être un nombre</translation>
     </message>
     <message>
         <source>made for plug-in interface %1, this program has %2: install the plug-in that belongs to it</source>
-        <translation>fait pour l’interface de module %1, ce programme a %2 : installez le module qui lui correspond</translation>
+        <translation>fait pour l’interface de module %1, ce programme a %2&#xa0;: installez le module qui lui correspond</translation>
     </message>
     <message>
         <source>&quot;Executable&quot; must name the plug-in&apos;s code file</source>
-        <translation>« Executable » doit nommer le fichier de code du module</translation>
+        <translation>«&#xa0;Executable&#xa0;» doit nommer le fichier de code du module</translation>
     </message>
     <message>
         <source>&quot;Executable&quot; must be a file inside the bundle, not &quot;%1&quot;</source>
-        <translation>« Executable » doit être un fichier du paquet, pas « %1 »</translation>
+        <translation>«&#xa0;Executable&#xa0;» doit être un fichier du paquet, pas «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>the plug-in&apos;s code is missing</source>
@@ -455,7 +455,7 @@
     </message>
     <message>
         <source>&quot;PrincipalClass&quot; must name the plug-in&apos;s class</source>
-        <translation>« PrincipalClass » doit nommer la classe du module</translation>
+        <translation>«&#xa0;PrincipalClass&#xa0;» doit nommer la classe du module</translation>
     </message>
     <message>
         <source>the plug-in&apos;s code can&apos;t be loaded (%1)</source>
@@ -463,7 +463,7 @@
     </message>
     <message>
         <source>has no factory for the class &quot;%1&quot;</source>
-        <translation>n’a pas de fabrique pour la classe « %1 »</translation>
+        <translation>n’a pas de fabrique pour la classe «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>the plug-in&apos;s factory refused its bundle</source>
@@ -475,11 +475,11 @@
     </message>
     <message>
         <source>belongs to another user, whose code would run as yours; a plug-in must be yours or the administrator&apos;s</source>
-        <translation>appartient à un autre utilisateur, dont le code s’exécuterait en votre nom ; un module doit être à vous ou à l’administrateur</translation>
+        <translation>appartient à un autre utilisateur, dont le code s’exécuterait en votre nom&#xa0;; un module doit être à vous ou à l’administrateur</translation>
     </message>
     <message>
         <source>can be written by others, whose code would run as yours; take that right from them (chmod go-w)</source>
-        <translation>peut être modifié par d’autres, dont le code s’exécuterait en votre nom ; retirez-leur ce droit (chmod go-w)</translation>
+        <translation>peut être modifié par d’autres, dont le code s’exécuterait en votre nom&#xa0;; retirez-leur ce droit (chmod go-w)</translation>
     </message>
     <message>
         <source>Bad file descriptor</source>
@@ -487,15 +487,15 @@
     </message>
     <message>
         <source>has no page %1: the number of its pages is %2</source>
-        <translation>n’a pas de page %1 : le nombre de ses pages est %2</translation>
+        <translation>n’a pas de page %1&#xa0;: le nombre de ses pages est %2</translation>
     </message>
     <message>
         <source>is the document itself, which would be lost; name another file</source>
-        <translation>est le document lui-même, qui serait perdu ; indiquez un autre fichier</translation>
+        <translation>est le document lui-même, qui serait perdu&#xa0;; indiquez un autre fichier</translation>
     </message>
     <message>
         <source>it needs a password; print it from a program that opens it with that password</source>
-        <translation>il faut un mot de passe ; imprimez-le depuis un programme qui l’ouvre avec ce mot de passe</translation>
+        <translation>il faut un mot de passe&#xa0;; imprimez-le depuis un programme qui l’ouvre avec ce mot de passe</translation>
     </message>
     <message>
         <source>whoever made it has encrypted it and does not allow that it is printed</source>
@@ -503,7 +503,7 @@
     </message>
     <message>
         <source>%1; print it once more, and its sheets are made on this computer</source>
-        <translation>%1 ; imprimez encore une fois, et les feuilles seront préparées sur cet ordinateur</translation>
+        <translation>%1&#xa0;; imprimez encore une fois, et les feuilles seront préparées sur cet ordinateur</translation>
     </message>
     <message>
         <source>the server&apos;s driver can&apos;t make booklets</source>
@@ -515,7 +515,7 @@
     </message>
     <message>
         <source>the print server wants it once more; print it from a file instead</source>
-        <translation>le serveur d’impression la redemande ; imprimez plutôt à partir d’un fichier</translation>
+        <translation>le serveur d’impression la redemande&#xa0;; imprimez plutôt à partir d’un fichier</translation>
     </message>
     <message>
         <source>the print server sent an answer that cannot be read</source>
@@ -523,7 +523,7 @@
     </message>
     <message>
         <source>the print server did not come to an end of its answer; try again later, or ask whoever runs it</source>
-        <translation>le serveur d’impression n’a pas terminé sa réponse ; réessayez plus tard ou adressez-vous à son administrateur</translation>
+        <translation>le serveur d’impression n’a pas terminé sa réponse&#xa0;; réessayez plus tard ou adressez-vous à son administrateur</translation>
     </message>
     <message>
         <source>no print server has this name</source>
@@ -547,27 +547,27 @@
     </message>
     <message>
         <source>a copy that the filters can open can&apos;t be written; make room for temporary files</source>
-        <translation>impossible d’écrire une copie que les filtres peuvent ouvrir ; libérez de la place pour les fichiers temporaires</translation>
+        <translation>impossible d’écrire une copie que les filtres peuvent ouvrir&#xa0;; libérez de la place pour les fichiers temporaires</translation>
     </message>
     <message>
         <source>the sheets of several documents can&apos;t be put into one PDF; print them one by one</source>
-        <translation>les feuilles de plusieurs documents ne peuvent être réunies en un seul PDF ; imprimez-les un par un</translation>
+        <translation>les feuilles de plusieurs documents ne peuvent être réunies en un seul PDF&#xa0;; imprimez-les un par un</translation>
     </message>
     <message>
         <source>no such printer on %1; choose another one</source>
-        <translation>aucune imprimante de ce nom sur %1 ; choisissez-en une autre</translation>
+        <translation>aucune imprimante de ce nom sur %1&#xa0;; choisissez-en une autre</translation>
     </message>
     <message>
         <source>there is no default printer; choose one</source>
-        <translation>il n’y a pas d’imprimante par défaut ; choisissez-en une</translation>
+        <translation>il n’y a pas d’imprimante par défaut&#xa0;; choisissez-en une</translation>
     </message>
     <message>
         <source>there is none of that name; choose another one</source>
-        <translation>il n’en existe pas de ce nom ; choisissez-en un autre</translation>
+        <translation>il n’en existe pas de ce nom&#xa0;; choisissez-en un autre</translation>
     </message>
     <message>
         <source>has no side that %1 asks for: the number of its sides is %2</source>
-        <translation>n’a aucune face que demande %1 : le nombre de ses faces est %2</translation>
+        <translation>n’a aucune face que demande %1&#xa0;: le nombre de ses faces est %2</translation>
     </message>
 </context>
 <context>
@@ -609,7 +609,7 @@
     <name>orvek::History</name>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>On</source>
@@ -695,7 +695,7 @@
     <name>orvek::HistoryButtons</name>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -831,7 +831,7 @@
     </message>
     <message>
         <source>Several sheets at once (Ctrl and wheel: zoom)</source>
-        <translation>Plusieurs feuilles à la fois (Ctrl et molette : zoom)</translation>
+        <translation>Plusieurs feuilles à la fois (Ctrl et molette&#xa0;: zoom)</translation>
     </message>
     <message>
         <source>Several sheets at once</source>
@@ -847,7 +847,7 @@
     </message>
     <message>
         <source>The document&apos;s pages are not known: a sample</source>
-        <translation>Pages du document inconnues : un exemple</translation>
+        <translation>Pages du document inconnues&#xa0;: un exemple</translation>
     </message>
     <message>
         <source>%1 × 1 sheet</source>
@@ -895,19 +895,27 @@
     </message>
     <message>
         <source>%1 with copies that are not collated: equal pages would be stapled together</source>
-        <translation>%1 avec des copies non assemblées : des pages identiques seraient agrafées ensemble</translation>
+        <translation>%1 avec des copies non assemblées&#xa0;: des pages identiques seraient agrafées ensemble</translation>
     </message>
     <message>
         <source>A booklet of %1 sheets is more than the printer folds at once: at most %2</source>
-        <translation>Un livret de %1 feuilles dépasse ce que l’imprimante plie en une fois : %2 au plus</translation>
+        <translation>Un livret de %1 feuilles dépasse ce que l’imprimante plie en une fois&#xa0;: %2 au plus</translation>
     </message>
     <message>
         <source>The document has no page %1: the number of its pages is %2</source>
-        <translation>Le document n’a pas de page %1 : le nombre de ses pages est %2</translation>
+        <translation>Le document n’a pas de page %1&#xa0;: le nombre de ses pages est %2</translation>
     </message>
     <message>
         <source>None of the sides that are asked for exists: the number of sides is %1</source>
-        <translation>Aucune des faces demandées n’existe : le nombre de faces est %1</translation>
+        <translation>Aucune des faces demandées n’existe&#xa0;: le nombre de faces est %1</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::LabelText</name>
+    <message>
+        <source>%1:</source>
+        <comment>a label before its field</comment>
+        <translation>%1&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -957,7 +965,7 @@
     <name>orvek::OptionsModel</name>
     <message>
         <source>Changed; by itself: %1</source>
-        <translation>Modifié ; sinon : %1</translation>
+        <translation>Modifié&#xa0;; sinon&#xa0;: %1</translation>
     </message>
     <message>
         <source>Option</source>
@@ -1087,7 +1095,7 @@
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation>&amp;Nom :</translation>
+        <translation>&amp;Nom&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Sign In</source>
@@ -1102,7 +1110,7 @@
     </message>
     <message>
         <source>&amp;Password:</source>
-        <translation>&amp;Mot de passe :</translation>
+        <translation>&amp;Mot de passe&#xa0;:</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1141,7 +1149,7 @@
     </message>
     <message>
         <source>Name of the preset:</source>
-        <translation>Nom du préréglage :</translation>
+        <translation>Nom du préréglage&#xa0;:</translation>
     </message>
     <message>
         <source>Save Preset</source>
@@ -1149,7 +1157,7 @@
     </message>
     <message>
         <source>There is a preset “%1” already. Replace it?</source>
-        <translation>Un préréglage « %1 » existe déjà. Le remplacer ?</translation>
+        <translation>Un préréglage «&#xa0;%1&#xa0;» existe déjà. Le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>Rename Preset</source>
@@ -1161,26 +1169,26 @@
     </message>
     <message>
         <source>Delete the preset “%1”?</source>
-        <translation>Supprimer le préréglage « %1 » ?</translation>
+        <translation>Supprimer le préréglage «&#xa0;%1&#xa0;»&#xa0;?</translation>
     </message>
 </context>
 <context>
     <name>orvek::PresetFit</name>
     <message>
         <source>this printer has no option &quot;%1&quot;</source>
-        <translation>cette imprimante n’a pas d’option « %1 »</translation>
+        <translation>cette imprimante n’a pas d’option «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is installed equipment, which a preset does not change</source>
-        <translation>« %1 » est un équipement installé, qu’un préréglage ne change pas</translation>
+        <translation>«&#xa0;%1&#xa0;» est un équipement installé, qu’un préréglage ne change pas</translation>
     </message>
     <message>
         <source>&quot;%1&quot; of this printer has no choice &quot;%2&quot;</source>
-        <translation>« %1 » n’a pas de choix « %2 » sur cette imprimante</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas de choix «&#xa0;%2&#xa0;» sur cette imprimante</translation>
     </message>
     <message>
         <source>&quot;%1&quot; of this printer takes %2</source>
-        <translation>« %1 » de cette imprimante accepte %2</translation>
+        <translation>«&#xa0;%1&#xa0;» de cette imprimante accepte %2</translation>
     </message>
     <message>
         <source>this printer makes no booklets</source>
@@ -1199,7 +1207,7 @@
     </message>
     <message>
         <source>Print all the same?</source>
-        <translation>Imprimer quand même ?</translation>
+        <translation>Imprimer quand même&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;Print</source>
@@ -1211,15 +1219,15 @@
     </message>
     <message>
         <source>It can still be printed into a file: choose File as the printer.</source>
-        <translation>Vous pouvez toujours imprimer dans un fichier : choisissez Fichier comme imprimante.</translation>
+        <translation>Vous pouvez toujours imprimer dans un fichier&#xa0;: choisissez Fichier comme imprimante.</translation>
     </message>
     <message>
         <source>Not everything fits this printer:</source>
-        <translation>Tout ne convient pas à cette imprimante :</translation>
+        <translation>Tout ne convient pas à cette imprimante&#xa0;:</translation>
     </message>
     <message>
         <source>Not all of the preset fits this printer:</source>
-        <translation>Le préréglage ne convient pas entièrement à cette imprimante :</translation>
+        <translation>Le préréglage ne convient pas entièrement à cette imprimante&#xa0;:</translation>
     </message>
     <message>
         <source>Open a Printer Description</source>
@@ -1294,7 +1302,7 @@
     </message>
     <message>
         <source>No printers: %1</source>
-        <translation>Aucune imprimante : %1</translation>
+        <translation>Aucune imprimante&#xa0;: %1</translation>
     </message>
     <message>
         <source>Prints into a file</source>
@@ -1325,11 +1333,11 @@
     </message>
     <message>
         <source>Printing: %1</source>
-        <translation>Impression : %1</translation>
+        <translation>Impression&#xa0;: %1</translation>
     </message>
     <message>
         <source>Printing document %1 of %2: %3</source>
-        <translation>Impression du document %1 sur %2 : %3</translation>
+        <translation>Impression du document %1 sur %2&#xa0;: %3</translation>
     </message>
 </context>
 <context>
@@ -1502,7 +1510,7 @@
     <name>orvek::SessionJob</name>
     <message>
         <source>Booklet was set to Off: it can&apos;t be combined with several pages per sheet</source>
-        <translation>Livret : passé à « Désactivé », incompatible avec plusieurs pages par feuille</translation>
+        <translation>Livret&#xa0;: passé à «&#xa0;Désactivé&#xa0;», incompatible avec plusieurs pages par feuille</translation>
     </message>
 </context>
 <context>
@@ -1571,11 +1579,11 @@
     </message>
     <message>
         <source>Sheet %1, front: %2</source>
-        <translation>Feuille %1, recto : %2</translation>
+        <translation>Feuille %1, recto&#xa0;: %2</translation>
     </message>
     <message>
         <source>Sheet %1, back: %2</source>
-        <translation>Feuille %1, verso : %2</translation>
+        <translation>Feuille %1, verso&#xa0;: %2</translation>
     </message>
     <message>
         <source>saddle fold</source>
@@ -2446,11 +2454,11 @@
     <name>orvek::SummaryView</name>
     <message>
         <source>%1: %2 (changed)</source>
-        <translation>%1 : %2 (modifié)</translation>
+        <translation>%1&#xa0;: %2 (modifié)</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -2465,11 +2473,11 @@
     <name>orvek::TicketBounds</name>
     <message>
         <source>Copies was set to 1: less is no job</source>
-        <translation>Le nombre de copies a été mis à 1 : il en faut au moins une</translation>
+        <translation>Le nombre de copies a été mis à 1&#xa0;: il en faut au moins une</translation>
     </message>
     <message>
         <source>Copies was set to %1: no job makes more</source>
-        <translation>Le nombre de copies a été mis à %1 : aucune tâche n’en fait plus</translation>
+        <translation>Le nombre de copies a été mis à %1&#xa0;: aucune tâche n’en fait plus</translation>
     </message>
 </context>
 <context>
@@ -2480,18 +2488,18 @@
     </message>
     <message>
         <source>“%1” was read as %2</source>
-        <translation>« %1 » a été lu comme %2</translation>
+        <translation>«&#xa0;%1&#xa0;» a été lu comme %2</translation>
     </message>
 </context>
 <context>
     <name>orvek::Wording</name>
     <message>
         <source>%1 was set to %2: it can&apos;t be combined with %3</source>
-        <translation>%1 : passé à « %2 », incompatible avec « %3 »</translation>
+        <translation>%1&#xa0;: passé à «&#xa0;%2&#xa0;», incompatible avec «&#xa0;%3&#xa0;»</translation>
     </message>
     <message>
         <source>%1 was not set to %2: it can&apos;t be combined with %3</source>
-        <translation>%1 : « %2 » refusé, incompatible avec « %3 »</translation>
+        <translation>%1&#xa0;: «&#xa0;%2&#xa0;» refusé, incompatible avec «&#xa0;%3&#xa0;»</translation>
     </message>
 </context>
 </TS>

@@ -907,6 +907,14 @@
     </message>
 </context>
 <context>
+    <name>orvek::LabelText</name>
+    <message>
+        <source>%1:</source>
+        <comment>a label before its field</comment>
+        <translation>%1：</translation>
+    </message>
+</context>
+<context>
     <name>orvek::NoticeBar</name>
     <message>
         <source>&amp;Undo</source>

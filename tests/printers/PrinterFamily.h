@@ -2,13 +2,12 @@
 // The PPD files of the printer family, opened with libcups for the tests.
 #pragma once
 
-#include <clocale>
-#include <cstdlib>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "platform/printing/PPD.h"
+#include "tests/support/UserLanguage.h"
 
 namespace orvek::test {
 
@@ -51,21 +50,6 @@ inline std::vector<std::string> choiceKeywords(ppd_file_t *ppd, const char *keyw
   }
   return keywords;
 }
-
-/// Makes libcups read PPD files for a user of this language. It asks the C library first, and the
-/// environment where that speaks no language at all.
-class UserLanguage {
- public:
-  explicit UserLanguage(const std::string &language) {
-    std::setlocale(LC_ALL, "C");
-    unsetenv("LC_ALL");
-    unsetenv("LC_MESSAGES");
-    setenv("LANG", (language + ".UTF-8").c_str(), 1);
-  }
-  ~UserLanguage() { setenv("LANG", "C.UTF-8", 1); }
-  UserLanguage(const UserLanguage &) = delete;
-  UserLanguage &operator=(const UserLanguage &) = delete;
-};
 
 /// The printer's description with its texts in a language.
 inline PPD openPrinterIn(const std::string &language, const std::string &model) {

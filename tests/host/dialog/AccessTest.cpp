@@ -109,6 +109,24 @@ TEST_P(AccessIn, NoTwoControlsOfAPageHaveOneLetter) {
   }
 }
 
+TEST_P(AccessIn, EveryLabelBeforeAFieldHasAColonAsTheLanguageWritesIt) {
+  const QMap<QString, QString> written{{"fr", QStringLiteral("\u00a0:")},
+                                       {"zh_CN", QStringLiteral("：")}};
+  const QString colon = written.value(QLatin1String(GetParam()), QStringLiteral(":"));
+  open();
+  find<QTabWidget>("pages")->setCurrentIndex(0);
+  QCoreApplication::processEvents();
+  int labels = 0;
+  for (const auto *label : dialog->findChildren<QLabel *>()) {
+    if (label->buddy() == nullptr || !label->isVisible()) continue;
+    ++labels;
+    EXPECT_TRUE(label->text().endsWith(colon)) << label->text().toStdString();
+    const QString words = label->text().chopped(colon.size());
+    EXPECT_FALSE(words.endsWith(u':') || words.back().isSpace()) << label->text().toStdString();
+  }
+  EXPECT_GE(labels, 10);
+}
+
 TEST_P(AccessIn, EveryGeneralSettingHasALetter) {
   open();
   auto *pages = find<QTabWidget>("pages");

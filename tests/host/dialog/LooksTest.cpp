@@ -10,6 +10,7 @@
 #include "tests/host/dialog/DialogKit.h"
 #include "tests/host/dialog/Languages.h"
 #include "tests/looks/Clipped.h"
+#include "tests/support/UserLanguage.h"
 
 using namespace orvek;
 using namespace orvek::test;
@@ -46,6 +47,32 @@ TEST_P(LooksIn, NoTextIsCutOffOrCovered) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, LooksIn, allLanguages);
+
+class LargeText : public DialogTest {
+ protected:
+  void SetUp() override {
+    QFont font = usual;
+    font.setPointSizeF(usual.pointSizeF() * 1.5);
+    QApplication::setFont(font);
+  }
+  void TearDown() override {
+    dialog.reset();
+    QApplication::setFont(usual);
+  }
+
+ private:
+  const QFont usual = QApplication::font();
+};
+
+TEST_F(LargeText, ShowsAllOfTheChoiceOfSidesWhereThereIsRoom) {
+  const UserLanguage german("de");
+  open();
+  dialog->resize(800, 600);
+  session->pick(QStringLiteral("Duplex"), QStringLiteral("DuplexTumble"));
+  ASSERT_EQ(find<QComboBox>("sides")->currentText(), "Bindung an der kurzen Seite");
+  static_cast<void>(QTest::qWaitFor([&] { return clippedTexts(*dialog).isEmpty(); }, 2000));
+  EXPECT_EQ(clippedTexts(*dialog).join(u'\n').toStdString(), "");
+}
 
 class Clipped : public ::testing::Test {
  protected:

@@ -104,6 +104,18 @@ TEST_P(Translations, KeepAKeyWhereTheTextHasOne) {
   }
 }
 
+TEST(FrenchTranslations, KeepTheirSignsOnTheLineOfTheirWords) {
+  static const QRegularExpression loose(QStringLiteral("[ ][:;?!»]|«[ ]"));
+  int signs = 0;
+  for (const Message &message : messagesIn(catalogueOf(QStringLiteral("fr")))) {
+    for (const QString &text : message.translations) {
+      EXPECT_FALSE(loose.match(text).hasMatch()) << text.toStdString();
+      signs += static_cast<int>(text.count(QChar::Nbsp));
+    }
+  }
+  EXPECT_GT(signs, 0);
+}
+
 /// The program as it starts for a user of this locale.
 class SystemLanguage : public ::testing::Test {
  protected:

@@ -12,6 +12,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "host/settings/LabelText.h"
 #include "tests/support/Printers.h"
 
 namespace orvek::test {
@@ -61,6 +62,20 @@ TEST_F(MnemonicsTest, StandInBracketsBehindTextsWithoutLatinLetters) {
   EXPECT_EQ(size->text(), QStringLiteral("用紙サイズ (&A)"));
 }
 
+TEST_F(MnemonicsTest, StandBeforeTheColonOfALabel) {
+  QLabel *size = label(QStringLiteral("用紙サイズ:"));
+  QLabel *paper = label(QStringLiteral("纸张尺寸："));
+  QLabel *spaced = label(QStringLiteral("Размер\u00a0:"));
+  QLabel *latin = label(QStringLiteral("Quality:"));
+  for (int call = 0; call < 2; ++call) {
+    assignMnemonics(&page);
+    EXPECT_EQ(size->text(), QStringLiteral("用紙サイズ (&A):"));
+    EXPECT_EQ(paper->text(), QStringLiteral("纸张尺寸 (&B)："));
+    EXPECT_EQ(spaced->text(), QStringLiteral("Размер (&C)\u00a0:"));
+    EXPECT_EQ(latin->text(), "&Quality:");
+  }
+}
+
 TEST_F(MnemonicsTest, KeepsAmpersandsOfTheText) {
   QLabel *text = label(withoutMnemonic("R&D paper"));
   assignMnemonics(&page);
@@ -94,6 +109,12 @@ TEST_F(MnemonicsTest, NeverCollideAndNeverStandBehindALatinText) {
     seen.insert(letter);
   }
   EXPECT_EQ(seen.size(), 4);
+}
+
+TEST(LabelText, EndsWithOneColonWhateverTheNameBrings) {
+  EXPECT_EQ(labelText("Paper size"), "Paper size:");
+  EXPECT_EQ(labelText("R&D paper:"), "R&&D paper:");
+  EXPECT_EQ(labelText(QStringLiteral("纸张尺寸：")), QStringLiteral("纸张尺寸:"));
 }
 
 }  // namespace
