@@ -186,7 +186,7 @@ void PrintDialog::followDocuments() {
                      m_documents->detail());
   m_header->setAction(m_documents->remedy());
   m_session->job().setDocumentPages(only.pages, only.isScript);
-  m_view->setDocument(only);
+  m_view->setDocument(only, !m_documents->files().isEmpty());
   updateControls();
 }
 

@@ -177,11 +177,13 @@ void SessionView::showEvent(QShowEvent *event) {
   assignTabMnemonics(window(), nullptr);
 }
 
-void SessionView::setDocument(const DocumentInfo &document) {
-  if (document.path == m_path) return;
-  m_path = document.path;
-  delete m_preview;
-  addPreview();
+void SessionView::setDocument(const DocumentInfo &only, bool hasAny) {
+  if (only.path != m_path) {
+    m_path = only.path;
+    delete m_preview;
+    addPreview();
+  }
+  m_preview->setHasDocument(hasAny);
 }
 
 // After the first paint: which lines of a session that began with a ticket are changed ones takes a

@@ -25,7 +25,8 @@ class SessionView final : public QWidget {
  public:
   SessionView(PrintSession &session, const DocumentInfo &document, QWidget *parent);
 
-  void setDocument(const DocumentInfo &document);
+  /// `only`: of an only document; `hasAny`: whether there is one, or several.
+  void setDocument(const DocumentInfo &only, bool hasAny);
 
   /// Of a narrow window's.
   QSize minimumSizeHint() const override;

@@ -6,7 +6,8 @@
 #include <QObject>
 #include <QString>
 
-class QLabel;
+#include "host/settings/FieldNote.h"
+
 class QLineEdit;
 class QWidget;
 
@@ -26,11 +27,9 @@ class UnderstoodNote final : public QObject {
 
  private:
   void follow(QLineEdit *field, const QString &edited);
-  void say(const QLineEdit &field, const QString &words);
   void forget();
 
-  QWidget &m_page;
-  QLabel *m_note;
+  FieldNote m_note;
   /// What was typed since the keyboard came to the field, but for what was deleted.
   QString m_typed;
   /// The field as its panel left it after the last letter.

@@ -272,17 +272,28 @@ void JobPreview::showSide() {
   QAccessible::updateAccessibility(&changed);
 }
 
+void JobPreview::setHasDocument(bool has) {
+  m_hasDocument = has;
+  if (m_hasBegun) showCaption();
+}
+
+QString JobPreview::sheetsInWords() const {
+  const int sheets = imposition::sheetCount(sides());
+  if (m_copies <= 1) return sheets == 1 ? tr("1 sheet") : tr("%n sheets", nullptr, sheets);
+  return sheets == 1 ? tr("%1 × 1 sheet").arg(m_copies)
+                     : tr("%1 × %n sheets", nullptr, sheets).arg(m_copies);
+}
+
+// Of what does not exist nobody counts the sheets.
 QString JobPreview::caption() const {
   if (m_isSample && !m_isRead) return tr("Reading the document…");
-  if (sides().empty()) return tr("No page of the document is printed.");
-  const int sheets = imposition::sheetCount(sides());
+  if (m_hasDocument && sides().empty()) return tr("No page of the document is printed.");
   QStringList parts;
-  if (m_isSample) parts << tr("The document's pages are not known: a sample");
-  if (m_copies > 1) {
-    parts << (sheets == 1 ? tr("%1 × 1 sheet").arg(m_copies)
-                          : tr("%1 × %n sheets", nullptr, sheets).arg(m_copies));
+  if (!m_hasDocument) {
+    parts << tr("There is no document yet: a sample");
   } else {
-    parts << (sheets == 1 ? tr("1 sheet") : tr("%n sheets", nullptr, sheets));
+    if (m_isSample) parts << tr("The document's pages are not known: a sample");
+    parts << sheetsInWords();
   }
   if (const QString paper = choiceInWords(m_session, "PageSize"); !paper.isEmpty()) parts << paper;
   if (const QString bin = binInWords(m_session); !bin.isEmpty()) parts << bin;

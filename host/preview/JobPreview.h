@@ -29,6 +29,10 @@ class JobPreview final : public QWidget {
   JobPreview(PrintSession &session, const QString &document, QWidget *parent = nullptr);
   ~JobPreview() override;
 
+  /// Whether there is a document at all; there is, unless it is said otherwise. Without one the
+  /// caption says so.
+  void setHasDocument(bool has);
+
   /// Whether all that can be seen is there. Nothing is before the first show has been painted.
   bool isComplete() const;
 
@@ -53,10 +57,12 @@ class JobPreview final : public QWidget {
   void showSide();
   void showCaption();
   QString caption() const;
+  QString sheetsInWords() const;
   bool isTwoSided() const;
 
   PrintSession &m_session;
   QString m_path;
+  bool m_hasDocument = true;
   imposition::SheetJob m_job;
   int m_copies = 1;
   PrintedWith m_with;

@@ -11,6 +11,8 @@ class QSpinBox;
 
 namespace orvek {
 
+class FieldNote;
+
 /// Shows settings and says what the user changes. Belongs to its parent, owns its child controls,
 /// and lives on the interface's thread. Nothing fails.
 class CopiesRow final : public QWidget {
@@ -27,8 +29,11 @@ class CopiesRow final : public QWidget {
   void collatePicked(bool collate);
 
  private:
+  void watchTyping();
+
   QSpinBox *m_copies;
   QCheckBox *m_collate;
+  FieldNote *m_note;
 };
 
 }  // namespace orvek

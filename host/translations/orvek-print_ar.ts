@@ -49,6 +49,14 @@
         <source>Whole sets one after the other, not all copies of each page</source>
         <translation>مجموعات كاملة واحدة تلو الأخرى، لا كل نسخ الصفحة معًا</translation>
     </message>
+    <message>
+        <source>From 1 to %1; %2 applies</source>
+        <translation>من 1 إلى %1؛ يسري %2</translation>
+    </message>
+    <message>
+        <source>%1 still applies</source>
+        <translation>ما زال %1 ساريًا</translation>
+    </message>
 </context>
 <context>
     <name>orvek::CustomSizeRow</name>
@@ -886,6 +894,10 @@
             <numerusform>%n ورقة</numerusform>
             <numerusform>%n ورقة</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>There is no document yet: a sample</source>
+        <translation>لا يوجد مستند بعد: عيّنة</translation>
     </message>
 </context>
 <context>

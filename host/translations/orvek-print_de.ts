@@ -49,6 +49,14 @@
         <source>Whole sets one after the other, not all copies of each page</source>
         <translation>Ganze Sätze nacheinander statt aller Exemplare einer Seite</translation>
     </message>
+    <message>
+        <source>From 1 to %1; %2 applies</source>
+        <translation>Von 1 bis %1; es gilt %2</translation>
+    </message>
+    <message>
+        <source>%1 still applies</source>
+        <translation>%1 gilt weiterhin</translation>
+    </message>
 </context>
 <context>
     <name>orvek::CustomSizeRow</name>
@@ -870,6 +878,10 @@
             <numerusform>%n Blatt</numerusform>
             <numerusform>%n Blatt</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>There is no document yet: a sample</source>
+        <translation>Es gibt noch kein Dokument: ein Beispiel</translation>
     </message>
 </context>
 <context>

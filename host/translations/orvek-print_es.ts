@@ -49,6 +49,14 @@
         <source>Whole sets one after the other, not all copies of each page</source>
         <translation>Juegos completos uno tras otro, no todas las copias de cada página</translation>
     </message>
+    <message>
+        <source>From 1 to %1; %2 applies</source>
+        <translation>De 1 a %1; se aplica %2</translation>
+    </message>
+    <message>
+        <source>%1 still applies</source>
+        <translation>%1 sigue vigente</translation>
+    </message>
 </context>
 <context>
     <name>orvek::CustomSizeRow</name>
@@ -870,6 +878,10 @@
             <numerusform>%n hoja</numerusform>
             <numerusform>%n hojas</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>There is no document yet: a sample</source>
+        <translation>Aún no hay ningún documento: una muestra</translation>
     </message>
 </context>
 <context>

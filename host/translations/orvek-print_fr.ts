@@ -49,6 +49,14 @@
         <source>Whole sets one after the other, not all copies of each page</source>
         <translation>Jeux entiers l’un après l’autre, et non toutes les copies de chaque page</translation>
     </message>
+    <message>
+        <source>From 1 to %1; %2 applies</source>
+        <translation>De 1 à %1&#xa0;; %2 est en vigueur</translation>
+    </message>
+    <message>
+        <source>%1 still applies</source>
+        <translation>%1 reste en vigueur</translation>
+    </message>
 </context>
 <context>
     <name>orvek::CustomSizeRow</name>
@@ -870,6 +878,10 @@
             <numerusform>%n feuille</numerusform>
             <numerusform>%n feuilles</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>There is no document yet: a sample</source>
+        <translation>Il n’y a pas encore de document&#xa0;: un exemple</translation>
     </message>
 </context>
 <context>

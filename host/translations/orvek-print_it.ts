@@ -49,6 +49,14 @@
         <source>Whole sets one after the other, not all copies of each page</source>
         <translation>Serie complete una dopo l’altra, non tutte le copie di ogni pagina</translation>
     </message>
+    <message>
+        <source>From 1 to %1; %2 applies</source>
+        <translation>Da 1 a %1; vale %2</translation>
+    </message>
+    <message>
+        <source>%1 still applies</source>
+        <translation>%1 resta valido</translation>
+    </message>
 </context>
 <context>
     <name>orvek::CustomSizeRow</name>
@@ -870,6 +878,10 @@
             <numerusform>%n foglio</numerusform>
             <numerusform>%n fogli</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>There is no document yet: a sample</source>
+        <translation>Non c’è ancora alcun documento: un esempio</translation>
     </message>
 </context>
 <context>

@@ -49,6 +49,14 @@
         <source>Whole sets one after the other, not all copies of each page</source>
         <translation>ページごとではなく、1 部ずつ印刷します</translation>
     </message>
+    <message>
+        <source>From 1 to %1; %2 applies</source>
+        <translation>1 から %1 まで。%2 が使われます</translation>
+    </message>
+    <message>
+        <source>%1 still applies</source>
+        <translation>%1 のままです</translation>
+    </message>
 </context>
 <context>
     <name>orvek::CustomSizeRow</name>
@@ -866,6 +874,10 @@
         <translation>
             <numerusform>%n 枚</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>There is no document yet: a sample</source>
+        <translation>まだ文書がないため見本を表示</translation>
     </message>
 </context>
 <context>

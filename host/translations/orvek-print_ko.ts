@@ -49,6 +49,14 @@
         <source>Whole sets one after the other, not all copies of each page</source>
         <translation>페이지별로 모두 인쇄하지 않고 한 부씩 차례로 인쇄합니다</translation>
     </message>
+    <message>
+        <source>From 1 to %1; %2 applies</source>
+        <translation>1에서 %1까지. %2이(가) 적용됩니다</translation>
+    </message>
+    <message>
+        <source>%1 still applies</source>
+        <translation>%1이(가) 계속 적용됩니다</translation>
+    </message>
 </context>
 <context>
     <name>orvek::CustomSizeRow</name>
@@ -866,6 +874,10 @@
         <translation>
             <numerusform>%n장</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>There is no document yet: a sample</source>
+        <translation>아직 문서가 없음: 견본</translation>
     </message>
 </context>
 <context>

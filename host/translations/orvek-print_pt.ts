@@ -49,6 +49,14 @@
         <source>Whole sets one after the other, not all copies of each page</source>
         <translation>Conjuntos completos um após o outro, não todas as cópias de cada página</translation>
     </message>
+    <message>
+        <source>From 1 to %1; %2 applies</source>
+        <translation>De 1 a %1; vale %2</translation>
+    </message>
+    <message>
+        <source>%1 still applies</source>
+        <translation>%1 continua valendo</translation>
+    </message>
 </context>
 <context>
     <name>orvek::CustomSizeRow</name>
@@ -870,6 +878,10 @@
             <numerusform>%n folha</numerusform>
             <numerusform>%n folhas</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>There is no document yet: a sample</source>
+        <translation>Ainda não há documento: uma amostra</translation>
     </message>
 </context>
 <context>

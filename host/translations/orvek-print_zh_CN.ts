@@ -49,6 +49,14 @@
         <source>Whole sets one after the other, not all copies of each page</source>
         <translation>一份接一份地打印，而不是先打印每页的所有份数</translation>
     </message>
+    <message>
+        <source>From 1 to %1; %2 applies</source>
+        <translation>1 到 %1 之间；采用 %2</translation>
+    </message>
+    <message>
+        <source>%1 still applies</source>
+        <translation>%1 仍然有效</translation>
+    </message>
 </context>
 <context>
     <name>orvek::CustomSizeRow</name>
@@ -866,6 +874,10 @@
         <translation>
             <numerusform>%n 张</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>There is no document yet: a sample</source>
+        <translation>尚无文档：示例</translation>
     </message>
 </context>
 <context>

@@ -111,6 +111,24 @@ TEST_F(WindowOverDocuments, AsksForThePasswordOfAProtectedOneAndPrintsIt) {
   EXPECT_FALSE(QFile::exists(copy.filePath()));
 }
 
+TEST_F(WindowOverDocuments, PreviewASampleAndSaySoWhereThereIsNone) {
+  openWith({});
+  const auto *caption = find<QLabel>("previewCaption");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !caption->text().isEmpty(); }, jobTimeout));
+  EXPECT_EQ(caption->text(), "There is no document yet: a sample · A4");
+  JobSettings settings = session->job().settings();
+  settings.copies = 3;
+  session->job().setSettings(settings);
+  EXPECT_EQ(caption->text(), "There is no document yet: a sample · A4");
+}
+
+TEST_F(WindowOverDocuments, PreviewASampleOfSeveral) {
+  openWith({sample, sample});
+  const auto *caption = find<QLabel>("previewCaption");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !caption->text().isEmpty(); }, jobTimeout));
+  EXPECT_EQ(caption->text(), "The document's pages are not known: a sample · 8 sheets · A4");
+}
+
 TEST_F(WindowOverDocuments, WaitForAPasswordThatWasNotGivenAndAskForItAgain) {
   const QString locked = folder.filePath("locked.pdf");
   if (!protect(sample, password, locked)) GTEST_SKIP() << "qpdf is not installed";
