@@ -14,8 +14,8 @@ constexpr std::chrono::milliseconds lookAtCancelled{20};
 
 FirstPrinter::FirstPrinter(const CommandLine &line,
                            const std::shared_ptr<PasswordSource> &passwords)
-    : m_thread([this, line, passwords] {
-        const Answer answer = gatherSetup(line, passwords, &m_cancelled);
+    : m_line(line), m_passwords(passwords), m_thread([this] {
+        const Answer answer = gatherSetup(m_line, m_passwords, &m_cancelled);
         const std::lock_guard lock(m_mutex);
         m_answer = answer;
         m_answered.notify_all();
@@ -30,6 +30,11 @@ std::optional<FirstPrinter::Answer> FirstPrinter::within(std::chrono::millisecon
   std::unique_lock lock(m_mutex);
   m_answered.wait_for(lock, patience, [this] { return m_answer.has_value(); });
   return m_answer;
+}
+
+FirstPrinter::Answer FirstPrinter::ask(const std::atomic<bool> &cancelled) {
+  const bool asksAnew = m_isAnswered.exchange(true);
+  return asksAnew ? gatherSetup(m_line, m_passwords, &cancelled) : wait(cancelled);
 }
 
 FirstPrinter::Answer FirstPrinter::wait(const std::atomic<bool> &cancelled) {

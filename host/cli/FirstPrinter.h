@@ -29,10 +29,16 @@ class FirstPrinter {
   /// The answer, if it comes this soon.
   std::optional<Answer> within(std::chrono::milliseconds patience);
 
-  /// Waits for the answer; drops the question once `cancelled` is set.
-  Answer wait(const std::atomic<bool> &cancelled);
+  /// Waits for the answer; drops the question once `cancelled` is set. Whoever calls it again does
+  /// not want that answer: it asks anew then.
+  Answer ask(const std::atomic<bool> &cancelled);
 
  private:
+  Answer wait(const std::atomic<bool> &cancelled);
+
+  CommandLine m_line;
+  std::shared_ptr<PasswordSource> m_passwords;
+  std::atomic<bool> m_isAnswered = false;
   std::atomic<bool> m_cancelled = false;
   std::mutex m_mutex;
   std::condition_variable m_answered;

@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QProcess>
 #include <QTimer>
+#include <atomic>
 #include <optional>
 #include <utility>
 
@@ -68,14 +69,14 @@ constexpr std::chrono::milliseconds forEver = std::chrono::hours(24);
 
 struct Opened {
   std::unique_ptr<PrintSession> session;
-  /// Why it is a session without a printer.
-  std::optional<Failure> problem;
+  /// Whether it is a session without a printer.
+  bool isEmpty = false;
 };
 
-Result<Opened> openEmpty(const std::optional<Failure> &problem) {
+Result<Opened> openEmpty() {
   Result<std::unique_ptr<PrintSession>> empty = PrintSession::begin({});
   if (!empty) return empty.failure();
-  return Opened{empty.take(), problem};
+  return Opened{empty.take(), true};
 }
 
 Result<std::unique_ptr<PrintSession>> startFirst(const CommandLine &line, const SessionSetup &setup,
@@ -98,42 +99,70 @@ Result<Opened> openSession(const CommandLine &line, const Result<SessionSetup> &
                  : Result<std::unique_ptr<PrintSession>>(setup.failure());
   };
   Result<std::unique_ptr<PrintSession>> session = started();
-  if (session) return Opened{session.take(), {}};
+  if (session) return Opened{session.take()};
   if (!canBeMended(line, session.failure())) return session.failure();
-  return openEmpty(session.failure());
+  return openEmpty();
 }
 
 /// A window's first printer, where the window did not wait for it. Lives as long as the window.
 struct Awaited {
   FirstPrinter &printer;
   const PanelsAhead &panels;
+  /// Whether it is the command line's own printer that was asked for last.
+  std::atomic<bool> isOwn = true;
   bool isOver = false;
   /// Why the window had to go.
   std::optional<Failure> failure = {};
+  /// What another printer, which was chosen in its place, can't take.
+  std::optional<Failure> misfit = {};
 };
+
+DialogSetup::AskPrinter noting(Awaited &awaited, bool isOwn, const DialogSetup::AskPrinter &ask) {
+  return [&awaited, isOwn, ask](const QString &what, const std::atomic<bool> &cancelled) {
+    awaited.isOwn = isOwn;
+    return ask(what, cancelled);
+  };
+}
+
+using Started = Result<std::unique_ptr<PrintSession>>;
+
+// The user may have picked another printer in place of one that does not come; the command line
+// meant whichever comes. What that one can't take is no reason to do without it.
+Started beginFirst(const CommandLine &line, Awaited &awaited, const SessionSetup &gathered,
+                   const DialogSetup::BeginSession &later) {
+  if (awaited.isOver) return later(gathered);
+  Started started = startFirst(line, gathered, awaited.panels);
+  if (!started && !awaited.isOwn && !canBeMended(line, started.failure())) {
+    awaited.misfit = started.failure();
+    started = later(gathered);
+  }
+  awaited.isOver = bool(started);
+  return started;
+}
 
 void awaitFirst(const CommandLine &line, Awaited &awaited, DialogSetup *setup) {
   setup->firstPrinter =
       line.destination.isEmpty() ? PrintDialog::tr("the default printer") : line.destination;
-  setup->askFirst = [&awaited](const QString &, const std::atomic<bool> &cancelled) {
-    return awaited.printer.wait(cancelled);
-  };
-  // The user may have picked another printer meanwhile; the command line meant whichever comes.
-  setup->beginSession = [&line, &awaited,
-                         later = setup->beginSession](const SessionSetup &gathered) {
-    if (std::exchange(awaited.isOver, true)) return later(gathered);
-    return startFirst(line, gathered, awaited.panels);
+  setup->askFirst = noting(awaited, true, [&awaited](const QString &, const auto &cancelled) {
+    return awaited.printer.ask(cancelled);
+  });
+  setup->askPrinter = noting(awaited, false, setup->askPrinter);
+  setup->readDescription = noting(awaited, false, setup->readDescription);
+  setup->beginSession = [&line, &awaited, later = setup->beginSession](const SessionSetup &other) {
+    return beginFirst(line, awaited, other, later);
   };
 }
 
 void followAwaited(const CommandLine &line, Awaited &awaited, PrintDialog &dialog) {
   QObject::connect(&dialog, &PrintDialog::firstFailed, &dialog,
                    [&line, &awaited, &dialog](const Failure &failure) {
-                     awaited.isOver = true;
                      if (canBeMended(line, failure)) return;
                      awaited.failure = failure;
                      dialog.reject();
                    });
+  QObject::connect(&dialog, &PrintDialog::firstTaken, &dialog, [&awaited, &dialog] {
+    if (awaited.misfit) dialog.showProblem(*awaited.misfit);
+  });
 }
 
 Status tellAll(const CommandLine &line, const PrintDialog &dialog) {
@@ -201,15 +230,14 @@ Status runWindow(const CommandLine &line) {
   // While the server is asked.
   const PanelsAhead panels(line);
   const auto answer = first.within(line.ppd.isNull() ? moment : forEver);
-  Result<Opened> opened = answer ? openSession(line, *answer, panels) : openEmpty({});
+  Result<Opened> opened = answer ? openSession(line, *answer, panels) : openEmpty();
   if (!opened) return opened.failure();
   PrintSession &session = *opened.value().session;
   DialogSetup setup = dialogSetupFor(line, session, passwords);
   Awaited awaited{first, panels};
-  if (!answer) awaitFirst(line, awaited, &setup);
+  if (opened.value().isEmpty) awaitFirst(line, awaited, &setup);
   PrintDialog dialog(session, std::move(setup));
   followAwaited(line, awaited, dialog);
-  if (opened.value().problem) dialog.showProblem(*opened.value().problem);
   QTimer::singleShot(0, &dialog, &PrintDialog::lookAround);
   dialog.exec();
   return awaited.failure ? Status(*awaited.failure) : tellAll(line, dialog);

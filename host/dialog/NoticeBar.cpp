@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Icon, words, Undo, a way to the other notices, and one to send this one away.
+// Icon, words, Undo or Try Again, a way to the other notices, and one to send this one away.
 
 #include "host/dialog/NoticeBar.h"
 
@@ -37,6 +37,7 @@ NoticeBar::NoticeBar(QWidget *parent)
       m_icon(new PlainLabel(this)),
       m_text(new PlainLabel(this)),
       m_undo(new QPushButton(tr("&Undo"), this)),
+      m_again(new QPushButton(tr("Try Again"), this)),
       m_earlier(addTurn("noticeEarlier", Qt::LeftArrow, -1, tr("Earlier notice"))),
       m_place(new PlainLabel(this)),
       m_later(addTurn("noticeLater", Qt::RightArrow, 1, tr("Later notice"))),
@@ -47,11 +48,13 @@ NoticeBar::NoticeBar(QWidget *parent)
   row->addWidget(m_icon);
   row->addWidget(m_text, 1);
   row->addWidget(m_undo);
+  row->addWidget(m_again);
   row->addWidget(m_earlier);
   row->addWidget(m_place);
   row->addWidget(m_later);
   row->addWidget(m_close);
   connect(m_undo, &QPushButton::clicked, this, &NoticeBar::undoAsked);
+  connect(m_again, &QPushButton::clicked, this, &NoticeBar::againAsked);
   connect(m_close, &QToolButton::clicked, this, &NoticeBar::dismissed);
   hide();
 }
@@ -65,6 +68,8 @@ void NoticeBar::nameParts() {
   m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
   m_undo->setObjectName(QStringLiteral("undoButton"));
   m_undo->setAutoDefault(false);
+  m_again->setObjectName(QStringLiteral("noticeAgain"));
+  m_again->setAutoDefault(false);
   m_place->setObjectName(QStringLiteral("noticePlace"));
   m_close->setObjectName(QStringLiteral("noticeCloseButton"));
   m_close->setAutoRaise(true);
@@ -94,6 +99,7 @@ void NoticeBar::say(const Notice &notice, bool isNew) {
   m_text->setAccessibleName(m_text->text());
   showKind();
   showUndo(notice.takesBack);
+  m_again->setVisible(notice.offersAgain);
   showPlace(notice.place, notice.count);
   setAccessibleName(m_icon->accessibleName() + QStringLiteral(": ") +
                     m_sentences.join(QStringLiteral(". ")));

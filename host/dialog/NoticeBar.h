@@ -28,6 +28,8 @@ class NoticeBar final : public QFrame {
     QStringList sentences;
     /// What its Undo would take back, newest first; empty: it has none.
     QStringList takesBack = {};
+    /// Whether what failed can be tried again from here.
+    bool offersAgain = false;
     /// Its place among all that stand, from 1.
     int place = 1;
     int count = 1;
@@ -47,6 +49,8 @@ class NoticeBar final : public QFrame {
 
  Q_SIGNALS:
   void undoAsked();
+  /// What failed is to be tried once more.
+  void againAsked();
   /// The user has read it.
   void dismissed();
   /// Another one that stands is to be shown, that many places on.
@@ -67,6 +71,7 @@ class NoticeBar final : public QFrame {
   QLabel *m_icon;
   QLabel *m_text;
   QPushButton *m_undo;
+  QPushButton *m_again;
   QToolButton *m_earlier;
   QLabel *m_place;
   QToolButton *m_later;

@@ -23,6 +23,7 @@ bool has(const QList<HistoryEntry> &entries, int step) {
 
 NoticeKeeper::NoticeKeeper(NoticeBar &bar, QObject *parent) : QObject(parent), m_bar(bar) {
   connect(&m_bar, &NoticeBar::undoAsked, this, &NoticeKeeper::undo);
+  connect(&m_bar, &NoticeBar::againAsked, this, &NoticeKeeper::tryAgain);
   connect(&m_bar, &NoticeBar::dismissed, this, &NoticeKeeper::dismiss);
   connect(&m_bar, &NoticeBar::turned, this, &NoticeKeeper::turn);
 }
@@ -46,9 +47,9 @@ void NoticeKeeper::sayEarlier() {
   }
 }
 
-void NoticeKeeper::say(NoticeBar::Kind kind, const QStringList &sentences) {
+void NoticeKeeper::say(NoticeBar::Kind kind, const QStringList &sentences, const Again &again) {
   m_kept.removeIf([&](const Kept &kept) { return kept.step == 0 && kept.sentences == sentences; });
-  add({kind, sentences, 0});
+  add({kind, sentences, 0, again});
 }
 
 void NoticeKeeper::sayFurther(const QStringList &sentences) {
@@ -124,7 +125,7 @@ void NoticeKeeper::show(int place, bool isNew) {
   m_shown = place;
   const QList<int> places = standing();
   const Kept &kept = m_kept[place];
-  m_bar.say({kept.kind, kept.sentences, takenBackWith(kept),
+  m_bar.say({kept.kind, kept.sentences, takenBackWith(kept), kept.again != nullptr,
              static_cast<int>(places.indexOf(place)) + 1, static_cast<int>(places.size())},
             isNew);
 }
@@ -143,6 +144,14 @@ void NoticeKeeper::dismiss() {
 
 void NoticeKeeper::undo() {
   if (m_shown >= 0) m_session->undo(static_cast<int>(takenBackWith(m_kept[m_shown]).size()));
+}
+
+// It is no longer true while it is tried.
+void NoticeKeeper::tryAgain() {
+  if (m_shown < 0) return;
+  const Again again = m_kept[m_shown].again;
+  dismiss();
+  if (again) again();
 }
 
 QStringList NoticeKeeper::takenBackWith(const Kept &notice) const {

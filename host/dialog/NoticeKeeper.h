@@ -6,6 +6,7 @@
 #include <QList>
 #include <QObject>
 #include <QStringList>
+#include <functional>
 
 #include "host/dialog/NoticeBar.h"
 
@@ -30,8 +31,12 @@ class NoticeKeeper final : public QObject {
   /// Says what constraints did before anyone followed the session.
   void sayEarlier();
 
-  /// Says it without a way back. The same once more takes the place of the first.
-  void say(NoticeBar::Kind kind, const QStringList &sentences);
+  /// Tries once more what failed.
+  using Again = std::function<void()>;
+
+  /// Says it without a way back. The same once more takes the place of the first. With `again` the
+  /// user can have that called, which sends the notice away.
+  void say(NoticeBar::Kind kind, const QStringList &sentences, const Again &again = {});
 
   /// Says it of what the user did last, behind what constraints said of it.
   void sayFurther(const QStringList &sentences);
@@ -45,6 +50,8 @@ class NoticeKeeper final : public QObject {
     QStringList sentences;
     /// The act that it is about; 0: none.
     int step;
+    /// Empty: nothing is to be tried.
+    Again again = {};
   };
 
   void collect(const QStringList &sentences);
@@ -58,6 +65,7 @@ class NoticeKeeper final : public QObject {
   void turn(int places);
   void dismiss();
   void undo();
+  void tryAgain();
   QStringList takenBackWith(const Kept &notice) const;
 
   NoticeBar &m_bar;

@@ -129,7 +129,8 @@ void PrintDialog::connectParts() {
   connect(m_printers, &PrinterChooser::descriptionAsked, this, &PrintDialog::chooseDescription);
   if (PresetChooser *presets = m_choosers->presets()) {
     connect(presets, &PresetChooser::picked, this, &PrintDialog::applyPicked);
-    connect(presets, &PresetChooser::failed, this, &PrintDialog::showProblem);
+    connect(presets, &PresetChooser::failed, this,
+            [this](const Failure &failure) { showProblem(failure); });
   }
   connect(m_header, &DocumentHeader::actionAsked, m_documents, &JobDocuments::applyRemedy);
   connect(m_documents, &JobDocuments::changed, this, &PrintDialog::followDocuments);
@@ -156,7 +157,7 @@ void PrintDialog::followSession() {
 
 // Where it is the interface that is busy, that is said elsewhere.
 QString PrintDialog::obstacle() const {
-  if (m_switch.isAsking() || m_awaitsFirst) return {};
+  if (m_switch.isAsking()) return {};
   const bool isForFile = m_setup.destination.isEmpty();
   if (isForFile && m_session->origin().printer == nullptr) return tr("No printer is chosen");
   if (const QString problem = m_documents->problem(); !problem.isNull()) return problem;
@@ -167,13 +168,13 @@ void PrintDialog::updateControls() {
   const bool isPrinting = m_job->isRunning();
   const bool isForFile = m_setup.destination.isEmpty();
   const bool hasFile = isForFile && !m_setup.outputFile.isNull();
-  m_strip->setEnabled(!isPrinting && !m_awaitsFirst);
-  m_view->setEnabled(!isPrinting && !m_awaitsFirst);
+  m_strip->setEnabled(!isPrinting && !awaitsFirst());
+  m_view->setEnabled(!isPrinting && !awaitsFirst());
   m_noticeBar->setEnabled(!isPrinting);
   m_choosers->setEnabled(!isPrinting);
   m_documents->setMayChange(!isPrinting);
   const QString obstacle = this->obstacle();
-  m_jobBar->setState({.canPrint = obstacle.isNull() && !m_switch.isAsking() && !m_awaitsFirst,
+  m_jobBar->setState({.canPrint = obstacle.isNull() && !m_switch.isAsking(),
                       .asksForFile = isForFile && !hasFile && !m_switch.isAsking(),
                       .isPrinting = isPrinting,
                       .isCancelling = isPrinting && m_isCancelling,
@@ -213,8 +214,8 @@ void PrintDialog::lookAround() {
   m_documents->look();
 }
 
-void PrintDialog::showProblem(const Failure &failure) {
-  m_notices->say(NoticeBar::Kind::Problem, {failureText(failure)});
+void PrintDialog::showProblem(const Failure &failure, const std::function<void()> &again) {
+  m_notices->say(NoticeBar::Kind::Problem, {failureText(failure)}, again);
 }
 
 bool PrintDialog::focusNextPrevChild(bool next) {

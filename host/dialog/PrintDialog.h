@@ -16,6 +16,7 @@
 #pragma once
 
 #include <QDialog>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -67,8 +68,8 @@ class PrintDialog final : public QDialog {
   const std::optional<JobOutcome> &outcome() const { return m_outcome; }
   const JobRequest &request() const { return m_request; }
 
-  /// Says what went wrong, beside the buttons.
-  void showProblem(const Failure &failure);
+  /// Says what went wrong, beside the buttons; with `again` the user can try it once more.
+  void showProblem(const Failure &failure, const std::function<void()> &again = {});
 
   /// Prints as the Print button does.
   void print();
@@ -80,13 +81,31 @@ class PrintDialog final : public QDialog {
   void setVisible(bool isVisible) override;
 
  Q_SIGNALS:
-  /// The printer that the window was made for did not come, and why. It has been said by then.
+  /// The printer that the window was made for did not come, and why. It has been said by then, and
+  /// the user can have it asked for again.
   void firstFailed(const orvek::Failure &failure);
+
+  /// It has come, or another one that the user chose in its place.
+  void firstTaken();
 
  protected:
   bool focusNextPrevChild(bool next) override;
 
  private:
+  /// A question for another printer. Plain data.
+  struct Question {
+    DialogSetup::AskPrinter asked;
+    /// A destination or a file.
+    QString what;
+    /// Where the jobs will go.
+    QString destination;
+    /// What the chooser shows meanwhile.
+    QString shown;
+    QString words;
+    /// Whether it may be answered otherwise next time.
+    bool isForServer = true;
+  };
+
   // Parts and what they show
   void build();
   void buildViews(PrintSession &session);
@@ -104,7 +123,9 @@ class PrintDialog final : public QDialog {
   void choosePrinter(const QString &destination);
   void chooseDescription();
   void askFirst();
-  void ask(const DialogSetup::AskPrinter &asked, const QString &what, const QString &destination);
+  void ask(const Question &question);
+  void askAgain(const Question &question);
+  bool awaitsFirst() const { return m_lacksFirst && m_switch.isAsking(); }
   void moveTo(PrinterSwitch::Session opened, const QString &destination);
   void takeFirst(std::unique_ptr<PrintSession> session, const QString &destination);
   void takeSession(std::unique_ptr<PrintSession> session, const QString &destination);
@@ -130,8 +151,10 @@ class PrintDialog final : public QDialog {
   JobRequest m_request;
   std::optional<JobOutcome> m_outcome;
   bool m_isCancelling = false;
-  /// Until a printer has come, or did not: there is none so far.
-  bool m_awaitsFirst = false;
+  /// Until a printer has come, for the first that is asked for or for another.
+  bool m_lacksFirst = false;
+  /// The last one.
+  Question m_question;
 
   DocumentHeader *m_header = nullptr;
   JobDocuments *m_documents = nullptr;

@@ -147,7 +147,9 @@ void PrintDialog::showFailure(const Failure &failure) {
     words << tr("It can still be printed into a file: choose File as the printer.");
   }
   m_isCancelling = false;
-  m_notices->say(kind, words);
+  const bool mayHelp = !m_request.queue.isNull() && failure.kind == FailureKind::Io;
+  m_notices->say(kind, words,
+                 mayHelp ? NoticeKeeper::Again([this] { print(); }) : NoticeKeeper::Again());
   m_printers->refresh();
   updateControls();
 }

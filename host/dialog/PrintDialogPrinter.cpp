@@ -24,8 +24,8 @@ void PrintDialog::choosePrinter(const QString &destination) {
     showHeader();
     return;
   }
-  m_printers->showAsked(destination, tr("Asking %1…").arg(destination));
-  ask(m_setup.askPrinter, destination, destination);
+  ask({m_setup.askPrinter, destination, destination, destination,
+       tr("Asking %1…").arg(destination)});
 }
 
 void PrintDialog::chooseDescription() {
@@ -33,38 +33,51 @@ void PrintDialog::chooseDescription() {
                                                     tr("Printer descriptions (*.ppd *.ppd.gz)"));
   if (path.isEmpty()) return;
   m_switch.stop();
-  m_printers->showAsked(m_setup.destination, tr("Reading %1…").arg(QFileInfo(path).fileName()));
-  ask(m_setup.readDescription, path, {});
+  constexpr bool isForServer = false;
+  ask({m_setup.readDescription,
+       path,
+       {},
+       m_setup.destination,
+       tr("Reading %1…").arg(QFileInfo(path).fileName()),
+       isForServer});
 }
 
 // Nothing can be picked so far, so nothing goes along.
 void PrintDialog::askFirst() {
-  m_awaitsFirst = true;
-  m_printers->showAsked(m_setup.firstPrinter, tr("Asking %1…").arg(m_setup.firstPrinter));
-  ask(m_setup.askFirst, m_setup.firstPrinter, m_setup.firstPrinter);
+  m_lacksFirst = true;
+  const QString &first = m_setup.firstPrinter;
+  ask({m_setup.askFirst, first, first, first, tr("Asking %1…").arg(first)});
 }
 
 // A server may take its time: the window stays as it is, on the old printer, until there is an
 // answer. Whoever picks another one meanwhile drops it.
-void PrintDialog::ask(const DialogSetup::AskPrinter &asked, const QString &what,
-                      const QString &destination) {
-  if (!asked) {
+void PrintDialog::ask(const Question &question) {
+  if (!question.asked) {
     showHeader();
     return;
   }
-  m_switch.ask(asked, what, destination);
+  m_printers->showAsked(question.shown, question.words);
+  m_question = question;
+  m_switch.ask(question.asked, question.what, question.destination);
   updateControls();
 }
 
+void PrintDialog::askAgain(const Question &question) {
+  m_switch.stop();
+  m_printers->refresh();
+  ask(question);
+}
+
 void PrintDialog::moveTo(PrinterSwitch::Session opened, const QString &destination) {
-  const bool isFirst = std::exchange(m_awaitsFirst, false);
   if (!opened) {
     showHeader();
-    showProblem(opened.failure());
-    if (isFirst) Q_EMIT firstFailed(opened.failure());
+    const bool mayHelp = m_question.isForServer && opened.failure().kind == FailureKind::Io;
+    const auto again = [this, question = m_question] { askAgain(question); };
+    showProblem(opened.failure(), mayHelp ? NoticeKeeper::Again(again) : NoticeKeeper::Again());
+    if (m_lacksFirst && destination == m_setup.firstPrinter) Q_EMIT firstFailed(opened.failure());
     return;
   }
-  if (isFirst) {
+  if (std::exchange(m_lacksFirst, false)) {
     takeFirst(opened.take(), destination);
     return;
   }
@@ -87,6 +100,7 @@ void PrintDialog::takeFirst(std::unique_ptr<PrintSession> session, const QString
   const QString place = session->origin().destination;
   takeSession(std::move(session), goesIntoFile ? QString() : place);
   m_notices->sayEarlier();
+  Q_EMIT firstTaken();
 }
 
 void PrintDialog::takeSession(std::unique_ptr<PrintSession> session, const QString &destination) {

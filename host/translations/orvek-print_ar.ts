@@ -992,6 +992,10 @@
         <comment>a notice&apos;s place</comment>
         <translation>%1 من %2</translation>
     </message>
+    <message>
+        <source>Try Again</source>
+        <translation>إعادة المحاولة</translation>
+    </message>
 </context>
 <context>
     <name>orvek::OptionsModel</name>

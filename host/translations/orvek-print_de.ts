@@ -972,6 +972,10 @@
         <comment>a notice&apos;s place</comment>
         <translation>%1 von %2</translation>
     </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
 </context>
 <context>
     <name>orvek::OptionsModel</name>

@@ -972,6 +972,10 @@
         <comment>a notice&apos;s place</comment>
         <translation>%1 sur %2</translation>
     </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Réessayer</translation>
+    </message>
 </context>
 <context>
     <name>orvek::OptionsModel</name>

@@ -967,6 +967,10 @@
         <comment>a notice&apos;s place</comment>
         <translation>%1 / %2</translation>
     </message>
+    <message>
+        <source>Try Again</source>
+        <translation>再試行</translation>
+    </message>
 </context>
 <context>
     <name>orvek::OptionsModel</name>

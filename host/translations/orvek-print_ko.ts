@@ -967,6 +967,10 @@
         <comment>a notice&apos;s place</comment>
         <translation>%1/%2</translation>
     </message>
+    <message>
+        <source>Try Again</source>
+        <translation>다시 시도</translation>
+    </message>
 </context>
 <context>
     <name>orvek::OptionsModel</name>

@@ -47,6 +47,19 @@ QString detail() {
   return window()->findChild<QLabel *>(QStringLiteral("printerDetail"))->accessibleName();
 }
 
+bool isComplaining() {
+  return window()->findChild<NoticeBar *>()->isVisible();
+}
+
+/// For how long this program waits for servers, in seconds; until this object goes.
+class Patience {
+ public:
+  explicit Patience(const char *seconds) { qputenv("ORVEK_PRINT_PATIENCE", seconds); }
+  ~Patience() { qunsetenv("ORVEK_PRINT_PATIENCE"); }
+  Patience(const Patience &) = delete;
+  Patience &operator=(const Patience &) = delete;
+};
+
 class WindowServer : public ::testing::Test {
  protected:
   WindowServer() {
@@ -121,14 +134,29 @@ TEST_F(WindowServer, IsAskedWhileTheWindowSaysSo) {
 TEST_F(WindowServer, IsComplainedOfInTheWindowThatStays) {
   const HostileServer server(Hostility::Silence);
   line.server = server.hostAndPort();
-  qputenv("ORVEK_PRINT_PATIENCE", "0.3");
+  const Patience little("0.3");
   EXPECT_TRUE(run([] {
     const NoticeBar &notices = *window()->findChild<NoticeBar *>();
     if (!notices.isVisible()) return false;
     EXPECT_TRUE(notices.sentences().value(0).contains(QStringLiteral("stopped answering")));
     return cancel();
   }));
-  qunsetenv("ORVEK_PRINT_PATIENCE");
+}
+
+TEST_F(WindowServer, OffersToBeAskedAgainAndMayFailOnceMore) {
+  const HostileServer server(Hostility::Silence);
+  line.server = server.hostAndPort();
+  const Patience little("0.3");
+  int complaints = 0;
+  EXPECT_TRUE(run([&complaints] {
+    if (detail().startsWith(QStringLiteral("Asking")) || !isComplaining()) return false;
+    EXPECT_TRUE(button("noticeAgain")->isVisible());
+    if (++complaints == 2) return cancel();
+    QTest::mouseClick(button("noticeAgain"), Qt::LeftButton);
+    EXPECT_TRUE(detail().startsWith(QStringLiteral("Asking"))) << detail().toStdString();
+    return false;
+  }));
+  EXPECT_EQ(complaints, 2);
 }
 
 class WindowLateServer : public WindowServer {
@@ -155,6 +183,33 @@ class WindowLateServer : public WindowServer {
     return true;
   }
 
+  /// Prints once the server, which `wake` has answer, was asked again by the button for that.
+  Status printAfterAnotherTry(const std::function<void()> &wake) {
+    bool hasTried = false;
+    return run([&] {
+      if (!hasTried && isComplaining()) {
+        wake();
+        hasTried = true;
+        QTest::mouseClick(button("noticeAgain"), Qt::LeftButton);
+      }
+      if (!hasTried || !button("printButton")->isEnabled()) return false;
+      EXPECT_FALSE(isComplaining());
+      QTest::mouseClick(button("printButton"), Qt::LeftButton);
+      return true;
+    });
+  }
+
+  void askForCopiesAndAFold() {
+    line.copies = 3;
+    line.options = {{QStringLiteral("OVKFolding"), QStringLiteral("Saddle")}};
+  }
+
+  void expectCopiesAndAFold() const {
+    EXPECT_EQ(cups->waitForJob(1), QStringLiteral("completed"));
+    EXPECT_EQ(cups->jobAttributes(1).value(QStringLiteral("copies")), QStringLiteral("3"));
+    EXPECT_EQ(cups->jobAttributes(1).value(QStringLiteral("OVKFolding")), QStringLiteral("Saddle"));
+  }
+
   std::unique_ptr<PrivateCups> cups;
 
  private:
@@ -162,13 +217,39 @@ class WindowLateServer : public WindowServer {
 };
 
 TEST_F(WindowLateServer, GetsTheJobAsTheCommandLineHasIt) {
-  line.copies = 3;
-  line.options = {{QStringLiteral("OVKFolding"), QStringLiteral("Saddle")}};
+  askForCopiesAndAFold();
   const Status done = run([this] { return printOnceItIsThere(); });
   ASSERT_TRUE(done) << done.failure().line().toStdString();
-  EXPECT_EQ(cups->waitForJob(1), QStringLiteral("completed"));
-  EXPECT_EQ(cups->jobAttributes(1).value(QStringLiteral("copies")), QStringLiteral("3"));
-  EXPECT_EQ(cups->jobAttributes(1).value(QStringLiteral("OVKFolding")), QStringLiteral("Saddle"));
+  expectCopiesAndAFold();
+}
+
+TEST_F(WindowLateServer, GetsTheJobAsTheCommandLineHasItAtAnotherTry) {
+  askForCopiesAndAFold();
+  const Patience little("0.5");
+  const Status done = printAfterAnotherTry([this] {
+    qunsetenv("ORVEK_PRINT_PATIENCE");
+    cups->resume();
+  });
+  ASSERT_TRUE(done) << done.failure().line().toStdString();
+  expectCopiesAndAFold();
+}
+
+TEST_F(WindowLateServer, IsAskedAgainWhereNobodyListenedAtFirst) {
+  askForCopiesAndAFold();
+  cups->resume();
+  cups->stop();
+  const Status done = printAfterAnotherTry([this] { cups->start(); });
+  ASSERT_TRUE(done) << done.failure().line().toStdString();
+  expectCopiesAndAFold();
+}
+
+TEST_F(WindowLateServer, EndsTheWindowAtAnotherTryTooWhereTheCommandLineIsWrong) {
+  line.options = {{QStringLiteral("OVKFolding"), QStringLiteral("Nowhere")}};
+  cups->resume();
+  cups->stop();
+  const Status done = printAfterAnotherTry([this] { cups->start(); });
+  ASSERT_FALSE(done);
+  EXPECT_EQ(done.failure().kind, FailureKind::Usage);
 }
 
 TEST_F(WindowLateServer, LosesNoTicketThatCanBeReadOnce) {

@@ -2,7 +2,10 @@
 // Choosing among the queues of a private print server, and what becomes of what was entered.
 
 #include <QElapsedTimer>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QStandardItemModel>
+#include <QTimer>
 
 #include "platform/system/Log.h"
 #include "tests/host/dialog/PrinterKit.h"
@@ -189,6 +192,60 @@ TEST_F(PrinterChoice, StaysWithWhatWasEnteredWhenAServerNeverAnswers) {
   EXPECT_TRUE(notices().sentences().first().contains(QStringLiteral("stopped answering")))
       << notices().sentences().first().toStdString();
   EXPECT_TRUE(canPrint());
+}
+
+TEST_F(PrinterChoice, GoesOnWhereAServerAnswersAtAnotherTry) {
+  patience = std::chrono::seconds(1);
+  open();
+  list();
+  clickItem("foldingPopup", QStringLiteral("Saddle fold"));
+  silentQueue = QStringLiteral("small");
+  pickPrinter(QStringLiteral("small"));
+  ASSERT_TRUE(notices().isVisible());
+  silentQueue = QString();
+  patience = serverPatience();
+  click("noticeAgain");
+  EXPECT_TRUE(isAsking());
+  EXPECT_EQ(shownPrinter(), QStringLiteral("small"));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !isAsking(); }, jobTimeout));
+  EXPECT_EQ(begun, QStringList(QStringLiteral("small")));
+  EXPECT_TRUE(canPrint());
+  EXPECT_FALSE(notices().sentences().join(u'\n').contains(QStringLiteral("stopped answering")));
+}
+
+TEST_F(PrinterChoice, SendsAJobAtAnotherTryThatCouldNotBeSent) {
+  open();
+  list();
+  pickPrinter(QStringLiteral("big"));
+  clickItem("foldingPopup", QStringLiteral("Saddle fold"));
+  server->stop();
+  click("printButton");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return notices().isVisible(); }, jobTimeout));
+  EXPECT_FALSE(dialog->outcome());
+  server->start();
+  QSignalSpy finished(dialog.get(), &QDialog::finished);
+  click("noticeAgain");
+  ASSERT_TRUE(finished.count() > 0 || finished.wait(jobTimeout));
+  ASSERT_TRUE(dialog->outcome());
+  EXPECT_EQ(server->waitForJob(dialog->outcome()->jobId), QStringLiteral("completed"));
+  EXPECT_EQ(server->jobAttributes(dialog->outcome()->jobId).value(QStringLiteral("OVKFolding")),
+            QStringLiteral("Saddle"));
+}
+
+TEST_F(PrinterChoice, OffersNoOtherTryForAFileThatIsNoDescription) {
+  open();
+  QTimer answer;
+  QObject::connect(&answer, &QTimer::timeout, qApp, [&answer] {
+    auto *question = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+    if (question == nullptr) return;  // not yet
+    answer.stop();
+    question->findChild<QLineEdit *>()->setText(QStringLiteral(ORVEK_SOURCE_DIR "/README.md"));
+    QTest::keyClick(question->findChild<QLineEdit *>(), Qt::Key_Return);
+  });
+  answer.start(50);
+  click("openDescription");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return notices().isVisible(); }, jobTimeout));
+  EXPECT_FALSE(find<QPushButton>("noticeAgain")->isVisible());
 }
 
 TEST_F(PrinterChoice, MayBeClosedWhileAPrinterIsAsked) {
