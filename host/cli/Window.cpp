@@ -208,6 +208,7 @@ DialogSetup dialogSetupFor(const CommandLine &line, PrintSession &session,
     return startSession(lineFor(line, QString(), QString()), other);
   };
   setup.presets = std::make_shared<PresetStore>();
+  setup.recent = std::make_shared<RecentPrinters>();
   setup.server.server = line.server;
   setup.server.user = line.user;
   // The list of printers comes up unasked; it must not ask anybody.

@@ -11,6 +11,7 @@
 #include "host/jobs/DocumentInfo.h"
 #include "host/jobs/JobRequest.h"
 #include "host/presets/PresetStore.h"
+#include "host/presets/RecentPrinters.h"
 #include "host/printers/ServerAccess.h"
 #include "host/session/PrintSession.h"
 #include "platform/system/Result.h"
@@ -58,6 +59,9 @@ struct DialogSetup {
 
   /// Null: no presets.
   std::shared_ptr<PresetStore> presets;
+
+  /// Null: nobody remembers which printers were used.
+  std::shared_ptr<RecentPrinters> recent;
 };
 
 }  // namespace orvek

@@ -48,8 +48,18 @@ void NoticeKeeper::sayEarlier() {
 }
 
 void NoticeKeeper::say(NoticeBar::Kind kind, const QStringList &sentences, const Again &again) {
-  m_kept.removeIf([&](const Kept &kept) { return kept.step == 0 && kept.sentences == sentences; });
+  remove(sentences);
   add({kind, sentences, 0, again});
+}
+
+void NoticeKeeper::withdraw(const QStringList &sentences) {
+  const auto before = m_kept.size();
+  remove(sentences);
+  if (m_kept.size() != before) showNewest(false);
+}
+
+void NoticeKeeper::remove(const QStringList &sentences) {
+  m_kept.removeIf([&](const Kept &kept) { return kept.step == 0 && kept.sentences == sentences; });
 }
 
 void NoticeKeeper::sayFurther(const QStringList &sentences) {

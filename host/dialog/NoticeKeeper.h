@@ -38,6 +38,9 @@ class NoticeKeeper final : public QObject {
   /// user can have that called, which sends the notice away.
   void say(NoticeBar::Kind kind, const QStringList &sentences, const Again &again = {});
 
+  /// Takes back what say() said, once it is true no longer; nothing where the user sent it away.
+  void withdraw(const QStringList &sentences);
+
   /// Says it of what the user did last, behind what constraints said of it.
   void sayFurther(const QStringList &sentences);
 
@@ -54,6 +57,7 @@ class NoticeKeeper final : public QObject {
     Again again = {};
   };
 
+  void remove(const QStringList &sentences);
   void collect(const QStringList &sentences);
   void update();
   void add(const Kept &notice);

@@ -74,6 +74,7 @@ void PrintDialog::build() {
   const auto snapshot = [this](const QString &name) { return presetOf(*m_session, name); };
   m_choosers = new ChooserRow(m_setup.server, m_setup.presets, snapshot, this);
   m_printers = m_choosers->printers();
+  if (m_setup.recent) m_printers->setRecent(m_setup.recent->destinations());
   m_noticeBar = new NoticeBar(this);
   m_notices = new NoticeKeeper(*m_noticeBar, this);
   m_job = new BackgroundJob(this);
@@ -127,6 +128,7 @@ QWidget *PrintDialog::buildFoot() {
 void PrintDialog::connectParts() {
   connect(m_printers, &PrinterChooser::chosen, this, &PrintDialog::choosePrinter);
   connect(m_printers, &PrinterChooser::descriptionAsked, this, &PrintDialog::chooseDescription);
+  connect(m_printers, &PrinterChooser::listed, this, &PrintDialog::followPrinters);
   if (PresetChooser *presets = m_choosers->presets()) {
     connect(presets, &PresetChooser::picked, this, &PrintDialog::applyPicked);
     connect(presets, &PresetChooser::failed, this,
@@ -158,6 +160,7 @@ void PrintDialog::followSession() {
 // Where it is the interface that is busy, that is said elsewhere.
 QString PrintDialog::obstacle() const {
   if (m_switch.isAsking()) return {};
+  if (m_printers->isGone()) return tr("The printer is no longer there");
   const bool isForFile = m_setup.destination.isEmpty();
   if (isForFile && m_session->origin().printer == nullptr) return tr("No printer is chosen");
   if (const QString problem = m_documents->problem(); !problem.isNull()) return problem;

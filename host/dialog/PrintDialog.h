@@ -121,6 +121,7 @@ class PrintDialog final : public QDialog {
 
   // Other printers, presets
   void choosePrinter(const QString &destination);
+  void followPrinters();
   void chooseDescription();
   void askFirst();
   void ask(const Question &question);
@@ -155,6 +156,8 @@ class PrintDialog final : public QDialog {
   bool m_lacksFirst = false;
   /// The last one.
   Question m_question;
+  /// What is said of a printer that has gone; empty: it is there.
+  QStringList m_goneWords;
 
   DocumentHeader *m_header = nullptr;
   JobDocuments *m_documents = nullptr;

@@ -135,6 +135,9 @@ void PrintDialog::end(const JobOutcome &outcome) {
     // The job went; that it can't be remembered is no reason to stay.
     static_cast<void>(m_setup.presets->saveLastUsed(m_setup.destination, presetOf(*m_session, {})));
   }
+  if (m_setup.recent && !m_request.queue.isNull()) {
+    static_cast<void>(m_setup.recent->add(m_setup.destination));
+  }
   if (hasAskedForPlace()) showPlace(this, m_request.outputFile);
   accept();
 }

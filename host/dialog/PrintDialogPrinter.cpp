@@ -42,6 +42,18 @@ void PrintDialog::chooseDescription() {
        isForServer});
 }
 
+// Another printer brings another session, whose notices begin anew.
+void PrintDialog::followPrinters() {
+  const QString words =
+      tr("%1 is no longer on the print server. Choose another printer.").arg(m_setup.destination);
+  const QStringList said = m_printers->isGone() ? QStringList{words} : QStringList();
+  const QStringList before = std::exchange(m_goneWords, said);
+  if (before == said) return;
+  m_notices->withdraw(before);
+  if (!said.isEmpty()) m_notices->say(NoticeBar::Kind::Problem, said);
+  updateControls();
+}
+
 // Nothing can be picked so far, so nothing goes along.
 void PrintDialog::askFirst() {
   m_lacksFirst = true;

@@ -3,8 +3,11 @@
 // printer that is a file itself. Asks the server in the background; opens no queue itself.
 #pragma once
 
+#include <QSet>
+#include <QTimer>
 #include <QWidget>
 
+#include "host/dialog/PrinterModel.h"
 #include "host/printers/BackgroundTask.h"
 #include "host/printers/PrinterList.h"
 
@@ -14,10 +17,12 @@ class QToolButton;
 namespace orvek {
 
 class ElidedLabel;
+class PrinterMenu;
 
 /// Asks the server on a thread of its own, which ends before the chooser does; where the server
-/// fails, the menu says why in the user's language. Belongs to its parent, owns its child controls,
-/// and lives on the interface's thread.
+/// fails, the list says why in the user's language. Once it was asked, it is asked again every few
+/// seconds for as long as the chooser is seen. Belongs to its parent, owns its child controls, and
+/// lives on the interface's thread.
 class PrinterChooser final : public QWidget {
   Q_OBJECT
 
@@ -33,6 +38,9 @@ class PrinterChooser final : public QWidget {
   /// The same, with these words in place of its state: until the next show() it is being asked for.
   void showAsked(const QString &destination, const QString &words);
 
+  /// Those that the user printed on lately stand before the others, the last one first.
+  void setRecent(const QStringList &destinations);
+
   /// What a file is printed for.
   void setFileModel(const QString &model);
 
@@ -40,7 +48,11 @@ class PrinterChooser final : public QWidget {
   void setFileIsPossible(bool isPossible);
 
   QString destination() const;
-  QComboBox *menu() const { return m_menu; }
+
+  /// Whether the queue on show was there once and is no more, as far as the server has told.
+  bool isGone() const;
+
+  QComboBox *menu() const;
 
  Q_SIGNALS:
   /// The user picked another one, or any while one is being asked for.
@@ -52,18 +64,29 @@ class PrinterChooser final : public QWidget {
   /// The server answered, or said why not.
   void listed();
 
+ protected:
+  void showEvent(QShowEvent *event) override;
+
  private:
   using Answer = Result<QList<Queue>>;
 
   void buildOpen();
+  void connectParts();
+  void ask();
+  void poll();
   void take(const Answer &answer);
   void fill(const QString &destination);
-  void pick();
-  void addNote(const QString &text);
+  QList<PrinterEntry> entries() const;
+  PrinterEntry fileEntry() const;
+  void showNote();
+  void pick(const QString &destination);
   void showDetail();
 
   ServerAccess m_access;
   QList<Queue> m_queues;
+  /// Every one that the server ever listed.
+  QSet<QString> m_everListed;
+  QStringList m_recent;
   /// Why there is no list; null: there is one, or nobody asked yet.
   QString m_problem;
   QString m_destination;
@@ -71,9 +94,14 @@ class PrinterChooser final : public QWidget {
   QString m_asking;
   QString m_fileModel;
   bool m_fileIsPossible = true;
-  QComboBox *m_menu;
+  bool m_wasAsked = false;
+  /// Whether somebody waits for the answer, and not just looks for what has changed.
+  bool m_isAwaited = false;
+  PrinterModel m_printers;
+  PrinterMenu *m_menu;
   QToolButton *m_open;
   ElidedLabel *m_detail;
+  QTimer m_poll;
   /// The last: it ends before what it reports to.
   BackgroundTask m_task;
 };

@@ -1321,6 +1321,14 @@
         <source>Sent to %1, job %2</source>
         <translation>أُرسل إلى %1، المهمة %2</translation>
     </message>
+    <message>
+        <source>The printer is no longer there</source>
+        <translation>لم تعد الطابعة موجودة</translation>
+    </message>
+    <message>
+        <source>%1 is no longer on the print server. Choose another printer.</source>
+        <translation>لم تعد %1 موجودة على خادم الطباعة. اختر طابعة أخرى.</translation>
+    </message>
 </context>
 <context>
     <name>orvek::PrinterChooser</name>
@@ -1359,6 +1367,40 @@
     <message>
         <source>Choose a printer, or open a printer description</source>
         <translation>اختر طابعة أو افتح وصف طابعة</translation>
+    </message>
+    <message>
+        <source>Asking for the printers…</source>
+        <translation>جارٍ السؤال عن الطابعات…</translation>
+    </message>
+    <message>
+        <source>No longer on the print server</source>
+        <translation>لم تعد موجودة على خادم الطباعة</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PrinterModel</name>
+    <message>
+        <source>used lately</source>
+        <translation>استُخدمت مؤخرًا</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PrinterPopup</name>
+    <message>
+        <source>No printer matches</source>
+        <translation>لا توجد طابعة مطابقة</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>إعادة المحاولة</translation>
+    </message>
+    <message>
+        <source>Printers</source>
+        <translation>طابعات</translation>
+    </message>
+    <message>
+        <source>Search for name, description or location</source>
+        <translation>البحث بالاسم أو الوصف أو الموقع</translation>
     </message>
 </context>
 <context>

@@ -1297,6 +1297,14 @@
         <source>Sent to %1, job %2</source>
         <translation>An %1 gesendet, Auftrag %2</translation>
     </message>
+    <message>
+        <source>The printer is no longer there</source>
+        <translation>Der Drucker ist nicht mehr da</translation>
+    </message>
+    <message>
+        <source>%1 is no longer on the print server. Choose another printer.</source>
+        <translation>%1 ist nicht mehr auf dem Druckserver. Wählen Sie einen anderen Drucker.</translation>
+    </message>
 </context>
 <context>
     <name>orvek::PrinterChooser</name>
@@ -1335,6 +1343,40 @@
     <message>
         <source>Choose a printer, or open a printer description</source>
         <translation>Drucker wählen oder Druckerbeschreibung öffnen</translation>
+    </message>
+    <message>
+        <source>Asking for the printers…</source>
+        <translation>Die Drucker werden abgefragt …</translation>
+    </message>
+    <message>
+        <source>No longer on the print server</source>
+        <translation>Nicht mehr auf dem Druckserver</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PrinterModel</name>
+    <message>
+        <source>used lately</source>
+        <translation>kürzlich verwendet</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PrinterPopup</name>
+    <message>
+        <source>No printer matches</source>
+        <translation>Kein Drucker passt dazu</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Printers</source>
+        <translation>Drucker</translation>
+    </message>
+    <message>
+        <source>Search for name, description or location</source>
+        <translation>Name, Beschreibung oder Standort suchen</translation>
     </message>
 </context>
 <context>

@@ -1297,6 +1297,14 @@
         <source>Sent to %1, job %2</source>
         <translation>Enviado a %1, trabajo %2</translation>
     </message>
+    <message>
+        <source>The printer is no longer there</source>
+        <translation>La impresora ya no existe</translation>
+    </message>
+    <message>
+        <source>%1 is no longer on the print server. Choose another printer.</source>
+        <translation>%1 ya no está en el servidor de impresión. Elija otra impresora.</translation>
+    </message>
 </context>
 <context>
     <name>orvek::PrinterChooser</name>
@@ -1335,6 +1343,40 @@
     <message>
         <source>Choose a printer, or open a printer description</source>
         <translation>Elija una impresora o abra una descripción de impresora</translation>
+    </message>
+    <message>
+        <source>Asking for the printers…</source>
+        <translation>Preguntando por las impresoras…</translation>
+    </message>
+    <message>
+        <source>No longer on the print server</source>
+        <translation>Ya no está en el servidor de impresión</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PrinterModel</name>
+    <message>
+        <source>used lately</source>
+        <translation>usada recientemente</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PrinterPopup</name>
+    <message>
+        <source>No printer matches</source>
+        <translation>Ninguna impresora coincide</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Reintentar</translation>
+    </message>
+    <message>
+        <source>Printers</source>
+        <translation>Impresoras</translation>
+    </message>
+    <message>
+        <source>Search for name, description or location</source>
+        <translation>Buscar nombre, descripción o ubicación</translation>
     </message>
 </context>
 <context>

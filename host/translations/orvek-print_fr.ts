@@ -1297,6 +1297,14 @@
         <source>Sent to %1, job %2</source>
         <translation>Envoyé à %1, travail %2</translation>
     </message>
+    <message>
+        <source>The printer is no longer there</source>
+        <translation>L'imprimante n'existe plus</translation>
+    </message>
+    <message>
+        <source>%1 is no longer on the print server. Choose another printer.</source>
+        <translation>%1 n'est plus sur le serveur d'impression. Choisissez une autre imprimante.</translation>
+    </message>
 </context>
 <context>
     <name>orvek::PrinterChooser</name>
@@ -1335,6 +1343,40 @@
     <message>
         <source>Choose a printer, or open a printer description</source>
         <translation>Choisissez une imprimante ou ouvrez une description</translation>
+    </message>
+    <message>
+        <source>Asking for the printers…</source>
+        <translation>Recherche des imprimantes…</translation>
+    </message>
+    <message>
+        <source>No longer on the print server</source>
+        <translation>N'est plus sur le serveur d'impression</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PrinterModel</name>
+    <message>
+        <source>used lately</source>
+        <translation>utilisée récemment</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PrinterPopup</name>
+    <message>
+        <source>No printer matches</source>
+        <translation>Aucune imprimante ne correspond</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Printers</source>
+        <translation>Imprimantes</translation>
+    </message>
+    <message>
+        <source>Search for name, description or location</source>
+        <translation>Chercher un nom, une description ou un lieu</translation>
     </message>
 </context>
 <context>

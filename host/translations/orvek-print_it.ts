@@ -1297,6 +1297,14 @@
         <source>Sent to %1, job %2</source>
         <translation>Inviato a %1, lavoro %2</translation>
     </message>
+    <message>
+        <source>The printer is no longer there</source>
+        <translation>La stampante non è più presente</translation>
+    </message>
+    <message>
+        <source>%1 is no longer on the print server. Choose another printer.</source>
+        <translation>%1 non è più presente sul server di stampa. Scegliere un'altra stampante.</translation>
+    </message>
 </context>
 <context>
     <name>orvek::PrinterChooser</name>
@@ -1335,6 +1343,40 @@
     <message>
         <source>Choose a printer, or open a printer description</source>
         <translation>Scegliere una stampante o aprire una descrizione della stampante</translation>
+    </message>
+    <message>
+        <source>Asking for the printers…</source>
+        <translation>Ricerca delle stampanti…</translation>
+    </message>
+    <message>
+        <source>No longer on the print server</source>
+        <translation>Non più presente sul server di stampa</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PrinterModel</name>
+    <message>
+        <source>used lately</source>
+        <translation>usata di recente</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PrinterPopup</name>
+    <message>
+        <source>No printer matches</source>
+        <translation>Nessuna stampante corrisponde</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Riprova</translation>
+    </message>
+    <message>
+        <source>Printers</source>
+        <translation>Stampanti</translation>
+    </message>
+    <message>
+        <source>Search for name, description or location</source>
+        <translation>Cerca nome, descrizione o posizione</translation>
     </message>
 </context>
 <context>

@@ -1291,6 +1291,14 @@
         <source>Sent to %1, job %2</source>
         <translation>%1 に送信しました（ジョブ %2）</translation>
     </message>
+    <message>
+        <source>The printer is no longer there</source>
+        <translation>プリンターはもうありません</translation>
+    </message>
+    <message>
+        <source>%1 is no longer on the print server. Choose another printer.</source>
+        <translation>%1 はプリントサーバーにもうありません。別のプリンターを選んでください。</translation>
+    </message>
 </context>
 <context>
     <name>orvek::PrinterChooser</name>
@@ -1329,6 +1337,40 @@
     <message>
         <source>Choose a printer, or open a printer description</source>
         <translation>プリンターを選ぶか、プリンター記述を開いてください</translation>
+    </message>
+    <message>
+        <source>Asking for the printers…</source>
+        <translation>プリンターを問い合わせ中…</translation>
+    </message>
+    <message>
+        <source>No longer on the print server</source>
+        <translation>プリントサーバーにはもうありません</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PrinterModel</name>
+    <message>
+        <source>used lately</source>
+        <translation>最近使用</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PrinterPopup</name>
+    <message>
+        <source>No printer matches</source>
+        <translation>一致するプリンターはありません</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Printers</source>
+        <translation>プリンター</translation>
+    </message>
+    <message>
+        <source>Search for name, description or location</source>
+        <translation>名前、説明、場所で検索</translation>
     </message>
 </context>
 <context>

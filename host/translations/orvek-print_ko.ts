@@ -1291,6 +1291,14 @@
         <source>Sent to %1, job %2</source>
         <translation>%1(으)로 보냄, 작업 %2</translation>
     </message>
+    <message>
+        <source>The printer is no longer there</source>
+        <translation>프린터가 더 이상 없습니다</translation>
+    </message>
+    <message>
+        <source>%1 is no longer on the print server. Choose another printer.</source>
+        <translation>%1이(가) 더 이상 프린트 서버에 없습니다. 다른 프린터를 선택하세요.</translation>
+    </message>
 </context>
 <context>
     <name>orvek::PrinterChooser</name>
@@ -1329,6 +1337,40 @@
     <message>
         <source>Choose a printer, or open a printer description</source>
         <translation>프린터를 선택하거나 프린터 설명을 여세요</translation>
+    </message>
+    <message>
+        <source>Asking for the printers…</source>
+        <translation>프린터를 묻는 중…</translation>
+    </message>
+    <message>
+        <source>No longer on the print server</source>
+        <translation>더 이상 프린트 서버에 없음</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PrinterModel</name>
+    <message>
+        <source>used lately</source>
+        <translation>최근 사용</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PrinterPopup</name>
+    <message>
+        <source>No printer matches</source>
+        <translation>일치하는 프린터가 없음</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>다시 시도</translation>
+    </message>
+    <message>
+        <source>Printers</source>
+        <translation>프린터</translation>
+    </message>
+    <message>
+        <source>Search for name, description or location</source>
+        <translation>이름, 설명 또는 위치 검색</translation>
     </message>
 </context>
 <context>

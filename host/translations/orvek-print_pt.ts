@@ -1297,6 +1297,14 @@
         <source>Sent to %1, job %2</source>
         <translation>Enviado para %1, trabalho %2</translation>
     </message>
+    <message>
+        <source>The printer is no longer there</source>
+        <translation>A impressora não existe mais</translation>
+    </message>
+    <message>
+        <source>%1 is no longer on the print server. Choose another printer.</source>
+        <translation>%1 não está mais no servidor de impressão. Escolha outra impressora.</translation>
+    </message>
 </context>
 <context>
     <name>orvek::PrinterChooser</name>
@@ -1335,6 +1343,40 @@
     <message>
         <source>Choose a printer, or open a printer description</source>
         <translation>Escolha uma impressora ou abra uma descrição de impressora</translation>
+    </message>
+    <message>
+        <source>Asking for the printers…</source>
+        <translation>Consultando as impressoras…</translation>
+    </message>
+    <message>
+        <source>No longer on the print server</source>
+        <translation>Não está mais no servidor de impressão</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PrinterModel</name>
+    <message>
+        <source>used lately</source>
+        <translation>usada recentemente</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PrinterPopup</name>
+    <message>
+        <source>No printer matches</source>
+        <translation>Nenhuma impressora corresponde</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Tentar novamente</translation>
+    </message>
+    <message>
+        <source>Printers</source>
+        <translation>Impressoras</translation>
+    </message>
+    <message>
+        <source>Search for name, description or location</source>
+        <translation>Pesquisar nome, descrição ou local</translation>
     </message>
 </context>
 <context>

@@ -1291,6 +1291,14 @@
         <source>Sent to %1, job %2</source>
         <translation>已发送到 %1，作业 %2</translation>
     </message>
+    <message>
+        <source>The printer is no longer there</source>
+        <translation>打印机已不存在</translation>
+    </message>
+    <message>
+        <source>%1 is no longer on the print server. Choose another printer.</source>
+        <translation>%1 已不在打印服务器上。请选择其他打印机。</translation>
+    </message>
 </context>
 <context>
     <name>orvek::PrinterChooser</name>
@@ -1329,6 +1337,40 @@
     <message>
         <source>Choose a printer, or open a printer description</source>
         <translation>请选择打印机或打开打印机描述</translation>
+    </message>
+    <message>
+        <source>Asking for the printers…</source>
+        <translation>正在询问打印机…</translation>
+    </message>
+    <message>
+        <source>No longer on the print server</source>
+        <translation>已不在打印服务器上</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PrinterModel</name>
+    <message>
+        <source>used lately</source>
+        <translation>最近使用</translation>
+    </message>
+</context>
+<context>
+    <name>orvek::PrinterPopup</name>
+    <message>
+        <source>No printer matches</source>
+        <translation>没有匹配的打印机</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>Printers</source>
+        <translation>打印机</translation>
+    </message>
+    <message>
+        <source>Search for name, description or location</source>
+        <translation>按名称、描述或位置搜索</translation>
     </message>
 </context>
 <context>

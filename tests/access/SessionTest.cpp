@@ -66,5 +66,27 @@ TEST_F(SessionByTheBus, ChoosesAPrinterFoldsABookletAndPrints) {
       << bus->announced().join(u'\n').toStdString();
 }
 
+TEST_F(SessionByTheBus, FindsPrintersInTheListByNameStateAndPlace) {
+  if (!PrivateCups::obstacle().isEmpty()) GTEST_SKIP() << PrivateCups::obstacle().toStdString();
+  PrivateCups server;
+  const QString printers = QStringLiteral(ORVEK_SOURCE_DIR "/printers/");
+  server.addQueue(QStringLiteral("first"), printers + "Orvek-2120.ppd");
+  server.addQueue(QStringLiteral("second"), printers + "Orvek-6180.ppd",
+                  {QStringLiteral("-D"), QStringLiteral("Copier"), QStringLiteral("-L"),
+                   QStringLiteral("Basement")});
+  surroundings.insert(QStringLiteral("CUPS_SERVER"), server.socket());
+  run({QStringLiteral("-d"), QStringLiteral("first"), document});
+  const QString place = QStringLiteral("second, Copier, Idle · Basement");
+  const AccessNode menu = find("combo box", "Printer");
+  ASSERT_FALSE(menu.isNull()) << whatShows();
+  ASSERT_TRUE(bus->act(menu, QStringLiteral("ShowMenu")));
+  EXPECT_FALSE(find("text", "Search for name, description or location").isNull()) << whatShows();
+  EXPECT_FALSE(bus->waitFor(QStringLiteral("list item"), place).isNull()) << whatShows();
+  QTest::qWait(openingTime);
+  bus->press(QStringLiteral("Down"));
+  EXPECT_TRUE(bus->waitForWords("second, Copier, Idle"))
+      << bus->announced().join(u'\n').toStdString();
+}
+
 }  // namespace
 }  // namespace orvek::test

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <QApplication>
+#include <QComboBox>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QPushButton>
@@ -241,6 +242,34 @@ TEST_F(WindowLateServer, IsAskedAgainWhereNobodyListenedAtFirst) {
   const Status done = printAfterAnotherTry([this] { cups->start(); });
   ASSERT_TRUE(done) << done.failure().line().toStdString();
   expectCopiesAndAFold();
+}
+
+TEST_F(WindowLateServer, GivesAnotherPrinterThanTheMissingOneWhatItCanTake) {
+  cups->resume();
+  cups->addQueue(QStringLiteral("other"), orvekPPD(QStringLiteral("2120")));
+  line.destination = QStringLiteral("missing");
+  line.copies = 3;
+  line.options = {{QStringLiteral("Duplex"), QStringLiteral("Nowhere")}};
+  QStringList said;
+  const Status done = run([&] {
+    auto *menu = window()->findChild<QComboBox *>(QStringLiteral("printerMenu"));
+    const bool isListed = menu->findText(QStringLiteral("other")) >= 0;
+    if (!isListed || detail().startsWith(QStringLiteral("Asking")) || !isComplaining()) {
+      return false;
+    }
+    const QStringList now = window()->findChild<NoticeBar *>()->sentences();
+    if (said.contains(now.value(0))) return false;
+    said << now;
+    if (said.size() == 2) return cancel();
+    QTest::keyClick(menu, Qt::Key_O);
+    auto *search = window()->findChild<QWidget *>(QStringLiteral("printerSearch"));
+    QTest::keyClicks(search, QStringLiteral("ther"));
+    QTest::keyClick(search, Qt::Key_Return);
+    return false;
+  });
+  EXPECT_TRUE(done);
+  EXPECT_TRUE(said.value(0).contains(QStringLiteral("missing"))) << said.value(0).toStdString();
+  EXPECT_TRUE(said.value(1).contains(QStringLiteral("Nowhere"))) << said.value(1).toStdString();
 }
 
 TEST_F(WindowLateServer, EndsTheWindowAtAnotherTryTooWhereTheCommandLineIsWrong) {

@@ -29,8 +29,10 @@ TEST_F(PrinterButton, StandsBesideAListThatHasNothingButPrintersAtItsEnd) {
   watch.start(20);
   auto *menu = find<QComboBox>("printerMenu");
   menu->setFocus();
-  QTest::keyClick(menu, Qt::Key_End);
-  for (int presses = 0; presses < 3; ++presses) QTest::keyClick(menu, Qt::Key_Down);
+  press(Qt::Key_Down);
+  press(Qt::Key_End);
+  for (int presses = 0; presses < 3; ++presses) press(Qt::Key_Down);
+  press(Qt::Key_Return);
   const QPointF place = menu->rect().center();
   QWheelEvent wheel(place, menu->mapToGlobal(place), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
                     Qt::NoScrollPhase, false);
