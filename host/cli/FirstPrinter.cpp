@@ -27,8 +27,12 @@ FirstPrinter::~FirstPrinter() {
 }
 
 std::optional<FirstPrinter::Answer> FirstPrinter::within(std::chrono::milliseconds patience) {
+  return until(m_begun + patience);
+}
+
+std::optional<FirstPrinter::Answer> FirstPrinter::until(std::chrono::steady_clock::time_point end) {
   std::unique_lock lock(m_mutex);
-  m_answered.wait_for(lock, patience, [this] { return m_answer.has_value(); });
+  m_answered.wait_until(lock, end, [this] { return m_answer.has_value(); });
   return m_answer;
 }
 
@@ -40,7 +44,8 @@ FirstPrinter::Answer FirstPrinter::ask(const std::atomic<bool> &cancelled) {
 FirstPrinter::Answer FirstPrinter::wait(const std::atomic<bool> &cancelled) {
   while (true) {
     if (cancelled) m_cancelled = true;
-    if (auto answer = within(lookAtCancelled)) return *answer;
+    const auto soon = std::chrono::steady_clock::now() + lookAtCancelled;
+    if (auto answer = until(soon)) return *answer;
   }
 }
 

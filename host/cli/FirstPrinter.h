@@ -26,7 +26,7 @@ class FirstPrinter {
   FirstPrinter(const FirstPrinter &) = delete;
   FirstPrinter &operator=(const FirstPrinter &) = delete;
 
-  /// The answer, if it comes this soon.
+  /// The answer, if it comes this soon after it was asked for.
   std::optional<Answer> within(std::chrono::milliseconds patience);
 
   /// Waits for the answer; drops the question once `cancelled` is set. Whoever calls it again does
@@ -34,11 +34,13 @@ class FirstPrinter {
   Answer ask(const std::atomic<bool> &cancelled);
 
  private:
+  std::optional<Answer> until(std::chrono::steady_clock::time_point end);
   Answer wait(const std::atomic<bool> &cancelled);
 
   CommandLine m_line;
   std::shared_ptr<PasswordSource> m_passwords;
   std::atomic<bool> m_isAnswered = false;
+  std::chrono::steady_clock::time_point m_begun = std::chrono::steady_clock::now();
   std::atomic<bool> m_cancelled = false;
   std::mutex m_mutex;
   std::condition_variable m_answered;

@@ -63,7 +63,7 @@ CommandLine lineFor(const CommandLine &line, const QString &destination, const Q
 }
 
 /// How long a server may take for a window that opens at once with all that there is to show.
-constexpr std::chrono::milliseconds moment{150};
+constexpr std::chrono::milliseconds moment{120};
 /// For what no server has a part in.
 constexpr std::chrono::milliseconds forEver = std::chrono::hours(24);
 
