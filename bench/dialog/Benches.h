@@ -28,4 +28,8 @@ void jobs(orvek::test::PrivateCups &server, int rounds);
 /// From process start to the window on the screen: ours and gtklp. Needs an X server.
 void windows(orvek::test::PrivateCups &server, const QString &folder, int rounds);
 
+/// The same of our window alone, with a print server that never answers and with one of three
+/// hundred queues, against one of few. Needs an X server, and leaves its queues on the server.
+void windowsWithoutHelp(orvek::test::PrivateCups &server, const QString &folder, int rounds);
+
 }  // namespace bench

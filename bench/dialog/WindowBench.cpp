@@ -12,12 +12,16 @@
 
 #include "bench/Measure.h"
 #include "bench/dialog/Benches.h"
+#include "tests/support/HostileServer.h"
 
 namespace bench {
 namespace {
 
 constexpr int usualOptions = 102;
 constexpr int leastSide = 100;
+constexpr int manyQueues = 300;
+constexpr double mostForFrozen = 1.7;
+constexpr double mostForMany = 1.5;
 const QString document = QStringLiteral(ORVEK_SOURCE_DIR "/samples/Finishing-Sample.pdf");
 
 struct Freed {
@@ -105,6 +109,32 @@ void windows(orvek::test::PrivateCups &server, const QString &folder, int rounds
              return untilShown(screen, gtklp, {QStringLiteral("-P"), queue, document});
            }),
        1, "ms", 0);
+}
+
+void windowsWithoutHelp(orvek::test::PrivateCups &server, const QString &folder, int rounds) {
+  Screen screen;
+  if (!screen.isThere()) {
+    std::printf("window and its print server: left out, an X server is missing\n");
+    return;
+  }
+  const QString queue = QStringLiteral("bench-few");
+  server.addQueue(queue, ppdWithOptions(folder, usualOptions));
+  const orvek::test::HostileServer frozen(orvek::test::Hostility::Silence);
+  const auto shown = [&](const QString &host) {
+    return untilShown(screen, program("orvek-print"),
+                      {QStringLiteral("-h"), host, QStringLiteral("-d"), queue, document});
+  };
+  line("window, frozen server, process", "one that answers",
+       compareMedians(
+           rounds, [&] { return shown(frozen.hostAndPort()); },
+           [&] { return shown(server.socket()); }),
+       1, "ms", mostForFrozen);
+  const auto few = compareMedians(
+      rounds, [&] { return shown(server.socket()); }, [&] { return shown(server.socket()); });
+  for (int i = 0; i < manyQueues; ++i) server.addQueue(QStringLiteral("many-%1").arg(i), {});
+  const auto many = compareMedians(
+      rounds, [&] { return shown(server.socket()); }, [&] { return shown(server.socket()); });
+  line("window, 300 queues, process", "few queues", {many.own, few.own}, 1, "ms", mostForMany);
 }
 
 }  // namespace bench

@@ -53,4 +53,5 @@ int main(int argc, char **argv) {
   bench::jobs(server, rounds);
   bench::firstPaint(server, folder.path(), rounds);
   bench::windows(server, folder.path(), rounds);
+  bench::windowsWithoutHelp(server, folder.path(), rounds);
 }

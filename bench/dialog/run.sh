@@ -6,5 +6,6 @@ cd "$(dirname "$(readlink -f "$0")")/../.."
 . tools/lib.sh
 
 ensure_packages run test bench
-build bench compare-dialogs toolkit-dialog orvek-dialog orvek-print OrvekFinishing orvek-resources
+build bench compare-dialogs toolkit-dialog orvek-dialog printer-list orvek-print OrvekFinishing orvek-resources
+QT_QPA_PLATFORM=offscreen build-bench/bin/printer-list "$@"
 QT_QPA_PLATFORM=offscreen xvfb-run -a -s -noreset build-bench/bin/compare-dialogs "$@"
