@@ -9,8 +9,31 @@
 #include "host/ticket/ServerWords.h"
 
 namespace orvek {
+namespace {
 
-Status applyPresetAsAsked(const CommandLine &line, PrintSession &session) {
+bool saysWhatToBeginWith(const CommandLine &line) {
+  const bool hasSettings = !line.ticket.isNull() || !line.marks.isEmpty();
+  return hasSettings || !line.preset.isNull() || !line.output.isNull();
+}
+
+void applyLastUsed(const CommandLine &line, PrintSession &session, AppliedPreset *applied) {
+  const QString queue = session.origin().destination;
+  const PresetStore store;
+  if (queue.isEmpty() || saysWhatToBeginWith(line) || !store.remembers()) return;
+  const auto last = store.lastUsed(queue);
+  if (!last || !last.value()) return;
+  for (const PresetMisfit &misfit : applyPreset(session, *last.value())) tell(misfit.line());
+  applied->after = settingsInForce(session);
+  if (applied->after != applied->before) applied->entry.kind = PresetEntry::Kind::LastUsed;
+}
+
+}  // namespace
+
+Status applyPresetAsAsked(const CommandLine &line, PrintSession &session, AppliedPreset *applied) {
+  if (applied != nullptr) {
+    applied->before = settingsInForce(session);
+    applyLastUsed(line, session, applied);
+  }
   if (line.preset.isNull()) return {};
   const Result<Preset> preset = PresetStore().load(line.preset);
   if (!preset) return preset.failure();
@@ -20,6 +43,10 @@ Status applyPresetAsAsked(const CommandLine &line, PrintSession &session) {
     keep << meant.option;
   }
   for (const PresetMisfit &misfit : applyPreset(session, preset.value(), keep)) tell(misfit.line());
+  if (applied != nullptr) {
+    applied->entry = {PresetEntry::Kind::Saved, line.preset};
+    applied->after = settingsInForce(session);
+  }
   return {};
 }
 

@@ -10,6 +10,7 @@
 #include "host/cli/PrinterListing.h"
 #include "host/jobs/DocumentInfo.h"
 #include "host/jobs/QueueJob.h"
+#include "host/presets/SessionPreset.h"
 #include "host/printers/PrinterList.h"
 #include "host/printers/Queue.h"
 #include "host/session/QueueSetup.h"
@@ -152,19 +153,25 @@ PanelsAhead::PanelsAhead(const CommandLine &line) : m_plugins(pluginsFor(line)) 
 
 Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line,
                                                    const SessionSetup &setup,
-                                                   const PanelsAhead &panels) {
+                                                   const PanelsAhead &panels,
+                                                   AppliedPreset *applied) {
   SessionSetup wished = setup;
   if (const Status added = addWishes(line, &wished); !added) return added.failure();
   Result<std::unique_ptr<PrintSession>> begun = PrintSession::begin(wished);
   if (!begun) return begun;
   std::unique_ptr<PrintSession> session = begun.take();
-  if (const Status applied = applyPresetAsAsked(line, *session); !applied) return applied.failure();
-  if (const Status applied = applyJobOptions(line, *session); !applied) return applied.failure();
-  if (const Status applied = applyOptions(line, *session); !applied) return applied.failure();
+  if (const Status preset = applyPresetAsAsked(line, *session, applied); !preset) {
+    return preset.failure();
+  }
+  if (const Status said = applyJobOptions(line, *session); !said) return said.failure();
+  if (const Status said = applyOptions(line, *session); !said) return said.failure();
   if (!panels.plugins()) return panels.plugins().failure();
   Result<PluginList> good = reported(panels.plugins().value(), line);
   if (!good) return good.failure();
+  const bool isAsApplied = applied != nullptr && applied->after == settingsInForce(*session);
   session->openPanels(good.take());
+  // What panels add to a preset is no change of it.
+  if (isAsApplied) applied->after = settingsInForce(*session);
   return session;
 }
 

@@ -8,6 +8,7 @@
 
 #include "host/cli/CommandLine.h"
 #include "host/panels/PluginLoader.h"
+#include "host/presets/AppliedPreset.h"
 #include "host/printers/Passwords.h"
 #include "host/session/PrintSession.h"
 #include "platform/ui/InterfaceResource.h"
@@ -37,10 +38,11 @@ class PanelsAhead {
 
 /// Begins a session with that and with the command line's wishes: reads its ticket, takes its marks
 /// and options. Opens the panels. Installed plug-ins that are broken are reported and left out; one
-/// that the command line names is a failure.
+/// that the command line names is a failure. `applied`: as for applyPresetAsAsked() (Presets.h).
 Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line,
                                                    const SessionSetup &setup,
-                                                   const PanelsAhead &panels);
+                                                   const PanelsAhead &panels,
+                                                   AppliedPreset *applied = nullptr);
 Result<std::unique_ptr<PrintSession>> startSession(const CommandLine &line,
                                                    const SessionSetup &setup);
 

@@ -79,9 +79,16 @@ Result<Opened> openEmpty() {
   return Opened{empty.take(), true};
 }
 
+/// What is loaded before there is a window, and what the window is told of it. Plain data.
+struct Ahead {
+  PanelsAhead panels;
+  std::shared_ptr<AppliedPreset> applied = std::make_shared<AppliedPreset>();
+};
+
 Result<std::unique_ptr<PrintSession>> startFirst(const CommandLine &line, const SessionSetup &setup,
-                                                 const PanelsAhead &panels) {
-  Result<std::unique_ptr<PrintSession>> started = startSession(line, setup, panels);
+                                                 const Ahead &ahead) {
+  Result<std::unique_ptr<PrintSession>> started =
+      startSession(line, setup, ahead.panels, ahead.applied.get());
   if (!started) return started;
   if (Status done = runActions(line, *started.value()); !done) return done.failure();
   return started;
@@ -93,9 +100,9 @@ bool canBeMended(const CommandLine &line, const Failure &failure) {
 }
 
 Result<Opened> openSession(const CommandLine &line, const Result<SessionSetup> &setup,
-                           const PanelsAhead &panels) {
+                           const Ahead &ahead) {
   const auto started = [&] {
-    return setup ? startFirst(line, setup.value(), panels)
+    return setup ? startFirst(line, setup.value(), ahead)
                  : Result<std::unique_ptr<PrintSession>>(setup.failure());
   };
   Result<std::unique_ptr<PrintSession>> session = started();
@@ -107,7 +114,7 @@ Result<Opened> openSession(const CommandLine &line, const Result<SessionSetup> &
 /// A window's first printer, where the window did not wait for it. Lives as long as the window.
 struct Awaited {
   FirstPrinter &printer;
-  const PanelsAhead &panels;
+  const Ahead &ahead;
   /// Whether it is the command line's own printer that was asked for last.
   std::atomic<bool> isOwn = true;
   bool isOver = false;
@@ -131,7 +138,7 @@ using Started = Result<std::unique_ptr<PrintSession>>;
 Started beginFirst(const CommandLine &line, Awaited &awaited, const SessionSetup &gathered,
                    const DialogSetup::BeginSession &later) {
   if (awaited.isOver) return later(gathered);
-  Started started = startFirst(line, gathered, awaited.panels);
+  Started started = startFirst(line, gathered, awaited.ahead);
   if (!started && !awaited.isOwn && !canBeMended(line, started.failure())) {
     awaited.misfit = started.failure();
     started = later(gathered);
@@ -229,13 +236,14 @@ Status runWindow(const CommandLine &line) {
       });
   FirstPrinter first(line, passwords);
   // While the server is asked.
-  const PanelsAhead panels(line);
+  const Ahead ahead{PanelsAhead(line)};
   const auto answer = first.within(line.ppd.isNull() ? moment : forEver);
-  Result<Opened> opened = answer ? openSession(line, *answer, panels) : openEmpty();
+  Result<Opened> opened = answer ? openSession(line, *answer, ahead) : openEmpty();
   if (!opened) return opened.failure();
   PrintSession &session = *opened.value().session;
   DialogSetup setup = dialogSetupFor(line, session, passwords);
-  Awaited awaited{first, panels};
+  setup.applied = ahead.applied;
+  Awaited awaited{first, ahead};
   if (opened.value().isEmpty) awaitFirst(line, awaited, &setup);
   PrintDialog dialog(session, std::move(setup));
   followAwaited(line, awaited, dialog);

@@ -10,6 +10,7 @@
 
 #include "host/jobs/DocumentInfo.h"
 #include "host/jobs/JobRequest.h"
+#include "host/presets/AppliedPreset.h"
 #include "host/presets/PresetStore.h"
 #include "host/presets/RecentPrinters.h"
 #include "host/printers/ServerAccess.h"
@@ -56,6 +57,10 @@ struct DialogSetup {
   AskPrinter readDescription;
 
   BeginSession beginSession;
+
+  /// What of presets is in the session's settings; is filled when the session is there. Null:
+  /// nothing.
+  std::shared_ptr<const AppliedPreset> applied;
 
   /// Null: no presets.
   std::shared_ptr<PresetStore> presets;

@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 
+#include "host/presets/AppliedPreset.h"
 #include "host/presets/PresetStore.h"
 
 class QAction;
@@ -29,31 +30,52 @@ class PresetChooser final : public QWidget {
   /// Shows what the store has now, and what was used last on `queue` (empty: none).
   void reload(const QString &queue);
 
+  /// The entry that the settings came from.
+  const PresetEntry &shown() const { return m_shown; }
+
+  /// Shows that entry, unchanged; none where there is no such entry.
+  void show(const PresetEntry &entry);
+
+  /// Whether the settings are others by now than the entry's.
+  void setChanged(bool isChanged);
+  bool isChanged() const { return m_isChanged; }
+
   QComboBox *menu() const { return m_menu; }
 
  Q_SIGNALS:
-  void picked(const orvek::Preset &preset);
+  /// What is shown is still the entry before.
+  void picked(const orvek::PresetEntry &entry, const orvek::Preset &preset);
+
+  /// The settings as they are were saved under the name that is shown by now.
+  void saved();
   void failed(const orvek::Failure &failure);
 
  private:
   void buildActions();
-  void pick(int index);
+  void pick(int row);
   void saveAs();
   void rename();
   void remove();
-  void show(const QString &name);
+  void setRemembers(bool remembers);
+  void listEntries();
   void updateActions();
-  QString currentName() const;
+  int rowOf(const PresetEntry &entry) const;
+  PresetEntry entryAt(int row) const;
+  Result<Preset> read(const PresetEntry &entry) const;
+  bool isOurs(const QString &name) const;
   QString askForName(const QString &title, const QString &proposal);
   bool mayReplace(const QString &name);
 
   std::shared_ptr<PresetStore> m_store;
   Snapshot m_snapshot;
   QString m_queue;
+  PresetEntry m_shown;
+  bool m_isChanged = false;
   QComboBox *m_menu;
   QToolButton *m_button;
   QAction *m_rename = nullptr;
   QAction *m_remove = nullptr;
+  QAction *m_remember = nullptr;
 };
 
 }  // namespace orvek

@@ -20,6 +20,7 @@
 #include "host/dialog/ProgramIcon.h"
 #include "host/dialog/ScrollingBody.h"
 #include "host/dialog/SessionView.h"
+#include "host/dialog/ShownPreset.h"
 #include "host/dialog/TabOrder.h"
 #include "host/dialog/WheelGuard.h"
 #include "host/dialog/WindowRoom.h"
@@ -59,6 +60,7 @@ PrintDialog::PrintDialog(PrintSession &session, DialogSetup setup, QWidget *pare
   connectParts();
   followSession();
   showHeader();
+  beginWithApplied();
   m_notices->sayEarlier();
 }
 
@@ -133,6 +135,7 @@ void PrintDialog::connectParts() {
     connect(presets, &PresetChooser::picked, this, &PrintDialog::applyPicked);
     connect(presets, &PresetChooser::failed, this,
             [this](const Failure &failure) { showProblem(failure); });
+    m_shownPreset = new ShownPreset(*presets, this);
   }
   connect(m_header, &DocumentHeader::actionAsked, m_documents, &JobDocuments::applyRemedy);
   connect(m_documents, &JobDocuments::changed, this, &PrintDialog::followDocuments);

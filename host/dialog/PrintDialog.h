@@ -11,8 +11,9 @@
 //   JobBar            progress, Cancel, Print
 //
 //   Helpers: JobDocuments, what is printed; NoticeKeeper, what the bar says; NoticePlace, its room;
-//   PrinterSwitch, the way to another printer; ScrollingBody, all above the notices; WindowRoom,
-//   the window's size; HistoryKeys, Undo and Redo; WheelGuard, what scrolling changes
+//   PrinterSwitch, the way to another printer; ShownPreset, whether its settings are on show;
+//   ScrollingBody, all above the notices; WindowRoom, the window's size; HistoryKeys, Undo and
+//   Redo; WheelGuard, what scrolling changes
 #pragma once
 
 #include <QDialog>
@@ -38,6 +39,7 @@ class NoticeBar;
 class NoticeKeeper;
 class PrinterChooser;
 class SessionView;
+class ShownPreset;
 
 /// Borrows the first session and owns those that it begins itself. Failures are shown beside
 /// the buttons, in the user's language. Lives on the interface's thread; questions and jobs run on
@@ -130,7 +132,8 @@ class PrintDialog final : public QDialog {
   void moveTo(PrinterSwitch::Session opened, const QString &destination);
   void takeFirst(std::unique_ptr<PrintSession> session, const QString &destination);
   void takeSession(std::unique_ptr<PrintSession> session, const QString &destination);
-  void applyPicked(const Preset &preset);
+  void beginWithApplied();
+  void applyPicked(const PresetEntry &entry, const Preset &preset);
   void showMisfits(const QString &opening, const QList<PresetMisfit> &misfits);
 
   // A job's way
@@ -163,6 +166,8 @@ class PrintDialog final : public QDialog {
   JobDocuments *m_documents = nullptr;
   ChooserRow *m_choosers = nullptr;
   PrinterChooser *m_printers = nullptr;
+  /// Null: no presets.
+  ShownPreset *m_shownPreset = nullptr;
   /// Strip and view stand in it.
   QVBoxLayout *m_body = nullptr;
   NoticeBar *m_noticeBar = nullptr;

@@ -131,9 +131,9 @@ void PrintDialog::end(const JobOutcome &outcome) {
   announce(*this, m_request.queue.isNull()
                       ? tr("Printed into %1").arg(QFileInfo(m_request.outputFile).fileName())
                       : tr("Sent to %1, job %2").arg(m_request.queue).arg(outcome.jobId));
-  if (m_setup.presets && !m_request.queue.isNull()) {
+  if (m_setup.presets && !m_request.queue.isNull() && m_setup.presets->remembers()) {
     // The job went; that it can't be remembered is no reason to stay.
-    static_cast<void>(m_setup.presets->saveLastUsed(m_setup.destination, presetOf(*m_session, {})));
+    static_cast<void>(m_setup.presets->saveLastUsed(m_setup.destination, lastUsedOf(*m_session)));
   }
   if (m_setup.recent && !m_request.queue.isNull()) {
     static_cast<void>(m_setup.recent->add(m_setup.destination));

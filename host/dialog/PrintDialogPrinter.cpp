@@ -12,6 +12,7 @@
 #include "host/dialog/PrintDialog.h"
 #include "host/dialog/PrinterChooser.h"
 #include "host/dialog/SessionView.h"
+#include "host/dialog/ShownPreset.h"
 #include "host/settings/JobStrip.h"
 
 namespace orvek {
@@ -103,6 +104,7 @@ void PrintDialog::moveTo(PrinterSwitch::Session opened, const QString &destinati
     misfits = applyPreset(*m_session, entered);
     m_session->job().setSettings(carriedOver(settings, began, m_session->job().settings()));
   }
+  if (m_shownPreset != nullptr) m_shownPreset->follow(*m_session);
   showMisfits(tr("Not everything fits this printer:"), misfits);
 }
 
@@ -111,6 +113,7 @@ void PrintDialog::takeFirst(std::unique_ptr<PrintSession> session, const QString
   const bool goesIntoFile = destination == m_setup.firstPrinter && !m_setup.outputFile.isNull();
   const QString place = session->origin().destination;
   takeSession(std::move(session), goesIntoFile ? QString() : place);
+  beginWithApplied();
   m_notices->sayEarlier();
   Q_EMIT firstTaken();
 }
@@ -132,8 +135,18 @@ void PrintDialog::takeSession(std::unique_ptr<PrintSession> session, const QStri
   showHeader();
 }
 
-void PrintDialog::applyPicked(const Preset &preset) {
-  showMisfits(tr("Not all of the preset fits this printer:"), applyPreset(*m_session, preset));
+void PrintDialog::beginWithApplied() {
+  if (m_shownPreset == nullptr) return;
+  m_shownPreset->follow(*m_session);
+  const bool isApplied = m_setup.applied && m_setup.applied->entry != PresetEntry();
+  if (isApplied) m_shownPreset->beginWith(*m_setup.applied);
+}
+
+void PrintDialog::applyPicked(const PresetEntry &entry, const Preset &preset) {
+  m_shownPreset->noteBefore();
+  const QList<PresetMisfit> misfits = applyPreset(*m_session, preset);
+  m_shownPreset->noteApplied(entry);
+  showMisfits(tr("Not all of the preset fits this printer:"), misfits);
 }
 
 void PrintDialog::showMisfits(const QString &opening, const QList<PresetMisfit> &misfits) {

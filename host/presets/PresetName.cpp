@@ -7,6 +7,8 @@
 #include <QUrl>
 #include <algorithm>
 
+#include "host/ppd/Keyword.h"
+
 namespace orvek {
 namespace {
 
@@ -32,6 +34,18 @@ Status checkPresetName(const QString &name) {
         QT_TRANSLATE_NOOP("orvek::Failure", "can't hold line breaks or control characters")));
   }
   return {};
+}
+
+Failure takenPresetName(const QString &name) {
+  return {FailureKind::Usage, Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "preset name")),
+          Phrase(QT_TRANSLATE_NOOP("orvek::Failure",
+                                   "\"%1\" has a meaning of its own in the list; choose another"),
+                 {name})};
+}
+
+Status checkNewPresetName(const QString &name) {
+  if (isAnyOf(name.trimmed(), {"None", "Last used"})) return takenPresetName(name);
+  return checkPresetName(name);
 }
 
 QString presetFileName(const QString &name) {

@@ -42,12 +42,21 @@ Result<Preset> readPreset(const QString &path, const Phrase &where) {
   return presetFromJson(json.value(), where);
 }
 
+Failure notMade(const QString &folder) {
+  return ioFailure(folder, Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "can't be made")));
+}
+
 Status writePreset(const QString &path, const Preset &preset) {
   const QString folder = QFileInfo(path).path();
-  if (!QDir().mkpath(folder)) {
-    return ioFailure(folder, Phrase(QT_TRANSLATE_NOOP("orvek::Failure", "can't be made")));
-  }
+  if (!QDir().mkpath(folder)) return notMade(folder);
   return writeFile(path, presetToJson(preset));
+}
+
+/// Gone already is as well.
+Status removed(const QString &path) {
+  QFile file(path);
+  if (!file.exists() || file.remove()) return {};
+  return ioFailure(path, Phrase::ofSystem(file.errorString()));
 }
 
 /// Where a file is damaged, replacing it would lose what its owner may still want to mend.
@@ -73,7 +82,8 @@ void sortForPeople(QStringList &names) {
 
 PresetStore::PresetStore(const QString &folder)
     : m_presets(folder + QStringLiteral("/presets")),
-      m_lastUsed(folder + QStringLiteral("/last-used")) {}
+      m_lastUsed(folder + QStringLiteral("/last-used")),
+      m_off(folder + QStringLiteral("/last-used-off")) {}
 
 QString PresetStore::standardFolder() {
   return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
@@ -117,14 +127,14 @@ Result<Preset> PresetStore::load(const QString &name) const {
 }
 
 Status PresetStore::save(const Preset &preset) {
-  if (Status named = checkPresetName(preset.name); !named) return named;
+  if (Status named = checkNewPresetName(preset.name); !named) return named;
   const QString path = fileOf(preset.name);
   if (Status present = checkNotDamaged(path, whatOf(preset.name)); !present) return present;
   return writePreset(path, preset);
 }
 
 Status PresetStore::rename(const QString &from, const QString &to) {
-  if (Status named = checkPresetName(to); !named) return named;
+  if (Status named = checkNewPresetName(to); !named) return named;
   auto preset = load(from);
   if (!preset) return preset.failure();
   if (QFile::exists(fileOf(to)) && fileOf(to) != fileOf(from)) {
@@ -156,6 +166,23 @@ Status PresetStore::saveLastUsed(const QString &queue, const Preset &preset) {
   const QString path = lastUsedFileOf(queue);
   if (Status present = checkNotDamaged(path, path); !present) return present;
   return writePreset(path, preset);
+}
+
+bool PresetStore::remembers() const {
+  return !QFile::exists(m_off);
+}
+
+// The mark first: what is forgotten after it can't be remembered anew.
+Status PresetStore::setRemembers(bool remembers) {
+  if (remembers) return removed(m_off);
+  const QString folder = QFileInfo(m_off).path();
+  if (!QDir().mkpath(folder)) return notMade(folder);
+  if (Status written = writeFile(m_off, {}); !written) return written;
+  const QDir known(m_lastUsed);
+  for (const QString &file : known.entryList({QStringLiteral("*.json")}, QDir::Files)) {
+    if (Status forgotten = removed(known.filePath(file)); !forgotten) return forgotten;
+  }
+  return {};
 }
 
 }  // namespace orvek

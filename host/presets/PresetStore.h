@@ -24,7 +24,8 @@ struct PresetListing {
 /// or its file.
 class PresetStore {
  public:
-  /// The folder holds `presets` and `last-used`; it is made when first written to.
+  /// The folder holds `presets` and `last-used`, and `last-used-off` where nothing is to be
+  /// remembered; it is made when first written to.
   explicit PresetStore(const QString &folder = standardFolder());
 
   /// $XDG_DATA_HOME/orvek-print, or what stands for it.
@@ -36,7 +37,8 @@ class PresetStore {
   /// read, Invalid where it is damaged.
   Result<Preset> load(const QString &name) const;
 
-  /// Writes it under its name, in place of one that is there.
+  /// Writes it under its name, in place of one that is there. A Usage failure for a name that won't
+  /// do, or that lists of presets have for themselves.
   Status save(const Preset &preset);
 
   /// Fails where there is none of the old name, or already one of the new.
@@ -52,11 +54,17 @@ class PresetStore {
   Result<std::optional<Preset>> lastUsed(const QString &queue) const;
   Status saveLastUsed(const QString &queue, const Preset &preset);
 
+  /// Whether users want what they printed with last to be remembered, which they do unless they
+  /// said otherwise. Saying no forgets what is remembered, for all queues, damaged or not.
+  bool remembers() const;
+  Status setRemembers(bool remembers);
+
  private:
   QString lastUsedFileOf(const QString &queue) const;
 
   QString m_presets;
   QString m_lastUsed;
+  QString m_off;
 };
 
 }  // namespace orvek

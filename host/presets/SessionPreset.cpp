@@ -8,6 +8,7 @@
 #include "host/ppd/Wording.h"
 #include "host/session/CommonSettings.h"
 #include "host/ticket/BookletSettings.h"
+#include "platform/plugin/BookletKeys.h"
 
 namespace orvek {
 namespace {
@@ -64,6 +65,16 @@ TicketValues withoutAbsentBooklet(const TicketValues &ticket) {
   return said;
 }
 
+// Nothing that was meant for one document is to befall the next, and no secret is to be kept.
+bool isOneJobs(const QString &key) {
+  const QString name = key.toLower();
+  if (name == u"job-sheets") return false;
+  const auto begins = [&name](const char *word) { return name.startsWith(QLatin1String(word)); };
+  const bool isAbout = begins("job-") || begins("document-") || begins("requesting-");
+  const bool isSelection = begins("page-ranges") || begins("page-set") || begins("page-label");
+  return isAbout || isSelection || name == u"copies" || name.contains(u"password");
+}
+
 }  // namespace
 
 Preset presetOf(PrintSession &session, const QString &name) {
@@ -88,6 +99,34 @@ Preset entriesOf(PrintSession &session) {
   entries.options.insert(paper->key, paper->current);
   entries.titles.insert(paper->key, paper->title);
   return entries;
+}
+
+Preset lastUsedOf(PrintSession &session) {
+  Preset used = entriesOf(session);
+  for (const QString &key : used.ticket.keys()) {
+    if (isOneJobs(key)) used.ticket.remove(key);
+  }
+  for (const OptionChoice &saved : session.origin().queueOptions) {
+    const auto queues = session.marks().spelled(saved.option, saved.choice);
+    if (!queues || session.marks().printer().isEquipment(queues->option)) continue;
+    const QString marked = session.marks().marked(queues->option);
+    if (!marked.isNull()) used.options.insert(queues->option, marked);
+  }
+  return used;
+}
+
+SettingsInForce settingsInForce(const PrintSession &session) {
+  SettingsInForce settings;
+  const TicketValues said = withoutAbsentBooklet(session.ticket().values());
+  for (auto entry = said.begin(); entry != said.end(); ++entry) {
+    const bool isOnePage = entry.key() == layoutNUpKey && integerReading(*entry) <= 1;
+    const bool isMark = session.marks().printer().has(entry.key());
+    if (!isOnePage && !isMark) settings.insert(entry.key(), textReading(*entry));
+  }
+  for (const OptionChoice &mark : session.marks().differingFromDefaults()) {
+    settings.insert(mark.option, mark.choice);
+  }
+  return settings;
 }
 
 QList<PresetMisfit> applyPreset(PrintSession &session, const Preset &preset,

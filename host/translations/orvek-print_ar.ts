@@ -581,6 +581,10 @@
         <source>has no side that %1 asks for: the number of its sides is %2</source>
         <translation>ليس فيه وجه مما يطلبه %1: عدد أوجهه %2</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; has a meaning of its own in the list; choose another</source>
+        <translation>للاسم «%1» معنى خاص به في القائمة؛ اختر غيره</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -1210,6 +1214,14 @@
     <message>
         <source>Delete the preset “%1”?</source>
         <translation>هل تريد حذف الإعداد المسبق «%1»؟</translation>
+    </message>
+    <message>
+        <source>Remember &amp;Last Settings</source>
+        <translation>تذكّر آخر الإعدادات (&amp;L)</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (معدّل)</translation>
     </message>
 </context>
 <context>

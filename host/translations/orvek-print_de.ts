@@ -577,6 +577,10 @@
         <source>has no side that %1 asks for: the number of its sides is %2</source>
         <translation>hat keine Seite, die %1 meint: die Zahl der bedruckten Seiten ist %2</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; has a meaning of its own in the list; choose another</source>
+        <translation>„%1“ hat in der Liste eine eigene Bedeutung; wählen Sie einen anderen</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -1186,6 +1190,14 @@
     <message>
         <source>Delete the preset “%1”?</source>
         <translation>Voreinstellung „%1“ löschen?</translation>
+    </message>
+    <message>
+        <source>Remember &amp;Last Settings</source>
+        <translation>Letzte &amp;Einstellungen merken</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (geändert)</translation>
     </message>
 </context>
 <context>

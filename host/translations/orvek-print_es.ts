@@ -577,6 +577,10 @@
         <source>has no side that %1 asks for: the number of its sides is %2</source>
         <translation>no tiene ninguna cara de las que pide %1: su número de caras es %2</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; has a meaning of its own in the list; choose another</source>
+        <translation>«%1» tiene un significado propio en la lista; elija otro</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -1186,6 +1190,14 @@
     <message>
         <source>Delete the preset “%1”?</source>
         <translation>¿Eliminar el preajuste «%1»?</translation>
+    </message>
+    <message>
+        <source>Remember &amp;Last Settings</source>
+        <translation>Recordar los &amp;últimos ajustes</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (modificado)</translation>
     </message>
 </context>
 <context>

@@ -577,6 +577,10 @@
         <source>has no side that %1 asks for: the number of its sides is %2</source>
         <translation>n’a aucune face que demande %1&#xa0;: le nombre de ses faces est %2</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; has a meaning of its own in the list; choose another</source>
+        <translation>« %1 » a un sens particulier dans la liste ; choisissez-en un autre</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -1186,6 +1190,14 @@
     <message>
         <source>Delete the preset “%1”?</source>
         <translation>Supprimer le préréglage «&#xa0;%1&#xa0;»&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Remember &amp;Last Settings</source>
+        <translation>&amp;Mémoriser les derniers réglages</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (modifié)</translation>
     </message>
 </context>
 <context>

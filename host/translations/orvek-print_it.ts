@@ -577,6 +577,10 @@
         <source>has no side that %1 asks for: the number of its sides is %2</source>
         <translation>non ha nessuna facciata richiesta da %1: il numero delle sue facciate è %2</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; has a meaning of its own in the list; choose another</source>
+        <translation>«%1» ha un significato proprio nell’elenco; sceglierne un altro</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -1186,6 +1190,14 @@
     <message>
         <source>Delete the preset “%1”?</source>
         <translation>Eliminare la preimpostazione «%1»?</translation>
+    </message>
+    <message>
+        <source>Remember &amp;Last Settings</source>
+        <translation>Ricorda le &amp;ultime impostazioni</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (modificata)</translation>
     </message>
 </context>
 <context>

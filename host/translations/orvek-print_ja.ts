@@ -576,6 +576,10 @@
         <source>has no side that %1 asks for: the number of its sides is %2</source>
         <translation>%1 で指定された面がありません（面の数は %2）</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; has a meaning of its own in the list; choose another</source>
+        <translation>「%1」は一覧で特別な意味を持ちます。別の名前を選んでください</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -1180,6 +1184,14 @@
     <message>
         <source>Delete the preset “%1”?</source>
         <translation>プリセット「%1」を削除しますか？</translation>
+    </message>
+    <message>
+        <source>Remember &amp;Last Settings</source>
+        <translation>前回の設定を記憶(&amp;L)</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (変更あり)</translation>
     </message>
 </context>
 <context>

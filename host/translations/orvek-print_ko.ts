@@ -576,6 +576,10 @@
         <source>has no side that %1 asks for: the number of its sides is %2</source>
         <translation>%1(으)로 지정한 면이 없습니다. 전체 면 수는 %2입니다</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; has a meaning of its own in the list; choose another</source>
+        <translation>“%1”은(는) 목록에서 따로 쓰는 이름입니다. 다른 이름을 선택하세요</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -1180,6 +1184,14 @@
     <message>
         <source>Delete the preset “%1”?</source>
         <translation>사전 설정 “%1”을(를) 삭제할까요?</translation>
+    </message>
+    <message>
+        <source>Remember &amp;Last Settings</source>
+        <translation>마지막 설정 기억(&amp;L)</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (변경됨)</translation>
     </message>
 </context>
 <context>

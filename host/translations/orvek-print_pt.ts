@@ -577,6 +577,10 @@
         <source>has no side that %1 asks for: the number of its sides is %2</source>
         <translation>não tem nenhuma face pedida por %1: o número de faces é %2</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; has a meaning of its own in the list; choose another</source>
+        <translation>“%1” tem um significado próprio na lista; escolha outro</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -1186,6 +1190,14 @@
     <message>
         <source>Delete the preset “%1”?</source>
         <translation>Excluir a predefinição “%1”?</translation>
+    </message>
+    <message>
+        <source>Remember &amp;Last Settings</source>
+        <translation>&amp;Lembrar as últimas configurações</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (alterada)</translation>
     </message>
 </context>
 <context>

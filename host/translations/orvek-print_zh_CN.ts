@@ -576,6 +576,10 @@
         <source>has no side that %1 asks for: the number of its sides is %2</source>
         <translation>没有 %1 所要求的面：总面数为 %2</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; has a meaning of its own in the list; choose another</source>
+        <translation>“%1”在列表中另有含义；请另选一个</translation>
+    </message>
 </context>
 <context>
     <name>orvek::GeneralPage</name>
@@ -1180,6 +1184,14 @@
     <message>
         <source>Delete the preset “%1”?</source>
         <translation>要删除预设“%1”吗？</translation>
+    </message>
+    <message>
+        <source>Remember &amp;Last Settings</source>
+        <translation>记住上次的设置(&amp;L)</translation>
+    </message>
+    <message>
+        <source>%1 (changed)</source>
+        <translation>%1 (已更改)</translation>
     </message>
 </context>
 <context>

@@ -158,6 +158,42 @@ TEST_F(PresetStoreTest, RemembersWhatWasLastUsedOnEachQueue) {
   EXPECT_TRUE(store.list().names.isEmpty());
 }
 
+TEST_F(PresetStoreTest, ForgetsWhatWasLastUsedForThoseWhoWantNothingRemembered) {
+  EXPECT_TRUE(store.remembers());
+  for (const char *queue : {"office", "hall"}) {
+    ASSERT_TRUE(store.saveLastUsed(QString::fromLatin1(queue), brochure(QString())));
+  }
+  writeContents(folder.filePath(QStringLiteral("last-used/cellar.json")), "{");
+  ASSERT_TRUE(store.save(brochure(QStringLiteral("Brochure"))));
+  ASSERT_TRUE(store.setRemembers(false));
+  EXPECT_FALSE(PresetStore(folder.path()).remembers());
+  for (const char *queue : {"office", "hall", "cellar"}) {
+    const auto last = store.lastUsed(QString::fromLatin1(queue));
+    ASSERT_TRUE(last) << queue;
+    EXPECT_FALSE(last.value().has_value()) << queue;
+  }
+  EXPECT_EQ(store.list().names, QStringList(QStringLiteral("Brochure")));
+  ASSERT_TRUE(store.setRemembers(true));
+  EXPECT_TRUE(store.remembers());
+}
+
+TEST_F(PresetStoreTest, GivesNoPresetANameThatListsHaveForThemselves) {
+  for (const char *name : {"None", "none", " Last Used "}) {
+    const Status saved = store.save(brochure(QString::fromLatin1(name)));
+    ASSERT_FALSE(saved) << name;
+    EXPECT_EQ(saved.failure().kind, FailureKind::Usage);
+  }
+  ASSERT_TRUE(store.save(brochure(QStringLiteral("Brochure"))));
+  EXPECT_FALSE(store.rename(QStringLiteral("Brochure"), QStringLiteral("None")));
+  EXPECT_EQ(store.list().names, QStringList(QStringLiteral("Brochure")));
+}
+
+TEST_F(PresetStoreTest, StillHasAPresetThatGotSuchANameBefore) {
+  damage(QStringLiteral("None"), presetToJson(brochure(QStringLiteral("None"))));
+  EXPECT_TRUE(store.load(QStringLiteral("None")));
+  EXPECT_TRUE(store.rename(QStringLiteral("None"), QStringLiteral("Brochure")));
+}
+
 TEST_F(PresetStoreTest, SaysWhyItCannotBeWritten) {
   writeContents(folder.filePath(QStringLiteral("presets")), "a file where the folder should be");
   const auto saved = store.save(brochure(QStringLiteral("one")));

@@ -80,5 +80,48 @@ TEST(SessionEntries, LeaveTheBookletThatAnotherQueueHasSavedAlone) {
   EXPECT_EQ(next->ticket().value("OVKCreep"), QVariant("5"));
 }
 
+TEST(LastUsedSettings, OverruleWhatTheQueueHasSaved) {
+  SessionSetup setup;
+  setup.printer = PrinterDescription::open(
+                      QStringLiteral(ORVEK_SOURCE_DIR "/tests/host/ppd/files/finisher.ppd"))
+                      .take();
+  setup.queueOptions = {{"OVKFolding", "Saddle"}};
+  const auto former = PrintSession::begin(setup).take();
+  former->pick("OVKFolding", "None");
+  const Preset used = lastUsedOf(*former);
+  const auto next = PrintSession::begin(setup).take();
+  ASSERT_EQ(next->marks().marked("OVKFolding"), "Saddle");
+  applyPreset(*next, used);
+  EXPECT_EQ(next->marks().marked("OVKFolding"), "None");
+}
+
+TEST(LastUsedSettings, HoldNothingThatWasMeantForOneDocument) {
+  const auto session = sessionOn("finisher.ppd");
+  for (const char *key : {"page-set", "job-hold-until", "Job-Password", "document-format"}) {
+    session->setTicketValue(key, "x");
+  }
+  session->setTicketValue("job-sheets", "standard");
+  session->setTicketValue("OVKGutter", "30");
+  JobSettings job = session->job().settings();
+  job.copies = 3;
+  job.pageRanges = "2-3";
+  session->job().setSettings(job);
+  EXPECT_EQ(lastUsedOf(*session).ticket,
+            (TicketValues{{"OVKGutter", "30"}, {"job-sheets", "standard"}}));
+}
+
+TEST(SettingsInForce, AreTheSameHoweverTheyAreWritten) {
+  const auto one = sessionOn("finisher.ppd");
+  one->pick("OVKFolding", "Saddle");
+  one->setTicketValue("OVKGutter", "30");
+  const auto other = sessionOn("finisher.ppd", {{"OVKFolding", "Saddle"}});
+  other->setTicketValue("OVKGutter", 30);
+  other->setTicketValue("OVKRightToLeft", "False");
+  other->job().setPagesPerSheet(0);
+  EXPECT_EQ(settingsInForce(*one), settingsInForce(*other));
+  other->job().setPagesPerSheet(2);
+  EXPECT_NE(settingsInForce(*one), settingsInForce(*other));
+}
+
 }  // namespace
 }  // namespace orvek::test
