@@ -27,7 +27,7 @@ Status gatherPrinter(const CommandLine &line, const std::shared_ptr<PasswordSour
     access.cancelled = cancelled;
     // A job follows, and the same questions once more.
     access.staysOpen = line.headless && line.print && line.output.isNull();
-    const Status set = setUpForQueue(access, line.destination, setup);
+    const Status set = setUpForQueue(access, line.destination, setup, !line.headless);
     if (set && access.staysOpen && setup->printer) {
       askAheadForJob(access, destinationFrom(setup->destination).queue, setup->printer->path());
     }

@@ -23,6 +23,7 @@
 #include "host/dialog/PrintDialog.h"
 #include "host/jobs/Document.h"
 #include "host/jobs/QueueJob.h"
+#include "host/session/JobChoices.h"
 #include "platform/system/SocketProgram.h"
 
 namespace orvek {
@@ -85,12 +86,27 @@ struct Ahead {
   std::shared_ptr<AppliedPreset> applied = std::make_shared<AppliedPreset>();
 };
 
+// Where it is shown, it can be changed.
+void showPriority(const CommandLine &line, PrintSession &session) {
+  if (!line.priority) return;
+  const ActionScope action(session, ActionOf::Host);
+  pickJobChoice(session, JobChoice::Priority, QString::number(*line.priority));
+}
+
 Result<std::unique_ptr<PrintSession>> startFirst(const CommandLine &line, const SessionSetup &setup,
                                                  const Ahead &ahead) {
   Result<std::unique_ptr<PrintSession>> started =
       startSession(line, setup, ahead.panels, ahead.applied.get());
   if (!started) return started;
+  showPriority(line, *started.value());
   if (Status done = runActions(line, *started.value()); !done) return done.failure();
+  return started;
+}
+
+Result<std::unique_ptr<PrintSession>> startOther(const CommandLine &line,
+                                                 const SessionSetup &setup) {
+  auto started = startSession(lineFor(line, QString(), QString()), setup);
+  if (started) showPriority(line, *started.value());
   return started;
 }
 
@@ -211,9 +227,7 @@ DialogSetup dialogSetupFor(const CommandLine &line, PrintSession &session,
   setup.readDescription = [&line](const QString &ppd, const std::atomic<bool> &cancelled) {
     return gatherSetup(lineFor(line, QString(), ppd), {}, &cancelled);
   };
-  setup.beginSession = [&line](const SessionSetup &other) {
-    return startSession(lineFor(line, QString(), QString()), other);
-  };
+  setup.beginSession = [&line](const SessionSetup &other) { return startOther(line, other); };
   setup.presets = std::make_shared<PresetStore>();
   setup.recent = std::make_shared<RecentPrinters>();
   setup.server.server = line.server;
@@ -222,7 +236,10 @@ DialogSetup dialogSetupFor(const CommandLine &line, PrintSession &session,
   if (passwords) setup.server.passwords = passwords->withoutAsking();
   setup.outputFile = line.output;
   setup.jobRequest = [&line, passwords](PrintSession &now) {
-    return jobRequestFor(line, now, passwords);
+    JobRequest request = jobRequestFor(line, now, passwords);
+    // The session has it by now, or the user chose another.
+    request.priority = 0;
+    return request;
   };
   return setup;
 }

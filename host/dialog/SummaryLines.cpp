@@ -9,6 +9,7 @@
 
 #include "host/ppd/Wording.h"
 #include "host/session/CommonSettings.h"
+#include "host/session/JobChoices.h"
 #include "host/session/OrientationText.h"
 
 namespace orvek {
@@ -62,6 +63,12 @@ QList<SummaryLine> jobLines(const PrintSession &session) {
   }
   if (const int pages = session.job().pagesPerSheet(); pages > 1) {
     lines << SummaryLine{Text::tr("Pages per sheet"), QString::number(pages), true};
+  }
+  for (int place = 0; place < jobChoices; ++place) {
+    const auto which = static_cast<JobChoice>(place);
+    const auto choice = jobChoice(session, which);
+    if (!choice || !isJobChoiceChanged(session, which)) continue;
+    lines << SummaryLine{choice->title, currentText(*choice), true};
   }
   return lines;
 }

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "host/ppd/StandardFinishing.h"
+#include "host/ppd/StandardJob.h"
 #include "host/ppd/StandardPaper.h"
 #include "host/ppd/StandardWords.h"
 
@@ -111,6 +112,18 @@ const std::array options{
     StandardOption{"slipsheet", QT_TRANSLATE_NOOP("orvek::StandardNames", "Slip sheets")},
     StandardOption{"tonersave tonersaver tonersaving tonersavemode economode",
                    QT_TRANSLATE_NOOP("orvek::StandardNames", "Toner saving")},
+    StandardOption{"pageset", QT_TRANSLATE_NOOP("orvek::StandardNames", "Odd and even pages"),
+                   pageSets()},
+    StandardOption{"printscaling", QT_TRANSLATE_NOOP("orvek::StandardNames", "Scaling"),
+                   pageScalings()},
+    StandardOption{"numberuplayout",
+                   QT_TRANSLATE_NOOP("orvek::StandardNames", "Order on the sheet"), pageLayouts()},
+    StandardOption{"jobsheets", QT_TRANSLATE_NOOP("orvek::StandardNames", "Banner page"),
+                   banners()},
+    StandardOption{"jobholduntil", QT_TRANSLATE_NOOP("orvek::StandardNames", "Start printing"),
+                   holdTimes()},
+    StandardOption{"jobpriority", QT_TRANSLATE_NOOP("orvek::StandardNames", "Priority"),
+                   priorities()},
     StandardOption{"mediacolor", QT_TRANSLATE_NOOP("orvek::StandardNames", "Paper color")},
     StandardOption{"mediaweight", QT_TRANSLATE_NOOP("orvek::StandardNames", "Paper weight")},
 };

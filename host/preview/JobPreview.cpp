@@ -295,6 +295,8 @@ QString JobPreview::caption() const {
     if (m_isSample) parts << tr("The document's pages are not known: a sample");
     parts << sheetsInWords();
   }
+  // Of a booklet that goes without saying.
+  if (m_job.twoSided && !m_job.booklet.enabled) parts << tr("Two-sided");
   if (const QString paper = choiceInWords(m_session, "PageSize"); !paper.isEmpty()) parts << paper;
   if (const QString bin = binInWords(m_session); !bin.isEmpty()) parts << bin;
   return parts.join(QStringLiteral(" · "));

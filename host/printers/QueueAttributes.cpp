@@ -17,10 +17,9 @@ std::optional<SettingOffer> offerFrom(Fields fields) {
   return offer;
 }
 
-}  // namespace
-
-Result<QList<SettingOffer>> readQueueSettings(ServerTalk &talk, const QString &queue) {
-  auto answer = talk.ask(ServerTask::Settings, {{QLatin1String("queue"), fieldOf(queue)}});
+Result<QList<SettingOffer>> readOffers(ServerTalk &talk, const QString &queue, bool isOfJobs) {
+  auto answer = talk.ask(ServerTask::Settings, {{QLatin1String("queue"), fieldOf(queue)},
+                                                {QLatin1String("ofJobs"), isOfJobs}});
   if (!answer) return answer.failure();
   QList<SettingOffer> offers;
   for (const QCborValue found : answer.value().list("offers")) {
@@ -29,6 +28,16 @@ Result<QList<SettingOffer>> readQueueSettings(ServerTalk &talk, const QString &q
     offers << *offer;
   }
   return answer.value().isSound() ? Result<QList<SettingOffer>>(offers) : talk.unreadable();
+}
+
+}  // namespace
+
+Result<QList<SettingOffer>> readQueueSettings(ServerTalk &talk, const QString &queue) {
+  return readOffers(talk, queue, false);
+}
+
+Result<QList<SettingOffer>> readJobSettings(ServerTalk &talk, const QString &queue) {
+  return readOffers(talk, queue, true);
 }
 
 Result<QList<SettingOffer>> readQueueSettings(const ServerAccess &access, const QString &queue) {

@@ -17,4 +17,8 @@ Result<QList<SettingOffer>> readQueueSettings(const ServerAccess &access, const 
 /// The same over a connection that is open already.
 Result<QList<SettingOffer>> readQueueSettings(ServerTalk &talk, const QString &queue);
 
+/// What the server does with jobs on `queue` whatever their printer, and `queue` takes: banner
+/// pages and times to begin. Fails likewise.
+Result<QList<SettingOffer>> readJobSettings(ServerTalk &talk, const QString &queue);
+
 }  // namespace orvek

@@ -6,6 +6,7 @@
 #include <QUrl>
 #include <algorithm>
 #include <memory>
+#include <span>
 
 #include "host/server/SettingTitles.h"
 
@@ -14,6 +15,9 @@ namespace {
 
 const char *const settingNames[] = {"media",     "sides",      "print-color-mode", "print-quality",
                                     "number-up", "output-bin", "finishings"};
+
+/// What the server does by itself, whatever the printer.
+const char *const jobSettingNames[] = {"job-sheets", "job-hold-until"};
 
 constexpr std::chrono::milliseconds printerPatience{2000};
 
@@ -88,10 +92,10 @@ SettingOffer readSetting(const Queue &queue, const char *name) {
   return setting;
 }
 
-QList<SettingOffer> readSettings(http_t *http, cups_dest_t *destination, cups_dinfo_t *details) {
+QList<SettingOffer> readSettings(const Queue &queue, std::span<const char *const> names) {
   QList<SettingOffer> settings;
-  for (const char *name : settingNames) {
-    const auto setting = readSetting({http, destination, details}, name);
+  for (const char *name : names) {
+    const auto setting = readSetting(queue, name);
     if (setting.choices.size() > 1) settings << setting;
   }
   return settings;
@@ -119,17 +123,20 @@ QList<SettingOffer> askPrinterItself(const CupsConnection &connection, cups_dest
                     isSecure ? HTTP_ENCRYPTION_ALWAYS : HTTP_ENCRYPTION_IF_REQUESTED);
   if (!printer) return {};
   const Details details(cupsCopyDestInfo(printer.get(), destination), &cupsFreeDestInfo);
-  return details ? readSettings(printer.get(), destination, details.get()) : QList<SettingOffer>();
+  return details ? readSettings({printer.get(), destination, details.get()}, settingNames)
+                 : QList<SettingOffer>();
 }
 
 Result<QList<SettingOffer>> readQueueSettings(const CupsConnection &connection,
-                                              const QString &queue) {
+                                              const QString &queue, bool isOfJobs) {
   http_t *http = connection.http();
   const Found destination(cupsGetNamedDest(http, queue.toUtf8().constData(), nullptr), &freeOne);
   if (!destination) return connection.lastFailure(queue);
   const Details details(cupsCopyDestInfo(http, destination.get()), &cupsFreeDestInfo);
   if (!details) return connection.lastFailure(queue);
-  const QList<SettingOffer> settings = readSettings(http, destination.get(), details.get());
+  const Queue asked{http, destination.get(), details.get()};
+  if (isOfJobs) return readSettings(asked, jobSettingNames);
+  const QList<SettingOffer> settings = readSettings(asked, settingNames);
   if (knowsPaper(settings)) return settings;
   const QList<SettingOffer> ofPrinter = askPrinterItself(connection, destination.get());
   return ofPrinter.isEmpty() ? settings : ofPrinter;
@@ -138,7 +145,8 @@ Result<QList<SettingOffer>> readQueueSettings(const CupsConnection &connection,
 }  // namespace
 
 Result<QCborMap> readSettingsAsAsked(const CupsConnection &connection, Fields fields) {
-  const auto settings = readQueueSettings(connection, fields.text("queue"));
+  const QString queue = fields.text("queue");
+  const auto settings = readQueueSettings(connection, queue, fields.flag("ofJobs"));
   if (!settings) return settings.failure();
   QCborArray offers;
   for (const SettingOffer &setting : settings.value()) {

@@ -113,6 +113,13 @@ bool isFurther(const SettingOffer &offer) {
 
 }  // namespace
 
+QString currentText(const Setting &setting) {
+  for (const SettingChoice &choice : setting.choices) {
+    if (choice.keyword == setting.current) return choice.text;
+  }
+  return {};
+}
+
 std::optional<OptionChoice> sidesOfBooklet(const PrintSession &session) {
   if (!session.origin().printer || !bookletSettings(session.ticket().values()).enabled) return {};
   const auto &names = allNames()[static_cast<std::size_t>(CommonSetting::Sides)];

@@ -33,6 +33,9 @@ struct Setting {
   bool isInPpd = true;
 };
 
+/// What the choice in force is called; null: none is.
+QString currentText(const Setting &setting);
+
 /// How a booklet's sheets are printed whatever is marked, as one of the choices of the setting
 /// Sides: turned over at the short edge. Nothing where no booklet is asked for, and for a printer
 /// that calls it otherwise.

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 
 #include "host/ppd/Wording.h"
+#include "host/session/JobChoices.h"
 #include "host/session/OrientationText.h"
 #include "host/session/PrintSession.h"
 #include "host/ticket/BookletSettings.h"
@@ -106,6 +107,15 @@ QStringList jobWords(const PrintSession &session, const SessionState &before,
   const int pages = session.job().pagesPerSheet();
   add(before.ticket.value(layoutNUpKey) != now.ticket.value(layoutNUpKey),
       Text::tr("Pages per sheet"), QString::number(pages > 1 ? pages : 1));
+  const QStringList keys = differingKeys(before.ticket, now.ticket);
+  for (int place = 0; place < jobChoices; ++place) {
+    const auto which = static_cast<JobChoice>(place);
+    const bool differs = std::any_of(keys.begin(), keys.end(), [which](const QString &key) {
+      return jobChoiceOf(key) == which;
+    });
+    const auto choice = differs ? jobChoice(session, which) : std::nullopt;
+    if (choice) words << setTo(choice->title, currentText(*choice));
+  }
   return words;
 }
 
@@ -116,6 +126,7 @@ QStringList otherWords(const PrintSession &session, const SessionState &before,
   for (const QString &key : differingKeys(before.ticket, now.ticket)) {
     const bool isBooklets = bookletEntry({key, QString()}).has_value();
     if (isBooklets || key == layoutNUpKey || session.marks().printer().has(key)) continue;
+    if (jobChoiceOf(key)) continue;
     words << setTo(key, now.ticket.value(key).toString());
   }
   return words;

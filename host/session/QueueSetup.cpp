@@ -29,14 +29,14 @@ Status describe(ServerTalk &talk, const QString &queue, SessionSetup *setup) {
 }
 
 // A queue that says nothing of itself still prints.
-QList<SettingOffer> offersOf(ServerTalk &talk, const QString &queue) {
-  Result<QList<SettingOffer>> offers = readQueueSettings(talk, queue);
+QList<SettingOffer> offersIn(Result<QList<SettingOffer>> offers) {
   return offers ? offers.take() : QList<SettingOffer>();
 }
 
 }  // namespace
 
-Status setUpForQueue(const ServerAccess &access, const QString &destination, SessionSetup *setup) {
+Status setUpForQueue(const ServerAccess &access, const QString &destination, SessionSetup *setup,
+                     bool jobsToo) {
   Result<std::unique_ptr<ServerTalk>> talk = ServerTalk::open(access);
   if (!talk) return talk.failure();
   const Result<Queue> queue = findPrinter(*talk.value(), destination);
@@ -44,7 +44,9 @@ Status setUpForQueue(const ServerAccess &access, const QString &destination, Ses
   if (Status described = describe(*talk.value(), queue.value().name, setup); !described) {
     return described;
   }
-  if (!setup->printer) setup->offers = offersOf(*talk.value(), queue.value().name);
+  const QString name = queue.value().name;
+  if (!setup->printer) setup->offers = offersIn(readQueueSettings(*talk.value(), name));
+  if (jobsToo) setup->jobOffers = offersIn(readJobSettings(*talk.value(), name));
   setup->queueOptions = savedOptions(queue.value());
   setup->destination = queue.value().destination();
   ServerTalk::close(talk.take());

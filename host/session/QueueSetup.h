@@ -12,6 +12,10 @@ namespace orvek {
 /// "NAME/INSTANCE"; empty, it is the default. A queue without PPD gives a setup without printer,
 /// with what the queue offers over IPP. The rest of the setup stays. Fails where there is no such
 /// queue or no server that answers, and where the queue's PPD is invalid.
-Status setUpForQueue(const ServerAccess &access, const QString &destination, SessionSetup *setup);
+///
+/// `jobsToo`: also asks what the queue takes of a job whatever its printer, for those who show
+/// that.
+Status setUpForQueue(const ServerAccess &access, const QString &destination, SessionSetup *setup,
+                     bool jobsToo = false);
 
 }  // namespace orvek

@@ -34,6 +34,10 @@ struct SessionSetup {
   /// What a printer without PPD offers; empty where there is a PPD.
   QList<SettingOffer> offers = {};
 
+  /// Of what a print server does with a job whatever its printer (banner pages, times), what the
+  /// queue takes; empty: no server was asked.
+  QList<SettingOffer> jobOffers = {};
+
   bool panelsMayResize = true;
 };
 

@@ -31,6 +31,7 @@ constexpr int groupGap = 6;
 constexpr int widestForm = 560;
 constexpr int paperSizePlace = static_cast<int>(CommonSetting::PaperSize);
 constexpr int commonSettings = static_cast<int>(CommonSetting::Quality) + 1;
+constexpr int firstFurther = commonSettings + jobChoices;
 constexpr std::array<int, 6> layouts{1, 2, 4, 6, 9, 16};
 
 }  // namespace
@@ -51,6 +52,8 @@ GeneralPage::GeneralPage(PrintSession &session, QWidget *parent)
   addLayoutRows();
   addGap();
   addQualityRows();
+  addGap();
+  addServerRows();
   auto *body = new QWidget(this);
   body->setMaximumWidth(scaledToText(widestForm));
   body->setLayout(m_form);
@@ -77,8 +80,11 @@ void GeneralPage::addLayoutRows() {
   for (const Orientation orientation : orientations) {
     m_orientation->addItem(orientationText(orientation), static_cast<int>(orientation));
   }
+  addJobRow(JobChoice::Scaling, QStringLiteral("scaling"));
   m_pagesPerSheet = addListRow(QStringLiteral("pagesPerSheet"), tr("Pages per sheet"));
   for (const int pages : layouts) m_pagesPerSheet->addItem(QString::number(pages), pages);
+  addJobRow(JobChoice::OrderOnSheet, QStringLiteral("orderOnSheet"));
+  addJobRow(JobChoice::PageSet, QStringLiteral("pageSet"));
   m_reverse = new QCheckBox(tr("Last page first"), this);
   m_reverse->setObjectName(QStringLiteral("reverse"));
   m_form->addRow(QString(), m_reverse);
@@ -101,9 +107,20 @@ void GeneralPage::addQualityRows() {
   addFurtherRows();
 }
 
+void GeneralPage::addServerRows() {
+  addJobRow(JobChoice::Banner, QStringLiteral("banner"));
+  addJobRow(JobChoice::Start, QStringLiteral("startPrinting"));
+  addJobRow(JobChoice::Priority, QStringLiteral("priority"));
+}
+
+// Named wherever it is shown.
+void GeneralPage::addJobRow(JobChoice choice, const QString &name) {
+  addChoiceRow(commonSettings + static_cast<int>(choice), name, QString());
+}
+
 void GeneralPage::addFurtherRows() {
   const QList<std::optional<Setting>> &settings = m_state.settings;
-  for (int place = commonSettings; place < settings.size(); ++place) {
+  for (int place = firstFurther; place < settings.size(); ++place) {
     addChoiceRow(place, settings[place]->key, settings[place]->key);
   }
 }
@@ -158,6 +175,8 @@ void GeneralPage::showState() {
     showChoice(row, m_state.settings[row.setting]);
   }
   showCustomPaper(m_state.customPaper);
+  // One page has no order.
+  findChild<ChoiceBox *>(QStringLiteral("orderOnSheet"))->setEnabled(m_state.pagesPerSheet > 1);
 }
 
 void GeneralPage::showChoice(const ChoiceRow &row, const std::optional<Setting> &setting) {
@@ -176,7 +195,9 @@ void GeneralPage::showCustomPaper(const std::optional<CustomPaper> &paper) {
 void GeneralPage::pickChoice(int place, const QString &choice) {
   const std::optional<Setting> setting = m_state.settings[place];
   if (!setting) return;
-  if (place == paperSizePlace && choice == CustomChoice::keyword) {
+  if (place >= commonSettings && place < firstFurther) {
+    pickJobChoice(m_session, static_cast<JobChoice>(place - commonSettings), choice);
+  } else if (place == paperSizePlace && choice == CustomChoice::keyword) {
     pickCustomPaper(*setting);
   } else {
     pickSetting(m_session, *setting, choice);

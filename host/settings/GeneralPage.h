@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include "host/session/CommonSettings.h"
+#include "host/session/JobChoices.h"
 #include "host/session/PrintSession.h"
 #include "host/settings/GeneralState.h"
 
@@ -21,8 +22,9 @@ class Availability;
 class ChoiceBox;
 class CustomSizeRow;
 
-/// Paper size, source and type; orientation, pages per sheet and their order; colour, quality. A
-/// row that the printer has nothing for is hidden.
+/// Paper size, source and type; orientation, scaling, pages per sheet and their order, odd and even
+/// pages; colour, quality; banner page, time and priority. A row that printer or print server have
+/// nothing for is hidden.
 /// Borrows the session, which must outlive it. Belongs to its parent, owns its child controls, and
 /// lives on the interface's thread. Nothing fails: a pick that was refused is the session's to say.
 class GeneralPage final : public QWidget {
@@ -52,6 +54,8 @@ class GeneralPage final : public QWidget {
   void addChoiceRow(CommonSetting setting, const QString &name, const QString &usual) {
     addChoiceRow(static_cast<int>(setting), name, usual);
   }
+  void addJobRow(JobChoice choice, const QString &name);
+  void addServerRows();
   void addFurtherRows();
   QComboBox *addListRow(const QString &name, const QString &title);
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "host/ppd/CustomChoice.h"
+#include "host/session/JobChoices.h"
 #include "host/session/PrintSession.h"
 
 namespace orvek {
@@ -32,6 +33,9 @@ GeneralState generalState(const PrintSession &session) {
        {CommonSetting::PaperSize, CommonSetting::PaperSource, CommonSetting::PaperType,
         CommonSetting::Sides, CommonSetting::Color, CommonSetting::Quality}) {
     state.settings << commonSetting(session, setting);
+  }
+  for (int place = 0; place < jobChoices; ++place) {
+    state.settings << jobChoice(session, static_cast<JobChoice>(place));
   }
   for (const Setting &setting : furtherSettings(session)) state.settings << setting;
   state.customPaper = customPaperOf(session, state.settings.first());

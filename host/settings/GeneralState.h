@@ -24,7 +24,7 @@ struct CustomPaper {
 struct GeneralState {
   JobSettings job;
   int pagesPerSheet = 1;
-  /// By CommonSetting, then further ones; nothing: no such row.
+  /// By CommonSetting, then by JobChoice, then further ones; nothing: no such row.
   QList<std::optional<Setting>> settings;
   /// Nothing: no such row.
   std::optional<CustomPaper> customPaper;

@@ -903,6 +903,10 @@
         <source>There is no document yet: a sample</source>
         <translation>لا يوجد مستند بعد: عيّنة</translation>
     </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>على الوجهين</translation>
+    </message>
 </context>
 <context>
     <name>orvek::JobStrip</name>
@@ -2511,6 +2515,150 @@
     <message>
         <source>Paper weight</source>
         <translation>وزن الورق</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>كل الصفحات</translation>
+    </message>
+    <message>
+        <source>Odd pages only</source>
+        <translation>الصفحات الفردية فقط</translation>
+    </message>
+    <message>
+        <source>Even pages only</source>
+        <translation>الصفحات الزوجية فقط</translation>
+    </message>
+    <message>
+        <source>Fit to page</source>
+        <translation>ملاءمة الصفحة</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>ملء الصفحة</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>الحجم الفعلي</translation>
+    </message>
+    <message>
+        <source>Left to right, then down</source>
+        <translation>من اليسار إلى اليمين ثم إلى الأسفل</translation>
+    </message>
+    <message>
+        <source>Right to left, then down</source>
+        <translation>من اليمين إلى اليسار ثم إلى الأسفل</translation>
+    </message>
+    <message>
+        <source>Left to right, then up</source>
+        <translation>من اليسار إلى اليمين ثم إلى الأعلى</translation>
+    </message>
+    <message>
+        <source>Right to left, then up</source>
+        <translation>من اليمين إلى اليسار ثم إلى الأعلى</translation>
+    </message>
+    <message>
+        <source>Down, then left to right</source>
+        <translation>إلى الأسفل ثم من اليسار إلى اليمين</translation>
+    </message>
+    <message>
+        <source>Down, then right to left</source>
+        <translation>إلى الأسفل ثم من اليمين إلى اليسار</translation>
+    </message>
+    <message>
+        <source>Up, then left to right</source>
+        <translation>إلى الأعلى ثم من اليسار إلى اليمين</translation>
+    </message>
+    <message>
+        <source>Up, then right to left</source>
+        <translation>إلى الأعلى ثم من اليمين إلى اليسار</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>نموذج</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>مصنّف</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>خصوصي</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>سري</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>سري للغاية</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>غير مصنّف</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>فورًا</translation>
+    </message>
+    <message>
+        <source>When released</source>
+        <translation>عند الإفراج عنها</translation>
+    </message>
+    <message>
+        <source>By day</source>
+        <translation>نهارًا</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>مساءً</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>ليلًا</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>في عطلة نهاية الأسبوع</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>في الوردية الثانية</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>في الوردية الثالثة</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>منخفضة</translation>
+    </message>
+    <message>
+        <source>Urgent</source>
+        <translation>عاجلة</translation>
+    </message>
+    <message>
+        <source>Odd and even pages</source>
+        <translation>الصفحات الفردية والزوجية</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>القياس</translation>
+    </message>
+    <message>
+        <source>Order on the sheet</source>
+        <translation>الترتيب على الورقة</translation>
+    </message>
+    <message>
+        <source>Banner page</source>
+        <translation>صفحة ترويسة</translation>
+    </message>
+    <message>
+        <source>Start printing</source>
+        <translation>بدء الطباعة</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>الأولوية</translation>
     </message>
 </context>
 <context>

@@ -887,6 +887,10 @@
         <source>There is no document yet: a sample</source>
         <translation>Es gibt noch kein Dokument: ein Beispiel</translation>
     </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>Zweiseitig</translation>
+    </message>
 </context>
 <context>
     <name>orvek::JobStrip</name>
@@ -2479,6 +2483,150 @@
     <message>
         <source>Paper weight</source>
         <translation>Papiergewicht</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>Alle Seiten</translation>
+    </message>
+    <message>
+        <source>Odd pages only</source>
+        <translation>Nur ungerade Seiten</translation>
+    </message>
+    <message>
+        <source>Even pages only</source>
+        <translation>Nur gerade Seiten</translation>
+    </message>
+    <message>
+        <source>Fit to page</source>
+        <translation>An Seite anpassen</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>Seite ausfüllen</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Originalgröße</translation>
+    </message>
+    <message>
+        <source>Left to right, then down</source>
+        <translation>Von links nach rechts, dann nach unten</translation>
+    </message>
+    <message>
+        <source>Right to left, then down</source>
+        <translation>Von rechts nach links, dann nach unten</translation>
+    </message>
+    <message>
+        <source>Left to right, then up</source>
+        <translation>Von links nach rechts, dann nach oben</translation>
+    </message>
+    <message>
+        <source>Right to left, then up</source>
+        <translation>Von rechts nach links, dann nach oben</translation>
+    </message>
+    <message>
+        <source>Down, then left to right</source>
+        <translation>Nach unten, dann von links nach rechts</translation>
+    </message>
+    <message>
+        <source>Down, then right to left</source>
+        <translation>Nach unten, dann von rechts nach links</translation>
+    </message>
+    <message>
+        <source>Up, then left to right</source>
+        <translation>Nach oben, dann von links nach rechts</translation>
+    </message>
+    <message>
+        <source>Up, then right to left</source>
+        <translation>Nach oben, dann von rechts nach links</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Formular</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>Verschlusssache</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>Vertraulich</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Geheim</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>Streng geheim</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>Offen</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>Sofort</translation>
+    </message>
+    <message>
+        <source>When released</source>
+        <translation>Nach Freigabe</translation>
+    </message>
+    <message>
+        <source>By day</source>
+        <translation>Tagsüber</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>Am Abend</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>In der Nacht</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>Am Wochenende</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>In der zweiten Schicht</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>In der dritten Schicht</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Niedrig</translation>
+    </message>
+    <message>
+        <source>Urgent</source>
+        <translation>Dringend</translation>
+    </message>
+    <message>
+        <source>Odd and even pages</source>
+        <translation>Gerade und ungerade</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>Skalierung</translation>
+    </message>
+    <message>
+        <source>Order on the sheet</source>
+        <translation>Anordnung auf dem Blatt</translation>
+    </message>
+    <message>
+        <source>Banner page</source>
+        <translation>Trennseite</translation>
+    </message>
+    <message>
+        <source>Start printing</source>
+        <translation>Druckbeginn</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Priorität</translation>
     </message>
 </context>
 <context>

@@ -887,6 +887,10 @@
         <source>There is no document yet: a sample</source>
         <translation>Aún no hay ningún documento: una muestra</translation>
     </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>Doble cara</translation>
+    </message>
 </context>
 <context>
     <name>orvek::JobStrip</name>
@@ -2479,6 +2483,150 @@
     <message>
         <source>Paper weight</source>
         <translation>Gramaje del papel</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>Todas las páginas</translation>
+    </message>
+    <message>
+        <source>Odd pages only</source>
+        <translation>Solo páginas impares</translation>
+    </message>
+    <message>
+        <source>Even pages only</source>
+        <translation>Solo páginas pares</translation>
+    </message>
+    <message>
+        <source>Fit to page</source>
+        <translation>Ajustar a la página</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>Llenar la página</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Tamaño real</translation>
+    </message>
+    <message>
+        <source>Left to right, then down</source>
+        <translation>De izquierda a derecha y hacia abajo</translation>
+    </message>
+    <message>
+        <source>Right to left, then down</source>
+        <translation>De derecha a izquierda y hacia abajo</translation>
+    </message>
+    <message>
+        <source>Left to right, then up</source>
+        <translation>De izquierda a derecha y hacia arriba</translation>
+    </message>
+    <message>
+        <source>Right to left, then up</source>
+        <translation>De derecha a izquierda y hacia arriba</translation>
+    </message>
+    <message>
+        <source>Down, then left to right</source>
+        <translation>Hacia abajo y de izquierda a derecha</translation>
+    </message>
+    <message>
+        <source>Down, then right to left</source>
+        <translation>Hacia abajo y de derecha a izquierda</translation>
+    </message>
+    <message>
+        <source>Up, then left to right</source>
+        <translation>Hacia arriba y de izquierda a derecha</translation>
+    </message>
+    <message>
+        <source>Up, then right to left</source>
+        <translation>Hacia arriba y de derecha a izquierda</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Formulario</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>Clasificado</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>Confidencial</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Secreto</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>Alto secreto</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>No clasificado</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>De inmediato</translation>
+    </message>
+    <message>
+        <source>When released</source>
+        <translation>Al liberarse</translation>
+    </message>
+    <message>
+        <source>By day</source>
+        <translation>De día</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>Por la tarde</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>Por la noche</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>El fin de semana</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>En el segundo turno</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>En el tercer turno</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Baja</translation>
+    </message>
+    <message>
+        <source>Urgent</source>
+        <translation>Urgente</translation>
+    </message>
+    <message>
+        <source>Odd and even pages</source>
+        <translation>Páginas pares e impares</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>Escala</translation>
+    </message>
+    <message>
+        <source>Order on the sheet</source>
+        <translation>Orden en la hoja</translation>
+    </message>
+    <message>
+        <source>Banner page</source>
+        <translation>Página de separación</translation>
+    </message>
+    <message>
+        <source>Start printing</source>
+        <translation>Comenzar a imprimir</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Prioridad</translation>
     </message>
 </context>
 <context>

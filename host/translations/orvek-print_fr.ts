@@ -887,6 +887,10 @@
         <source>There is no document yet: a sample</source>
         <translation>Il n’y a pas encore de document&#xa0;: un exemple</translation>
     </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>Recto verso</translation>
+    </message>
 </context>
 <context>
     <name>orvek::JobStrip</name>
@@ -2479,6 +2483,150 @@
     <message>
         <source>Paper weight</source>
         <translation>Grammage</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>Toutes les pages</translation>
+    </message>
+    <message>
+        <source>Odd pages only</source>
+        <translation>Pages impaires seulement</translation>
+    </message>
+    <message>
+        <source>Even pages only</source>
+        <translation>Pages paires seulement</translation>
+    </message>
+    <message>
+        <source>Fit to page</source>
+        <translation>Ajuster à la page</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>Remplir la page</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Taille réelle</translation>
+    </message>
+    <message>
+        <source>Left to right, then down</source>
+        <translation>De gauche à droite, puis vers le bas</translation>
+    </message>
+    <message>
+        <source>Right to left, then down</source>
+        <translation>De droite à gauche, puis vers le bas</translation>
+    </message>
+    <message>
+        <source>Left to right, then up</source>
+        <translation>De gauche à droite, puis vers le haut</translation>
+    </message>
+    <message>
+        <source>Right to left, then up</source>
+        <translation>De droite à gauche, puis vers le haut</translation>
+    </message>
+    <message>
+        <source>Down, then left to right</source>
+        <translation>Vers le bas, puis de gauche à droite</translation>
+    </message>
+    <message>
+        <source>Down, then right to left</source>
+        <translation>Vers le bas, puis de droite à gauche</translation>
+    </message>
+    <message>
+        <source>Up, then left to right</source>
+        <translation>Vers le haut, puis de gauche à droite</translation>
+    </message>
+    <message>
+        <source>Up, then right to left</source>
+        <translation>Vers le haut, puis de droite à gauche</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Formulaire</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>Classifié</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>Confidentiel</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Secret</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>Très secret</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>Non classifié</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>Tout de suite</translation>
+    </message>
+    <message>
+        <source>When released</source>
+        <translation>Après libération</translation>
+    </message>
+    <message>
+        <source>By day</source>
+        <translation>Dans la journée</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>Le soir</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>La nuit</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>Le week-end</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>Pendant la deuxième équipe</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>Pendant la troisième équipe</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Basse</translation>
+    </message>
+    <message>
+        <source>Urgent</source>
+        <translation>Urgente</translation>
+    </message>
+    <message>
+        <source>Odd and even pages</source>
+        <translation>Pages paires et impaires</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>Mise à l’échelle</translation>
+    </message>
+    <message>
+        <source>Order on the sheet</source>
+        <translation>Ordre sur la feuille</translation>
+    </message>
+    <message>
+        <source>Banner page</source>
+        <translation>Page de séparation</translation>
+    </message>
+    <message>
+        <source>Start printing</source>
+        <translation>Début d’impression</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Priorité</translation>
     </message>
 </context>
 <context>

@@ -887,6 +887,10 @@
         <source>There is no document yet: a sample</source>
         <translation>Non c’è ancora alcun documento: un esempio</translation>
     </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>Fronte-retro</translation>
+    </message>
 </context>
 <context>
     <name>orvek::JobStrip</name>
@@ -2479,6 +2483,150 @@
     <message>
         <source>Paper weight</source>
         <translation>Grammatura</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>Tutte le pagine</translation>
+    </message>
+    <message>
+        <source>Odd pages only</source>
+        <translation>Solo pagine dispari</translation>
+    </message>
+    <message>
+        <source>Even pages only</source>
+        <translation>Solo pagine pari</translation>
+    </message>
+    <message>
+        <source>Fit to page</source>
+        <translation>Adatta alla pagina</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>Riempi la pagina</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Dimensioni reali</translation>
+    </message>
+    <message>
+        <source>Left to right, then down</source>
+        <translation>Da sinistra a destra, poi in basso</translation>
+    </message>
+    <message>
+        <source>Right to left, then down</source>
+        <translation>Da destra a sinistra, poi in basso</translation>
+    </message>
+    <message>
+        <source>Left to right, then up</source>
+        <translation>Da sinistra a destra, poi in alto</translation>
+    </message>
+    <message>
+        <source>Right to left, then up</source>
+        <translation>Da destra a sinistra, poi in alto</translation>
+    </message>
+    <message>
+        <source>Down, then left to right</source>
+        <translation>In basso, poi da sinistra a destra</translation>
+    </message>
+    <message>
+        <source>Down, then right to left</source>
+        <translation>In basso, poi da destra a sinistra</translation>
+    </message>
+    <message>
+        <source>Up, then left to right</source>
+        <translation>In alto, poi da sinistra a destra</translation>
+    </message>
+    <message>
+        <source>Up, then right to left</source>
+        <translation>In alto, poi da destra a sinistra</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Modulo</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>Classificato</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>Riservato</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Segreto</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>Segretissimo</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>Non classificato</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>Subito</translation>
+    </message>
+    <message>
+        <source>When released</source>
+        <translation>Al rilascio</translation>
+    </message>
+    <message>
+        <source>By day</source>
+        <translation>Di giorno</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>Di sera</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>Di notte</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>Nel fine settimana</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>Nel secondo turno</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>Nel terzo turno</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Bassa</translation>
+    </message>
+    <message>
+        <source>Urgent</source>
+        <translation>Urgente</translation>
+    </message>
+    <message>
+        <source>Odd and even pages</source>
+        <translation>Pagine pari e dispari</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>Ridimensionamento</translation>
+    </message>
+    <message>
+        <source>Order on the sheet</source>
+        <translation>Ordine sul foglio</translation>
+    </message>
+    <message>
+        <source>Banner page</source>
+        <translation>Pagina di separazione</translation>
+    </message>
+    <message>
+        <source>Start printing</source>
+        <translation>Inizio stampa</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Priorità</translation>
     </message>
 </context>
 <context>

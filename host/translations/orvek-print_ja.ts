@@ -883,6 +883,10 @@
         <source>There is no document yet: a sample</source>
         <translation>まだ文書がないため見本を表示</translation>
     </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>両面印刷</translation>
+    </message>
 </context>
 <context>
     <name>orvek::JobStrip</name>
@@ -2471,6 +2475,150 @@
     <message>
         <source>Paper weight</source>
         <translation>用紙の厚さ</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>すべてのページ</translation>
+    </message>
+    <message>
+        <source>Odd pages only</source>
+        <translation>奇数ページのみ</translation>
+    </message>
+    <message>
+        <source>Even pages only</source>
+        <translation>偶数ページのみ</translation>
+    </message>
+    <message>
+        <source>Fit to page</source>
+        <translation>用紙に合わせる</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>用紙全体に拡大</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>実際のサイズ</translation>
+    </message>
+    <message>
+        <source>Left to right, then down</source>
+        <translation>左から右、次に下</translation>
+    </message>
+    <message>
+        <source>Right to left, then down</source>
+        <translation>右から左、次に下</translation>
+    </message>
+    <message>
+        <source>Left to right, then up</source>
+        <translation>左から右、次に上</translation>
+    </message>
+    <message>
+        <source>Right to left, then up</source>
+        <translation>右から左、次に上</translation>
+    </message>
+    <message>
+        <source>Down, then left to right</source>
+        <translation>上から下、次に左から右</translation>
+    </message>
+    <message>
+        <source>Down, then right to left</source>
+        <translation>上から下、次に右から左</translation>
+    </message>
+    <message>
+        <source>Up, then left to right</source>
+        <translation>下から上、次に左から右</translation>
+    </message>
+    <message>
+        <source>Up, then right to left</source>
+        <translation>下から上、次に右から左</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>フォーム</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>機密扱い</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>親展</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>秘</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>極秘</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>機密扱いなし</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>すぐに</translation>
+    </message>
+    <message>
+        <source>When released</source>
+        <translation>解放されたとき</translation>
+    </message>
+    <message>
+        <source>By day</source>
+        <translation>日中</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>夕方</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>夜間</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>週末</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>第 2 シフト</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>第 3 シフト</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>低</translation>
+    </message>
+    <message>
+        <source>Urgent</source>
+        <translation>緊急</translation>
+    </message>
+    <message>
+        <source>Odd and even pages</source>
+        <translation>奇数・偶数ページ</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>拡大・縮小</translation>
+    </message>
+    <message>
+        <source>Order on the sheet</source>
+        <translation>用紙上の順序</translation>
+    </message>
+    <message>
+        <source>Banner page</source>
+        <translation>バナーページ</translation>
+    </message>
+    <message>
+        <source>Start printing</source>
+        <translation>印刷の開始</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>優先度</translation>
     </message>
 </context>
 <context>

@@ -883,6 +883,10 @@
         <source>There is no document yet: a sample</source>
         <translation>아직 문서가 없음: 견본</translation>
     </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>양면</translation>
+    </message>
 </context>
 <context>
     <name>orvek::JobStrip</name>
@@ -2471,6 +2475,150 @@
     <message>
         <source>Paper weight</source>
         <translation>용지 무게</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>모든 페이지</translation>
+    </message>
+    <message>
+        <source>Odd pages only</source>
+        <translation>홀수 페이지만</translation>
+    </message>
+    <message>
+        <source>Even pages only</source>
+        <translation>짝수 페이지만</translation>
+    </message>
+    <message>
+        <source>Fit to page</source>
+        <translation>페이지에 맞춤</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>페이지 채우기</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>실제 크기</translation>
+    </message>
+    <message>
+        <source>Left to right, then down</source>
+        <translation>왼쪽에서 오른쪽, 아래로</translation>
+    </message>
+    <message>
+        <source>Right to left, then down</source>
+        <translation>오른쪽에서 왼쪽, 아래로</translation>
+    </message>
+    <message>
+        <source>Left to right, then up</source>
+        <translation>왼쪽에서 오른쪽, 위로</translation>
+    </message>
+    <message>
+        <source>Right to left, then up</source>
+        <translation>오른쪽에서 왼쪽, 위로</translation>
+    </message>
+    <message>
+        <source>Down, then left to right</source>
+        <translation>아래로, 왼쪽에서 오른쪽</translation>
+    </message>
+    <message>
+        <source>Down, then right to left</source>
+        <translation>아래로, 오른쪽에서 왼쪽</translation>
+    </message>
+    <message>
+        <source>Up, then left to right</source>
+        <translation>위로, 왼쪽에서 오른쪽</translation>
+    </message>
+    <message>
+        <source>Up, then right to left</source>
+        <translation>위로, 오른쪽에서 왼쪽</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>양식</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>기밀 분류</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>대외비</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>비밀</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>극비</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>분류 안 됨</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>바로</translation>
+    </message>
+    <message>
+        <source>When released</source>
+        <translation>보류 해제 시</translation>
+    </message>
+    <message>
+        <source>By day</source>
+        <translation>주간</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>저녁</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>야간</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>주말</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>2교대 시간</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>3교대 시간</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>낮음</translation>
+    </message>
+    <message>
+        <source>Urgent</source>
+        <translation>긴급</translation>
+    </message>
+    <message>
+        <source>Odd and even pages</source>
+        <translation>홀수/짝수 페이지</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>크기 조정</translation>
+    </message>
+    <message>
+        <source>Order on the sheet</source>
+        <translation>용지 위 순서</translation>
+    </message>
+    <message>
+        <source>Banner page</source>
+        <translation>배너 페이지</translation>
+    </message>
+    <message>
+        <source>Start printing</source>
+        <translation>인쇄 시작</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>우선순위</translation>
     </message>
 </context>
 <context>

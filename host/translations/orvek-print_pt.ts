@@ -887,6 +887,10 @@
         <source>There is no document yet: a sample</source>
         <translation>Ainda não há documento: uma amostra</translation>
     </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>Frente e verso</translation>
+    </message>
 </context>
 <context>
     <name>orvek::JobStrip</name>
@@ -2479,6 +2483,150 @@
     <message>
         <source>Paper weight</source>
         <translation>Gramatura do papel</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>Todas as páginas</translation>
+    </message>
+    <message>
+        <source>Odd pages only</source>
+        <translation>Somente páginas ímpares</translation>
+    </message>
+    <message>
+        <source>Even pages only</source>
+        <translation>Somente páginas pares</translation>
+    </message>
+    <message>
+        <source>Fit to page</source>
+        <translation>Ajustar à página</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>Preencher a página</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>Tamanho real</translation>
+    </message>
+    <message>
+        <source>Left to right, then down</source>
+        <translation>Da esquerda para a direita e para baixo</translation>
+    </message>
+    <message>
+        <source>Right to left, then down</source>
+        <translation>Da direita para a esquerda e para baixo</translation>
+    </message>
+    <message>
+        <source>Left to right, then up</source>
+        <translation>Da esquerda para a direita e para cima</translation>
+    </message>
+    <message>
+        <source>Right to left, then up</source>
+        <translation>Da direita para a esquerda e para cima</translation>
+    </message>
+    <message>
+        <source>Down, then left to right</source>
+        <translation>Para baixo e da esquerda para a direita</translation>
+    </message>
+    <message>
+        <source>Down, then right to left</source>
+        <translation>Para baixo e da direita para a esquerda</translation>
+    </message>
+    <message>
+        <source>Up, then left to right</source>
+        <translation>Para cima e da esquerda para a direita</translation>
+    </message>
+    <message>
+        <source>Up, then right to left</source>
+        <translation>Para cima e da direita para a esquerda</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Formulário</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>Classificado</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>Confidencial</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Secreto</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>Ultrassecreto</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>Não classificado</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>Imediatamente</translation>
+    </message>
+    <message>
+        <source>When released</source>
+        <translation>Quando liberado</translation>
+    </message>
+    <message>
+        <source>By day</source>
+        <translation>Durante o dia</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>À tarde</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>À noite</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>No fim de semana</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>No segundo turno</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>No terceiro turno</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Baixa</translation>
+    </message>
+    <message>
+        <source>Urgent</source>
+        <translation>Urgente</translation>
+    </message>
+    <message>
+        <source>Odd and even pages</source>
+        <translation>Páginas pares e ímpares</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>Escala</translation>
+    </message>
+    <message>
+        <source>Order on the sheet</source>
+        <translation>Ordem na folha</translation>
+    </message>
+    <message>
+        <source>Banner page</source>
+        <translation>Página de separação</translation>
+    </message>
+    <message>
+        <source>Start printing</source>
+        <translation>Iniciar impressão</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Prioridade</translation>
     </message>
 </context>
 <context>

@@ -883,6 +883,10 @@
         <source>There is no document yet: a sample</source>
         <translation>尚无文档：示例</translation>
     </message>
+    <message>
+        <source>Two-sided</source>
+        <translation>双面</translation>
+    </message>
 </context>
 <context>
     <name>orvek::JobStrip</name>
@@ -2471,6 +2475,150 @@
     <message>
         <source>Paper weight</source>
         <translation>纸张克重</translation>
+    </message>
+    <message>
+        <source>All pages</source>
+        <translation>所有页面</translation>
+    </message>
+    <message>
+        <source>Odd pages only</source>
+        <translation>仅奇数页</translation>
+    </message>
+    <message>
+        <source>Even pages only</source>
+        <translation>仅偶数页</translation>
+    </message>
+    <message>
+        <source>Fit to page</source>
+        <translation>适合页面</translation>
+    </message>
+    <message>
+        <source>Fill the page</source>
+        <translation>填满页面</translation>
+    </message>
+    <message>
+        <source>Actual size</source>
+        <translation>实际大小</translation>
+    </message>
+    <message>
+        <source>Left to right, then down</source>
+        <translation>从左到右，再向下</translation>
+    </message>
+    <message>
+        <source>Right to left, then down</source>
+        <translation>从右到左，再向下</translation>
+    </message>
+    <message>
+        <source>Left to right, then up</source>
+        <translation>从左到右，再向上</translation>
+    </message>
+    <message>
+        <source>Right to left, then up</source>
+        <translation>从右到左，再向上</translation>
+    </message>
+    <message>
+        <source>Down, then left to right</source>
+        <translation>向下，再从左到右</translation>
+    </message>
+    <message>
+        <source>Down, then right to left</source>
+        <translation>向下，再从右到左</translation>
+    </message>
+    <message>
+        <source>Up, then left to right</source>
+        <translation>向上，再从左到右</translation>
+    </message>
+    <message>
+        <source>Up, then right to left</source>
+        <translation>向上，再从右到左</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>表单</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>保密</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>机密</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>秘密</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>绝密</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>非保密</translation>
+    </message>
+    <message>
+        <source>At once</source>
+        <translation>立即</translation>
+    </message>
+    <message>
+        <source>When released</source>
+        <translation>释放后</translation>
+    </message>
+    <message>
+        <source>By day</source>
+        <translation>白天</translation>
+    </message>
+    <message>
+        <source>In the evening</source>
+        <translation>傍晚</translation>
+    </message>
+    <message>
+        <source>At night</source>
+        <translation>夜间</translation>
+    </message>
+    <message>
+        <source>At the weekend</source>
+        <translation>周末</translation>
+    </message>
+    <message>
+        <source>In the second shift</source>
+        <translation>第二班</translation>
+    </message>
+    <message>
+        <source>In the third shift</source>
+        <translation>第三班</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>低</translation>
+    </message>
+    <message>
+        <source>Urgent</source>
+        <translation>紧急</translation>
+    </message>
+    <message>
+        <source>Odd and even pages</source>
+        <translation>奇偶页</translation>
+    </message>
+    <message>
+        <source>Scaling</source>
+        <translation>缩放</translation>
+    </message>
+    <message>
+        <source>Order on the sheet</source>
+        <translation>纸张上的顺序</translation>
+    </message>
+    <message>
+        <source>Banner page</source>
+        <translation>横幅页</translation>
+    </message>
+    <message>
+        <source>Start printing</source>
+        <translation>开始打印</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>优先级</translation>
     </message>
 </context>
 <context>

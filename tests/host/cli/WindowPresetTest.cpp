@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTest>
 #include <QTimer>
 #include <functional>
@@ -147,6 +148,33 @@ TEST_F(WindowBeginning, IsThePresetThatTheCommandLineNames) {
   line.options = {{folding, QStringLiteral("Saddle")}};
   run(line, "cancelButton", [](PrintDialog &dialog) {
     EXPECT_EQ(shownPreset(dialog), QStringLiteral("Stapled (changed)"));
+  });
+}
+
+TEST_F(WindowBeginning, GivesTheServerWhatItTakesOfAJob) {
+  CommandLine line = usualLine();
+  line.priority = 80;
+  run(line, "printButton", [](PrintDialog &dialog) {
+    dialog.findChild<QTabWidget *>(QStringLiteral("pages"))->setCurrentIndex(0);
+    QCoreApplication::processEvents();
+    auto *priority = dialog.findChild<QComboBox *>(QStringLiteral("priority"));
+    ASSERT_NE(priority, nullptr);
+    EXPECT_EQ(priority->currentText(), QStringLiteral("High"));
+    priority->setFocus();
+    QTest::keyClick(priority, Qt::Key_Down);
+    auto *start = dialog.findChild<QComboBox *>(QStringLiteral("startPrinting"));
+    start->setFocus();
+    QTest::keyClicks(start, QStringLiteral("When"));
+    EXPECT_EQ(start->currentText(), QStringLiteral("When released"));
+  });
+  const QMap<QString, QString> sent = cups->jobAttributes(1);
+  EXPECT_EQ(sent.value(QStringLiteral("job-priority")), QStringLiteral("100"));
+  EXPECT_EQ(sent.value(QStringLiteral("job-hold-until")), QStringLiteral("indefinite"));
+  // Neither is the next job's.
+  run(usualLine(), "cancelButton", [](PrintDialog &dialog) {
+    const QMap<QString, QString> said = dialog.session().job().options();
+    EXPECT_FALSE(said.contains(QStringLiteral("job-priority")));
+    EXPECT_FALSE(said.contains(QStringLiteral("job-hold-until")));
   });
 }
 

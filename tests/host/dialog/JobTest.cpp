@@ -68,6 +68,16 @@ TEST_F(WindowJob, PrintsWhatWasWarnedOfWhereTheUserSaysSo) {
   EXPECT_TRUE(printed().contains("*OVKStapling Dual"));
 }
 
+TEST_F(WindowJob, PrintsOddPagesWhereTheGeneralPageSaysSo) {
+  open();
+  find<QTabWidget>("pages")->setCurrentIndex(0);
+  QCoreApplication::processEvents();
+  clickItem("pageSet", QStringLiteral("Odd pages only"));
+  EXPECT_EQ(summaryValue(QStringLiteral("Odd and even pages")), QStringLiteral("Odd pages only"));
+  printAndWait();
+  EXPECT_EQ(printed().count("%%Page: "), 4);
+}
+
 TEST_F(WindowJob, CanBeStoppedAndTriedAgain) {
   open();
   dialog->print();

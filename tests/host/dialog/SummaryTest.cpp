@@ -3,6 +3,7 @@
 
 #include <QSet>
 
+#include "host/session/JobChoices.h"
 #include "tests/host/dialog/DialogKit.h"
 
 using namespace orvek;
@@ -49,6 +50,15 @@ TEST_F(Summary, SaysOnWhichSidesABookletIsPrinted) {
             QStringLiteral("Short-edge binding"));
   click("bookletChckBox");
   EXPECT_TRUE(summaryValue(QStringLiteral("Two-sided printing")).isNull());
+}
+
+TEST_F(Summary, SaysWhichPagesAndHowLargeWhereThatWasChosen) {
+  open();
+  EXPECT_TRUE(summaryValue(QStringLiteral("Scaling")).isNull());
+  pickJobChoice(*session, JobChoice::Scaling, QStringLiteral("fit"));
+  pickJobChoice(*session, JobChoice::PageSet, QStringLiteral("odd"));
+  EXPECT_EQ(summaryValue(QStringLiteral("Scaling")), QStringLiteral("Fit to page"));
+  EXPECT_EQ(summaryValue(QStringLiteral("Odd and even pages")), QStringLiteral("Odd pages only"));
 }
 
 TEST_F(Summary, ComparesAChoiceWithThePrintersOwnDefault) {

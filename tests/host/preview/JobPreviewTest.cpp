@@ -202,6 +202,11 @@ TEST_F(JobPreviewTest, SaysCopiesAndTheBinInWords) {
   EXPECT_EQ(text("previewCaption"), "2 × 4 sheets · A4 · Finisher tray");
 }
 
+TEST_F(JobPreviewTest, SaysHowManySheetsArePrintedOnBothSides) {
+  session->pick(QStringLiteral("Duplex"), QStringLiteral("DuplexNoTumble"));
+  EXPECT_EQ(text("previewCaption"), "4 sheets · Two-sided · A4");
+}
+
 TEST_F(JobPreviewTest, SaysTheCopiesOfATicket) {
   write("copies", 3);
   EXPECT_EQ(text("previewCaption"), "3 × 8 sheets · A4");

@@ -217,6 +217,17 @@ TEST_F(QueuePPDTest, IsNotNeededToReadCommonSettings) {
   EXPECT_FALSE(media->standard.isEmpty());
 }
 
+TEST_F(QueuePPDTest, IsNotNeededToReadWhatTheServerTakesOfJobs) {
+  const auto talk = ServerTalk::open({});
+  ASSERT_TRUE(talk) << talk.failure().line().toStdString();
+  const auto settings = readJobSettings(*talk.value(), queueName);
+  ASSERT_TRUE(settings) << settings.failure().line().toStdString();
+  const SettingOffer *times = settingOf(settings.value(), "job-hold-until");
+  ASSERT_NE(times, nullptr);
+  EXPECT_EQ(times->choices[0].keyword, QStringLiteral("no-hold"));
+  EXPECT_EQ(settingOf(settings.value(), "media"), nullptr);
+}
+
 TEST_F(QueuePPDTest, LeavesOutSettingsInWhichAQueueHasNoChoice) {
   cups->addQueue(QStringLiteral("raw"), QString());
   const auto settings = readQueueSettings({}, QStringLiteral("raw"));
