@@ -25,14 +25,15 @@ DocumentHeader::DocumentHeader(QWidget *parent)
       m_picture(new PlainLabel(this)),
       m_name(new ElidedLabel(Qt::ElideMiddle, this)),
       m_detail(new PlainLabel(this)),
-      m_action(new QPushButton(this)) {
+      m_action(new QPushButton(this)),
+      m_grid(new QGridLayout(this)) {
   m_picture->setAccessibleName(tr("Document"));
   m_picture->hide();
   m_name->setMinimumWidth(leastNameWidth);
   m_action->setObjectName(QStringLiteral("documentAction"));
   m_action->setAutoDefault(false);
   m_action->hide();
-  auto *grid = new QGridLayout(this);
+  auto *grid = m_grid;
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setHorizontalSpacing(gap);
   grid->setVerticalSpacing(0);
@@ -70,6 +71,11 @@ void DocumentHeader::setAction(const QString &text) {
   m_action->setText(text);
   m_action->setAccessibleName(text);
   m_action->setVisible(!text.isNull());
+}
+
+void DocumentHeader::addButton(QWidget *button) {
+  constexpr int lastColumn = 3;
+  m_grid->addWidget(button, 0, lastColumn, 2, 1);
 }
 
 QString pagesInWords(int pages) {

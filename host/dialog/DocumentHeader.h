@@ -6,6 +6,7 @@
 #include <QWidget>
 #include <optional>
 
+class QGridLayout;
 class QLabel;
 class QPushButton;
 
@@ -31,6 +32,9 @@ class DocumentHeader final : public QWidget {
   /// A button behind the texts; null: there is none.
   void setAction(const QString &text);
 
+  /// Takes over a button that stands last.
+  void addButton(QWidget *button);
+
  Q_SIGNALS:
   void actionAsked();
 
@@ -45,6 +49,7 @@ class DocumentHeader final : public QWidget {
   ElidedLabel *m_name;
   QLabel *m_detail;
   QPushButton *m_action;
+  QGridLayout *m_grid;
 };
 
 /// "8 pages", "1 page"; null for 0, which stands for unknown.

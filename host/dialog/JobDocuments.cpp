@@ -158,8 +158,19 @@ QString JobDocuments::detail() const {
   if (m_isOpening) return tr("Opening…");
   if (needsPassword()) return tr("Protected by a password");
   if (!problem().isNull()) return tr("Can't be printed");
-  const QString pages = pagesInWords(m_only.pages);
+  const QString pages = pagesInWords(this->pages());
   return pages.isNull() ? tr("Document") : pages;
+}
+
+// Of all documents; 0: of one of them nobody knows.
+int JobDocuments::pages() const {
+  if (m_known.size() < 2) return m_only.pages;
+  int pages = 0;
+  for (const DocumentInfo &known : m_known) {
+    if (known.pages < 1) return 0;
+    pages += known.pages;
+  }
+  return pages;
 }
 
 QString JobDocuments::problem() const {
@@ -199,6 +210,18 @@ void JobDocuments::applyRemedy() {
 void JobDocuments::chooseFiles() {
   const QStringList files = QFileDialog::getOpenFileNames(m_window, tr("Choose Documents"));
   if (!files.isEmpty()) take(files);
+}
+
+void JobDocuments::addFiles() {
+  const QStringList files = QFileDialog::getOpenFileNames(m_window, tr("Add Documents"));
+  if (!files.isEmpty() && m_mayChange) take(m_files + files);
+}
+
+void JobDocuments::remove(qsizetype place) {
+  if (!m_mayChange || m_files.size() < 2 || place < 0 || place >= m_files.size()) return;
+  QStringList files = m_files;
+  files.removeAt(place);
+  take(files);
 }
 
 bool JobDocuments::eventFilter(QObject *watched, QEvent *event) {

@@ -49,6 +49,12 @@ class JobDocuments final : public QObject {
   QString remedy() const;
   void applyRemedy();
 
+  /// Has the user choose files in place of the documents, or behind them. One of the documents is
+  /// taken out; the last of them stays.
+  void chooseFiles();
+  void addFiles();
+  void remove(qsizetype place);
+
   /// Files that are dropped on the window come in place of the documents, but while a job runs.
   void setMayChange(bool may) { m_mayChange = may; }
 
@@ -69,7 +75,7 @@ class JobDocuments final : public QObject {
   void askPassword(bool isRepeated);
   void open(qsizetype place, const QString &password);
   void takeOpened(const Opening &opening);
-  void chooseFiles();
+  int pages() const;
 
   const std::shared_ptr<DocumentFiles> m_copies;
   QWidget *m_window;

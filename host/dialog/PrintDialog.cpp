@@ -11,6 +11,7 @@
 
 #include "host/dialog/ChooserRow.h"
 #include "host/dialog/DocumentHeader.h"
+#include "host/dialog/DocumentMenu.h"
 #include "host/dialog/HistoryKeys.h"
 #include "host/dialog/JobBar.h"
 #include "host/dialog/JobDocuments.h"
@@ -100,6 +101,8 @@ void PrintDialog::buildViews(PrintSession &session) {
 
 QWidget *PrintDialog::buildHeader() {
   m_header->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  m_documentMenu = new DocumentMenu(*m_documents, m_header);
+  m_header->addButton(m_documentMenu);
   auto *header = new FlowRow(2 * margin, spacing, this);
   header->add(m_header);
   header->add(m_choosers);
@@ -179,6 +182,7 @@ void PrintDialog::updateControls() {
   m_noticeBar->setEnabled(!isPrinting);
   m_choosers->setEnabled(!isPrinting);
   m_documents->setMayChange(!isPrinting);
+  m_documentMenu->setEnabled(!isPrinting);
   const QString obstacle = this->obstacle();
   m_jobBar->setState({.canPrint = obstacle.isNull() && !m_switch.isAsking(),
                       .asksForFile = isForFile && !hasFile && !m_switch.isAsking(),

@@ -164,6 +164,7 @@ class PrintDialog final : public QDialog {
 
   DocumentHeader *m_header = nullptr;
   JobDocuments *m_documents = nullptr;
+  QWidget *m_documentMenu = nullptr;
   ChooserRow *m_choosers = nullptr;
   PrinterChooser *m_printers = nullptr;
   /// Null: no presets.

@@ -133,6 +133,25 @@
     </message>
 </context>
 <context>
+    <name>orvek::DocumentMenu</name>
+    <message>
+        <source>Add and remove documents</source>
+        <translation>إضافة المستندات وإزالتها</translation>
+    </message>
+    <message>
+        <source>&amp;Add Files…</source>
+        <translation>إضافة ملفات… (&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Choose Other Files…</source>
+        <translation>اختيار ملفات أخرى… (&amp;C)</translation>
+    </message>
+    <message>
+        <source>Remove %1. %2</source>
+        <translation>إزالة %1. %2</translation>
+    </message>
+</context>
+<context>
     <name>orvek::DocumentPassword</name>
     <message>
         <source>That password does not open %1.</source>
@@ -818,6 +837,10 @@
     <message>
         <source>Document</source>
         <translation>المستند</translation>
+    </message>
+    <message>
+        <source>Add Documents</source>
+        <translation>إضافة المستندات</translation>
     </message>
 </context>
 <context>

@@ -129,6 +129,25 @@
     </message>
 </context>
 <context>
+    <name>orvek::DocumentMenu</name>
+    <message>
+        <source>Add and remove documents</source>
+        <translation>Dokumente hinzufügen und entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Add Files…</source>
+        <translation>Dateien &amp;hinzufügen …</translation>
+    </message>
+    <message>
+        <source>&amp;Choose Other Files…</source>
+        <translation>&amp;Andere Dateien auswählen …</translation>
+    </message>
+    <message>
+        <source>Remove %1. %2</source>
+        <translation>%1. %2 entfernen</translation>
+    </message>
+</context>
+<context>
     <name>orvek::DocumentPassword</name>
     <message>
         <source>That password does not open %1.</source>
@@ -810,6 +829,10 @@
     <message>
         <source>Document</source>
         <translation>Dokument</translation>
+    </message>
+    <message>
+        <source>Add Documents</source>
+        <translation>Dokumente hinzufügen</translation>
     </message>
 </context>
 <context>

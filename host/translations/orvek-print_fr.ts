@@ -129,6 +129,25 @@
     </message>
 </context>
 <context>
+    <name>orvek::DocumentMenu</name>
+    <message>
+        <source>Add and remove documents</source>
+        <translation>Ajouter et retirer des documents</translation>
+    </message>
+    <message>
+        <source>&amp;Add Files…</source>
+        <translation>&amp;Ajouter des fichiers…</translation>
+    </message>
+    <message>
+        <source>&amp;Choose Other Files…</source>
+        <translation>&amp;Choisir d’autres fichiers…</translation>
+    </message>
+    <message>
+        <source>Remove %1. %2</source>
+        <translation>Retirer %1. %2</translation>
+    </message>
+</context>
+<context>
     <name>orvek::DocumentPassword</name>
     <message>
         <source>That password does not open %1.</source>
@@ -810,6 +829,10 @@
     <message>
         <source>Document</source>
         <translation>Document</translation>
+    </message>
+    <message>
+        <source>Add Documents</source>
+        <translation>Ajouter des documents</translation>
     </message>
 </context>
 <context>

@@ -128,6 +128,25 @@
     </message>
 </context>
 <context>
+    <name>orvek::DocumentMenu</name>
+    <message>
+        <source>Add and remove documents</source>
+        <translation>文書の追加と削除</translation>
+    </message>
+    <message>
+        <source>&amp;Add Files…</source>
+        <translation>ファイルを追加(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>&amp;Choose Other Files…</source>
+        <translation>別のファイルを選択(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>Remove %1. %2</source>
+        <translation>%1. %2 を削除</translation>
+    </message>
+</context>
+<context>
     <name>orvek::DocumentPassword</name>
     <message>
         <source>That password does not open %1.</source>
@@ -808,6 +827,10 @@
     <message>
         <source>Document</source>
         <translation>文書</translation>
+    </message>
+    <message>
+        <source>Add Documents</source>
+        <translation>文書の追加</translation>
     </message>
 </context>
 <context>

@@ -128,6 +128,25 @@
     </message>
 </context>
 <context>
+    <name>orvek::DocumentMenu</name>
+    <message>
+        <source>Add and remove documents</source>
+        <translation>문서 추가 및 제거</translation>
+    </message>
+    <message>
+        <source>&amp;Add Files…</source>
+        <translation>파일 추가(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>&amp;Choose Other Files…</source>
+        <translation>다른 파일 선택(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>Remove %1. %2</source>
+        <translation>%1. %2 제거</translation>
+    </message>
+</context>
+<context>
     <name>orvek::DocumentPassword</name>
     <message>
         <source>That password does not open %1.</source>
@@ -808,6 +827,10 @@
     <message>
         <source>Document</source>
         <translation>문서</translation>
+    </message>
+    <message>
+        <source>Add Documents</source>
+        <translation>문서 추가</translation>
     </message>
 </context>
 <context>

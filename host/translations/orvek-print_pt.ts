@@ -129,6 +129,25 @@
     </message>
 </context>
 <context>
+    <name>orvek::DocumentMenu</name>
+    <message>
+        <source>Add and remove documents</source>
+        <translation>Adicionar e remover documentos</translation>
+    </message>
+    <message>
+        <source>&amp;Add Files…</source>
+        <translation>&amp;Adicionar arquivos…</translation>
+    </message>
+    <message>
+        <source>&amp;Choose Other Files…</source>
+        <translation>&amp;Escolher outros arquivos…</translation>
+    </message>
+    <message>
+        <source>Remove %1. %2</source>
+        <translation>Remover %1. %2</translation>
+    </message>
+</context>
+<context>
     <name>orvek::DocumentPassword</name>
     <message>
         <source>That password does not open %1.</source>
@@ -810,6 +829,10 @@
     <message>
         <source>Document</source>
         <translation>Documento</translation>
+    </message>
+    <message>
+        <source>Add Documents</source>
+        <translation>Adicionar documentos</translation>
     </message>
 </context>
 <context>

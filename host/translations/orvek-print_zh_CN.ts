@@ -128,6 +128,25 @@
     </message>
 </context>
 <context>
+    <name>orvek::DocumentMenu</name>
+    <message>
+        <source>Add and remove documents</source>
+        <translation>添加和移除文档</translation>
+    </message>
+    <message>
+        <source>&amp;Add Files…</source>
+        <translation>添加文件(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>&amp;Choose Other Files…</source>
+        <translation>选择其他文件(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>Remove %1. %2</source>
+        <translation>移除 %1. %2</translation>
+    </message>
+</context>
+<context>
     <name>orvek::DocumentPassword</name>
     <message>
         <source>That password does not open %1.</source>
@@ -808,6 +827,10 @@
     <message>
         <source>Document</source>
         <translation>文档</translation>
+    </message>
+    <message>
+        <source>Add Documents</source>
+        <translation>添加文档</translation>
     </message>
 </context>
 <context>

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMimeData>
 
 #include "host/dialog/DocumentHeader.h"
@@ -271,6 +272,76 @@ TEST_F(WindowWithoutDocument, TakesTheOneThatIsChosen) {
   click("documentAction");
   ASSERT_TRUE(waitForPages(8));
   EXPECT_TRUE(printButton()->isEnabled());
+}
+
+class WindowOfSeveralDocuments : public WindowOverDocuments {
+ protected:
+  // Opens the menu beside the documents' name with the mouse; its entry that begins so.
+  QAction *entry(const QString &words) {
+    click("documentMenu");
+    const auto menus = dialog->findChildren<QMenu *>(QStringLiteral("documentActions"));
+    EXPECT_EQ(menus.size(), 1);
+    for (QAction *action : menus.constLast()->actions()) {
+      if (action->text().startsWith(words)) return action;
+    }
+    return nullptr;
+  }
+
+  void chooseEntry(const QString &words) {
+    QAction *found = entry(words);
+    ASSERT_NE(found, nullptr) << words.toStdString();
+    auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(found).center());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+
+  QString name() const { return dialog->findChild<ElidedLabel *>()->wholeText(); }
+};
+
+TEST_F(WindowOfSeveralDocuments, AddsFilesBehindTheOnesThatAreThere) {
+  openWith({sample});
+  ASSERT_TRUE(QTest::qWaitFor([this] { return dialog->document().pages == 8; }, jobTimeout));
+  EXPECT_EQ(entry(QStringLiteral("Remove")), nullptr);
+  QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  const QString second = folder.filePath("second.pdf");
+  ASSERT_TRUE(QFile::copy(sample, second));
+  QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+  QTimer::singleShot(100, dialog.get(), [second] {
+    auto *chooser = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+    ASSERT_NE(chooser, nullptr);
+    auto *field = chooser->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    field->setText(second);
+    QTest::keyClick(field, Qt::Key_Return);
+  });
+  chooseEntry(QStringLiteral("&Add Files"));
+  EXPECT_EQ(dialog->files(), QStringList({sample, second}));
+  const auto *header = dialog->findChild<DocumentHeader *>();
+  ASSERT_NE(header, nullptr);
+  EXPECT_TRUE(QTest::qWaitFor(
+      [header] {
+        for (const QLabel *label : header->findChildren<QLabel *>()) {
+          if (label->text() == QStringLiteral("16 pages")) return true;
+        }
+        return false;
+      },
+      jobTimeout));
+}
+
+TEST_F(WindowOfSeveralDocuments, TakesEachOfThemOutAndPrintsTheRest) {
+  if (!obstacleToFilters().isEmpty()) GTEST_SKIP() << obstacleToFilters().toStdString();
+  const QString damaged = write("damaged & more.pdf", "%PDF-1.4 and nothing else");
+  openWith({damaged, sample});
+  EXPECT_TRUE(waitForObstacle("damaged & more.pdf is damaged beyond repair"));
+  chooseEntry(QStringLiteral("Remove 1. damaged && more.pdf"));
+  EXPECT_EQ(dialog->files(), QStringList(sample));
+  ASSERT_TRUE(QTest::qWaitFor([this] { return printButton()->isEnabled(); }, jobTimeout));
+  QSignalSpy finished(dialog.get(), &QDialog::finished);
+  click("printButton");
+  EXPECT_FALSE(find<QWidget>("documentMenu")->isEnabled());
+  ASSERT_TRUE(finished.count() > 0 || finished.wait(jobTimeout));
+  EXPECT_EQ(printed().count("%%Page: "), 8);
 }
 
 TEST_F(WindowWithoutDocument, SaysThatAnEmptyFileIsEmpty) {
