@@ -10,6 +10,7 @@
 
 #include "host/dialog/ElidedLabel.h"
 #include "platform/ui/PlainText.h"
+#include "platform/ui/TextScale.h"
 
 namespace orvek {
 namespace {
@@ -29,7 +30,7 @@ DocumentHeader::DocumentHeader(QWidget *parent)
       m_grid(new QGridLayout(this)) {
   m_picture->setAccessibleName(tr("Document"));
   m_picture->hide();
-  m_name->setMinimumWidth(leastNameWidth);
+  m_name->setMinimumWidth(scaledToText(leastNameWidth));
   m_action->setObjectName(QStringLiteral("documentAction"));
   m_action->setAutoDefault(false);
   m_action->hide();

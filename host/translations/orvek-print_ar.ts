@@ -2664,11 +2664,11 @@
         <translation>الصفحات الفردية والزوجية</translation>
     </message>
     <message>
-        <source>Scaling</source>
+        <source>Adjust size</source>
         <translation>القياس</translation>
     </message>
     <message>
-        <source>Order on the sheet</source>
+        <source>Sequence on the sheet</source>
         <translation>الترتيب على الورقة</translation>
     </message>
     <message>

@@ -2533,35 +2533,35 @@
     </message>
     <message>
         <source>Left to right, then down</source>
-        <translation>Von links nach rechts, dann nach unten</translation>
+        <translation>Nach rechts, dann abwärts</translation>
     </message>
     <message>
         <source>Right to left, then down</source>
-        <translation>Von rechts nach links, dann nach unten</translation>
+        <translation>Nach links, dann abwärts</translation>
     </message>
     <message>
         <source>Left to right, then up</source>
-        <translation>Von links nach rechts, dann nach oben</translation>
+        <translation>Nach rechts, dann aufwärts</translation>
     </message>
     <message>
         <source>Right to left, then up</source>
-        <translation>Von rechts nach links, dann nach oben</translation>
+        <translation>Nach links, dann aufwärts</translation>
     </message>
     <message>
         <source>Down, then left to right</source>
-        <translation>Nach unten, dann von links nach rechts</translation>
+        <translation>Abwärts, dann nach rechts</translation>
     </message>
     <message>
         <source>Down, then right to left</source>
-        <translation>Nach unten, dann von rechts nach links</translation>
+        <translation>Abwärts, dann nach links</translation>
     </message>
     <message>
         <source>Up, then left to right</source>
-        <translation>Nach oben, dann von links nach rechts</translation>
+        <translation>Aufwärts, dann nach rechts</translation>
     </message>
     <message>
         <source>Up, then right to left</source>
-        <translation>Nach oben, dann von rechts nach links</translation>
+        <translation>Aufwärts, dann nach links</translation>
     </message>
     <message>
         <source>Form</source>
@@ -2632,11 +2632,11 @@
         <translation>Gerade und ungerade</translation>
     </message>
     <message>
-        <source>Scaling</source>
+        <source>Adjust size</source>
         <translation>Skalierung</translation>
     </message>
     <message>
-        <source>Order on the sheet</source>
+        <source>Sequence on the sheet</source>
         <translation>Anordnung auf dem Blatt</translation>
     </message>
     <message>

@@ -2533,35 +2533,35 @@
     </message>
     <message>
         <source>Left to right, then down</source>
-        <translation>De izquierda a derecha y hacia abajo</translation>
+        <translation>A la derecha y hacia abajo</translation>
     </message>
     <message>
         <source>Right to left, then down</source>
-        <translation>De derecha a izquierda y hacia abajo</translation>
+        <translation>A la izquierda y hacia abajo</translation>
     </message>
     <message>
         <source>Left to right, then up</source>
-        <translation>De izquierda a derecha y hacia arriba</translation>
+        <translation>A la derecha y hacia arriba</translation>
     </message>
     <message>
         <source>Right to left, then up</source>
-        <translation>De derecha a izquierda y hacia arriba</translation>
+        <translation>A la izquierda y hacia arriba</translation>
     </message>
     <message>
         <source>Down, then left to right</source>
-        <translation>Hacia abajo y de izquierda a derecha</translation>
+        <translation>Hacia abajo y a la derecha</translation>
     </message>
     <message>
         <source>Down, then right to left</source>
-        <translation>Hacia abajo y de derecha a izquierda</translation>
+        <translation>Hacia abajo y a la izquierda</translation>
     </message>
     <message>
         <source>Up, then left to right</source>
-        <translation>Hacia arriba y de izquierda a derecha</translation>
+        <translation>Hacia arriba y a la derecha</translation>
     </message>
     <message>
         <source>Up, then right to left</source>
-        <translation>Hacia arriba y de derecha a izquierda</translation>
+        <translation>Hacia arriba y a la izquierda</translation>
     </message>
     <message>
         <source>Form</source>
@@ -2632,11 +2632,11 @@
         <translation>Páginas pares e impares</translation>
     </message>
     <message>
-        <source>Scaling</source>
+        <source>Adjust size</source>
         <translation>Escala</translation>
     </message>
     <message>
-        <source>Order on the sheet</source>
+        <source>Sequence on the sheet</source>
         <translation>Orden en la hoja</translation>
     </message>
     <message>

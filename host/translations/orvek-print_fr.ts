@@ -598,7 +598,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; has a meaning of its own in the list; choose another</source>
-        <translation>« %1 » a un sens particulier dans la liste ; choisissez-en un autre</translation>
+        <translation>«&#xa0;%1&#xa0;» a un sens particulier dans la liste&#xa0;; choisissez-en un autre</translation>
     </message>
 </context>
 <context>
@@ -1338,11 +1338,11 @@
     </message>
     <message>
         <source>The printer is no longer there</source>
-        <translation>L'imprimante n'existe plus</translation>
+        <translation>L’imprimante n’existe plus</translation>
     </message>
     <message>
         <source>%1 is no longer on the print server. Choose another printer.</source>
-        <translation>%1 n'est plus sur le serveur d'impression. Choisissez une autre imprimante.</translation>
+        <translation>%1 n’est plus sur le serveur d’impression. Choisissez une autre imprimante.</translation>
     </message>
 </context>
 <context>
@@ -1389,7 +1389,7 @@
     </message>
     <message>
         <source>No longer on the print server</source>
-        <translation>N'est plus sur le serveur d'impression</translation>
+        <translation>N’est plus sur le serveur d’impression</translation>
     </message>
 </context>
 <context>
@@ -2533,35 +2533,35 @@
     </message>
     <message>
         <source>Left to right, then down</source>
-        <translation>De gauche à droite, puis vers le bas</translation>
+        <translation>À droite, puis vers le bas</translation>
     </message>
     <message>
         <source>Right to left, then down</source>
-        <translation>De droite à gauche, puis vers le bas</translation>
+        <translation>À gauche, puis vers le bas</translation>
     </message>
     <message>
         <source>Left to right, then up</source>
-        <translation>De gauche à droite, puis vers le haut</translation>
+        <translation>À droite, puis vers le haut</translation>
     </message>
     <message>
         <source>Right to left, then up</source>
-        <translation>De droite à gauche, puis vers le haut</translation>
+        <translation>À gauche, puis vers le haut</translation>
     </message>
     <message>
         <source>Down, then left to right</source>
-        <translation>Vers le bas, puis de gauche à droite</translation>
+        <translation>Vers le bas, puis à droite</translation>
     </message>
     <message>
         <source>Down, then right to left</source>
-        <translation>Vers le bas, puis de droite à gauche</translation>
+        <translation>Vers le bas, puis à gauche</translation>
     </message>
     <message>
         <source>Up, then left to right</source>
-        <translation>Vers le haut, puis de gauche à droite</translation>
+        <translation>Vers le haut, puis à droite</translation>
     </message>
     <message>
         <source>Up, then right to left</source>
-        <translation>Vers le haut, puis de droite à gauche</translation>
+        <translation>Vers le haut, puis à gauche</translation>
     </message>
     <message>
         <source>Form</source>
@@ -2632,11 +2632,11 @@
         <translation>Pages paires et impaires</translation>
     </message>
     <message>
-        <source>Scaling</source>
+        <source>Adjust size</source>
         <translation>Mise à l’échelle</translation>
     </message>
     <message>
-        <source>Order on the sheet</source>
+        <source>Sequence on the sheet</source>
         <translation>Ordre sur la feuille</translation>
     </message>
     <message>

@@ -1342,7 +1342,7 @@
     </message>
     <message>
         <source>%1 is no longer on the print server. Choose another printer.</source>
-        <translation>%1 non è più presente sul server di stampa. Scegliere un'altra stampante.</translation>
+        <translation>%1 non è più presente sul server di stampa. Scegliere un’altra stampante.</translation>
     </message>
 </context>
 <context>
@@ -2632,12 +2632,12 @@
         <translation>Pagine pari e dispari</translation>
     </message>
     <message>
-        <source>Scaling</source>
-        <translation>Ridimensionamento</translation>
+        <source>Adjust size</source>
+        <translation>Cambio di scala</translation>
     </message>
     <message>
-        <source>Order on the sheet</source>
-        <translation>Ordine sul foglio</translation>
+        <source>Sequence on the sheet</source>
+        <translation>Sequenza sul foglio</translation>
     </message>
     <message>
         <source>Banner page</source>

@@ -2624,11 +2624,11 @@
         <translation>奇数・偶数ページ</translation>
     </message>
     <message>
-        <source>Scaling</source>
+        <source>Adjust size</source>
         <translation>拡大・縮小</translation>
     </message>
     <message>
-        <source>Order on the sheet</source>
+        <source>Sequence on the sheet</source>
         <translation>用紙上の順序</translation>
     </message>
     <message>

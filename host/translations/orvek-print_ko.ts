@@ -2624,11 +2624,11 @@
         <translation>홀수/짝수 페이지</translation>
     </message>
     <message>
-        <source>Scaling</source>
+        <source>Adjust size</source>
         <translation>크기 조정</translation>
     </message>
     <message>
-        <source>Order on the sheet</source>
+        <source>Sequence on the sheet</source>
         <translation>용지 위 순서</translation>
     </message>
     <message>

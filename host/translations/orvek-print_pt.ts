@@ -2533,35 +2533,35 @@
     </message>
     <message>
         <source>Left to right, then down</source>
-        <translation>Da esquerda para a direita e para baixo</translation>
+        <translation>À direita, depois para baixo</translation>
     </message>
     <message>
         <source>Right to left, then down</source>
-        <translation>Da direita para a esquerda e para baixo</translation>
+        <translation>À esquerda, depois para baixo</translation>
     </message>
     <message>
         <source>Left to right, then up</source>
-        <translation>Da esquerda para a direita e para cima</translation>
+        <translation>À direita, depois para cima</translation>
     </message>
     <message>
         <source>Right to left, then up</source>
-        <translation>Da direita para a esquerda e para cima</translation>
+        <translation>À esquerda, depois para cima</translation>
     </message>
     <message>
         <source>Down, then left to right</source>
-        <translation>Para baixo e da esquerda para a direita</translation>
+        <translation>Para baixo, depois à direita</translation>
     </message>
     <message>
         <source>Down, then right to left</source>
-        <translation>Para baixo e da direita para a esquerda</translation>
+        <translation>Para baixo, depois à esquerda</translation>
     </message>
     <message>
         <source>Up, then left to right</source>
-        <translation>Para cima e da esquerda para a direita</translation>
+        <translation>Para cima, depois à direita</translation>
     </message>
     <message>
         <source>Up, then right to left</source>
-        <translation>Para cima e da direita para a esquerda</translation>
+        <translation>Para cima, depois à esquerda</translation>
     </message>
     <message>
         <source>Form</source>
@@ -2632,11 +2632,11 @@
         <translation>Páginas pares e ímpares</translation>
     </message>
     <message>
-        <source>Scaling</source>
+        <source>Adjust size</source>
         <translation>Escala</translation>
     </message>
     <message>
-        <source>Order on the sheet</source>
+        <source>Sequence on the sheet</source>
         <translation>Ordem na folha</translation>
     </message>
     <message>

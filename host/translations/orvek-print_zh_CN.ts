@@ -2624,11 +2624,11 @@
         <translation>奇偶页</translation>
     </message>
     <message>
-        <source>Scaling</source>
+        <source>Adjust size</source>
         <translation>缩放</translation>
     </message>
     <message>
-        <source>Order on the sheet</source>
+        <source>Sequence on the sheet</source>
         <translation>纸张上的顺序</translation>
     </message>
     <message>

@@ -54,10 +54,10 @@ TEST_F(Summary, SaysOnWhichSidesABookletIsPrinted) {
 
 TEST_F(Summary, SaysWhichPagesAndHowLargeWhereThatWasChosen) {
   open();
-  EXPECT_TRUE(summaryValue(QStringLiteral("Scaling")).isNull());
+  EXPECT_TRUE(summaryValue(QStringLiteral("Adjust size")).isNull());
   pickJobChoice(*session, JobChoice::Scaling, QStringLiteral("fit"));
   pickJobChoice(*session, JobChoice::PageSet, QStringLiteral("odd"));
-  EXPECT_EQ(summaryValue(QStringLiteral("Scaling")), QStringLiteral("Fit to page"));
+  EXPECT_EQ(summaryValue(QStringLiteral("Adjust size")), QStringLiteral("Fit to page"));
   EXPECT_EQ(summaryValue(QStringLiteral("Odd and even pages")), QStringLiteral("Odd pages only"));
 }
 

@@ -52,7 +52,7 @@ TEST_F(JobChoices, TellTheJobWhichPagesAndHowLarge) {
   EXPECT_EQ(lastAct(), "Odd and even pages: Odd pages only");
   ASSERT_TRUE(pickText(box("scaling"), "Fit to page"));
   EXPECT_EQ(said("print-scaling"), "fit");
-  EXPECT_EQ(lastAct(), "Scaling: Fit to page");
+  EXPECT_EQ(lastAct(), "Adjust size: Fit to page");
   session->undo();
   EXPECT_EQ(box("scaling")->currentText(), "Automatic");
   ASSERT_TRUE(pickText(box("pageSet"), "All pages"));
