@@ -10,8 +10,8 @@
 
 namespace orvek::test {
 
-/// While it lives these lines of a shell are run where a tool of this name is asked for. They run in
-/// a folder of its own.
+/// While it lives these lines of a shell are run where a tool of this name is asked for. They run
+/// in a folder of its own.
 class OwnTool {
  public:
   OwnTool(const QString &name, const QByteArray &lines) : m_path(qgetenv("PATH")) {
