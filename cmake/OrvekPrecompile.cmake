@@ -3,7 +3,7 @@
 # header for those that know Qt Core alone, in a second one where there are widgets. A source still
 # includes what it uses, and builds with ORVEK_PCH=OFF as well.
 
-option(ORVEK_PCH "Parse Qt's and the standard library's headers once for all targets (g++)" ON)
+option(ORVEK_PCH "Parse Qt's and the standard library's headers once for all targets" ON)
 
 set(ORVEK_CORE_HEADERS
   <algorithm> <array> <atomic> <chrono> <cstring> <functional> <memory> <mutex> <optional> <span>
@@ -46,6 +46,11 @@ function(orvek_precompile_folder folder)
     if(NOT type MATCHES "^(STATIC_LIBRARY|SHARED_LIBRARY|MODULE_LIBRARY|EXECUTABLE)$" OR NOT direct)
       continue()
     endif()
+    # clang takes a precompiled header only where such flags are the same.
+    get_target_property(visibility ${target} CXX_VISIBILITY_PRESET)
+    if(visibility AND CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+      continue()
+    endif()
     orvek_find_linked(linked ${direct})
     if(Qt6::Widgets IN_LIST linked)
       target_precompile_headers(${target} REUSE_FROM orvek-headers-widgets)
@@ -61,8 +66,7 @@ endfunction()
 
 # orvek_precompile_all(): call it when all targets are there.
 function(orvek_precompile_all)
-  # clang takes a precompiled header only where every flag is the same.
-  if(NOT ORVEK_PCH OR NOT CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  if(NOT ORVEK_PCH)
     return()
   endif()
   set(source "${CMAKE_BINARY_DIR}/precompiled.cpp")

@@ -12,7 +12,7 @@ namespace orvek {
 /// starts. Belongs at the beginning of main(). Nothing happens where memory errors are looked for:
 /// that takes far more than a program does.
 inline void limitMemory([[maybe_unused]] std::uint64_t bytes) {
-#if !defined(__SANITIZE_ADDRESS__)
+#if !defined(ORVEK_SANITIZED)
   const rlimit memory{bytes, bytes};
   ::setrlimit(RLIMIT_AS, &memory);
 #endif

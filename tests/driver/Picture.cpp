@@ -124,10 +124,10 @@ std::string obstacleToLooking() {
              : "";
 }
 
-bool Picture::isDarkAt(int x, int y, int darkness) const {
+bool Picture::isDarkAt(int x, int y, int limit) const {
   if (x < 0 || y < 0 || x >= width || y >= height) return false;
   const unsigned char *parts = pixel(x, y);
-  return std::max({parts[0], parts[1], parts[2]}) < darkness;
+  return std::max({parts[0], parts[1], parts[2]}) < limit;
 }
 
 QByteArray drawn(const QString &file) {

@@ -40,8 +40,8 @@ struct Picture {
   std::size_t rowBytes() const { return 3 * static_cast<std::size_t>(width); }
   const unsigned char *row(int y) const { return pixels + rowBytes() * static_cast<unsigned>(y); }
   const unsigned char *pixel(int x, int y) const { return row(y) + std::ptrdiff_t{3} * x; }
-  /// No part of its colour reaches `darkness`.
-  bool isDarkAt(int x, int y, int darkness) const;
+  /// No part of its colour reaches `limit`.
+  bool isDarkAt(int x, int y, int limit) const;
 };
 
 /// Has Ghostscript draw a PostScript or PDF file, one point a pixel: a picture for each side (PPM,

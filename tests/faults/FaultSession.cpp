@@ -62,7 +62,7 @@ FaultSession::FaultSession(SessionKind kind) : m_kind(kind) {
 }
 
 QString FaultSession::obstacle(SessionKind kind) {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef ORVEK_SANITIZED
   return QStringLiteral("the sanitizer must be the first library of a program");
 #endif
   return kind == SessionKind::Queue ? PrivateCups::obstacle() : QString();

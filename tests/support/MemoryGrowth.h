@@ -7,7 +7,7 @@
 namespace orvek::test {
 
 /// The sanitizer keeps freed memory, so growth says nothing there.
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(ORVEK_SANITIZED)
 inline constexpr bool memoryCanBeMeasured = false;
 #else
 inline constexpr bool memoryCanBeMeasured = true;
